@@ -1,0 +1,42 @@
+#pragma once
+
+namespace brimshade::platform {
+
+class Accessibility;
+class Application;
+class Dispatch;
+class EventServices;
+class HotkeyCenter;
+class Log;
+class LoginItems;
+class Menus;
+class NotificationCenter;
+class Screens;
+class StatusBar;
+class Symbols;
+class UserDefaults;
+class Windows;
+class WindowServer;
+class Workspace;
+
+// Everything the system may ask of its operating system. The services outlive whoever holds this.
+struct Platform {
+    Accessibility &accessibility;
+    Application &application;
+    Dispatch &dispatch;
+    EventServices &eventServices;
+    HotkeyCenter &hotkeyCenter;
+    Log &log;
+    LoginItems &loginItems;
+    Menus &menus;
+    NotificationCenter &notificationCenter; // the default one
+    Screens &screens;
+    StatusBar &statusBar;
+    Symbols &symbols;
+    UserDefaults &userDefaults;
+    Windows &windows;
+    WindowServer &windowServer;
+    Workspace &workspace;
+};
+
+} // namespace brimshade::platform
