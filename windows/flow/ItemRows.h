@@ -1,0 +1,43 @@
+#pragma once
+#include "ExtraRows.h"
+
+#include <QPointer>
+
+namespace brimshade::model {
+class NotchModel;
+}
+
+namespace brimshade::windows {
+
+// The rows of the settings window's item list and what stands at each row's trailing end. Created by the view,
+// which gives it the model.
+class ItemRows : public ExtraRows {
+    Q_OBJECT
+    Q_PROPERTY(brimshade::model::NotchModel *model READ model WRITE setModel NOTIFY modelChanged REQUIRED)
+
+public:
+    // movable: a switch. It is on while the item is in the menu bar and disabled while any item moves.
+    enum Control { moving, pinned, movable };
+    Q_ENUM(Control)
+    enum OwnRole { ControlRole = FirstOwnRole, SwitchEnabledRole, InMenuBarRole };
+
+    using ExtraRows::ExtraRows;
+
+    QVariant data(const QModelIndex &index, int role) const override; // detail is empty where it repeats the name
+    QHash<int, QByteArray> roleNames() const override;
+
+    model::NotchModel *model() const;
+    void setModel(model::NotchModel *model);
+    // Asks the coordinator for the move. The row itself changes with the scan that follows it.
+    Q_INVOKABLE void setInMenuBar(const QString &id, bool inMenuBar);
+
+Q_SIGNALS:
+    void modelChanged();
+
+private:
+    Control control(const menubar::MenuExtra &extra) const;
+
+    QPointer<model::NotchModel> m_model;
+};
+
+} // namespace brimshade::windows
