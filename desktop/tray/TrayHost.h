@@ -1,0 +1,35 @@
+#pragma once
+#include <QDBusConnection>
+#include <QObject>
+#include <memory>
+
+namespace brimshade::platform {
+class Dispatch;
+}
+
+namespace brimshade::desktop {
+
+class Desktop;
+
+// The tray items of the Linux session as applications of the desktop. A process that owns items is launched when
+// its first item has been read, changed whenever one of them changes, and quit with its last one.
+//
+// It is the session's StatusNotifierWatcher, or a host of the one that is there until that one goes. Main thread;
+// construction returns at once, nothing here waits for the bus. The bus connection, the Dispatch and the Desktop
+// outlive it.
+class TrayHost : public QObject {
+    Q_OBJECT
+public:
+    TrayHost(Desktop &desktop, const QDBusConnection &bus, platform::Dispatch &dispatch);
+    ~TrayHost() override;
+
+Q_SIGNALS:
+    // One line, without a line break, about an item or a menu that could not be shown as its program asked.
+    void message(const QString &text);
+
+private:
+    class Private;
+    std::unique_ptr<Private> d;
+};
+
+} // namespace brimshade::desktop
