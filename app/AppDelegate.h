@@ -1,0 +1,82 @@
+#pragma once
+#include "platform/Platform.h"
+
+#include <memory>
+
+namespace brimshade::platform {
+class SerialQueue;
+class StatusItem;
+} // namespace brimshade::platform
+
+namespace brimshade::menubar {
+class MenuBarAccess;
+}
+
+namespace brimshade::model {
+class NotchModel;
+}
+
+namespace brimshade::controls {
+class Divider;
+class Hotkey;
+class HoverZone;
+} // namespace brimshade::controls
+
+namespace brimshade::app {
+
+class ItemMoves;
+class KeyHandler;
+class PanelPlacement;
+class PanelPresenter;
+class ScanScheduler;
+class SecondaryWindows;
+class StatusMenu;
+
+// The coordinator: owns the model and every long-lived object, wires them at launch and turns what the views and the
+// system report into calls on them. Main thread only. Made by std::make_shared; every closure it hands out
+// holds it, or the part of it that the closure is about, weakly.
+class AppDelegate : public std::enable_shared_from_this<AppDelegate> {
+public:
+    // The services outlive the delegate. At least one screen exists.
+    explicit AppDelegate(const platform::Platform &platform);
+    ~AppDelegate();
+
+    // Once, before anything else; the first scan comes with the first opening of the panel.
+    void applicationDidFinishLaunching();
+
+    void statusClicked(); // a click on the status item: left toggles the panel, right opens the menu
+    void refresh();
+    void openSettings();
+    void showOnboarding();
+    void applySettings(); // brings the divider, the hotkey and the hover zone in line with the model
+
+    model::NotchModel &model() { return *m_model; }
+    bool shown() const; // from the ordering in of the panel until its closing begins
+    const controls::Divider *divider() const { return m_divider.get(); } // null before the launch
+
+private:
+    void createStatusItem();
+    void createParts();
+    void configureButton();
+    void installCallbacks();
+    void observeScreens();
+    void welcome();
+    void toggle();
+
+    platform::Platform m_platform;
+    std::shared_ptr<model::NotchModel> m_model;
+    std::shared_ptr<menubar::MenuBarAccess> m_access;
+    std::shared_ptr<platform::SerialQueue> m_scanQueue;
+    std::shared_ptr<PanelPlacement> m_placement;
+    std::shared_ptr<controls::HoverZone> m_hoverZone;
+    std::unique_ptr<controls::Hotkey> m_hotkey; // from the first applySettings() on
+    std::shared_ptr<platform::StatusItem> m_statusItem; // this and all below: from the launch on
+    std::shared_ptr<controls::Divider> m_divider;
+    std::shared_ptr<ScanScheduler> m_scans;
+    std::shared_ptr<PanelPresenter> m_panel;
+    std::shared_ptr<SecondaryWindows> m_windows;
+    std::shared_ptr<ItemMoves> m_moves;
+    std::shared_ptr<StatusMenu> m_statusMenu;
+};
+
+} // namespace brimshade::app
