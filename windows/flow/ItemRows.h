@@ -1,11 +1,8 @@
 #pragma once
 #include "ExtraRows.h"
+#include "model/NotchModel.h"
 
 #include <QPointer>
-
-namespace brimshade::model {
-class NotchModel;
-}
 
 namespace brimshade::windows {
 

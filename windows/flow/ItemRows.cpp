@@ -1,0 +1,72 @@
+#include "ItemRows.h"
+
+namespace brimshade::windows {
+
+using menubar::MenuExtra;
+using model::NotchModel;
+
+QVariant ItemRows::data(const QModelIndex &index, int role) const
+{
+    if (!checkIndex(index, CheckIndexOption::IndexIsValid))
+        return {};
+    const MenuExtra &extra = extras()[static_cast<size_t>(index.row())];
+    switch (role) {
+    case DetailRole:
+        return extra.detail == extra.name ? QString() : extra.detail;
+    case ControlRole:
+        return control(extra);
+    case SwitchEnabledRole:
+        return !m_model || m_model->movingID().isEmpty();
+    case InMenuBarRole:
+        return !extra.isHidden;
+    default:
+        return ExtraRows::data(index, role);
+    }
+}
+
+QHash<int, QByteArray> ItemRows::roleNames() const
+{
+    auto names = ExtraRows::roleNames();
+    names.insert({{ControlRole, "control"}, {SwitchEnabledRole, "switchEnabled"}, {InMenuBarRole, "inMenuBar"}});
+    return names;
+}
+
+NotchModel *ItemRows::model() const
+{
+    return m_model;
+}
+
+void ItemRows::setModel(NotchModel *model)
+{
+    if (m_model == model)
+        return;
+    if (m_model)
+        m_model->disconnect(this);
+    m_model = model;
+    if (model) {
+        connect(model, &NotchModel::extrasChanged, this, [this] { setExtras(m_model->extras()); });
+        connect(model, &NotchModel::movingIDChanged, this, [this] { refresh({ControlRole, SwitchEnabledRole}); });
+        setExtras(model->extras());
+    }
+    Q_EMIT modelChanged();
+}
+
+// The divider first: an item can only be hidden across the widened icon.
+void ItemRows::setInMenuBar(const QString &id, bool inMenuBar)
+{
+    const MenuExtra *found = find(id);
+    if (!found || !m_model)
+        return;
+    const MenuExtra extra = *found; // applying the setting may change the rows
+    m_model->setDividerEnabled(true);
+    m_model->onSetHidden(extra, !inMenuBar);
+}
+
+ItemRows::Control ItemRows::control(const MenuExtra &extra) const
+{
+    if (m_model && m_model->movingID() == extra.id)
+        return moving;
+    return extra.canMove ? movable : pinned;
+}
+
+} // namespace brimshade::windows
