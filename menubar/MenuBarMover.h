@@ -13,8 +13,7 @@ namespace brimshade::menubar {
 class MenuBarAccess;
 
 // What the mover needs of the divider. Main thread; the mover gets there by itself.
-class DividerControl
-{
+class DividerControl {
 public:
     virtual ~DividerControl() = default;
     virtual QRectF axFrame() const = 0; // display space; zero without a window

@@ -16,7 +16,7 @@ struct MenuExtra {
     QString id;
     QString name;
     QString detail;
-    platform::Image icon;          // 128 × 128 points; null for the system's menu bar agent
+    platform::Image icon; // 128 × 128 points; null for the system's menu bar agent
     std::optional<QString> symbol; // only for the system's menu bar agent
     QColor tint;
     QRectF frame; // display space; a part that could not be read is 0

@@ -1,15 +1,18 @@
 #pragma once
+#include "ItemSearch.h"
+#include "PanelLayout.h"
 #include "Shortcut.h"
 #include "menubar/MenuExtra.h"
 
 #include <QObject>
 #include <QSizeF>
+#include <QStringList>
 #include <functional>
 
 namespace brimshade::platform {
 class LoginItems;
 class UserDefaults;
-}
+} // namespace brimshade::platform
 
 namespace brimshade::model {
 
@@ -17,10 +20,10 @@ using menubar::ExtraList;
 using menubar::MenuExtra;
 
 // The one observable state of the program: written by the coordinator and by the views' bindings, read by every
-// view. Main thread only. objectWillChange comes before a published field changes, the field's own signal after.
+// view. Main thread only. objectWillChange comes before every assignment to a published field, the field's own signal
+// after one that changed it (extras: after every one).
 // Ids and the message are empty where absent. Derived lists keep the scanner's order.
-class NotchModel : public QObject
-{
+class NotchModel : public QObject {
     Q_OBJECT
     Q_PROPERTY(bool isOpen READ isOpen WRITE setIsOpen NOTIFY isOpenChanged)
     Q_PROPERTY(bool scanned READ scanned NOTIFY scannedChanged)
@@ -36,6 +39,8 @@ class NotchModel : public QObject
     Q_PROPERTY(brimshade::model::Shortcut shortcut READ shortcut WRITE setShortcut NOTIFY shortcutChanged)
     Q_PROPERTY(bool dividerEnabled READ dividerEnabled WRITE setDividerEnabled NOTIFY dividerEnabledChanged)
     Q_PROPERTY(bool launchAtLogin READ launchAtLogin WRITE setLaunchAtLogin NOTIFY launchAtLoginChanged)
+    // Titles in the order of allShortcuts: the index of one is its shortcut's value.
+    Q_PROPERTY(QStringList shortcutTitles READ shortcutTitles CONSTANT)
     Q_PROPERTY(int itemCount READ itemCount NOTIFY extrasChanged)
     Q_PROPERTY(int hiddenCount READ hiddenCount NOTIFY extrasChanged)
     Q_PROPERTY(int hiddenMatchCount READ hiddenMatchCount NOTIFY matchesChanged)
@@ -66,6 +71,7 @@ public:
     Shortcut shortcut() const;
     bool dividerEnabled() const;
     bool launchAtLogin() const;
+    QStringList shortcutTitles() const;
 
     void setIsOpen(bool isOpen);
     void setExtras(ExtraList extras);
@@ -95,6 +101,7 @@ public:
     QSizeF panelSize() const; // points, the notch's height included
 
     const MenuExtra *extraWithID(const QString &id) const; // null when there is none
+    const MenuExtra *selectedMatch() const; // null when no match is selected
     void setQuery(const QString &text); // and selects the first match
     void moveSelection(int step);
 
@@ -124,8 +131,55 @@ Q_SIGNALS:
     void shortcutChanged();
     void dividerEnabledChanged();
     void launchAtLoginChanged();
-    void matchesChanged();   // extras, query or showVisible changed: the derived lists may differ
+    void matchesChanged(); // extras, query or showVisible changed: the derived lists may differ
     void panelSizeChanged(); // once for each change of the above, of trusted or of notch
+
+private:
+    struct Derived {
+        Matches matches, hidden, visible;
+    };
+
+    template <typename T> bool assign(T &field, const T &value, void (NotchModel::*changed)())
+    {
+        Q_EMIT objectWillChange();
+        if (field == value)
+            return false;
+        field = value;
+        Q_EMIT(this->*changed)();
+        return true;
+    }
+    void assignQuery(const QString &text);
+    void writeThrough(const bool &field, const QString &key);
+    void listsChanged();
+    const Derived &derived() const;
+    Derived derive() const;
+    PanelContent content() const;
+    int resultCount() const;
+    const MenuExtra &result(int position) const; // among the hidden matches, then the visible ones
+    int selectedPosition() const; // -1 when none is
+
+    platform::UserDefaults &m_defaults;
+    platform::LoginItems &m_loginItems;
+
+    bool m_isOpen = false;
+    ExtraList m_extras;
+    bool m_scanned = false;
+    bool m_trusted = true;
+    QString m_hoveredID;
+    QString m_query;
+    QString m_selectedID;
+    QSizeF m_notch{200, 32};
+    QString m_movingID;
+    QString m_message;
+    bool m_showVisible = true;
+    bool m_hoverToOpen = false;
+    Shortcut m_shortcut = Shortcut::none;
+    bool m_dividerEnabled = false;
+    bool m_launchAtLogin = false;
+
+    ItemSearch m_search; // of m_extras
+    int m_hiddenCount = 0;
+    mutable std::optional<Derived> m_derived; // what the last read made, until something changes
 };
 
 } // namespace brimshade::model

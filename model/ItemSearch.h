@@ -1,0 +1,26 @@
+#pragma once
+#include "menubar/MenuExtra.h"
+
+#include <vector>
+
+namespace brimshade::model {
+
+// Finds items by what a person types. The items' texts are folded once, so that a keystroke only compares.
+class ItemSearch {
+public:
+    ItemSearch() = default;
+    explicit ItemSearch(const menubar::ExtraList &extras);
+
+    // Ascending indices of the items whose name or detail contains the query less its outer blanks, without regard to
+    // case and up to canonical equivalence; of all items when nothing is left of the query.
+    std::vector<int> matches(const QString &query) const;
+
+private:
+    struct Texts {
+        QString name;
+        QString detail;
+    };
+    std::vector<Texts> m_texts;
+};
+
+} // namespace brimshade::model

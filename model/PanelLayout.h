@@ -1,0 +1,18 @@
+#pragma once
+#include <QSizeF>
+
+// The sizes of the panel's content, in points.
+namespace brimshade::model {
+
+struct PanelContent {
+    bool trusted = true;
+    bool hasItems = false; // of any kind, also when none matches
+    int hiddenTiles = 0;
+    int visibleTiles = 0;
+};
+
+int columnCount(const PanelContent &content);
+double gridHeight(int tiles, int columns);
+QSizeF panelSize(const PanelContent &content, QSizeF notch);
+
+} // namespace brimshade::model

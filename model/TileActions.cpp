@@ -1,0 +1,75 @@
+#include "TileActions.h"
+#include "NotchModel.h"
+#include "menubar/Text.h"
+#include "platform/Menu.h"
+
+#include <QCoreApplication>
+#include <QPointer>
+
+namespace brimshade::model {
+
+namespace {
+
+// The model may be gone before a menu is.
+using Model = QPointer<NotchModel>;
+
+platform::MenuItem openEntry(const Model &model, const MenuExtra &extra)
+{
+    platform::MenuItem entry;
+    entry.title = QCoreApplication::translate("Tile", "Open");
+    entry.action = [model, extra] {
+        if (model)
+            model->onSelect(extra);
+    };
+    return entry;
+}
+
+platform::MenuItem moveEntry(const Model &model, const MenuExtra &extra)
+{
+    platform::MenuItem entry;
+    entry.title = extra.isHidden ? QCoreApplication::translate("Tile", "Show in Menu Bar")
+                                 : QCoreApplication::translate("Tile", "Hide from Menu Bar");
+    entry.isEnabled = extra.canMove;
+    entry.action = [model, extra] {
+        if (!model)
+            return;
+        // A move needs the divider, and re-applies the settings even when it is on already.
+        model->setDividerEnabled(true);
+        model->onSetHidden(extra, !extra.isHidden);
+    };
+    return entry;
+}
+
+} // namespace
+
+TileActions::TileActions(NotchModel &model, platform::Menus &menus, QObject *parent)
+    : QObject(parent), m_model(model), m_menus(menus)
+{
+}
+
+void TileActions::open(const QString &id)
+{
+    if (const MenuExtra *found = m_model.extraWithID(id)) {
+        const MenuExtra extra = *found; // the callback may replace the list
+        m_model.onSelect(extra);
+    }
+}
+
+void TileActions::showMenu(const QString &id)
+{
+    if (const MenuExtra *extra = m_model.extraWithID(id))
+        m_menus.popUpContextMenu({{openEntry(&m_model, *extra), moveEntry(&m_model, *extra)}}, [] {});
+}
+
+void TileActions::pointerEntered(const QString &id)
+{
+    m_model.setHoveredID(id);
+}
+
+void TileActions::pointerLeft(const QString &id)
+{
+    if (menubar::isSameText(m_model.hoveredID(), id))
+        m_model.setHoveredID({});
+}
+
+} // namespace brimshade::model
