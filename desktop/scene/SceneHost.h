@@ -1,0 +1,60 @@
+#pragma once
+#include "desktop/core/InputRouter.h"
+
+#include <QImage>
+#include <QObject>
+#include <QPointF>
+#include <QString>
+#include <memory>
+#include <optional>
+
+class QQmlEngine;
+class QQuickItem;
+class QQuickWindow;
+
+namespace brimshade::desktop {
+
+class Desktop;
+class DesktopWindow;
+class VirtualDispatch;
+
+// The desktop as one Qt Quick scene: wallpaper, menu bar, menus, and the program's windows inside it. Main thread.
+// The scene is laid out in display space: the picture shows the screen with the menu bar, one point to one unit,
+// whatever the size of the window that shows it. Destroy it before the Desktop; it drops the windows' contents.
+//
+// The input methods send Qt's own events to the window, so that a script and a hand take one path.
+class SceneHost : public QObject
+{
+    Q_OBJECT
+public:
+    // Without a window on any screen. Needs the software renderer (QT_QUICK_BACKEND=software before the application
+    // object). clock null: animations follow real time. Otherwise they follow that clock; since an animation clock is
+    // a property of the thread, at most one scene with a virtual clock may be alive in it.
+    static std::unique_ptr<SceneHost> offscreen(Desktop &desktop, VirtualDispatch *clock, double scale = 1);
+    // An ordinary window of the session, not shown yet: show quickWindow(). Closing it terminates nothing by itself.
+    static std::unique_ptr<SceneHost> window(Desktop &desktop);
+    ~SceneHost() override;
+
+    QQuickWindow *quickWindow() const;
+    QQmlEngine &engine() const;
+
+    // Delivers queued Qt events and lays out, so that geometry and bindings are final. Renders nothing.
+    void settle();
+    QImage picture(); // of the whole desktop, at the scale; after settle()
+    // Of one of the program's windows, by its attributes' name; nothing when it is not on screen.
+    std::optional<QImage> picture(const QString &windowName);
+    QQuickItem *contentOf(const DesktopWindow *window) const; // the view's root item; null for a native view
+    QPointF toDisplay(QPointF scene) const; // from the window's coordinates, that is of quickWindow()
+
+    void movePointer(QPointF display, std::uint64_t modifierFlags = 0);
+    void press(MouseButton button, std::uint64_t modifierFlags = 0);
+    void release(MouseButton button, std::uint64_t modifierFlags = 0);
+    void key(const platform::Event &event); // down and up; code and characters arrive as they stand here
+
+private:
+    class Private;
+    explicit SceneHost(std::unique_ptr<Private> d);
+    const std::unique_ptr<Private> d;
+};
+
+} // namespace brimshade::desktop
