@@ -7,34 +7,50 @@
 
 namespace brimshade::desktop {
 
+class HotkeyRegistry;
 class InputRouter;
+class Inspection;
+class LogWriter;
 class MenuBar;
 class MenuHost;
+class Permission;
+class ScriptedLoginItem;
 class WindowStack;
 
 // A whole desktop: its display, its running applications and every service of platform/ but Symbols, which the
-// scene's side gives. Any number may exist in one process; each is destroyed after whoever uses its platform().
-class Desktop : public QObject
-{
+// scene's side gives. Any number may exist in one process; each is destroyed after whoever uses its platform(), and
+// before its Dispatch. Main thread.
+class Desktop : public QObject {
     Q_OBJECT
 public:
     struct Services {
         platform::Dispatch &dispatch;
         platform::Symbols &symbols;
-        std::unique_ptr<platform::UserDefaults> defaults;
+        std::unique_ptr<platform::UserDefaults> defaults; // null: empty, in memory
         std::unique_ptr<platform::LoginItems> loginItems; // null: what the description and scripts say
     };
+    // The description's applications run and its bar has settled when this returns; what its defaults name is
+    // stored where the store has nothing under that key.
     Desktop(Services services, const DesktopDescription &description);
     ~Desktop() override;
 
     platform::Platform platform();
 
+    HotkeyRegistry &hotkeys();
     InputRouter &input();
+    Inspection &inspection();
+    LogWriter &log();
     MenuBar &menuBar();
     MenuHost &menus();
+    Permission &permission();
     WindowStack &windows();
+    ScriptedLoginItem *scriptedLoginItem(); // null when Services brought login items
 
-    // Main thread. A pid is used once at a time; false when it is taken, or unknown to quit and change.
+    int ownPid() const; // this program's, as its running applications list it
+
+    // A pid is used once at a time; false when it is taken, or unknown to quit and change. A change keeps the
+    // elements and the places of the extras that are there before and after: those of the same identifier, or
+    // without one of the same role, title and description.
     bool launch(const ApplicationSpec &application);
     bool quit(int pid);
     bool change(int pid, const ApplicationSpec &application);
@@ -49,6 +65,10 @@ Q_SIGNALS:
     void terminated(); // the program asked to end
     // Something an application did that a person should see: "Relay", "Open Relay".
     void notified(const QString &application, const QString &what);
+
+private:
+    struct Parts;
+    std::unique_ptr<Parts> m_parts;
 };
 
 } // namespace brimshade::desktop

@@ -1,34 +1,79 @@
 #pragma once
 #include "platform/Application.h"
+#include "platform/EventServices.h"
 
 #include <QObject>
 #include <QPointF>
+#include <array>
+#include <memory>
 #include <optional>
 
 namespace brimshade::desktop {
 
+class CommandDrag;
+class EventMonitors;
+class HotkeyRegistry;
+class MenuBar;
+class MenuHost;
+class Permission;
+class PointerTracking;
+class ProgramApplication;
+class SharedState;
+class StatusBarService;
+class WindowStack;
+
 enum class MouseButton { left, right };
 
-// Who takes a pointer event, in the order in which they are asked.
-enum class Target { menu, window, menuBar, elsewhere };
+// Who takes a pointer event, in the order in which they are asked. A press on an item of the bar with Command held
+// goes to the bar before any window: it begins a drag of the item.
+//   menu          a menu is open: choosing in it and dismissing it are the scene's
+//   systemWindow  the permission prompt or the Accessibility page
+//   window        one of the program's windows
+enum class Target { menu, systemWindow, window, menuBar, elsewhere };
 
 // Decides what input does, for a real window and for a script alike: it keeps the pointer, tells event monitors,
 // opens menus of the bar, runs Command-drags and native views' tracking. Main thread; points in display space.
 // The scene passes every event through here first and hands on to its views only what comes back for them.
-class InputRouter : public QObject
-{
+class InputRouter : public QObject {
     Q_OBJECT
 public:
+    struct Parts {
+        SharedState &state;
+        ProgramApplication &application;
+        Permission &permission;
+        WindowStack &windows;
+        MenuHost &menus;
+        MenuBar &menuBar;
+        StatusBarService &statusBar;
+        HotkeyRegistry &hotkeys;
+    };
+    explicit InputRouter(const Parts &parts);
+    ~InputRouter() override;
+
     QPointF pointer() const;
     Target pointerMoved(QPointF to, std::uint64_t modifierFlags); // window: hand it to the view under it
     Target pressed(MouseButton button, std::uint64_t modifierFlags);
     Target released(MouseButton button, std::uint64_t modifierFlags); // the target of the press
     // Hotkeys, then the local monitors when a window of this program is key. The event comes back when the key
-    // window's view shall have it.
+    // window's view shall have it. While a menu is open its keys are the scene's: nothing is done with them here.
     std::optional<platform::Event> keyDown(const platform::Event &event);
 
+    // An event that the program posted, in its turn; the pointer is there already.
+    void synthetic(const platform::CGMouseEvent &event);
+
 Q_SIGNALS:
-    void pointerWarped(); // by the program, not by a hand
+    void pointerWarped(); // moved by the program, not by a hand
+
+private:
+    struct Press;
+    struct Private;
+
+    Target targetAt(QPointF point) const;
+    Target takePress(MouseButton button, std::uint64_t modifierFlags);
+    Target pressInMenuBar(MouseButton button, const platform::Event &event);
+    Target pressInWindow(const platform::Event &event);
+
+    std::unique_ptr<Private> m_d;
 };
 
 } // namespace brimshade::desktop

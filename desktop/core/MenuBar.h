@@ -4,36 +4,83 @@
 #include <QObject>
 #include <QRectF>
 #include <QString>
+#include <memory>
 #include <optional>
 #include <utility>
 #include <vector>
 
+namespace brimshade::platform {
+class Dispatch;
+}
+
 namespace brimshade::desktop {
+
+class MenuHost;
+class SharedState;
+struct BarEntry;
+struct BarGeometry;
 
 // One item as the bar shows it now.
 struct BarItem {
     int pid = 0;
-    QString identifier, title, description; // empty where absent
-    QString symbol;                         // drawn when not empty, else the image
-    platform::Image image;
-    QRectF frame;        // display space; the settled one
-    bool drawn = false;  // also: takes clicks
-    bool isOwn = false;  // this program's own status item
+    QString identifier, title, description; // empty where absent; the own item's identifier is its autosave name
+    QString symbol; // drawn when not empty, else the image
+    platform::Image image; // null: nothing to draw
+    QString toolTip; // plain text
+    QRectF frame; // display space; the settled one
+    bool drawn = false; // also: takes clicks
+    bool isOwn = false; // this program's own status item
     bool isHighlighted = false; // its menu is open or it is pressed
 };
 
-// The bar with status items. Main thread.
-class MenuBar : public QObject
-{
+// The bar with status items. Main thread; display space. A change of an item, of a width or of the order is laid out
+// at once and shows 0.1 s later, everywhere at the same instant: here, in the items' Accessibility frames and in the
+// own item's window.
+class MenuBar : public QObject {
     Q_OBJECT
 public:
+    MenuBar(platform::Dispatch &dispatch, SharedState &state, MenuHost &menus);
+    ~MenuBar() override;
+
     std::vector<BarItem> items() const; // left to right
-    QRectF frame() const;               // of the bar on its screen, display space
-    std::optional<std::pair<double, double>> notch() const; // x of its edges, display space
-    bool isShowing() const;
+    QRectF frame() const; // of the bar on its screen
+    std::optional<std::pair<double, double>> notch() const; // x of its edges
+    double applicationMenusEnd() const; // x up to which the bar belongs to application menus
+    bool isShowing() const { return m_isShowing; }
+
+    // For the desktop's other parts.
+    using EntryPointer = std::shared_ptr<BarEntry>;
+    // The next layout has exactly these items, as rightToLeft says. Nothing happens when nothing differs.
+    void add(const EntryPointer &entry);
+    void remove(const EntryPointer &entry);
+    void widthChanged();
+    void lookChanged();
+    void placeOwn(const EntryPointer &entry, double pointsFromRight); // left of what fills that many points
+    void setScreens(); // read them anew
+    void setShowing(bool showing);
+    void setMovesAccepted(bool accepted) { m_areMovesAccepted = accepted; }
+    void settleNow(); // at start: nothing was there before
+
+    EntryPointer entryAt(QPointF point) const; // whose frame holds the point, drawn or not; null for none
+    EntryPointer drawnEntryAt(QPointF point) const; // the one that takes clicks there
+    bool isDrawn(const BarEntry &entry) const;
+    bool containsRow(QPointF point) const; // in the bar's row, whatever its x
+    // A drop at x. False when the order stays: moves are refused, or it is there already.
+    bool move(const EntryPointer &entry, double x);
+    double pointsFromRight(const BarEntry &entry) const; // of the layout that shows next
 
 Q_SIGNALS:
     void changed(); // once a layout has settled, or an item's look changed
+    void settled(); // frames were applied; before changed()
+
+private:
+    struct Private;
+    void relayout();
+    void apply(const std::vector<std::pair<EntryPointer, QRectF>> &frames);
+
+    std::unique_ptr<Private> m_d;
+    bool m_isShowing = true;
+    bool m_areMovesAccepted = true;
 };
 
 } // namespace brimshade::desktop

@@ -20,18 +20,16 @@ struct MenuEntry {
     QString shortcut; // ready to show, "⌘Q"
     bool hasSubmenu = false;
     std::vector<MenuEntry> submenu; // may come later, after aboutToShow(id)
-
 };
 
 // The content of one menu, for one opening. Main thread. Hidden entries are not listed.
-class MenuSource : public QObject
-{
+class MenuSource : public QObject {
     Q_OBJECT
 public:
     virtual const std::vector<MenuEntry> &entries() const = 0;
     virtual void aboutToShow(int id) { Q_UNUSED(id) } // a submenu opens; changed() follows if its entries come later
-    virtual void choose(int id) = 0;                  // an enabled leaf; closed() follows
-    virtual void closed() {}                          // always, once, last
+    virtual void choose(int id) = 0; // an enabled leaf; closed() follows
+    virtual void closed() { } // always, once, last
 
 Q_SIGNALS:
     void changed(); // entries() differ from before, while the menu is open

@@ -1,44 +1,56 @@
 #pragma once
-#include "platform/Window.h"
+#include "DesktopWindow.h"
 
 #include <QObject>
 #include <vector>
 
 namespace brimshade::desktop {
 
-class WindowStack;
+class SharedState;
 
-// One of the program's windows. The scene shows its content; the stack keeps its order, level and key state.
-class DesktopWindow : public QObject, public platform::Window
-{
+// The program's windows by level, then by order; which of them has the keys; whether the program is the active one.
+// Main thread.
+class WindowStack : public QObject, public platform::Windows {
     Q_OBJECT
 public:
-    const platform::WindowAttributes &attributes() const;
-    const platform::ContentView &content() const;
-    QRectF displayFrame() const; // frame() in display space, title bar included
-    double titleBarHeight() const; // above the content; 0 with a full-size content view or without a title bar
-    void setContentSize(QSizeF size); // the scene: what a hosted view measures, where it sizes the window
+    explicit WindowStack(SharedState &state);
+    ~WindowStack() override;
 
-Q_SIGNALS:
-    void changed(); // frame, visibility or key state
-};
+    std::unique_ptr<platform::Window> createWindow(const platform::WindowAttributes &attributes,
+                                                   const platform::ContentView &content) override;
 
-// The program's windows by level, then by order. Main thread.
-class WindowStack : public QObject, public platform::Windows
-{
-    Q_OBJECT
-public:
-    std::vector<DesktopWindow *> windows() const; // all, in the order of creation
-    std::vector<DesktopWindow *> onScreen() const; // back to front
+    std::vector<DesktopWindow *> windows() const { return m_windows; } // all, in the order of creation
+    std::vector<DesktopWindow *> onScreen() const { return m_onScreen; } // back to front
     DesktopWindow *windowAt(QPointF displayPoint) const; // the frontmost that takes clicks there, or null
-    DesktopWindow *keyWindow() const; // null: another application has the keys
-    DesktopWindow *named(const QString &name) const;
-    void makeKey(DesktopWindow *window); // null gives the keys to another application
+    DesktopWindow *keyWindow() const { return m_keyWindow; } // null: another application has the keys
+    DesktopWindow *named(const QString &name) const; // the latest of that name, or null
+    void makeKey(DesktopWindow *window); // null gives the keys to another application; ignored where it cannot
+
+    bool isActive() const { return m_isActive; }
+    void activate();
+    void deactivate(); // also gives the keys away
+
+    void screensChanged(); // windows that no screen holds come back to the primary one
 
 Q_SIGNALS:
-    void windowAdded(DesktopWindow *window);
-    void windowRemoved(DesktopWindow *window); // about to go; its content must be dropped now
-    void orderChanged();
+    void windowAdded(brimshade::desktop::DesktopWindow *window); // its content may be made now: nothing has read it yet
+    void windowRemoved(brimshade::desktop::DesktopWindow *window); // about to go; its content must be dropped now
+    void orderChanged(); // also: a window was shown or hidden
+    void keyChanged();
+
+private:
+    friend class DesktopWindow;
+    void orderFront(DesktopWindow *window);
+    void orderOut(DesktopWindow *window);
+    void forget(DesktopWindow *window);
+    void giveKeysOn(DesktopWindow *from);
+    void publish();
+
+    SharedState &m_state;
+    std::vector<DesktopWindow *> m_windows;
+    std::vector<DesktopWindow *> m_onScreen;
+    DesktopWindow *m_keyWindow = nullptr;
+    bool m_isActive = false;
 };
 
 } // namespace brimshade::desktop

@@ -1,0 +1,44 @@
+#pragma once
+#include <QObject>
+#include <QRectF>
+
+namespace brimshade::desktop {
+
+class SharedState;
+
+// The Accessibility permission and the two small windows that belong to it. They are the system's, not the program's:
+// they stand above every window, and a press on them is a press in another application. Main thread; frames in
+// display space.
+class Permission : public QObject {
+    Q_OBJECT
+public:
+    explicit Permission(SharedState &state) : m_state(state) { }
+
+    bool isTrusted() const;
+    void setTrusted(bool trusted); // granting closes the prompt
+
+    bool isPromptOpen() const { return m_isPromptOpen; }
+    void openPrompt(); // once more is no second one
+    void closePrompt(); // the prompt's own button: not now
+    void openSettingsFromPrompt(); // its other button: closes it and opens the page
+
+    bool isPageOpen() const { return m_isPageOpen; }
+    void openPage();
+    void closePage();
+
+    QRectF promptFrame() const; // on the primary screen, also while closed
+    QRectF pageFrame() const;
+    bool takesPoint(QPointF displayPoint) const; // one of the two is open there
+
+Q_SIGNALS:
+    void changed();
+
+private:
+    void set(bool &flag, bool value);
+
+    SharedState &m_state;
+    bool m_isPromptOpen = false;
+    bool m_isPageOpen = false;
+};
+
+} // namespace brimshade::desktop
