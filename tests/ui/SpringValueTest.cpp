@@ -1,0 +1,98 @@
+#include "ui/SpringValue.h"
+#include "ManualAnimationDriver.h"
+
+#include <gtest/gtest.h>
+
+namespace brimshade::ui {
+namespace {
+
+class SpringValueTest : public testing::Test {
+protected:
+    void SetUp() override { value.componentComplete(); }
+
+    double seconds(int milliseconds)
+    {
+        driver.step(milliseconds);
+        return value.value();
+    }
+
+    ManualAnimationDriver driver;
+    SpringValue value;
+};
+
+TEST_F(SpringValueTest, FollowsTheSpringOnTheDriversClockAndThenStops)
+{
+    value.setResponse(0.46);
+    value.setDamping(0.74);
+    value.setTarget(1);
+    EXPECT_EQ(value.value(), 0);
+    EXPECT_NEAR(seconds(50), 1 + springAt({0.46, 0.74}, {-1, 0}, 0.05).position, 1e-9);
+    EXPECT_NEAR(seconds(150), 1 + springAt({0.46, 0.74}, {-1, 0}, 0.2).position, 1e-9);
+    EXPECT_TRUE(value.isRunning());
+    seconds(2000);
+    EXPECT_EQ(value.value(), 1);
+    EXPECT_FALSE(value.isRunning()) << "nothing may tick once it rests";
+}
+
+TEST_F(SpringValueTest, KeepsPositionAndVelocityWhenTheTargetChanges)
+{
+    value.setResponse(0.5);
+    value.setDamping(0.7);
+    value.setTarget(1);
+    seconds(100);
+    const SpringState before = springAt({0.5, 0.7}, {-1, 0}, 0.1);
+    value.setResponse(0.32);
+    value.setDamping(0.92);
+    value.setTarget(0);
+    EXPECT_NEAR(value.value(), 1 + before.position, 1e-9);
+    const SpringState start{1 + before.position, before.velocity};
+    EXPECT_NEAR(seconds(30), springAt({0.32, 0.92}, start, 0.03).position, 1e-9);
+}
+
+TEST_F(SpringValueTest, TakesTheParametersThatComeWithTheTargetInEitherOrder)
+{
+    value.setResponse(0.46);
+    value.setTarget(1);
+    value.setResponse(0.2); // the binding that ran last
+    value.setDelay(0.1);
+    EXPECT_NEAR(seconds(140), 1 + springAt({0.2, 0.8}, {-1, 0}, 0.04).position, 1e-9);
+    value.setResponse(3); // not this motion's any more
+    EXPECT_NEAR(seconds(20), 1 + springAt({0.2, 0.8}, {-1, 0}, 0.06).position, 1e-9);
+}
+
+TEST_F(SpringValueTest, StaysUntilItsDelayIsOver)
+{
+    value.setDelay(0.268);
+    value.setTarget(1);
+    EXPECT_EQ(seconds(268), 0);
+    EXPECT_GT(seconds(20), 0);
+}
+
+TEST_F(SpringValueTest, EasesFromWhereItIsInItsDuration)
+{
+    const struct {
+        SpringValue::Curve curve;
+        double atQuarter;
+    } cases[] = {{SpringValue::EaseIn, 0.093}, {SpringValue::EaseOut, 0.378}, {SpringValue::EaseInOut, 0.129}};
+    for (const auto &expected : cases) {
+        value.jumpTo(2);
+        value.setCurve(expected.curve);
+        value.setDuration(0.4);
+        value.setTarget(1);
+        EXPECT_NEAR(seconds(100), 2 - expected.atQuarter, 0.002) << expected.curve;
+        EXPECT_EQ(seconds(300), 1);
+        EXPECT_FALSE(value.isRunning());
+    }
+}
+
+TEST(SpringValueCreation, JumpsToItsFirstTarget)
+{
+    SpringValue value;
+    value.classBegin();
+    value.setTarget(7);
+    EXPECT_EQ(value.value(), 7);
+    EXPECT_FALSE(value.isRunning());
+}
+
+} // namespace
+} // namespace brimshade::ui

@@ -1,0 +1,74 @@
+#include "ui/SymbolService.h"
+#include "ui/SymbolTable.h"
+
+#include <algorithm>
+#include <gtest/gtest.h>
+
+namespace brimshade::ui {
+namespace {
+
+using namespace Qt::StringLiterals;
+
+TEST(Symbols, EveryOneHasAnOutlineWithinItsSquare)
+{
+    for (const QString &name : symbolNames()) {
+        const QRectF bounds = symbolOutline(name).boundingRect();
+        SCOPED_TRACE(qPrintable(name));
+        EXPECT_GT(std::max(bounds.width(), bounds.height()), 10);
+        EXPECT_GE(bounds.left(), 0);
+        EXPECT_GE(bounds.top(), 0);
+        EXPECT_LE(bounds.right(), 24);
+        EXPECT_LE(bounds.bottom(), 24);
+        EXPECT_NEAR(bounds.center().x(), 12, 2.2);
+        EXPECT_NEAR(bounds.center().y(), 12, 2.2);
+    }
+}
+
+// Whatever a menu bar item or a view may ask for is there.
+TEST(Symbols, NoNameInUseIsMissing)
+{
+    const QString names = u"moon.fill battery.75percent switch.2 clock.fill wifi wave.3.right speaker.wave.2.fill "
+                          u"airplayaudio rectangle.on.rectangle sun.max.fill magnifyingglass waveform "
+                          u"person.crop.circle.fill keyboard.fill play.fill lock.shield.fill clock.arrow.circlepath "
+                          u"cloud.sun.fill accessibility circle.grid.2x2.fill circle rectangle.topthird.inset.filled "
+                          u"eye.slash.fill gearshape.fill lock.open.fill checkmark.seal.fill cursorarrow.motionlines "
+                          u"command power square.grid.2x2 hand.raised.fill exclamationmark.triangle.fill lock.fill "
+                          u"checkmark.circle.fill"_s;
+    const QStringList known = symbolNames();
+    for (const QString &name : names.split(u' '))
+        EXPECT_TRUE(known.contains(name)) << qPrintable(name);
+}
+
+TEST(Symbols, AreTemplateImagesOfTheirPointSize)
+{
+    SymbolService service;
+    const platform::Image image = service.symbolImage(u"wifi"_s, {}, {14, platform::SymbolWeight::semibold});
+    EXPECT_TRUE(image.isTemplate());
+    EXPECT_DOUBLE_EQ(image.size().width(), symbolExtent(14));
+    const QImage bitmap = image.bitmap();
+    EXPECT_GT(qAlpha(bitmap.pixel(64, 100)), 200) << "the dot of the fan";
+    EXPECT_EQ(qAlpha(bitmap.pixel(2, 2)), 0);
+    EXPECT_TRUE(service.symbolImage(u"no.such.symbol"_s, {}, {}).isNull());
+}
+
+TEST(Symbols, AHeavierWeightCoversMore)
+{
+    const auto covered = [](platform::SymbolWeight weight) {
+        QImage image(96, 96, QImage::Format_Alpha8);
+        image.fill(0);
+        QPainter painter(&image);
+        painter.setRenderHint(QPainter::Antialiasing);
+        painter.fillPath(symbolPath(u"gearshape.fill"_s, {75, weight}), Qt::black);
+        painter.end();
+        long sum = 0;
+        for (int y = 0; y < image.height(); ++y)
+            for (int x = 0; x < image.width(); ++x)
+                sum += image.constScanLine(y)[x];
+        return sum;
+    };
+    EXPECT_GT(covered(platform::SymbolWeight::semibold), covered(platform::SymbolWeight::regular));
+    EXPECT_GT(covered(platform::SymbolWeight::bold), covered(platform::SymbolWeight::semibold));
+}
+
+} // namespace
+} // namespace brimshade::ui

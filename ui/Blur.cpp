@@ -1,0 +1,73 @@
+#include "Blur.h"
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+#include <vector>
+
+namespace brimshade::ui {
+
+namespace {
+
+// One pass of a moving average of `2 * half + 1` values, `stride` apart; outside is 0.
+void averageLine(std::vector<float> &values, std::size_t first, std::size_t stride, int count, int half,
+                 std::vector<float> &line)
+{
+    for (int i = 0; i < count; ++i)
+        line[std::size_t(i)] = values[first + std::size_t(i) * stride];
+    const auto at = [&](int i) { return i < 0 || i >= count ? 0.0F : line[std::size_t(i)]; };
+    float sum = 0;
+    for (int i = 0; i <= half; ++i)
+        sum += at(i);
+    const float share = 1.0F / float(2 * half + 1);
+    for (int i = 0; i < count; ++i) {
+        values[first + std::size_t(i) * stride] = sum * share;
+        sum += at(i + half + 1) - at(i - half);
+    }
+}
+
+// Three averages make a Gaussian but for a few percent. Their half widths, chosen so that the variances add up.
+std::array<int, 3> halfWidths(double deviation)
+{
+    const double ideal = std::sqrt(12 * deviation * deviation / 3 + 1);
+    int lower = int(std::floor(ideal));
+    lower -= lower % 2 == 0 ? 1 : 0;
+    const double count = (12 * deviation * deviation - 3.0 * lower * lower - 12.0 * lower - 9) / (-4.0 * lower - 4);
+    const int small = std::clamp(int(std::round(count)), 0, 3);
+    std::array<int, 3> result{};
+    for (int i = 0; i < 3; ++i)
+        result[std::size_t(i)] = std::max(0, (i < small ? lower : lower + 2) / 2);
+    return result;
+}
+
+} // namespace
+
+QImage blurredSilhouette(const QImage &picture, const QColor &color, double deviation)
+{
+    const QImage alpha = picture.convertToFormat(QImage::Format_Alpha8);
+    const int width = alpha.width();
+    const int height = alpha.height();
+    std::vector<float> values(std::size_t(width) * std::size_t(height));
+    for (int y = 0; y < height; ++y)
+        std::copy_n(alpha.constScanLine(y), width, values.begin() + std::ptrdiff_t(y) * width);
+
+    std::vector<float> line(std::size_t(std::max(width, height)));
+    for (const int half : halfWidths(deviation)) {
+        for (int y = 0; y < height; ++y)
+            averageLine(values, std::size_t(y) * std::size_t(width), 1, width, half, line);
+        for (int x = 0; x < width; ++x)
+            averageLine(values, std::size_t(x), std::size_t(width), height, half, line);
+    }
+
+    QImage result(width, height, QImage::Format_ARGB32_Premultiplied);
+    for (int y = 0; y < height; ++y) {
+        auto *pixels = reinterpret_cast<QRgb *>(result.scanLine(y));
+        for (int x = 0; x < width; ++x) {
+            const float a = values[std::size_t(y) * std::size_t(width) + std::size_t(x)] * color.alphaF();
+            pixels[x] = qPremultiply(qRgba(color.red(), color.green(), color.blue(), int(std::lround(a))));
+        }
+    }
+    return result;
+}
+
+} // namespace brimshade::ui

@@ -1,0 +1,42 @@
+#pragma once
+#include "PictureCache.h"
+
+#include <QByteArray>
+#include <QPainter>
+#include <QPointer>
+#include <QQuickItem>
+#include <qqml.h>
+
+namespace brimshade::ui {
+
+// An item that shows one picture, drawn once for its content, size and device pixel ratio and shared with every equal
+// item of the window. Moving, scaling and fading it never draws again.
+class DrawnItem : public QQuickItem {
+    Q_OBJECT
+    QML_ANONYMOUS
+
+public:
+    explicit DrawnItem(QQuickItem *parent = nullptr);
+
+protected:
+    // Names everything that draw() reads but size and scale. Empty: there is nothing to draw.
+    virtual QByteArray pictureKey() const = 0;
+    // What the key names by address: kept as long as its picture is.
+    virtual std::any pictureOwner() const { return {}; }
+    // What the picture covers, in the item's coordinates; by default the item.
+    virtual QRectF pictureRect() const;
+    // With the item's coordinates, antialiased. scale: device pixels a point. While the scene graph synchronises.
+    virtual void draw(QPainter &painter, double scale) const = 0;
+
+    QSGNode *updatePaintNode(QSGNode *node, UpdatePaintNodeData *) override;
+    void itemChange(ItemChange change, const ItemChangeData &data) override;
+    void geometryChange(const QRectF &newGeometry, const QRectF &oldGeometry) override;
+
+private:
+    QImage picture(const QRectF &rect, const QByteArray &key) const;
+
+    QPointer<PictureCache> m_cache;
+    QByteArray m_shownKey; // of the node's texture
+};
+
+} // namespace brimshade::ui

@@ -1,0 +1,79 @@
+pragma ComponentBehavior: Bound
+import QtQuick
+
+// The one tooltip of a view, above everything in its parent, which it stays inside. The item under the pointer calls
+// show() and, when the pointer leaves it, hide(). Assistive programs get the text as the item's own description.
+Item {
+    id: root
+
+    property Item target: null
+    property string text
+    property bool shown: false
+
+    function show(target: Item, text: string) {
+        root.shown = root.shown && root.target === target;
+        root.target = target;
+        root.text = text;
+        if (!root.shown)
+            delay.restart();
+    }
+
+    function hide(target: Item) {
+        if (root.target !== target)
+            return;
+        delay.stop();
+        root.shown = false;
+        root.target = null;
+    }
+
+    function place() {
+        const below = root.target.mapToItem(root, root.target.width / 2, root.target.height + 6);
+        const fits = below.y + bubble.height <= root.height;
+        const above = root.target.mapToItem(root, 0, -6).y - bubble.height;
+        bubble.x = Math.round(Math.max(4, Math.min(below.x - bubble.width / 2, root.width - bubble.width - 4)));
+        bubble.y = Math.round(fits ? below.y : above);
+        root.shown = true;
+    }
+
+    anchors.fill: parent
+    z: 100
+
+    Timer {
+        id: delay
+        interval: 700
+        onTriggered: root.place()
+    }
+
+    Item {
+        id: bubble
+        objectName: "helpTip"
+        visible: root.shown
+        width: Math.min(label.implicitWidth, 260) + 16
+        height: label.height + 8
+
+        Shadow {
+            anchors.fill: parent
+            anchors.topMargin: 2
+            anchors.bottomMargin: -2
+            radius: 5
+            blur: 5
+            color: Qt.rgba(0, 0, 0, 0.3)
+        }
+        RoundedShape {
+            anchors.fill: parent
+            radius: 5
+            color: "#2c2c2e"
+            strokeColor: Qt.rgba(1, 1, 1, 0.14)
+            strokeWidth: 0.5
+        }
+        StyledText {
+            id: label
+            anchors.centerIn: parent
+            width: Math.min(implicitWidth, 260)
+            text: root.text
+            size: 11
+            wrapMode: Text.WordWrap
+            Accessible.role: Accessible.ToolTip
+        }
+    }
+}

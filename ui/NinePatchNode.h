@@ -1,0 +1,34 @@
+#pragma once
+#include <QImage>
+#include <QMarginsF>
+#include <QRectF>
+#include <QSGNode>
+#include <array>
+#include <memory>
+
+class QQuickWindow;
+class QSGImageNode;
+class QSGTexture;
+
+namespace brimshade::ui {
+
+// A picture whose four corners keep their size while the sides between them stretch. The inside is left out: what
+// casts a shadow covers it. Scene graph thread.
+class NinePatchNode : public QSGNode {
+public:
+    NinePatchNode();
+    ~NinePatchNode() override;
+
+    // border: what of the picture are corners, in pixels.
+    void setPicture(QQuickWindow *window, const QImage &picture, const QMarginsF &border);
+    // The corners are `border` points large; they shrink together when the target is smaller than two of them.
+    void setTarget(const QRectF &target, const QMarginsF &border);
+
+private:
+    static constexpr int kPieces = 8;
+
+    std::unique_ptr<QSGTexture> m_texture;
+    std::array<QSGImageNode *, kPieces> m_pieces{}; // owned by the tree
+};
+
+} // namespace brimshade::ui

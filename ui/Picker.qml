@@ -1,0 +1,112 @@
+pragma ComponentBehavior: Bound
+import QtQuick
+import QtQuick.Templates as T
+
+// A pop-up button: shows one of its titles and opens a list of them over itself. Its text is its name to assistive
+// programs; it is not drawn.
+T.AbstractButton {
+    id: control
+
+    required property list<string> titles
+    required property int currentIndex
+    // What the list lies over and stays inside: the view's root.
+    required property Item layer
+    readonly property string currentTitle: control.titles[control.currentIndex] ?? ""
+    readonly property bool opened: list.active
+
+    signal chosen(int index)
+
+    function open() {
+        list.byKeyboard = control.visualFocus;
+        list.active = true;
+    }
+
+    function close() {
+        list.active = false;
+        control.forceActiveFocus(list.byKeyboard ? Qt.TabFocusReason : Qt.MouseFocusReason);
+    }
+
+    implicitWidth: 150
+    implicitHeight: 24
+    opacity: control.enabled ? 1 : 0.4
+    onClicked: control.open()
+    onVisibleChanged: list.active = false
+    Keys.onUpPressed: control.open()
+    Keys.onDownPressed: control.open()
+
+    Accessible.role: Accessible.ComboBox
+    Accessible.name: control.text
+    Accessible.description: control.currentTitle
+    Accessible.expandable: true
+    Accessible.expanded: control.opened
+
+    contentItem: StyledText {
+        leftPadding: 9
+        rightPadding: 24
+        text: control.currentTitle
+        color: control.palette.buttonText
+        verticalAlignment: Text.AlignVCenter
+        elide: Text.ElideRight
+        Accessible.ignored: true
+    }
+
+    background: Item {
+        Shadow {
+            anchors.fill: parent
+            anchors.topMargin: 0.5
+            anchors.bottomMargin: -0.5
+            radius: 6
+            blur: 0.8
+            color: Qt.rgba(0, 0, 0, 0.22)
+        }
+        RoundedShape {
+            anchors.fill: parent
+            radius: 6
+            color: control.palette.button
+        }
+        RoundedShape {
+            anchors.right: parent.right
+            anchors.rightMargin: 4
+            anchors.verticalCenter: parent.verticalCenter
+            width: 16
+            height: 16
+            radius: 4.5
+            color: control.palette.highlight
+        }
+        SymbolIcon {
+            anchors.right: parent.right
+            anchors.rightMargin: 12 - width / 2
+            anchors.verticalCenter: parent.verticalCenter
+            name: "chevron.up.chevron.down"
+            pointSize: 9
+            weight: SymbolIcon.Bold
+            color: "white"
+        }
+        FocusRing {
+            visible: control.visualFocus
+        }
+    }
+
+    Loader {
+        id: list
+
+        property bool byKeyboard: false
+
+        parent: control.layer
+        anchors.fill: parent
+        active: false
+        z: 50
+        sourceComponent: PickerList {
+            objectName: control.objectName + "List"
+            title: control.text
+            titles: control.titles
+            currentIndex: control.currentIndex
+            button: control
+            onChosen: index => {
+                control.close();
+                control.chosen(index);
+            }
+            onDismissed: control.close()
+        }
+    }
+}

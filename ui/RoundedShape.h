@@ -1,0 +1,55 @@
+#pragma once
+#include "DrawnItem.h"
+
+#include <QColor>
+#include <QPointF>
+
+namespace brimshade::ui {
+
+// A rounded rectangle with a plain or gradient fill and a stroke inside its edge. To fade or highlight it, change
+// opacity rather than a colour: a colour is a new picture.
+class RoundedShape : public DrawnItem {
+    Q_OBJECT
+    QML_NAMED_ELEMENT(RoundedShape)
+    Q_PROPERTY(double radius MEMBER m_radius NOTIFY changed)
+    Q_PROPERTY(bool continuous MEMBER m_continuous NOTIFY changed)
+    Q_PROPERTY(QColor color MEMBER m_color NOTIFY changed)
+    Q_PROPERTY(QColor strokeColor MEMBER m_strokeColor NOTIFY changed)
+    Q_PROPERTY(double strokeWidth MEMBER m_strokeWidth NOTIFY changed)
+    Q_PROPERTY(Gradient gradient MEMBER m_gradient NOTIFY changed)
+    Q_PROPERTY(QColor endColor MEMBER m_endColor NOTIFY changed)
+    Q_PROPERTY(QPointF center MEMBER m_center NOTIFY changed)
+    Q_PROPERTY(double startRadius MEMBER m_startRadius NOTIFY changed)
+    Q_PROPERTY(double endRadius MEMBER m_endRadius NOTIFY changed)
+
+public:
+    // From color to endColor: downwards, from top leading to bottom trailing, or around `center`
+    // (a unit point) from startRadius to endRadius.
+    enum Gradient { NoGradient, Vertical, Diagonal, Radial };
+    Q_ENUM(Gradient)
+
+    explicit RoundedShape(QQuickItem *parent = nullptr);
+
+Q_SIGNALS:
+    void changed();
+
+protected:
+    QByteArray pictureKey() const override;
+    void draw(QPainter &painter, double scale) const override;
+
+private:
+    QBrush brush() const;
+
+    double m_radius = 0;
+    bool m_continuous = true;
+    QColor m_color = Qt::transparent;
+    QColor m_strokeColor = Qt::transparent;
+    double m_strokeWidth = 0;
+    Gradient m_gradient = NoGradient;
+    QColor m_endColor = Qt::transparent;
+    QPointF m_center{0.5, 0.5};
+    double m_startRadius = 0;
+    double m_endRadius = 0;
+};
+
+} // namespace brimshade::ui

@@ -1,0 +1,86 @@
+#include "Shadow.h"
+#include "Blur.h"
+#include "NinePatchNode.h"
+#include "Squircle.h"
+
+#include <QDataStream>
+#include <QIODevice>
+#include <QPainter>
+#include <QQuickWindow>
+#include <cmath>
+
+namespace brimshade::ui {
+
+Shadow::Shadow(QQuickItem *parent) : QQuickItem(parent)
+{
+    setFlag(ItemHasContents);
+    connect(this, &Shadow::changed, this, &QQuickItem::update);
+}
+
+double Shadow::reach() const
+{
+    return std::ceil(3 * m_blur);
+}
+
+double Shadow::border() const
+{
+    return 2 * reach() + std::ceil(1.5 * m_radius);
+}
+
+QSGNode *Shadow::updatePaintNode(QSGNode *node, UpdatePaintNodeData *)
+{
+    auto *patch = static_cast<NinePatchNode *>(node);
+    if (!m_cache || m_color.alpha() == 0 || width() <= 0 || height() <= 0) {
+        delete patch;
+        m_shownKey.clear();
+        return nullptr;
+    }
+    const double scale = window()->effectiveDevicePixelRatio();
+    QByteArray key("shadow");
+    QDataStream(&key, QIODevice::Append) << m_radius << m_blur << m_color << scale;
+    if (!patch || key != m_shownKey) {
+        if (!patch)
+            patch = new NinePatchNode;
+        const double pixels = std::round(border() * scale);
+        patch->setPicture(window(), picture(key, scale), QMarginsF(pixels, pixels, pixels, pixels));
+        m_shownKey = key;
+    }
+    const double r = reach();
+    patch->setTarget(boundingRect().adjusted(-r, -r, r, r), QMarginsF(border(), border(), border(), border()));
+    return patch;
+}
+
+QImage Shadow::picture(const QByteArray &key, double scale) const
+{
+    if (const QImage *known = m_cache->find(key))
+        return *known;
+    const int side = 2 * int(std::round(border() * scale)) + 2;
+    QImage caster(side, side, QImage::Format_ARGB32_Premultiplied);
+    caster.fill(Qt::transparent);
+    QPainter painter(&caster);
+    painter.setRenderHint(QPainter::Antialiasing);
+    const double r = reach() * scale;
+    painter.fillPath(roundedRectangle(QRectF(caster.rect()).adjusted(r, r, -r, -r), m_radius * scale, true), Qt::black);
+    painter.end();
+    const QImage shadow = blurredSilhouette(caster, m_color, m_blur * scale);
+    m_cache->insert(key, shadow, {});
+    return shadow;
+}
+
+void Shadow::itemChange(ItemChange change, const ItemChangeData &data)
+{
+    if (change == ItemSceneChange)
+        m_cache = data.window ? PictureCache::of(data.window) : nullptr;
+    if (change == ItemDevicePixelRatioHasChanged || change == ItemSceneChange)
+        update();
+    QQuickItem::itemChange(change, data);
+}
+
+void Shadow::geometryChange(const QRectF &newGeometry, const QRectF &oldGeometry)
+{
+    QQuickItem::geometryChange(newGeometry, oldGeometry);
+    if (newGeometry.size() != oldGeometry.size())
+        update();
+}
+
+} // namespace brimshade::ui

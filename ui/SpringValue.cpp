@@ -1,0 +1,132 @@
+#include "SpringValue.h"
+
+#include <QEasingCurve>
+#include <QPointF>
+#include <algorithm>
+#include <cmath>
+
+namespace brimshade::ui {
+
+namespace {
+
+// What may be left of the way when a motion ends: a tenth of a point of a panel's width.
+constexpr double kSettledShare = 2e-4;
+
+double eased(SpringValue::Curve curve, double progress)
+{
+    QEasingCurve easing(QEasingCurve::BezierSpline);
+    const double in = curve == SpringValue::EaseOut ? 0 : 0.42;
+    const double out = curve == SpringValue::EaseIn ? 1 : 0.58;
+    easing.addCubicBezierSegment({in, 0}, {out, 1}, {1, 1});
+    return easing.valueForProgress(progress);
+}
+
+} // namespace
+
+SpringValue::SpringValue(QObject *parent) : QObject(parent) { }
+
+bool SpringValue::isRunning() const
+{
+    return m_clock.state() == QAbstractAnimation::Running;
+}
+
+void SpringValue::setTarget(double target)
+{
+    if (m_target == target || !std::isfinite(target))
+        return;
+    if (!m_isComplete) {
+        jumpTo(target);
+        return;
+    }
+    m_now.position = m_value - target;
+    m_start = m_now;
+    m_motion = m_next;
+    m_target = target;
+    m_clock.stop();
+    m_clock.start();
+    Q_EMIT targetChanged();
+}
+
+void SpringValue::jumpTo(double value)
+{
+    m_clock.stop();
+    m_now = m_start = {};
+    setValue(value);
+    if (m_target == value)
+        return;
+    m_target = value;
+    Q_EMIT targetChanged();
+}
+
+// The binding of a parameter may run just after that of the target.
+void SpringValue::changeParameter(auto &parameter, auto value)
+{
+    if (parameter == value)
+        return;
+    parameter = value;
+    if (isRunning() && m_clock.currentTime() == 0)
+        m_motion = m_next;
+    Q_EMIT parametersChanged();
+}
+
+void SpringValue::setCurve(Curve curve)
+{
+    changeParameter(m_next.curve, curve);
+}
+
+void SpringValue::setResponse(double response)
+{
+    changeParameter(m_next.spring.response, response);
+}
+
+void SpringValue::setDamping(double damping)
+{
+    changeParameter(m_next.spring.dampingFraction, std::max(0.05, damping));
+}
+
+void SpringValue::setDuration(double duration)
+{
+    changeParameter(m_next.duration, duration);
+}
+
+void SpringValue::setDelay(double delay)
+{
+    changeParameter(m_next.delay, delay);
+}
+
+void SpringValue::advance(double seconds)
+{
+    const double moving = seconds - m_motion.delay;
+    if (!isRunning() || moving < 0)
+        return;
+    const bool isDone = m_motion.curve == Spring ? advanceSpring(moving) : advanceEase(moving);
+    if (isDone)
+        jumpTo(m_target);
+    else
+        setValue(m_target + m_now.position);
+}
+
+bool SpringValue::advanceSpring(double seconds)
+{
+    m_now = springAt(m_motion.spring, m_start, seconds);
+    const double way = std::max(std::abs(m_start.position), 1e-3);
+    return springIsSettled(m_motion.spring, m_now, kSettledShare * way);
+}
+
+bool SpringValue::advanceEase(double seconds)
+{
+    if (seconds >= m_motion.duration)
+        return true;
+    m_now = {m_start.position * (1 - eased(m_motion.curve, seconds / m_motion.duration)), 0};
+    return false;
+}
+
+void SpringValue::setValue(double value)
+{
+    if (m_value == value)
+        return;
+    m_value = value;
+    Q_EMIT valueChanged();
+}
+
+} // namespace brimshade::ui

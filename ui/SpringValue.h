@@ -1,0 +1,99 @@
+#pragma once
+#include "Spring.h"
+
+#include <QAbstractAnimation>
+#include <QObject>
+#include <QQmlParserStatus>
+#include <qqml.h>
+
+namespace brimshade::ui {
+
+// A number that moves to its target: `opacity: fade.value`. A change of the target while it moves keeps position and,
+// for springs, velocity. The parameters hold from the change of target on that they accompany, in whatever order
+// bindings set them. Before its component is complete it jumps. It follows the animation driver's clock and runs only
+// while it moves. Times are seconds.
+class SpringValue : public QObject, public QQmlParserStatus {
+    Q_OBJECT
+    Q_INTERFACES(QQmlParserStatus)
+    QML_ELEMENT
+    Q_PROPERTY(double target READ target WRITE setTarget NOTIFY targetChanged)
+    Q_PROPERTY(double value READ value NOTIFY valueChanged)
+    Q_PROPERTY(bool running READ isRunning NOTIFY runningChanged)
+    Q_PROPERTY(Curve curve READ curve WRITE setCurve NOTIFY parametersChanged)
+    Q_PROPERTY(double response READ response WRITE setResponse NOTIFY parametersChanged)
+    Q_PROPERTY(double damping READ damping WRITE setDamping NOTIFY parametersChanged)
+    Q_PROPERTY(double duration READ duration WRITE setDuration NOTIFY parametersChanged)
+    Q_PROPERTY(double delay READ delay WRITE setDelay NOTIFY parametersChanged)
+
+public:
+    // Spring takes response and damping; the others take duration.
+    enum Curve { Spring, EaseIn, EaseOut, EaseInOut };
+    Q_ENUM(Curve)
+
+    explicit SpringValue(QObject *parent = nullptr);
+
+    double target() const { return m_target; }
+    double value() const { return m_value; }
+    bool isRunning() const;
+    Curve curve() const { return m_next.curve; }
+    double response() const { return m_next.spring.response; }
+    double damping() const { return m_next.spring.dampingFraction; }
+    double duration() const { return m_next.duration; }
+    double delay() const { return m_next.delay; }
+
+    void setTarget(double target);
+    void setCurve(Curve curve);
+    void setResponse(double response);
+    void setDamping(double damping);
+    void setDuration(double duration);
+    void setDelay(double delay);
+    Q_INVOKABLE void jumpTo(double value); // without motion; the target is then that value
+
+    void classBegin() override { }
+    void componentComplete() override { m_isComplete = true; }
+
+Q_SIGNALS:
+    void targetChanged();
+    void valueChanged();
+    void runningChanged();
+    void parametersChanged();
+
+private:
+    struct Parameters {
+        Curve curve = Spring;
+        SpringParameters spring;
+        double duration = 0.25;
+        double delay = 0;
+    };
+
+    // Endless: the value says when it is done.
+    class Clock : public QAbstractAnimation {
+    public:
+        explicit Clock(SpringValue &value) : m_value(value) { }
+        int duration() const override { return -1; }
+
+    protected:
+        void updateCurrentTime(int milliseconds) override { m_value.advance(milliseconds / 1000.0); }
+        void updateState(State, State) override { Q_EMIT m_value.runningChanged(); }
+
+    private:
+        SpringValue &m_value;
+    };
+
+    void changeParameter(auto &parameter, auto value);
+    void advance(double seconds);
+    bool advanceSpring(double seconds);
+    bool advanceEase(double seconds);
+    void setValue(double value);
+
+    Parameters m_next; // for the next change of target
+    Parameters m_motion; // of the present motion
+    SpringState m_start; // distance from the target when the motion began
+    SpringState m_now;
+    double m_target = 0;
+    double m_value = 0;
+    bool m_isComplete = false;
+    Clock m_clock{*this};
+};
+
+} // namespace brimshade::ui

@@ -1,0 +1,17 @@
+pragma ComponentBehavior: Bound
+import QtQuick
+
+// Plain text that a person can read, in the system's font. size is in points of the scene and may be fractional.
+Text {
+    id: root
+
+    property real size: 13
+
+    font.family: Theme.family
+    font.pointSize: root.size * Theme.pointsPerUnit
+    textFormat: Text.PlainText
+    color: Theme.primaryText
+
+    Accessible.role: Accessible.StaticText
+    Accessible.name: root.text
+}

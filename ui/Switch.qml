@@ -1,0 +1,77 @@
+pragma ComponentBehavior: Bound
+import QtQuick
+import QtQuick.Templates as T
+
+// A switch that shows a value owned elsewhere: a change is asked for by valueRequested and seen when the value follows.
+// Its text is its name to assistive programs; it is not drawn.
+T.Switch {
+    id: control
+
+    property bool value: false
+    property bool small: false
+
+    signal valueRequested(bool value)
+
+    implicitWidth: control.small ? 32 : 38
+    implicitHeight: control.small ? 18 : 22
+    checked: control.value
+    opacity: control.enabled ? 1 : 0.4
+    onToggled: {
+        const wanted = control.checked;
+        control.checked = Qt.binding(() => control.value);
+        control.valueRequested(wanted);
+    }
+
+    Accessible.role: Accessible.CheckBox
+    Accessible.name: control.text
+    Accessible.checkable: true
+    Accessible.checked: control.checked
+
+    SpringValue {
+        id: slide
+        target: control.visualPosition
+        curve: SpringValue.EaseInOut
+        duration: control.down ? 0 : 0.16
+    }
+
+    indicator: Item {
+        width: control.width
+        height: control.height
+
+        RoundedShape {
+            anchors.fill: parent
+            radius: height / 2
+            continuous: false
+            color: control.palette.dark
+        }
+        RoundedShape {
+            anchors.fill: parent
+            radius: height / 2
+            continuous: false
+            color: control.palette.highlight
+            opacity: slide.value
+        }
+        Shadow {
+            anchors.fill: knob
+            anchors.topMargin: 1
+            anchors.bottomMargin: -1
+            radius: knob.radius
+            blur: 1.5
+            color: Qt.rgba(0, 0, 0, 0.35)
+        }
+        RoundedShape {
+            id: knob
+            x: 2 + slide.value * (parent.width - width - 4)
+            y: 2
+            width: height
+            height: parent.height - 4
+            radius: height / 2
+            continuous: false
+            color: control.down ? "#f0f0f0" : "#ffffff"
+        }
+        FocusRing {
+            visible: control.visualFocus
+            cornerRadius: control.height / 2
+        }
+    }
+}

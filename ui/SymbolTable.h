@@ -1,0 +1,23 @@
+#pragma once
+#include "platform/Symbol.h"
+
+#include <QPainterPath>
+#include <QString>
+#include <QStringList>
+
+namespace brimshade::ui {
+
+// The outline of a symbol on a square of side 24, y down, filled by the winding rule; empty for an unknown name.
+// Main thread: glyphs come from the icon font.
+QPainterPath symbolOutline(const QString &name);
+
+// The outline at that configuration, in a square of side symbolExtent whose corner is the origin.
+QPainterPath symbolPath(const QString &name, const platform::SymbolConfiguration &configuration);
+
+// Side, in points, of the square that a symbol fills: a little more than the text of the same size is high.
+double symbolExtent(double pointSize);
+
+// Every name there is, sorted.
+QStringList symbolNames();
+
+} // namespace brimshade::ui
