@@ -1,0 +1,47 @@
+#pragma once
+#include "desktop/file/DesktopDescription.h"
+#include "platform/UserDefaults.h"
+
+#include <QJsonObject>
+#include <memory>
+
+namespace brimshade::desktop {
+class Desktop;
+class SceneHost;
+class VirtualDispatch;
+} // namespace brimshade::desktop
+
+namespace brimshade::app {
+
+class AppDelegate;
+
+struct SessionOptions {
+    desktop::DesktopDescription description;
+    std::unique_ptr<platform::UserDefaults> defaults; // null: empty, in memory
+    bool hasWindow = false;  // on the running session; else it is scripted
+    bool isRealTime = false; // always, with a window
+    bool hostsTray = false;
+    double scale = 1; // pixels a point, for pictures of a script
+};
+
+// One whole Brimshade on one whole desktop: built, launched and taken down in the right order. Any number
+// may live in a process, one after the other or side by side. Main thread; needs a QGuiApplication.
+class Session
+{
+public:
+    explicit Session(SessionOptions options);
+    ~Session();
+    Q_DISABLE_COPY_MOVE(Session)
+
+    QJsonObject run(const QJsonObject &command); // one script command; only when scripted
+    AppDelegate &delegate();
+    desktop::Desktop &desktop();
+    desktop::SceneHost &scene();
+    desktop::VirtualDispatch *virtualTime(); // null in real time
+
+private:
+    class Parts;
+    std::unique_ptr<Parts> m_parts;
+};
+
+} // namespace brimshade::app

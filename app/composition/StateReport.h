@@ -1,0 +1,12 @@
+#pragma once
+#include <QJsonObject>
+
+namespace brimshade::app {
+
+class AppDelegate;
+
+// What the program itself can tell for inspection: "model" with every field of NotchModel by name, "shown" and
+// "divider". Absent values are null. Main thread.
+QJsonObject stateReport(AppDelegate &delegate);
+
+} // namespace brimshade::app

@@ -1,0 +1,112 @@
+#include "app/composition/CommandLine.h"
+#include "app/composition/ScriptLoop.h"
+#include "app/composition/Session.h"
+#include "desktop/builtin/BuiltInDesktop.h"
+#include "desktop/core/Desktop.h"
+#include "desktop/file/DesktopFile.h"
+#include "desktop/scene/SceneHost.h"
+#include "desktop/services/FileDefaults.h"
+#include "i18n/Translation.h"
+
+#include <QFile>
+#include <QGuiApplication>
+#include <QQuickWindow>
+#include <cstdio>
+
+using namespace Qt::StringLiterals;
+using namespace brimshade;
+
+namespace {
+
+constexpr int kBadUse = 2;
+
+int complain(const QString &message)
+{
+    std::fprintf(stderr, "brimshade: %s\n", qUtf8Printable(message));
+    return kBadUse;
+}
+
+// Before the application object: they choose how Qt draws.
+void prepareEnvironment(const app::CommandLine &line)
+{
+    if (!line.script)
+        return;
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    qputenv("QT_QUICK_BACKEND", "software");
+}
+
+std::unique_ptr<platform::UserDefaults> openDefaults(const app::CommandLine &line)
+{
+    if (line.script && !line.defaultsFile)
+        return nullptr;
+    const QString path = line.defaultsFile.value_or(desktop::FileDefaults::defaultPath());
+    return std::make_unique<desktop::FileDefaults>(path, [](const QString &message) { complain(message); });
+}
+
+std::expected<app::SessionOptions, QString> sessionOptions(const app::CommandLine &line)
+{
+    const auto description = line.desktopFile ? desktop::readDesktopFile(*line.desktopFile)
+                                              : std::expected<desktop::DesktopDescription, QString>(
+                                                    desktop::builtInDesktop());
+    if (!description)
+        return std::unexpected(description.error());
+    return app::SessionOptions{.description = *description,
+                               .defaults = openDefaults(line),
+                               .hasWindow = !line.script,
+                               .isRealTime = line.isRealTime,
+                               .hostsTray = line.hostsTray,
+                               .scale = line.scale};
+}
+
+int runWindow(app::Session &session)
+{
+    QObject::connect(&session.desktop(), &desktop::Desktop::terminated, qApp, &QGuiApplication::quit);
+    session.scene().quickWindow()->show();
+    return QGuiApplication::exec();
+}
+
+int runScript(app::Session &session, const app::CommandLine &line, int fileDescriptor)
+{
+    const QString name = *line.script == "-"_L1 ? u"standard input"_s : *line.script;
+    app::ScriptLoop loop(fileDescriptor, name, [&](const QJsonObject &command) { return session.run(command); });
+    QObject::connect(&session.desktop(), &desktop::Desktop::terminated, qApp, [&] { loop.stop(); });
+    return line.isRealTime ? loop.runInEventLoop() : loop.runBlocking();
+}
+
+} // namespace
+
+int main(int argc, char **argv)
+{
+    QStringList arguments;
+    for (int i = 0; i < argc; ++i)
+        arguments << QString::fromLocal8Bit(argv[i]);
+    const auto line = app::parseCommandLine(arguments);
+    if (!line)
+        return complain(line.error());
+    if (line->information) {
+        std::fputs(qUtf8Printable(*line->information), stdout);
+        return 0;
+    }
+
+    QFile script;
+    if (line->script) {
+        script.setFileName(*line->script);
+        const bool opened = *line->script == "-"_L1 ? script.open(stdin, QIODevice::ReadOnly)
+                                                    : script.open(QIODevice::ReadOnly);
+        if (!opened)
+            return complain(u"%1: %2"_s.arg(*line->script, script.errorString()));
+    }
+
+    prepareEnvironment(*line);
+    QGuiApplication application(argc, argv);
+    application.setApplicationName(u"brimshade"_s);
+    application.setApplicationDisplayName(u"Brimshade"_s);
+    application.setDesktopFileName(u"org.brimshade.Brimshade"_s);
+    i18n::installTranslation(application, QLocale());
+
+    auto options = sessionOptions(*line);
+    if (!options)
+        return complain(options.error());
+    app::Session session(std::move(*options));
+    return line->script ? runScript(session, *line, script.handle()) : runWindow(session);
+}

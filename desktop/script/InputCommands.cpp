@@ -1,0 +1,134 @@
+#include "ScriptRunner.h"
+#include "desktop/scene/SceneHost.h"
+
+#include <QTextBoundaryFinder>
+
+using namespace Qt::StringLiterals;
+
+namespace brimshade::desktop {
+
+namespace {
+
+constexpr int kDragSteps = 10;
+
+MouseButton buttonOf(Arguments &arguments)
+{
+    const QString button = arguments.text(u"button"_s, u"left"_s);
+    if (button != "left"_L1 && button != "right"_L1)
+        arguments.fail(u"button"_s, u"\"left\" or \"right\""_s);
+    return button == "right"_L1 ? MouseButton::right : MouseButton::left;
+}
+
+} // namespace
+
+void ScriptRunner::clickAt(QPointF at, bool right, std::uint64_t modifiers)
+{
+    const MouseButton button = right ? MouseButton::right : MouseButton::left;
+    m_scene.movePointer(at, modifiers);
+    m_clock.settle();
+    m_scene.press(button, modifiers);
+    m_clock.settle();
+    m_scene.release(button, modifiers);
+}
+
+ScriptRunner::Result ScriptRunner::move(Arguments &arguments)
+{
+    const QPointF to = arguments.point(u"to"_s);
+    const auto modifiers = arguments.modifiers();
+    if (const auto fault = arguments.finish())
+        return std::unexpected(*fault);
+    m_scene.movePointer(to, modifiers);
+    return {};
+}
+
+ScriptRunner::Result ScriptRunner::click(Arguments &arguments)
+{
+    const QPointF at = arguments.point(u"at"_s);
+    const MouseButton button = buttonOf(arguments);
+    const auto modifiers = arguments.modifiers();
+    if (const auto fault = arguments.finish())
+        return std::unexpected(*fault);
+    clickAt(at, button == MouseButton::right, modifiers);
+    return {};
+}
+
+ScriptRunner::Result ScriptRunner::press(Arguments &arguments)
+{
+    const QPointF at = arguments.point(u"at"_s);
+    const MouseButton button = buttonOf(arguments);
+    const auto modifiers = arguments.modifiers();
+    if (const auto fault = arguments.finish())
+        return std::unexpected(*fault);
+    m_scene.movePointer(at, modifiers);
+    m_clock.settle();
+    m_scene.press(button, modifiers);
+    return {};
+}
+
+ScriptRunner::Result ScriptRunner::release(Arguments &arguments)
+{
+    const bool moves = arguments.has(u"at"_s);
+    const QPointF at = moves ? arguments.point(u"at"_s) : QPointF();
+    const MouseButton button = buttonOf(arguments);
+    const auto modifiers = arguments.modifiers();
+    if (const auto fault = arguments.finish())
+        return std::unexpected(*fault);
+    if (moves) {
+        m_scene.movePointer(at, modifiers);
+        m_clock.settle();
+    }
+    m_scene.release(button, modifiers);
+    return {};
+}
+
+ScriptRunner::Result ScriptRunner::drag(Arguments &arguments)
+{
+    const QPointF from = arguments.point(u"from"_s);
+    const QPointF to = arguments.point(u"to"_s);
+    const auto modifiers = arguments.modifiers();
+    if (const auto fault = arguments.finish())
+        return std::unexpected(*fault);
+    m_scene.movePointer(from, modifiers);
+    m_clock.settle();
+    m_scene.press(MouseButton::left, modifiers);
+    for (int step = 1; step <= kDragSteps; ++step) {
+        m_clock.settle();
+        m_scene.movePointer(from + (to - from) * step / kDragSteps, modifiers);
+    }
+    m_clock.settle();
+    m_scene.release(MouseButton::left, modifiers);
+    return {};
+}
+
+ScriptRunner::Result ScriptRunner::key(Arguments &arguments)
+{
+    platform::Event event;
+    const int code = arguments.integer(u"code"_s);
+    event.characters = arguments.text(u"characters"_s, QString());
+    event.modifierFlags = arguments.modifiers();
+    if (code < 0 || code > 0xffff)
+        arguments.fail(u"code"_s, u"0 to 65535"_s);
+    if (const auto fault = arguments.finish())
+        return std::unexpected(*fault);
+    event.keyCode = static_cast<std::uint16_t>(code);
+    m_scene.key(event);
+    return {};
+}
+
+ScriptRunner::Result ScriptRunner::type(Arguments &arguments)
+{
+    const QString text = arguments.text(u"text"_s);
+    if (const auto fault = arguments.finish())
+        return std::unexpected(*fault);
+    QTextBoundaryFinder graphemes(QTextBoundaryFinder::Grapheme, text);
+    for (qsizetype from = 0, to = graphemes.toNextBoundary(); to >= 0; from = to, to = graphemes.toNextBoundary()) {
+        platform::Event event;
+        event.characters = text.mid(from, to - from);
+        event.keyCode = keyCodeForCharacter(event.characters);
+        m_scene.key(event);
+        m_clock.settle();
+    }
+    return {};
+}
+
+} // namespace brimshade::desktop

@@ -1,0 +1,150 @@
+#include "StateAnswer.h"
+#include "Json.h"
+#include "desktop/core/Desktop.h"
+#include "desktop/core/InputRouter.h"
+#include "desktop/core/Inspection.h"
+#include "desktop/core/MenuBar.h"
+#include "desktop/core/MenuHost.h"
+#include "desktop/core/WindowStack.h"
+#include "desktop/services/HotkeyRegistry.h"
+#include "desktop/services/LogWriter.h"
+#include "desktop/services/ScriptedLoginItem.h"
+
+using namespace Qt::StringLiterals;
+
+namespace brimshade::desktop {
+
+namespace {
+
+QJsonArray menuBarAnswer(const MenuBar &bar)
+{
+    QJsonArray items;
+    for (const BarItem &item : bar.items()) {
+        items.append(QJsonObject{{u"pid"_s, item.pid},
+                                 {u"identifier"_s, json::textOrNull(item.identifier)},
+                                 {u"title"_s, json::textOrNull(item.title)},
+                                 {u"frame"_s, json::rect(item.frame)},
+                                 {u"drawn"_s, item.drawn}});
+    }
+    return items;
+}
+
+QJsonValue statusItemAnswer(const MenuBar &bar)
+{
+    for (const BarItem &item : bar.items()) {
+        if (item.isOwn)
+            return QJsonObject{{u"length"_s, bar.ownItemLength()},
+                               {u"frame"_s, json::rect(item.frame)},
+                               {u"drawn"_s, item.drawn}};
+    }
+    return {};
+}
+
+QJsonArray windowsAnswer(const WindowStack &stack)
+{
+    QJsonArray windows;
+    for (const DesktopWindow *window : stack.windows()) {
+        windows.append(QJsonObject{{u"name"_s, window->attributes().name},
+                                   {u"title"_s, window->attributes().title},
+                                   {u"frame"_s, json::rect(window->frame())},
+                                   {u"visible"_s, window->isVisible()},
+                                   {u"isKey"_s, window->isKeyWindow()}});
+    }
+    return windows;
+}
+
+QJsonValue panelAnswer(const WindowStack &stack)
+{
+    const DesktopWindow *panel = stack.named(u"panel"_s);
+    if (!panel)
+        return {};
+    return QJsonObject{{u"frame"_s, json::rect(panel->frame())},
+                       {u"onScreen"_s, panel->isVisible()},
+                       {u"isKey"_s, panel->isKeyWindow()}};
+}
+
+QJsonValue stripAnswer(const WindowStack &stack)
+{
+    const DesktopWindow *strip = stack.named(u"strip"_s);
+    return strip && strip->isVisible() ? QJsonValue(json::rect(strip->frame())) : QJsonValue();
+}
+
+QJsonArray eventsAnswer(const std::vector<SyntheticEvent> &events)
+{
+    QJsonArray answer;
+    for (const SyntheticEvent &each : events) {
+        answer.append(QJsonObject{{u"type"_s, each.event.type},
+                                  {u"at"_s, json::point(each.event.location)},
+                                  {u"flags"_s, static_cast<qint64>(each.event.flags)},
+                                  {u"clickState"_s, static_cast<qint64>(each.event.clickState)},
+                                  {u"time"_s, each.time}});
+    }
+    return answer;
+}
+
+QJsonArray actionsAnswer(const std::vector<PerformedAction> &actions)
+{
+    QJsonArray answer;
+    for (const PerformedAction &each : actions) {
+        answer.append(QJsonObject{{u"pid"_s, each.pid},
+                                  {u"identifier"_s, json::textOrNull(each.identifier)},
+                                  {u"action"_s, each.action},
+                                  {u"result"_s, each.result}});
+    }
+    return answer;
+}
+
+QJsonArray logAnswer(const std::vector<LogEntry> &entries)
+{
+    QJsonArray answer;
+    for (const LogEntry &each : entries) {
+        const QString level = each.level == platform::LogLevel::error ? u"error"_s : u"info"_s;
+        answer.append(QJsonObject{{u"level"_s, level}, {u"text"_s, each.text}});
+    }
+    return answer;
+}
+
+QJsonValue hotkeyAnswer(const HotkeyRegistry &hotkeys)
+{
+    const auto current = hotkeys.current();
+    if (!current)
+        return {};
+    return QJsonObject{{u"keyCode"_s, static_cast<qint64>(current->keyCode)},
+                       {u"modifiers"_s, static_cast<qint64>(current->modifiers)}};
+}
+
+QJsonValue loginItemAnswer(const ScriptedLoginItem *item)
+{
+    if (!item)
+        return {};
+    return QJsonObject{{u"status"_s, static_cast<int>(item->status())},
+                       {u"failure"_s, item->failure() ? QJsonValue(*item->failure()) : QJsonValue()}};
+}
+
+} // namespace
+
+QJsonObject stateAnswer(Desktop &desktop)
+{
+    MenuBar &bar = desktop.menuBar();
+    WindowStack &windows = desktop.windows();
+    Inspection &inspection = desktop.inspection();
+    const bool menuOpen = desktop.menus().openMenu();
+    return {{u"panel"_s, panelAnswer(windows)},
+            {u"strip"_s, stripAnswer(windows)},
+            {u"statusItem"_s, statusItemAnswer(bar)},
+            {u"hotkey"_s, hotkeyAnswer(desktop.hotkeys())},
+            {u"menuBar"_s, menuBarAnswer(bar)},
+            {u"windows"_s, windowsAnswer(windows)},
+            {u"menu"_s, menuOpen ? QJsonValue(QJsonArray::fromStringList(desktop.menus().titles())) : QJsonValue()},
+            {u"defaults"_s, QJsonObject::fromVariantMap(desktop.storedDefaults())},
+            {u"loginItem"_s, loginItemAnswer(desktop.scriptedLoginItem())},
+            {u"pointer"_s, json::point(desktop.input().pointer())},
+            {u"openedURLs"_s, QJsonArray::fromStringList(inspection.takeOpenedURLs())},
+            {u"prompts"_s, inspection.promptCount()},
+            {u"events"_s, eventsAnswer(inspection.takeEvents())},
+            {u"actions"_s, actionsAnswer(inspection.takeActions())},
+            {u"requests"_s, static_cast<qint64>(inspection.requestCount())},
+            {u"log"_s, logAnswer(desktop.log().take())}};
+}
+
+} // namespace brimshade::desktop

@@ -1,0 +1,146 @@
+"""The program from outside: its command line, bad files, bad scripts, exit statuses and messages."""
+import json
+import pathlib
+import subprocess
+import sys
+import tempfile
+import unittest
+
+PROGRAM = sys.argv.pop(1)
+SCREEN = {"name": "Built-in Display", "frame": [0, 0, 1512, 982], "menuBarHeight": 37, "notch": [663, 849]}
+
+
+def brimshade(*arguments, script="", **options):
+    return subprocess.run([PROGRAM, *arguments], input=script, capture_output=True, text=True, timeout=120, **options)
+
+
+def play(*commands, arguments=()):
+    """Plays commands (objects, or texts as they stand) and returns the finished process and its answers."""
+    lines = "".join((c if isinstance(c, str) else json.dumps(c)) + "\n" for c in commands)
+    done = brimshade("--script", "-", *arguments, script=lines)
+    return done, [json.loads(line) for line in done.stdout.splitlines()]
+
+
+class Files(unittest.TestCase):
+    def setUp(self):
+        self.folder = tempfile.TemporaryDirectory()
+        self.addCleanup(self.folder.cleanup)
+
+    def file(self, name, content):
+        path = pathlib.Path(self.folder.name) / name
+        path.write_bytes(content if isinstance(content, bytes) else content.encode())
+        return str(path)
+
+    def desktop(self, **fields):
+        return self.file("desktop.json", json.dumps({"screens": [SCREEN], "applications": [], **fields}))
+
+
+class CommandLine(Files):
+    def test_bad_command_lines_exit_with_2_and_say_why(self):
+        for arguments, reason in [
+            (["--nonsense"], "nonsense"),
+            (["stray"], "stray"),
+            (["--real-time"], "--script"),
+            (["--script", "-", "--tray", "--no-tray"], "exclude"),
+            (["--script", "-", "--scale", "9"], "1 to 4"),
+            (["--script"], "script"),
+            (["--script", "/nowhere/script.jsonl"], "/nowhere/script.jsonl"),
+            (["--script", "-", "--desktop", "/nowhere/desktop.json"], "/nowhere/desktop.json"),
+        ]:
+            with self.subTest(arguments=arguments):
+                done = brimshade(*arguments)
+                self.assertEqual(done.returncode, 2)
+                self.assertIn(reason, done.stderr)
+                self.assertEqual(done.stderr.count("\n"), 1, done.stderr)
+
+    def test_help_and_version_need_no_display(self):
+        self.assertIn("--desktop", brimshade("--help").stdout)
+        self.assertRegex(brimshade("--version").stdout, r"^Brimshade \d+\.\d+\.\d+\n$")
+
+
+class DesktopFile(Files):
+    def test_a_bad_file_exits_with_2_and_names_file_and_place(self):
+        app = {"pid": 5, "extras": [{"identifier": "a"}]}
+        for text, place in [
+            ('{"screens": [', "desktop.json"),
+            ("[]", "desktop.json"),
+            (json.dumps({"screens": [SCREEN], "nonsense": 1}), "nonsense"),
+            (json.dumps({"screens": []}), "screens"),
+            (json.dumps({"screens": [{**SCREEN, "notch": [849, 663]}]}), "screens[0].notch"),
+            (json.dumps({"screens": [SCREEN], "applications": [{"name": "x"}]}), "applications[0].pid"),
+            (json.dumps({"screens": [SCREEN], "applications": [app, app]}), "applications[1].pid"),
+            (json.dumps({"screens": [SCREEN], "applications": [{"pid": 5, "extras": [{"width": "x"}]}]}),
+             "applications[0].extras[0].width: expected a number"),
+        ]:
+            with self.subTest(place=place):
+                done = brimshade("--script", "-", "--desktop", self.file("desktop.json", text))
+                self.assertEqual(done.returncode, 2, done.stderr)
+                self.assertIn("desktop.json", done.stderr)
+                self.assertIn(place, done.stderr)
+
+    def test_pictures_that_are_none_and_missing_pictures_cost_no_item(self):
+        broken = self.file("broken.png", b"\x89PNG\r\n\x1a\n" + b"\xff" * 64)
+        huge = self.file("huge.svg", '<svg xmlns="http://www.w3.org/2000/svg" width="1e9" height="1e9"><rect/></svg>')
+        apps = [{"pid": 10 + n, "name": f"App {n}", "icon": icon, "bundlePath": f"/Applications/App{n}.app",
+                 "extras": [{"identifier": str(n)}]}
+                for n, icon in enumerate([broken, huge, "/nowhere.png", "no-such-theme-icon", "#zzzzzz", ""])]
+        done, answers = play({"do": "click", "at": [1, 1]}, {"do": "state"},
+                             arguments=["--desktop", self.desktop(applications=apps)])
+        self.assertEqual(done.returncode, 0, done.stderr)
+        self.assertEqual(sum(item["pid"] >= 10 and item["pid"] < 16 for item in answers[1]["menuBar"]), 6)
+
+
+class Script(Files):
+    def test_a_line_that_is_no_json_object_ends_the_script_with_2_and_its_number(self):
+        for line in ["{", "[]", "7", "nonsense", '{"do":"state"} x']:
+            with self.subTest(line=line):
+                done, answers = play({"do": "advance", "seconds": 0}, line, {"do": "state"})
+                self.assertEqual(done.returncode, 2)
+                self.assertEqual(len(answers), 1)
+                self.assertIn(":2", done.stderr)
+
+    def test_a_bad_command_is_answered_and_the_script_goes_on(self):
+        bad = [
+            ({}, "do"),
+            ({"do": "fly"}, "fly"),
+            ({"do": "advance"}, "seconds"),
+            ({"do": "advance", "seconds": -1}, "seconds"),
+            ({"do": "advance", "seconds": 1, "minutes": 2}, "minutes"),
+            ({"do": "move", "to": [1]}, "to"),
+            ({"do": "click", "at": [1, 1], "button": "middle"}, "button"),
+            ({"do": "click", "at": [1, 1], "modifiers": ["hyper"]}, "modifiers"),
+            ({"do": "key", "code": 70000}, "code"),
+            ({"do": "choose", "title": "Open"}, "no menu"),
+            ({"do": "press-element", "name": "No such thing"}, "0 interactive"),
+            ({"do": "quit", "pid": 99999}, "99999"),
+            ({"do": "launch", "application": {"pid": 1, "shape": "round"}}, "application.shape"),
+            ({"do": "screens", "screens": []}, "screens"),
+            ({"do": "loginItem", "status": 7}, "status"),
+            ({"do": "picture", "file": str(pathlib.Path(self.folder.name) / "p.png"), "of": "setup"}, "setup"),
+            ({"do": "picture", "file": "/proc/none/p.png"}, "file"),
+        ]
+        done, answers = play(*[command for command, _ in bad], {"do": "state"},
+                             arguments=["--desktop", self.desktop(defaults={"onboardingDone": True})])
+        self.assertEqual(done.returncode, 0, done.stderr)
+        self.assertEqual(len(answers), len(bad) + 1)
+        for (command, reason), answer in zip(bad, answers):
+            with self.subTest(command=command):
+                self.assertFalse(answer["ok"])
+                self.assertIn(reason, answer["error"])
+        self.assertTrue(answers[-1]["ok"])
+
+    def test_settings_are_kept_in_the_defaults_file_and_a_damaged_one_is_set_aside(self):
+        store = pathlib.Path(self.folder.name) / "settings.json"
+        first, _ = play({"do": "state"}, arguments=["--defaults", str(store)])
+        self.assertEqual(first.returncode, 0, first.stderr)
+        self.assertEqual(json.loads(store.read_text())["NSStatusItem Preferred Position BrimshadeButton"], 5)
+        store.write_text('{"showVisibleItems": fal')
+        again, answers = play({"do": "state"}, arguments=["--defaults", str(store)])
+        self.assertEqual(again.returncode, 0, again.stderr)
+        self.assertIn("settings.json", again.stderr)
+        self.assertTrue(answers[0]["model"]["showVisible"])
+        self.assertEqual([p.read_text() for p in store.parent.glob("*damaged*")], ['{"showVisibleItems": fal'])
+
+
+if __name__ == "__main__":
+    unittest.main(verbosity=2)
