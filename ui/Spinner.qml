@@ -1,5 +1,6 @@
 pragma ComponentBehavior: Bound
 import QtQuick
+import Brimshade.Ui
 
 // Eight fading spokes that turn in steps, as long as they can be seen.
 Item {

@@ -6,8 +6,7 @@
 namespace brimshade::ui {
 
 // Animations of this thread go by this clock, to the millisecond, while it exists.
-class ManualAnimationDriver : public QAnimationDriver
-{
+class ManualAnimationDriver : public QAnimationDriver {
 public:
     ManualAnimationDriver()
     {
@@ -42,8 +41,7 @@ protected:
     }
 
 private:
-    class Keeper : public QAbstractAnimation
-    {
+    class Keeper : public QAbstractAnimation {
     public:
         int duration() const override { return -1; }
 

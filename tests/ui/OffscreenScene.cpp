@@ -1,0 +1,125 @@
+#include "OffscreenScene.h"
+
+#include <QMouseEvent>
+#include <QQmlComponent>
+#include <QQuickGraphicsDevice>
+#include <QQuickRenderTarget>
+#include <algorithm>
+
+namespace brimshade::ui {
+
+OffscreenScene::OffscreenScene(QSize size, double scale)
+    : m_engine(std::make_unique<QQmlEngine>()), m_control(std::make_unique<QQuickRenderControl>()),
+      m_window(std::make_unique<QQuickWindow>(m_control.get())),
+      m_image((QSizeF(size) * scale).toSize(), QImage::Format_ARGB32_Premultiplied)
+{
+    m_engine->addImportPath(QStringLiteral("qrc:/qt/qml"));
+    m_window->setColor(Qt::transparent);
+    m_window->setGeometry(QRect(QPoint(), size));
+    m_window->contentItem()->setSize(size);
+    m_image.setDevicePixelRatio(scale);
+    auto target = QQuickRenderTarget::fromPaintDevice(&m_image);
+    target.setDevicePixelRatio(scale);
+    m_window->setRenderTarget(target);
+    m_control->initialize();
+}
+
+OffscreenScene::~OffscreenScene()
+{
+    m_root.reset();
+    m_window.reset();
+    m_control.reset();
+}
+
+QQuickItem *OffscreenScene::load(const QByteArray &qml, const QVariantMap &properties)
+{
+    QQmlComponent component(m_engine.get());
+    component.setData(qml, {});
+    if (component.isReady())
+        m_root.reset(qobject_cast<QQuickItem *>(component.createWithInitialProperties(properties)));
+    if (!m_root) {
+        qWarning() << component.errors();
+        return nullptr;
+    }
+    m_root->setParentItem(m_window->contentItem());
+    m_root->setSize(m_window->size());
+    settle();
+    return m_root.get();
+}
+
+QList<QQuickItem *> OffscreenScene::findAll(const QString &objectName) const
+{
+    QList<QQuickItem *> found;
+    QList<QQuickItem *> pending{m_window->contentItem()};
+    while (!pending.isEmpty()) {
+        QQuickItem *item = pending.takeFirst();
+        if (item->objectName() == objectName)
+            found << item;
+        pending << item->childItems();
+    }
+    return found;
+}
+
+QQuickItem *OffscreenScene::find(const QString &objectName) const
+{
+    const auto all = findAll(objectName);
+    return all.isEmpty() ? nullptr : all.first();
+}
+
+QImage OffscreenScene::picture()
+{
+    settle();
+    m_image.fill(Qt::transparent);
+    m_control->beginFrame();
+    m_control->sync();
+    m_control->render();
+    m_control->endFrame();
+    return m_image.copy();
+}
+
+void OffscreenScene::settle()
+{
+    // Polishing may ask for more polishing, and queued signals for more events: two rounds reach the end.
+    for (int round = 0; round < 2; ++round) {
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        QCoreApplication::processEvents();
+        m_control->polishItems();
+    }
+}
+
+void OffscreenScene::advance(int milliseconds)
+{
+    constexpr int frame = 16;
+    for (int left = milliseconds; left > 0; left -= frame) {
+        m_clock.step(std::min(left, frame));
+        m_control->polishItems();
+    }
+    settle();
+}
+
+QRectF OffscreenScene::frameOf(const QQuickItem *item) const
+{
+    return item->mapRectToScene(QRectF(0, 0, item->width(), item->height()));
+}
+
+void OffscreenScene::send(QEvent::Type type, QPointF at, Qt::MouseButton button, Qt::MouseButtons buttons)
+{
+    QMouseEvent event(type, at, at, at, button, buttons, Qt::NoModifier);
+    event.setTimestamp(quint64(m_clock.now()));
+    QCoreApplication::sendEvent(m_window.get(), &event);
+    settle();
+}
+
+void OffscreenScene::movePointer(QPointF to)
+{
+    send(QEvent::MouseMove, to, Qt::NoButton, Qt::NoButton);
+}
+
+void OffscreenScene::click(QPointF at, Qt::MouseButton button)
+{
+    movePointer(at);
+    send(QEvent::MouseButtonPress, at, button, button);
+    send(QEvent::MouseButtonRelease, at, button, Qt::NoButton);
+}
+
+} // namespace brimshade::ui

@@ -1,0 +1,45 @@
+#pragma once
+#include "ManualAnimationDriver.h"
+
+#include <QImage>
+#include <QQmlEngine>
+#include <QQuickItem>
+#include <QQuickRenderControl>
+#include <QQuickWindow>
+#include <QVariantMap>
+#include <memory>
+
+namespace brimshade::ui {
+
+// A QML component rendered without a display by the software renderer, at any scale, under a clock of its own.
+class OffscreenScene {
+public:
+    OffscreenScene(QSize size, double scale);
+    ~OffscreenScene();
+
+    // The root item fills the scene; null, with the errors printed, when it cannot be made.
+    QQuickItem *load(const QByteArray &qml, const QVariantMap &properties = {});
+    QQuickItem *root() const { return m_root.get(); }
+    QQuickItem *find(const QString &objectName) const; // anywhere below the root; null when there is none
+    QList<QQuickItem *> findAll(const QString &objectName) const;
+    QQuickWindow *window() const { return m_window.get(); }
+
+    QImage picture(); // transparent where nothing is drawn
+    void settle(); // bindings, polish and delegates are done
+    void advance(int milliseconds); // frames of 16 ms, nothing rendered
+    QRectF frameOf(const QQuickItem *item) const; // in the scene, transforms applied
+    void movePointer(QPointF to);
+    void click(QPointF at, Qt::MouseButton button = Qt::LeftButton);
+
+private:
+    void send(QEvent::Type type, QPointF at, Qt::MouseButton button, Qt::MouseButtons buttons);
+
+    ManualAnimationDriver m_clock;
+    std::unique_ptr<QQmlEngine> m_engine;
+    std::unique_ptr<QQuickRenderControl> m_control;
+    std::unique_ptr<QQuickWindow> m_window;
+    std::unique_ptr<QQuickItem> m_root;
+    QImage m_image;
+};
+
+} // namespace brimshade::ui
