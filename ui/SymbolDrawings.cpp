@@ -1,6 +1,7 @@
 #include "SymbolDrawings.h"
 
 #include <QPainterPathStroker>
+#include <QTransform>
 #include <cmath>
 #include <initializer_list>
 #include <numbers>
@@ -9,10 +10,16 @@ namespace brimshade::ui {
 
 namespace {
 
+// Outlines are combined on the fine grid: the toolkit flattens curves to a fixed tolerance when it does so.
+QPainterPath fine(const QPainterPath &path)
+{
+    return QTransform::fromScale(kFineGrid, kFineGrid).map(path);
+}
+
 QPainterPath stroked(const QPainterPath &path, double width)
 {
     QPainterPathStroker stroker;
-    stroker.setWidth(width);
+    stroker.setWidth(width * kFineGrid);
     stroker.setCapStyle(Qt::RoundCap);
     stroker.setJoinStyle(Qt::RoundJoin);
     return stroker.createStroke(path).simplified();
@@ -27,14 +34,14 @@ QPainterPath polyline(std::initializer_list<QPointF> points)
         else
             path.lineTo(point);
     }
-    return path;
+    return fine(path);
 }
 
 QPainterPath disc(double x, double y, double radius)
 {
     QPainterPath path;
     path.addEllipse(QPointF(x, y), radius, radius);
-    return path;
+    return fine(path);
 }
 
 QPainterPath ring(double x, double y, double radius, double width)
@@ -46,7 +53,7 @@ QPainterPath box(const QRectF &rect, double radius)
 {
     QPainterPath path;
     path.addRoundedRect(rect, radius, radius);
-    return path;
+    return fine(path);
 }
 
 QPainterPath frame(const QRectF &rect, double radius, double width)
@@ -62,7 +69,7 @@ QPainterPath arc(double x, double y, double radius, double from, double sweep)
     QPainterPath path;
     path.arcMoveTo(bounds, from);
     path.arcTo(bounds, from, sweep);
-    return path;
+    return fine(path);
 }
 
 QPainterPath checkmark()
@@ -108,7 +115,7 @@ QPainterPath drawBattery75()
     knob.moveTo(21.2, 10.3);
     knob.quadTo(23, 12, 21.2, 13.7);
     knob.closeSubpath();
-    return path.united(knob);
+    return path.united(fine(knob));
 }
 
 QPainterPath drawCheckmarkSeal()
@@ -133,7 +140,7 @@ QPainterPath drawCircleGrid()
     QPainterPath path;
     for (const double x : {7.2, 16.8}) {
         for (const double y : {7.2, 16.8})
-            path.addEllipse(QPointF(x, y), 3.9, 3.9);
+            path.addPath(disc(x, y, 3.9));
     }
     return path;
 }
@@ -178,10 +185,12 @@ QPainterPath drawLockShield()
     shield.cubicTo(7.4, 20.4, 4.2, 16.4, 4.2, 11);
     shield.lineTo(4.2, 4.7);
     shield.cubicTo(7, 4.5, 9.6, 3.6, 12, 1.8);
-    QPainterPath shackle = polyline({{9.9, 11.4}, {9.9, 9.4}});
+    QPainterPath shackle;
+    shackle.moveTo(9.9, 11.4);
+    shackle.lineTo(9.9, 9.4);
     shackle.cubicTo(9.9, 6.7, 14.1, 6.7, 14.1, 9.4);
     shackle.lineTo(14.1, 11.4);
-    return shield.subtracted(box({8.2, 10.8, 7.6, 5.6}, 1.1).united(stroked(shackle, 1.4)));
+    return fine(shield).subtracted(box({8.2, 10.8, 7.6, 5.6}, 1.1).united(stroked(fine(shackle), 1.4)));
 }
 
 QPainterPath drawMoon()

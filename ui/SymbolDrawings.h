@@ -1,8 +1,11 @@
 #pragma once
 #include <QPainterPath>
 
-// The symbols that the icon font lacks, on its grid: a square of side 24, y down, two units of margin.
+// The symbols that the icon font lacks. They are thought of on its grid, a square of side 24 with y down and two units
+// of margin, and returned kFineGrid times as large.
 namespace brimshade::ui {
+
+inline constexpr double kFineGrid = 20;
 
 QPainterPath drawAccessibility();
 QPainterPath drawAirplayAudio();

@@ -64,12 +64,12 @@ constexpr std::array kSymbols{
     Symbol{u"xmark", 0xF156},
 };
 
-constexpr double kGrid = 24; // both the font's and the drawings'
+static_assert(kSymbolGrid == 24 * kFineGrid);
 
 QPainterPath glyphOutline(char16_t glyph)
 {
     QFont font(QStringLiteral("Material Design Icons"));
-    font.setPixelSize(240); // ten times the grid: no hint moves a point visibly
+    font.setPixelSize(int(kSymbolGrid));
     font.setHintingPreference(QFont::PreferNoHinting);
     font.setStyleStrategy(QFont::NoFontMerging);
     const QRawFont raw = QRawFont::fromFont(font);
@@ -77,10 +77,7 @@ QPainterPath glyphOutline(char16_t glyph)
     if (indexes.isEmpty() || indexes.first() == 0)
         return {};
     // The em square of the font is the grid, with its bottom at the descent.
-    const double scale = kGrid / raw.pixelSize();
-    QTransform toGrid = QTransform::fromScale(scale, scale);
-    toGrid.translate(0, raw.pixelSize() - raw.descent());
-    return toGrid.map(raw.pathForGlyph(indexes.first()));
+    return raw.pathForGlyph(indexes.first()).translated(0, kSymbolGrid - raw.descent());
 }
 
 const Symbol *find(const QString &name)
@@ -120,14 +117,13 @@ QPainterPath symbolPath(const QString &name, const platform::SymbolConfiguration
     QPainterPath path = symbolOutline(name);
     if (path.isEmpty())
         return path;
-    if (const double extra = emboldening(configuration.weight) * kGrid; extra > 0) {
+    if (const double extra = emboldening(configuration.weight) * kSymbolGrid; extra > 0) {
         QPainterPathStroker stroker;
         stroker.setWidth(extra);
         stroker.setJoinStyle(Qt::RoundJoin);
-        path.setFillRule(Qt::WindingFill);
         path = path.united(stroker.createStroke(path));
     }
-    const double scale = symbolExtent(configuration.pointSize) / kGrid;
+    const double scale = symbolExtent(configuration.pointSize) / kSymbolGrid;
     return QTransform::fromScale(scale, scale).map(path);
 }
 

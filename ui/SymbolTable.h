@@ -7,8 +7,10 @@
 
 namespace brimshade::ui {
 
-// The outline of a symbol on a square of side 24, y down, filled by the winding rule; empty for an unknown name.
-// Main thread: glyphs come from the icon font.
+inline constexpr double kSymbolGrid = 480;
+
+// The outline of a symbol on a square of side kSymbolGrid, y down; empty for an unknown name. Main thread: glyphs come
+// from the icon font.
 QPainterPath symbolOutline(const QString &name);
 
 // The outline at that configuration, in a square of side symbolExtent whose corner is the origin.

@@ -12,7 +12,9 @@ using namespace Qt::StringLiterals;
 TEST(Symbols, EveryOneHasAnOutlineWithinItsSquare)
 {
     for (const QString &name : symbolNames()) {
-        const QRectF bounds = symbolOutline(name).boundingRect();
+        const QRectF inGrid = symbolOutline(name).boundingRect();
+        const double unit = kSymbolGrid / 24;
+        const QRectF bounds(inGrid.topLeft() / unit, inGrid.size() / unit);
         SCOPED_TRACE(qPrintable(name));
         EXPECT_GT(std::max(bounds.width(), bounds.height()), 10);
         EXPECT_GE(bounds.left(), 0);
