@@ -1,0 +1,66 @@
+#pragma once
+#include "MenuExtra.h"
+#include "NotchGeometry.h"
+#include "platform/Accessibility.h"
+
+#include <map>
+#include <optional>
+
+namespace brimshade::platform {
+class Dispatch;
+class Log;
+struct Platform;
+struct RunningApplication;
+class Workspace;
+} // namespace brimshade::platform
+
+namespace brimshade::menubar {
+
+// What the program reads of, and does to, other applications' menu bar items. Each call blocks its thread for what
+// the applications take to answer. scan and appIcon belong to the scan queue, where calls never overlap:
+// they share a cache without a lock. The rest may be called on any thread.
+class MenuBarAccess {
+public:
+    // The platform's services outlive this object.
+    explicit MenuBarAccess(const platform::Platform &platform);
+    ~MenuBarAccess();
+
+    // Every item of every other application, left to right. Never fails: an application that cannot be read
+    // contributes none, an attribute that cannot be read its default. dividerFrame is in display space; absent when
+    // no divider tells hidden items from others.
+    ExtraList scan(const platform::Screen &screen, std::optional<QRectF> dividerFrame);
+
+    // Display space; a part that cannot be read is 0.
+    QRectF frame(const platform::AXUIElement &element) const;
+    std::optional<NotchExtent> notchExtent(const platform::Screen &screen) const;
+    // Of the system's menu bar agent; absent where there is none or it cannot be read.
+    std::optional<QRectF> firstSystemButtonFrame() const;
+
+    // Presses the item on a global queue and returns at once. A failure is logged.
+    void activate(const MenuExtra &extra) const;
+    void press(const platform::AXUIElement &element, const MenuExtra &extra) const;
+
+    QString appName(const platform::RunningApplication &application) const;
+    platform::Image appIcon(const platform::RunningApplication &application);
+
+private:
+    struct Icon {
+        platform::Image image;
+        QColor tint; // of the image
+    };
+
+    struct Owner;
+
+    bool isThisProgram(const platform::RunningApplication &application) const;
+    MenuExtra read(const Owner &owner, const platform::AXUIElement &item, int position);
+    const Icon &cachedIcon(const QString &bundlePath);
+    Icon iconOf(const platform::RunningApplication &application);
+
+    platform::Accessibility &m_accessibility;
+    platform::Dispatch &m_dispatch;
+    platform::Log &m_log;
+    platform::Workspace &m_workspace;
+    std::map<QString, Icon> m_icons; // by outer bundle path; never emptied
+};
+
+} // namespace brimshade::menubar
