@@ -1,0 +1,65 @@
+#include "BusCall.h"
+
+#include "WireValue.h"
+
+#include <QDBusMessage>
+#include <QDBusPendingCallWatcher>
+
+namespace brimshade::desktop::tray {
+
+namespace {
+
+constexpr int kTimeLimitMilliseconds = 2000;
+
+QDBusMessage makeCall(const BusAddress &to, const QString &method, const QVariantList &arguments)
+{
+    auto message = QDBusMessage::createMethodCall(to.service, to.path, to.interface, method);
+    message.setArguments(arguments);
+    message.setAutoStartService(false);
+    return message;
+}
+
+BusReply readReply(const QDBusPendingCall &call)
+{
+    if (call.isError())
+        return std::unexpected(BusError{call.error().name(), call.error().message()});
+    return plainArguments(call.reply().arguments());
+}
+
+} // namespace
+
+bool BusError::isUnknown() const
+{
+    return name.startsWith(u"org.freedesktop.DBus.Error.Unknown");
+}
+
+bool BusError::isTimeout() const
+{
+    return name == u"org.freedesktop.DBus.Error.NoReply" || name == u"org.freedesktop.DBus.Error.Timeout"
+        || name == u"org.freedesktop.DBus.Error.TimedOut";
+}
+
+void callAsync(QDBusConnection bus, const BusAddress &to, const QString &method, const QVariantList &arguments,
+               QObject *context, ReplyHandler handler)
+{
+    const auto call = bus.asyncCall(makeCall(to, method, arguments), kTimeLimitMilliseconds);
+    auto *watcher = new QDBusPendingCallWatcher(call, context);
+    QObject::connect(watcher, &QDBusPendingCallWatcher::finished, context,
+                     [handler = std::move(handler)](QDBusPendingCallWatcher *finished) {
+                         finished->deleteLater();
+                         handler(readReply(*finished));
+                     });
+}
+
+void notify(QDBusConnection bus, const BusAddress &to, const QString &method, const QVariantList &arguments)
+{
+    bus.send(makeCall(to, method, arguments));
+}
+
+BusAddress busDaemon()
+{
+    return {QStringLiteral("org.freedesktop.DBus"), QStringLiteral("/org/freedesktop/DBus"),
+            QStringLiteral("org.freedesktop.DBus")};
+}
+
+} // namespace brimshade::desktop::tray

@@ -1,0 +1,39 @@
+#pragma once
+#include <QDBusConnection>
+#include <QObject>
+#include <QString>
+#include <QVariant>
+#include <expected>
+#include <functional>
+
+namespace brimshade::desktop::tray {
+
+struct BusError {
+    QString name; // "org.freedesktop.DBus.Error.UnknownMethod"
+    QString text;
+
+    // The program has no such call; it is alive and may have another.
+    bool isUnknown() const;
+    bool isTimeout() const;
+};
+
+// The reply's arguments as plain values (WireValue.h).
+using BusReply = std::expected<QVariantList, BusError>;
+using ReplyHandler = std::function<void(BusReply)>;
+
+struct BusAddress {
+    QString service, path, interface;
+};
+
+// Calls and returns at once; the handler runs later on the main thread, at most two seconds later, and never after
+// the context is gone. No service is started by a call.
+void callAsync(QDBusConnection bus, const BusAddress &to, const QString &method, const QVariantList &arguments,
+               QObject *context, ReplyHandler handler);
+
+// Calls without asking for an answer: what the callee makes of it is its own affair.
+void notify(QDBusConnection bus, const BusAddress &to, const QString &method, const QVariantList &arguments);
+
+// The bus daemon itself.
+BusAddress busDaemon();
+
+} // namespace brimshade::desktop::tray

@@ -1,0 +1,89 @@
+#include "DesktopEntry.h"
+
+#include <QDirIterator>
+#include <QFile>
+#include <QMap>
+#include <QSet>
+
+namespace brimshade::desktop::tray {
+
+namespace {
+
+constexpr qint64 kMostFileBytes = 256 << 10;
+constexpr int kMostFiles = 8192;
+
+QMap<QString, QString> readMainGroup(const QByteArray &content)
+{
+    QMap<QString, QString> values;
+    bool inGroup = false;
+    for (const auto &bytes : content.split('\n')) {
+        const auto line = QString::fromUtf8(bytes).trimmed();
+        const auto equals = line.indexOf(u'=');
+        if (line.startsWith(u'['))
+            inGroup = line == u"[Desktop Entry]";
+        else if (inGroup && equals > 0 && !line.startsWith(u'#'))
+            values.insert(line.left(equals).trimmed(), line.mid(equals + 1).trimmed());
+    }
+    return values;
+}
+
+QString localized(const QMap<QString, QString> &values, const QString &key, const QString &locale)
+{
+    const auto language = locale.section(u'_', 0, 0);
+    for (const auto &suffix : {locale, language}) {
+        const auto value = values.value(QStringLiteral("%1[%2]").arg(key, suffix));
+        if (!value.isEmpty())
+            return value;
+    }
+    return values.value(key);
+}
+
+// The program of "env GDK_BACKEND=x11 /usr/bin/copyq show".
+QString executableOf(const QString &exec)
+{
+    for (auto word : exec.split(u' ', Qt::SkipEmptyParts)) {
+        word.remove(u'"');
+        const auto name = word.section(u'/', -1);
+        if (name != u"env" && !word.contains(u'='))
+            return name;
+    }
+    return {};
+}
+
+} // namespace
+
+std::optional<DesktopEntry> parseDesktopEntry(const QString &id, const QByteArray &content, const QString &locale)
+{
+    const auto values = readMainGroup(content);
+    const auto isTrue = [&](const QString &key) { return values.value(key) == u"true"; };
+    if (values.value(QStringLiteral("Type")) != u"Application" || isTrue(QStringLiteral("Hidden")))
+        return {};
+    DesktopEntry entry;
+    entry.id = id;
+    entry.name = localized(values, QStringLiteral("Name"), locale).simplified().left(256);
+    entry.icon = localized(values, QStringLiteral("Icon"), locale);
+    entry.executable = executableOf(values.value(QStringLiteral("Exec")));
+    entry.isShown = !isTrue(QStringLiteral("NoDisplay"));
+    return entry;
+}
+
+std::vector<DesktopEntry> readDesktopEntries(const QStringList &folders, const QString &locale)
+{
+    std::vector<DesktopEntry> entries;
+    QSet<QString> ids;
+    for (const auto &folder : folders) {
+        QDirIterator files(folder, {QStringLiteral("*.desktop")}, QDir::Files, QDirIterator::Subdirectories);
+        while (files.hasNext() && ids.size() < kMostFiles) {
+            QFile file(files.next());
+            const auto id = file.fileName().mid(folder.size() + 1).chopped(8).replace(u'/', u'-');
+            if (ids.contains(id) || !file.open(QIODevice::ReadOnly))
+                continue;
+            ids.insert(id);
+            if (auto entry = parseDesktopEntry(id, file.read(kMostFileBytes), locale))
+                entries.push_back(*std::move(entry));
+        }
+    }
+    return entries;
+}
+
+} // namespace brimshade::desktop::tray

@@ -1,0 +1,81 @@
+#include "HostedApplication.h"
+
+namespace brimshade::desktop::tray {
+
+namespace {
+
+constexpr double kItemWidth = 30; // points
+
+QString toolTipOf(const TrayItem &item)
+{
+    QStringList lines;
+    for (const auto &line : {item.toolTipTitle.isEmpty() ? item.title : item.toolTipTitle, item.toolTipText}) {
+        if (!line.isEmpty())
+            lines.append(line);
+    }
+    return lines.join(u'\n');
+}
+
+ExtraDescription describeExtra(const TrayItem &item, const QString &identifier)
+{
+    ExtraDescription extra;
+    extra.role = QStringLiteral("AXMenuBarItem");
+    extra.identifier = identifier;
+    if (!item.title.isEmpty())
+        extra.title = item.title;
+    const auto description = item.toolTipTitle.isEmpty() ? item.label : item.toolTipTitle;
+    if (!description.isEmpty())
+        extra.description = description;
+    extra.width = kItemWidth;
+    extra.actions = {QStringLiteral("AXPress")};
+    return extra;
+}
+
+QString applicationName(const std::optional<DesktopEntry> &entry, const std::vector<HostedItem> &items)
+{
+    if (entry && !entry->name.isEmpty())
+        return entry->name;
+    for (const auto &hosted : items) {
+        if (!hosted.item.nameForPeople().isEmpty())
+            return hosted.item.nameForPeople();
+    }
+    return QStringLiteral("App");
+}
+
+platform::Image applicationIcon(const std::optional<DesktopEntry> &entry, const std::vector<HostedItem> &items,
+                                const IconFinder &icons)
+{
+    auto icon = entry ? icons.find(entry->icon, {}) : platform::Image();
+    for (auto it = items.begin(); icon.isNull() && it != items.end(); ++it)
+        icon = it->image;
+    return icon;
+}
+
+} // namespace
+
+ApplicationSpec describeApplication(int pid, const std::optional<DesktopEntry> &entry,
+                                    const std::vector<HostedItem> &items, const IconFinder &icons)
+{
+    ApplicationSpec spec;
+    spec.description.pid = pid;
+    spec.description.name = applicationName(entry, items);
+    if (entry)
+        spec.description.bundleIdentifier = entry->id;
+    spec.icon = applicationIcon(entry, items, icons);
+    auto &extras = spec.description.extras.emplace();
+    for (const auto &hosted : items) {
+        auto identifier = hosted.item.id;
+        if (identifier.isEmpty() || spec.openItem.contains(identifier))
+            identifier = hosted.key.path;
+        if (spec.openItem.contains(identifier)) // the same path on another connection of the program
+            identifier = hosted.key.text();
+        extras.push_back(describeExtra(hosted.item, identifier));
+        spec.openItem.emplace(identifier, hosted.open);
+        if (!hosted.image.isNull())
+            spec.itemImages.emplace(identifier, hosted.image);
+        spec.toolTips.emplace(identifier, toolTipOf(hosted.item));
+    }
+    return spec;
+}
+
+} // namespace brimshade::desktop::tray

@@ -1,0 +1,119 @@
+#include "ItemClient.h"
+
+#include "MenuClient.h"
+
+#include <cmath>
+
+namespace brimshade::desktop::tray {
+
+namespace {
+constexpr auto kInterface = "org.kde.StatusNotifierItem";
+constexpr auto kProperties = "org.freedesktop.DBus.Properties";
+} // namespace
+
+ItemClient::ItemClient(const QDBusConnection &bus, const ItemKey &key, platform::Dispatch &dispatch)
+    : m_bus(bus), m_key(key), m_address{key.owner, key.path, QString::fromLatin1(kInterface)}, m_dispatch(dispatch),
+      m_refresh(dispatch, [this] { fetch(); })
+{
+    // Without a name: every signal of the interface.
+    m_bus.connect(key.owner, key.path, m_address.interface, QString(), this, SLOT(signalled()));
+    m_refresh.requestNow();
+}
+
+ItemClient::~ItemClient() = default;
+
+void ItemClient::signalled()
+{
+    m_refresh.request();
+}
+
+void ItemClient::fetch()
+{
+    const BusAddress properties{m_key.owner, m_key.path, QString::fromLatin1(kProperties)};
+    callAsync(m_bus, properties, QStringLiteral("GetAll"), {m_address.interface}, this, [this](const BusReply &reply) {
+        m_refresh.finished();
+        receive(reply);
+    });
+}
+
+void ItemClient::receive(const BusReply &reply)
+{
+    if (!reply)
+        say(QStringLiteral("it does not tell its properties: %1").arg(reply.error().text));
+    else
+        take(parseItem(reply->value(0).toMap()));
+}
+
+void ItemClient::take(ParsedItem parsed)
+{
+    if (!parsed.complaints.isEmpty())
+        say(parsed.complaints.first());
+    if (m_item == parsed.item)
+        return;
+    m_item = std::move(parsed.item);
+    m_image = m_icons.itemImage(*m_item);
+    updateMenu();
+    Q_EMIT changed();
+}
+
+void ItemClient::updateMenu()
+{
+    if (m_item->menuPath == (m_menu ? m_menu->path() : QString()))
+        return;
+    m_menu.reset();
+    if (m_item->menuPath.isEmpty())
+        return;
+    const auto picture = [icons = m_icons, theme = m_item->iconThemePath](const QString &name) {
+        return icons.find(name, theme);
+    };
+    m_menu = std::make_unique<MenuClient>(m_bus, m_key.owner, m_item->menuPath, m_dispatch, picture);
+    connect(m_menu.get(), &MenuClient::ready, this, [this] { Q_EMIT menuReady(m_pressedFrame); });
+    connect(m_menu.get(), &MenuClient::unusable, this, &ItemClient::tryNext);
+    connect(m_menu.get(), &MenuClient::message, this, &ItemClient::say);
+}
+
+void ItemClient::press(const QRectF &frame)
+{
+    if (!m_item)
+        return;
+    m_pressedFrame = frame;
+    m_untried = pressOrder(*m_item);
+    tryNext();
+}
+
+void ItemClient::tryNext()
+{
+    if (m_untried.empty()) {
+        say(QStringLiteral("it has no menu and cannot be activated"));
+        return;
+    }
+    const auto press = m_untried.front();
+    m_untried.erase(m_untried.begin());
+    if (press == Press::menu && m_menu)
+        m_menu->open();
+    else
+        call(press == Press::activate ? QStringLiteral("Activate") : QStringLiteral("ContextMenu"));
+}
+
+void ItemClient::call(const QString &method)
+{
+    const int x = static_cast<int>(std::lround(m_pressedFrame.left()));
+    const int y = static_cast<int>(std::lround(m_pressedFrame.bottom()));
+    callAsync(m_bus, m_address, method, {x, y}, this, [this, method](const BusReply &reply) {
+        if (!reply && reply.error().isUnknown())
+            tryNext();
+        // A program may open its menu and answer only when that is closed: no answer in time is none to complain of.
+        else if (!reply && !reply.error().isTimeout())
+            say(QStringLiteral("%1 failed: %2").arg(method, reply.error().text));
+    });
+}
+
+void ItemClient::say(const QString &text)
+{
+    if (text == std::exchange(m_lastMessage, text))
+        return;
+    const auto name = m_item && !m_item->nameForPeople().isEmpty() ? m_item->nameForPeople() : m_key.text();
+    Q_EMIT message(QStringLiteral("Tray item %1: %2").arg(name, text).simplified().left(500));
+}
+
+} // namespace brimshade::desktop::tray

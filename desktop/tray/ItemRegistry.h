@@ -1,0 +1,55 @@
+#pragma once
+#include "BusCall.h"
+#include "BusName.h"
+#include "WatcherService.h"
+
+#include <QDBusServiceWatcher>
+#include <QObject>
+#include <functional>
+#include <map>
+
+class QDBusMessage;
+
+namespace brimshade::desktop::tray {
+
+// Which tray items the session has. It stands in line for the watcher's name: while another program has it, that one's
+// list is followed; when it goes the bus hands the name on and programs register here. Main thread.
+class ItemRegistry : public QObject {
+    Q_OBJECT
+public:
+    explicit ItemRegistry(const QDBusConnection &bus);
+    ~ItemRegistry() override;
+
+    bool contains(const ItemKey &key) const { return m_items.contains(key); }
+    void drop(const ItemKey &key); // its program turned out to be gone
+
+Q_SIGNALS:
+    void added(const ItemKey &key); // its owner is on the bus
+    void removed(const ItemKey &key);
+    void message(const QString &text);
+
+private Q_SLOTS:
+    void foreignRegistered(const QDBusMessage &signal);
+    void foreignUnregistered(const QDBusMessage &signal);
+
+private:
+    void findWatcher();
+    void watcherChanged(const QString &owner);
+    void joinForeignWatcher();
+    void readForeignItems();
+    void registerItem(const QString &argument, const QString &sender);
+    void resolve(const Registration &registration, const QString &registeredAs);
+    void watch(const QString &name);
+    void add(const ItemKey &key, const QString &registeredAs);
+    void ownerChanged(const QString &name, const QString &newOwner);
+    void dropIf(const std::function<bool(const ItemKey &, const QString &registeredAs)> &goes);
+
+    QDBusConnection m_bus;
+    WatcherService m_service;
+    QDBusServiceWatcher m_owners;
+    QString m_watcher; // the unique name of the program that has the watcher's name; ours too
+    std::map<ItemKey, QString> m_items; // and the name each was registered by
+    bool m_saidFull = false;
+};
+
+} // namespace brimshade::desktop::tray

@@ -1,0 +1,68 @@
+#pragma once
+#include "BusCall.h"
+#include "MenuLayout.h"
+#include "Refresh.h"
+
+#include <QObject>
+#include <QPointer>
+#include <optional>
+
+class QDBusMessage;
+
+namespace brimshade::desktop::tray {
+
+// One program's menu over com.canonical.dbusmenu. It reads the menu once ahead of the first opening; while nobody
+// looks, a change only marks what it has as old. Main thread.
+class MenuClient : public QObject {
+    Q_OBJECT
+public:
+    MenuClient(const QDBusConnection &bus, const QString &owner, const QString &path, platform::Dispatch &dispatch,
+               PictureByName picture, QObject *parent = nullptr);
+
+    const QString &path() const { return m_address.path; }
+    const std::vector<MenuEntry> &entries() const { return m_entries; }
+
+    // Tells the program that its menu is about to be shown and ends in ready() or unusable(), at once when what was
+    // read is still good. Each ready() is followed by one close().
+    void open();
+    void aboutToShow(int id); // a submenu; changed() follows if that brings entries
+    void choose(int id);
+    void close();
+
+Q_SIGNALS:
+    void ready(); // entries() may be shown
+    void unusable(); // the program does not answer, or has no entries
+    void changed(); // entries() look different from before, while open
+    void message(const QString &text);
+
+private Q_SLOTS:
+    void layoutUpdated(const QDBusMessage &signal);
+    void propertiesUpdated();
+
+private:
+    void markOld(int parent);
+    void fetch();
+    void receive(int parent, const BusReply &reply);
+    void replaceAll(const QVariant &node);
+    void replaceSubmenu(int parent, const QVariant &node);
+    void showNew(std::vector<MenuEntry> entries, bool isCut);
+    void programWasTold();
+    void finishOpening(bool isRead);
+    void sendEvent(int id, const QString &event);
+
+    QDBusConnection m_bus;
+    BusAddress m_address;
+    PictureByName m_picture;
+    Refresh m_refresh;
+    std::vector<MenuEntry> m_entries;
+    std::optional<int> m_oldParent = 0; // whose children must be read again; 0 is the whole menu
+    // Of an open() that has not ended yet: the program is being told, then its menu is being read.
+    enum class Opening { none, telling, reading };
+    Opening m_opening = Opening::none;
+    bool m_readsForOpening = false; // the read under way began after the program was told
+    bool m_isOpen = false;
+    bool m_saidCut = false;
+    std::vector<int> m_shown; // submenus that were told so, to be told the end
+};
+
+} // namespace brimshade::desktop::tray

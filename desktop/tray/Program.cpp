@@ -1,0 +1,100 @@
+#include "Program.h"
+
+#include <QFile>
+#include <QFileInfo>
+#include <QLocale>
+#include <QRegularExpression>
+#include <QStandardPaths>
+
+namespace brimshade::desktop::tray {
+
+namespace {
+
+constexpr qint64 kMostCommandLineBytes = 8192;
+
+bool isInterpreter(const QString &name)
+{
+    static const QRegularExpression pattern(
+        QStringLiteral("^(python|perl|ruby|node|bash|dash|sh|gjs|java|mono|pypy|wish|lua|php)[0-9.]*(-console)?$"));
+    return pattern.match(name).hasMatch();
+}
+
+QString fileName(const QString &path)
+{
+    return path.section(u'/', -1);
+}
+
+QString scriptOf(const QStringList &arguments)
+{
+    for (const auto &argument : arguments.mid(1)) {
+        if (!argument.startsWith(u'-'))
+            return fileName(argument);
+    }
+    return {};
+}
+
+// How sure it is that the entry is that program's: its id counts more than what it runs, which several may share.
+int score(const DesktopEntry &entry, const QStringList &names)
+{
+    const auto lastPart = entry.id.section(u'.', -1);
+    const bool isNamed = names.contains(entry.id, Qt::CaseInsensitive) || names.contains(lastPart, Qt::CaseInsensitive);
+    const bool isRun = names.contains(entry.executable);
+    return isNamed || isRun ? (isNamed ? 4 : 0) + (isRun ? 2 : 0) + (entry.isShown ? 1 : 0) : 0;
+}
+
+} // namespace
+
+Process readProcess(int pid)
+{
+    const auto folder = QStringLiteral("/proc/%1/").arg(pid);
+    Process process;
+    process.executable = QFileInfo(folder + QStringLiteral("exe")).symLinkTarget();
+    if (process.executable.endsWith(u" (deleted)"))
+        process.executable.chop(10);
+    QFile commandLine(folder + QStringLiteral("cmdline"));
+    if (commandLine.open(QIODevice::ReadOnly)) {
+        for (const auto &argument : commandLine.read(kMostCommandLineBytes).split('\0'))
+            process.arguments.append(QString::fromLocal8Bit(argument));
+    }
+    return process;
+}
+
+QStringList programNames(const Process &process)
+{
+    QStringList names;
+    const auto add = [&](const QString &name) {
+        if (!name.isEmpty() && !names.contains(name))
+            names.append(name);
+    };
+    const auto executable = fileName(process.executable);
+    if (isInterpreter(executable)) {
+        add(scriptOf(process.arguments));
+        return names;
+    }
+    add(executable);
+    add(fileName(process.arguments.value(0)));
+    return names;
+}
+
+std::optional<DesktopEntry> findEntry(const Process &process, const std::vector<DesktopEntry> &entries)
+{
+    const auto names = programNames(process);
+    const DesktopEntry *best = nullptr;
+    int bestScore = 0;
+    for (const auto &entry : entries) {
+        const int own = score(entry, names);
+        if (own > bestScore || (own > 0 && own == bestScore && entry.id < best->id)) {
+            best = &entry;
+            bestScore = own;
+        }
+    }
+    return best ? std::optional(*best) : std::nullopt;
+}
+
+std::optional<DesktopEntry> lookUpProgram(int pid)
+{
+    const auto folders = QStandardPaths::standardLocations(QStandardPaths::ApplicationsLocation);
+    return findEntry(readProcess(pid), readDesktopEntries(folders, QLocale::system().name()));
+}
+
+} // namespace brimshade::desktop::tray

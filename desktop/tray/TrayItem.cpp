@@ -1,0 +1,112 @@
+#include "TrayItem.h"
+
+#include "BusName.h"
+#include "Pixmap.h"
+#include "WireValue.h"
+
+#include <QRegularExpression>
+
+namespace brimshade::desktop::tray {
+
+namespace {
+
+constexpr int kLongestPath = 4096;
+
+// Tool tips may be written in markup; what people see is plain.
+QString withoutMarkup(QString text)
+{
+    static const QRegularExpression tag(QStringLiteral("<[^<>]{0,200}>"));
+    text.replace(tag, QStringLiteral(" "));
+    text.replace(u"&lt;", u"<").replace(u"&gt;", u">").replace(u"&quot;", u"\"").replace(u"&amp;", u"&");
+    return text.simplified();
+}
+
+TrayItem::Status parseStatus(const QString &text)
+{
+    if (text == u"Passive")
+        return TrayItem::Status::passive;
+    return text == u"NeedsAttention" ? TrayItem::Status::needsAttention : TrayItem::Status::active;
+}
+
+class Properties {
+public:
+    explicit Properties(const QVariantMap &values) : m_values(values) { }
+
+    QVariant value(const char *name) const { return m_values.value(QString::fromLatin1(name)); }
+    QString line(const char *name, int longest = 256) const { return lineOf(value(name), longest); }
+
+    ItemIcon icon(const char *name, const char *pixmap)
+    {
+        QStringList faults;
+        ItemIcon icon{line(name, kLongestPath), largestPixmap(value(pixmap), faults)};
+        if (!faults.isEmpty())
+            m_complaints.append(QStringLiteral("%1: %2").arg(QString::fromLatin1(pixmap), faults.first()));
+        return icon;
+    }
+
+    const QStringList &complaints() const { return m_complaints; }
+
+private:
+    const QVariantMap &m_values;
+    QStringList m_complaints;
+};
+
+void parseToolTip(const QVariant &value, TrayItem &item)
+{
+    const auto fields = listOf(value); // icon name, pixmaps, title, text
+    if (fields.size() != 4)
+        return;
+    item.toolTipTitle = withoutMarkup(lineOf(fields[2]));
+    item.toolTipText = withoutMarkup(lineOf(fields[3], 1024));
+}
+
+void parseMenu(const Properties &properties, TrayItem &item)
+{
+    const auto path = properties.line("Menu", kLongestPath);
+    item.showsOwnMenu = path == u"/NO_DBUSMENU";
+    if (isObjectPath(path) && path != u"/" && !item.showsOwnMenu)
+        item.menuPath = path;
+    item.itemIsMenu = boolOf(properties.value("ItemIsMenu"));
+}
+
+} // namespace
+
+QString TrayItem::nameForPeople() const
+{
+    if (!title.isEmpty())
+        return title;
+    return toolTipTitle.isEmpty() ? id : toolTipTitle;
+}
+
+const ItemIcon &TrayItem::shownIcon() const
+{
+    return status == Status::needsAttention && !attentionIcon.isEmpty() ? attentionIcon : icon;
+}
+
+ParsedItem parseItem(const QVariantMap &values)
+{
+    Properties properties(values);
+    TrayItem item;
+    item.id = properties.line("Id");
+    item.title = properties.line("Title");
+    item.label = properties.line("XAyatanaLabel");
+    item.status = parseStatus(properties.line("Status"));
+    item.iconThemePath = properties.line("IconThemePath", kLongestPath);
+    item.icon = properties.icon("IconName", "IconPixmap");
+    item.attentionIcon = properties.icon("AttentionIconName", "AttentionIconPixmap");
+    item.overlayIcon = properties.icon("OverlayIconName", "OverlayIconPixmap");
+    parseToolTip(properties.value("ToolTip"), item);
+    parseMenu(properties, item);
+    return {std::move(item), properties.complaints()};
+}
+
+std::vector<Press> pressOrder(const TrayItem &item)
+{
+    if (!item.menuPath.isEmpty())
+        return {Press::menu, Press::contextMenu, Press::activate};
+    if (item.showsOwnMenu || item.itemIsMenu.value_or(false))
+        return {Press::contextMenu, Press::activate};
+    return {Press::activate, Press::contextMenu};
+}
+
+} // namespace brimshade::desktop::tray
