@@ -1,0 +1,37 @@
+#include "DueQueue.h"
+
+namespace brimshade::desktop {
+
+bool DueQueue::add(Nanoseconds due, platform::Work work)
+{
+    const std::lock_guard lock(m_mutex);
+    if (m_closed)
+        return false;
+    const auto place = m_waiting.emplace(Key(due, m_sequence++), std::move(work)).first;
+    return place == m_waiting.begin();
+}
+
+std::optional<platform::Work> DueQueue::takeDue(Nanoseconds now)
+{
+    const std::lock_guard lock(m_mutex);
+    if (m_waiting.empty() || m_waiting.begin()->first.first > now)
+        return std::nullopt;
+    return std::move(m_waiting.extract(m_waiting.begin()).mapped());
+}
+
+std::optional<Nanoseconds> DueQueue::nextDue() const
+{
+    const std::lock_guard lock(m_mutex);
+    return m_waiting.empty() ? std::nullopt : std::optional(m_waiting.begin()->first.first);
+}
+
+void DueQueue::close()
+{
+    // Destroyed after the lock: what the work holds may come back here.
+    std::map<Key, platform::Work> dropped;
+    const std::lock_guard lock(m_mutex);
+    m_closed = true;
+    dropped.swap(m_waiting);
+}
+
+} // namespace brimshade::desktop

@@ -1,0 +1,190 @@
+#include "RealDispatch.h"
+#include "RepeatingTimer.h"
+
+#include <chrono>
+#include <sys/eventfd.h>
+#include <unistd.h>
+
+namespace brimshade::desktop {
+
+namespace {
+
+// A press may wait seconds for its application; enough that a few hanging ones do not hold up the rest.
+constexpr std::size_t kGlobalThreads = 8;
+
+Nanoseconds steadyNow()
+{
+    using namespace std::chrono;
+    return duration_cast<nanoseconds>(steady_clock::now().time_since_epoch()).count();
+}
+
+// Tells a waiting thread that a piece of work has run or was dropped: it goes with the work.
+class Completion {
+public:
+    Completion() = default;
+    Q_DISABLE_COPY_MOVE(Completion)
+
+    // The work's share of it.
+    static std::shared_ptr<void> hold(const std::shared_ptr<Completion> &completion)
+    {
+        return {nullptr, [completion](void *) { completion->finish(); }};
+    }
+    void wait()
+    {
+        std::unique_lock lock(m_mutex);
+        m_changed.wait(lock, [this] { return m_finished; });
+    }
+
+private:
+    void finish()
+    {
+        const std::lock_guard lock(m_mutex);
+        m_finished = true;
+        m_changed.notify_all();
+    }
+
+    std::mutex m_mutex;
+    std::condition_variable m_changed;
+    bool m_finished = false;
+};
+
+} // namespace
+
+class RealDispatch::Queue : public platform::SerialQueue {
+public:
+    explicit Queue(QString label) : m_label(std::move(label)) { }
+    QString label() const override { return m_label; }
+    void async(platform::Work work) override { m_pool.async(std::move(work)); }
+    WorkerPool &pool() { return m_pool; }
+
+private:
+    QString m_label;
+    WorkerPool m_pool{1};
+};
+
+RealDispatch::RealDispatch()
+    : m_wakeUp(eventfd(0, EFD_CLOEXEC | EFD_NONBLOCK)), m_notifier(m_wakeUp, QSocketNotifier::Read),
+      m_global(kGlobalThreads)
+{
+    m_timer.setSingleShot(true);
+    m_timer.setTimerType(Qt::PreciseTimer);
+    QObject::connect(&m_timer, &QTimer::timeout, &m_timer, [this] { runOne(); });
+    QObject::connect(&m_notifier, &QSocketNotifier::activated, &m_notifier, [this] { answerWakeUp(); });
+}
+
+RealDispatch::~RealDispatch()
+{
+    m_notifier.setEnabled(false);
+    m_timer.stop();
+    {
+        const std::lock_guard lock(m_mutex);
+        m_isStopping = true;
+        m_stopped.notify_all();
+    }
+    m_main.close(); // ends every mainSync
+    for (const auto &queue : m_queues)
+        queue->pool().close();
+    m_global.join();
+    for (const auto &queue : m_queues)
+        queue->pool().join();
+    ::close(m_wakeUp);
+}
+
+double RealDispatch::now() const
+{
+    return toSeconds(steadyNow());
+}
+
+bool RealDispatch::isMainThread() const
+{
+    return std::this_thread::get_id() == m_mainThread;
+}
+
+void RealDispatch::mainAsync(platform::Work work)
+{
+    schedule(steadyNow(), std::move(work));
+}
+
+void RealDispatch::mainAfter(double seconds, platform::Work work)
+{
+    schedule(steadyNow() + toNanoseconds(seconds), std::move(work));
+}
+
+void RealDispatch::mainSync(const platform::Work &work)
+{
+    if (isMainThread())
+        return work();
+    const auto completion = std::make_shared<Completion>();
+    schedule(steadyNow(), [&work, share = Completion::hold(completion)] { work(); });
+    completion->wait();
+}
+
+std::unique_ptr<platform::Timer> RealDispatch::scheduleRepeating(double seconds, platform::Work tick)
+{
+    const TimerClock clock{steadyNow, [this](Nanoseconds due, platform::Work work) { schedule(due, std::move(work)); }};
+    return std::make_unique<RepeatingTimer>(clock, seconds, std::move(tick));
+}
+
+std::shared_ptr<platform::SerialQueue> RealDispatch::makeSerialQueue(const QString &label, platform::QualityOfService)
+{
+    auto queue = std::make_shared<Queue>(label);
+    const std::lock_guard lock(m_mutex);
+    if (m_isStopping)
+        queue->pool().close();
+    else
+        m_queues.push_back(queue);
+    return queue;
+}
+
+void RealDispatch::globalAsync(platform::QualityOfService, platform::Work work)
+{
+    m_global.async(std::move(work));
+}
+
+void RealDispatch::sleep(double seconds)
+{
+    Q_ASSERT(!isMainThread());
+    const auto duration = std::chrono::nanoseconds(toNanoseconds(seconds));
+    std::unique_lock lock(m_mutex);
+    m_stopped.wait_for(lock, duration, [this] { return m_isStopping; });
+}
+
+void RealDispatch::schedule(Nanoseconds due, platform::Work work)
+{
+    if (!m_main.add(due, std::move(work)))
+        return;
+    if (isMainThread())
+        rearm();
+    else if (!m_wakeUpSent.exchange(true))
+        eventfd_write(m_wakeUp, 1);
+}
+
+// One a turn: work that queues more work leaves the event loop its share.
+void RealDispatch::runOne()
+{
+    std::optional<platform::Work> work = m_main.takeDue(steadyNow());
+    rearm(); // first, for an event loop that the work runs
+    if (work)
+        (*work)();
+}
+
+void RealDispatch::rearm()
+{
+    const std::optional<Nanoseconds> due = m_main.nextDue();
+    if (!due)
+        return m_timer.stop();
+    constexpr Nanoseconds millisecond = 1'000'000;
+    constexpr Nanoseconds longest = 86'400'000; // a day, in milliseconds; then it looks again
+    const Nanoseconds wait = (*due - steadyNow() + millisecond - 1) / millisecond;
+    m_timer.start(static_cast<int>(std::clamp<Nanoseconds>(wait, 0, longest)));
+}
+
+void RealDispatch::answerWakeUp()
+{
+    eventfd_t count = 0;
+    eventfd_read(m_wakeUp, &count);
+    m_wakeUpSent = false;
+    rearm();
+}
+
+} // namespace brimshade::desktop

@@ -1,0 +1,62 @@
+#pragma once
+#include "DueQueue.h"
+#include "WorkerPool.h"
+#include "platform/Dispatch.h"
+
+#include <QObject>
+#include <QSocketNotifier>
+#include <QTimer>
+#include <atomic>
+#include <condition_variable>
+#include <memory>
+#include <mutex>
+#include <thread>
+#include <vector>
+
+namespace brimshade::desktop {
+
+// The clock on the wall: the main queue runs on the Qt event loop of the thread that makes it, which is also
+// the one that destroys it. Destroying ends sleeps, drops what waits and joins every thread. Qualities of service
+// are not told apart.
+class RealDispatch : public platform::Dispatch {
+public:
+    RealDispatch();
+    ~RealDispatch() override;
+    Q_DISABLE_COPY_MOVE(RealDispatch)
+
+    double now() const override;
+    bool isMainThread() const override;
+    void mainAsync(platform::Work work) override;
+    void mainAfter(double seconds, platform::Work work) override;
+    void mainSync(const platform::Work &work) override;
+    std::unique_ptr<platform::Timer> scheduleRepeating(double seconds, platform::Work tick) override;
+    std::shared_ptr<platform::SerialQueue> makeSerialQueue(const QString &label,
+                                                           platform::QualityOfService qos) override;
+    void globalAsync(platform::QualityOfService qos, platform::Work work) override;
+    void sleep(double seconds) override;
+
+private:
+    class Queue;
+
+    void schedule(Nanoseconds due, platform::Work work);
+    void runOne();
+    void rearm();
+    void answerWakeUp();
+
+    const std::thread::id m_mainThread = std::this_thread::get_id();
+    DueQueue m_main;
+
+    // Other threads wake the event loop through this descriptor, an eventfd.
+    const int m_wakeUp;
+    std::atomic<bool> m_wakeUpSent = false;
+    QSocketNotifier m_notifier;
+    QTimer m_timer; // runs only while something is queued
+
+    std::mutex m_mutex;
+    std::condition_variable m_stopped;
+    bool m_isStopping = false;
+    std::vector<std::shared_ptr<Queue>> m_queues; // kept: each has a thread to join
+    WorkerPool m_global;
+};
+
+} // namespace brimshade::desktop

@@ -1,0 +1,64 @@
+#pragma once
+#include "DueQueue.h"
+#include "platform/Dispatch.h"
+
+#include <atomic>
+#include <functional>
+#include <memory>
+#include <mutex>
+#include <thread>
+#include <vector>
+
+namespace brimshade::desktop {
+
+class Lane;
+
+// A clock that moves only when it is told to. Serial and global work runs on threads of its own, but one thread
+// runs at a time: the main thread, or the one it has lent the baton to. A worker keeps the baton until it sleeps,
+// calls mainSync or ends, so every run takes the same course. Hence a worker must hold no lock over those calls
+// and must not wait for another worker by any other means.
+//
+// The main queue, the workers' turns and the frames run inside runDue() and advance() only. The thread that
+// makes it is the main one, and the one that destroys it. sleep and mainSync are for the main thread and the workers.
+class VirtualDispatch : public platform::Dispatch {
+public:
+    VirtualDispatch();
+    ~VirtualDispatch() override;
+    Q_DISABLE_COPY_MOVE(VirtualDispatch)
+
+    // Runs everything that is due now, and what becomes due by it. Qt events (bindings, queued signals, deferred
+    // deletes) are delivered before, between and after. May be called from work that it runs.
+    void runDue();
+    // Runs what is due, then moves the clock on, from one due time to the next.
+    void advance(double seconds);
+    // While wanted() says so, the clock stops at every sixtieth of a second and calls frame() after what is due.
+    void setFrames(std::function<bool()> wanted, std::function<void()> frame);
+
+    double now() const override; // 0 at first
+    bool isMainThread() const override;
+    void mainAsync(platform::Work work) override;
+    void mainAfter(double seconds, platform::Work work) override;
+    void mainSync(const platform::Work &work) override;
+    std::unique_ptr<platform::Timer> scheduleRepeating(double seconds, platform::Work tick) override;
+    std::shared_ptr<platform::SerialQueue> makeSerialQueue(const QString &label,
+                                                           platform::QualityOfService qos) override;
+    void globalAsync(platform::QualityOfService qos, platform::Work work) override;
+    void sleep(double seconds) override;
+
+private:
+    bool stepTo(Nanoseconds end);
+    std::shared_ptr<Lane> makeLane(const QString &label, std::size_t width);
+
+    const std::thread::id m_mainThread = std::this_thread::get_id();
+    std::atomic<Nanoseconds> m_now = 0;
+    DueQueue m_events;
+    std::function<bool()> m_framesWanted;
+    std::function<void()> m_frame;
+
+    std::mutex m_mutex;
+    bool m_isStopping = false;
+    std::vector<std::shared_ptr<Lane>> m_lanes; // all, the global one too
+    std::shared_ptr<Lane> m_global;
+};
+
+} // namespace brimshade::desktop
