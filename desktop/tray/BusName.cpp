@@ -1,5 +1,6 @@
 #include "BusName.h"
 
+#include <QList>
 #include <algorithm>
 
 namespace brimshade::desktop::tray {

@@ -100,7 +100,7 @@ private:
     bool m_isCut = false;
 };
 
-bool looksTheSame(const MenuEntry &a, const MenuEntry &b)
+bool isSameEntry(const MenuEntry &a, const MenuEntry &b)
 {
     return a.id == b.id && a.title == b.title && a.isSeparator == b.isSeparator && a.isEnabled == b.isEnabled
         && a.toggle == b.toggle && a.isOn == b.isOn && a.shortcut == b.shortcut && a.hasSubmenu == b.hasSubmenu
@@ -168,8 +168,7 @@ int depthOf(const std::vector<MenuEntry> &entries, int id)
 
 bool looksTheSame(const std::vector<MenuEntry> &a, const std::vector<MenuEntry> &b)
 {
-    return std::equal(a.begin(), a.end(), b.begin(), b.end(),
-                      [](const MenuEntry &x, const MenuEntry &y) { return looksTheSame(x, y); });
+    return std::equal(a.begin(), a.end(), b.begin(), b.end(), isSameEntry);
 }
 
 } // namespace brimshade::desktop::tray

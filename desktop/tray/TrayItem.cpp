@@ -17,7 +17,9 @@ QString withoutMarkup(QString text)
 {
     static const QRegularExpression tag(QStringLiteral("<[^<>]{0,200}>"));
     text.replace(tag, QStringLiteral(" "));
-    text.replace(u"&lt;", u"<").replace(u"&gt;", u">").replace(u"&quot;", u"\"").replace(u"&amp;", u"&");
+    for (const auto &[entity, character] :
+         {std::pair(u"&lt;", u"<"), {u"&gt;", u">"}, {u"&quot;", u"\""}, {u"&amp;", u"&"}})
+        text.replace(QString::fromUtf16(entity), QString::fromUtf16(character));
     return text.simplified();
 }
 
