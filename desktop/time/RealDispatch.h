@@ -16,13 +16,16 @@
 namespace brimshade::desktop {
 
 // The clock on the wall: the main queue runs on the Qt event loop of the thread that makes it, which is also
-// the one that destroys it. Destroying ends sleeps, drops what waits and joins every thread. Qualities of service
-// are not told apart.
+// the one that destroys it. Qualities of service are not told apart.
 class RealDispatch : public platform::Dispatch {
 public:
     RealDispatch();
-    ~RealDispatch() override;
+    ~RealDispatch() override; // stops
     Q_DISABLE_COPY_MOVE(RealDispatch)
+
+    // Main thread. Ends sleeps, drops what waits and joins every thread; nothing runs after it. For an owner whose
+    // work uses objects that must go before the clock does.
+    void stop();
 
     double now() const override;
     bool isMainThread() const override;

@@ -44,6 +44,11 @@ VirtualDispatch::VirtualDispatch() : m_global(makeLane({}, kGlobalWidth)) { }
 
 VirtualDispatch::~VirtualDispatch()
 {
+    stop();
+}
+
+void VirtualDispatch::stop()
+{
     {
         const std::lock_guard lock(m_mutex);
         m_isStopping = true;

@@ -23,8 +23,11 @@ class Lane;
 class VirtualDispatch : public platform::Dispatch {
 public:
     VirtualDispatch();
-    ~VirtualDispatch() override;
+    ~VirtualDispatch() override; // stops
     Q_DISABLE_COPY_MOVE(VirtualDispatch)
+
+    // As RealDispatch's: ends sleeps, drops what waits and joins every thread.
+    void stop();
 
     // Runs everything that is due now, and what becomes due by it. Qt events (bindings, queued signals, deferred
     // deletes) are delivered before, between and after. May be called from work that it runs.
