@@ -8,6 +8,8 @@ namespace brimshade::model {
 
 namespace {
 
+using namespace Qt::StringLiterals;
+
 // Turkish and Azerbaijani tell a dotted i from a dotless one in both cases.
 bool hasDotlessI()
 {
@@ -20,7 +22,9 @@ QString folded(QString text, bool dotlessI)
     if (dotlessI)
         text.replace(u'I', u'ı').replace(u'İ', u'i');
     // Decomposed first: a letter and its accent fold like the one letter that stands for both.
-    return text.normalized(QString::NormalizationForm_D).toCaseFolded().normalized(QString::NormalizationForm_C);
+    text = text.normalized(QString::NormalizationForm_D).toCaseFolded();
+    text.replace(u"ß"_s, u"ss"_s); // the toolkit folds to as many letters as there were
+    return text.normalized(QString::NormalizationForm_C);
 }
 
 // A hit that ends before a combining mark ends in the middle of a character: "x" is not in "x̂".

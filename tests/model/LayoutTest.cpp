@@ -1,0 +1,83 @@
+#include "ModelContext.h"
+
+#include <gtest/gtest.h>
+
+namespace brimshade::model::tests {
+namespace {
+
+constexpr QSizeF kNotch{200, 32};
+
+TEST(Layout, MeasuresThePanel)
+{
+    struct {
+        const char *what;
+        bool trusted;
+        int hidden, visible;
+        QSizeF notch;
+        int columns;
+        QSizeF size;
+    } const cases[] = {
+        {"untrusted", false, 0, 0, kNotch, 4, {488, 200}},
+        {"untrusted with items", false, 12, 3, kNotch, 9, {728, 200}},
+        {"nothing found", true, 0, 0, kNotch, 4, {488, 104}},
+        {"both sections", true, 3, 2, kNotch, 4, {488, 288}},
+        {"one section", true, 1, 0, kNotch, 4, {488, 176}},
+        {"only visible", true, 0, 5, kNotch, 5, {488, 176}},
+        {"two rows", true, 12, 3, kNotch, 9, {728, 372}},
+        {"exactly one row", true, 9, 0, kNotch, 9, {728, 176}},
+        {"one more", true, 10, 0, kNotch, 9, {728, 260}},
+        {"wide notch", true, 9, 0, {600, 40}, 9, {888, 184}},
+    };
+    for (const auto &each : cases) {
+        ModelContext context;
+        NotchModel &model = context.model();
+        model.setTrusted(each.trusted);
+        model.setExtras(items(each.hidden, each.visible));
+        model.setNotch(each.notch);
+        EXPECT_EQ(model.columns(), each.columns) << each.what;
+        EXPECT_EQ(model.panelSize(), each.size) << each.what;
+    }
+}
+
+TEST(Layout, LeavesRoomForTheSentenceWhenNothingMatches)
+{
+    ModelContext context;
+    context.model().setExtras(items(1, 1));
+    context.model().setQuery(u"nothing"_s);
+    EXPECT_EQ(context.model().panelSize(), QSizeF(488, 134 + 32));
+}
+
+TEST(Layout, MeasuresGridsByRowsOfTheWiderSection)
+{
+    ModelContext context;
+    context.model().setExtras(items(6, 0));
+    const std::pair<int, double> cases[] = {{-1, 0}, {0, 0}, {1, 98}, {6, 98}, {7, 182}, {13, 266}};
+    for (const auto &[tiles, height] : cases)
+        EXPECT_EQ(context.model().gridHeight(tiles), height) << tiles;
+}
+
+TEST(Layout, AnnouncesTheSizeOnceForEachChangeOfWhatItDependsOn)
+{
+    ModelContext context;
+    NotchModel &model = context.model();
+    int sizes = 0;
+    int wills = 0;
+    QObject::connect(&model, &NotchModel::panelSizeChanged, [&] { ++sizes; });
+    QObject::connect(&model, &NotchModel::objectWillChange, [&] { ++wills; });
+    const auto announced = [&](const std::function<void()> &change) {
+        sizes = wills = 0;
+        change();
+        return std::pair(sizes, wills);
+    };
+    using Counts = std::pair<int, int>;
+    EXPECT_EQ(announced([&] { model.setExtras(items(1, 1)); }), Counts(1, 1));
+    EXPECT_EQ(announced([&] { model.setShowVisible(false); }), Counts(1, 1));
+    EXPECT_EQ(announced([&] { model.setTrusted(false); }), Counts(1, 1));
+    EXPECT_EQ(announced([&] { model.setQuery(u"a"_s); }), Counts(1, 3));
+    EXPECT_EQ(announced([&] { model.setNotch({180, 24}); }), Counts(1, 0)); // not a published field
+    EXPECT_EQ(announced([&] { model.setHoveredID(u"a"_s); }), Counts(0, 1));
+    EXPECT_EQ(announced([&] { model.setTrusted(false); }), Counts(0, 1)); // unchanged, yet assigned
+}
+
+} // namespace
+} // namespace brimshade::model::tests

@@ -1,0 +1,130 @@
+#include "ModelContext.h"
+
+#include <QLocale>
+#include <QRandomGenerator>
+#include <gtest/gtest.h>
+
+namespace brimshade::model::tests {
+namespace {
+
+ExtraList library()
+{
+    return {item(u"cal"_s, true, u"Calendar"_s, u"3 events"_s),
+            item(u"bat"_s, false, u"Battery"_s, u"80 %"_s),
+            item(u"pwr"_s, true, u"Power"_s, u"Low bat"_s),
+            item(u"cafe"_s, false, u"Cafe\u0301 Timer"_s, u"Straße"_s), // the accent as a mark of its own
+            item(u"math"_s, false, u"x\u0302 Plot"_s, u"İstanbul Ilgaz"_s),
+            item(u"line"_s, true, u"Two\nLines"_s, u"end\n"_s)};
+}
+
+TEST(Search, FindsNamesAndDetailsAsAPersonTypesThem)
+{
+    const std::pair<QString, QStringList> cases[] = {
+        {u""_s, {u"cal"_s, u"bat"_s, u"pwr"_s, u"cafe"_s, u"math"_s, u"line"_s}},
+        {u" \t\u3000"_s, {u"cal"_s, u"bat"_s, u"pwr"_s, u"cafe"_s, u"math"_s, u"line"_s}}, // only blanks
+        {u"  cal  "_s, {u"cal"_s}},
+        {u"BAT"_s, {u"bat"_s, u"pwr"_s}}, // in a name, and in a detail alone
+        {u"caf\u00e9"_s, {u"cafe"_s}},
+        {u"CAF\u00c9"_s, {u"cafe"_s}},
+        {u"cafe"_s, {}}, // an accent is a difference
+        {u"STRASSE"_s, {u"cafe"_s}},
+        {u"x"_s, {}}, // half of a character that no single code stands for
+        {u"x\u0302"_s, {u"math"_s}},
+        {u"pwr"_s, {}}, // ids are not searched
+        {u"o\nl"_s, {u"line"_s}},
+        {u"end\n"_s, {u"line"_s}}, // a line break is no blank: it stays in the query
+        {u"\nend"_s, {}},
+    };
+    for (const auto &[query, expected] : cases) {
+        ModelContext context;
+        context.model().setExtras(library());
+        context.model().setQuery(query);
+        EXPECT_EQ(context.ids(context.model().matches()), expected) << qPrintable(query);
+    }
+}
+
+TEST(Search, KnowsTheTurkishDots)
+{
+    const QLocale before;
+    QLocale::setDefault(QLocale(QLocale::Turkish, QLocale::Turkey));
+    ModelContext context;
+    context.model().setExtras(library());
+    context.model().setQuery(u"istan"_s);
+    EXPECT_EQ(context.ids(context.model().matches()), QStringList{u"math"_s});
+    context.model().setQuery(u"ilgaz"_s);
+    EXPECT_TRUE(context.model().matches().empty());
+    QLocale::setDefault(before);
+}
+
+TEST(Search, ShowsVisibleItemsByTheQueryAsTyped)
+{
+    struct {
+        bool showVisible;
+        QString query;
+        QStringList hidden, visible;
+    } const cases[] = {
+        {true, u""_s, {u"h0"_s, u"h1"_s}, {u"v0"_s}},
+        {false, u""_s, {u"h0"_s, u"h1"_s}, {}},
+        {false, u" "_s, {u"h0"_s, u"h1"_s}, {u"v0"_s}}, // filters nothing, yet is a query
+        {false, u"visi"_s, {}, {u"v0"_s}},
+        {true, u"hid"_s, {u"h0"_s, u"h1"_s}, {}},
+    };
+    for (const auto &each : cases) {
+        ModelContext context;
+        NotchModel &model = context.model();
+        model.setExtras(items(2, 1));
+        model.setShowVisible(each.showVisible);
+        model.setQuery(each.query);
+        EXPECT_EQ(context.ids(model.hiddenMatches()), each.hidden) << qPrintable(each.query);
+        EXPECT_EQ(context.ids(model.visibleMatches()), each.visible) << qPrintable(each.query);
+        EXPECT_EQ(model.hiddenCount(), 2);
+    }
+}
+
+// What is remembered between reads must never show: any course of changes reads as if computed on the spot.
+TEST(Search, ReadsAsIfComputedAnewAfterAnyChange)
+{
+    QRandomGenerator random(7);
+    ModelContext context;
+    NotchModel &model = context.model();
+    const auto check = [&] {
+        NotchModel fresh(context.defaults, context.loginItems);
+        fresh.setExtras(model.extras());
+        fresh.setQuery(model.query());
+        EXPECT_EQ(model.matches(), fresh.matches());
+        EXPECT_EQ(model.hiddenMatches(), fresh.hiddenMatches());
+        EXPECT_EQ(model.visibleMatches(), fresh.visibleMatches());
+        EXPECT_EQ(model.panelSize(), fresh.panelSize());
+    };
+    QObject::connect(&model, &NotchModel::matchesChanged, check);
+    for (int i = 0; i < 200; ++i) {
+        switch (random.bounded(3)) {
+        case 0:
+            model.setExtras(items(random.bounded(12), random.bounded(12)));
+            break;
+        case 1:
+            model.setQuery(QStringList{u""_s, u" "_s, u"h"_s, u"i"_s, u"vis"_s, u"z"_s}.at(random.bounded(6)));
+            break;
+        default:
+            model.setShowVisible(random.bounded(2) == 0);
+        }
+        check();
+    }
+}
+
+TEST(Search, AnObserverSeesTheOldListsBeforeAndTheNewOnesAfter)
+{
+    ModelContext context;
+    NotchModel &model = context.model();
+    model.setExtras(items(1, 1));
+    QStringList seen;
+    QObject::connect(&model, &NotchModel::objectWillChange,
+                     [&] { seen.append(u"before %1"_s.arg(model.matches().size())); });
+    QObject::connect(&model, &NotchModel::queryChanged,
+                     [&] { seen.append(u"after %1"_s.arg(model.matches().size())); });
+    model.setQuery(u"hidden"_s);
+    EXPECT_EQ(seen.first(2), (QStringList{u"before 2"_s, u"after 1"_s}));
+}
+
+} // namespace
+} // namespace brimshade::model::tests

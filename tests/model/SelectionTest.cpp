@@ -1,0 +1,99 @@
+#include "ModelContext.h"
+
+#include <gtest/gtest.h>
+#include <limits>
+
+namespace brimshade::model::tests {
+namespace {
+
+TEST(Selection, StepsThroughHiddenThenVisibleItemsAndStaysInTheList)
+{
+    struct {
+        QString from;
+        int step;
+        QString to;
+    } const cases[] = {
+        {u""_s, 1, u"h0"_s},
+        {u""_s, -1, u"h0"_s},
+        {u""_s, 4, u"v0"_s}, // the first arrow down without a selection
+        {u"gone"_s, 1, u"h0"_s},
+        {u"h2"_s, 1, u"v0"_s},
+        {u"v0"_s, -1, u"h2"_s},
+        {u"h0"_s, -5, u"h0"_s},
+        {u"h0"_s, 100, u"v1"_s},
+        {u"v1"_s, std::numeric_limits<int>::max(), u"v1"_s},
+        {u"h1"_s, std::numeric_limits<int>::min(), u"h0"_s},
+    };
+    for (const auto &each : cases) {
+        ModelContext context;
+        NotchModel &model = context.model();
+        model.setExtras(items(3, 2));
+        model.setSelectedID(each.from);
+        model.setHoveredID(u"h1"_s);
+        model.moveSelection(each.step);
+        EXPECT_EQ(model.selectedID(), each.to) << qPrintable(each.from) << each.step;
+        EXPECT_EQ(model.hoveredID(), QString());
+    }
+}
+
+TEST(Selection, KeepsTheScannersOrderWithinEachSection)
+{
+    ModelContext context;
+    NotchModel &model = context.model();
+    model.setExtras({item(u"v0"_s), item(u"h0"_s, true), item(u"v1"_s), item(u"h1"_s, true)});
+    QStringList walked;
+    for (int i = 0; i < 4; ++i) {
+        model.moveSelection(1);
+        walked.append(model.selectedID());
+    }
+    EXPECT_EQ(walked, (QStringList{u"h0"_s, u"h1"_s, u"v0"_s, u"v1"_s}));
+}
+
+TEST(Selection, TypingSelectsTheFirstResult)
+{
+    const std::pair<QString, QString> cases[] = {
+        {u""_s, u"h0"_s}, {u"visible"_s, u"v0"_s}, {u"nothing"_s, u""_s}, {u"hidden"_s, u"h0"_s}};
+    ModelContext context;
+    NotchModel &model = context.model();
+    model.setExtras(items(2, 2));
+    for (const auto &[query, selected] : cases) {
+        model.setHoveredID(u"v1"_s);
+        model.setQuery(query);
+        EXPECT_EQ(model.selectedID(), selected) << qPrintable(query);
+        EXPECT_EQ(model.hoveredID(), QString());
+    }
+}
+
+TEST(Selection, WithoutItemsNothingIsSelectedAndAStepChangesNothing)
+{
+    ModelContext context;
+    NotchModel &model = context.model();
+    model.setQuery(u"a"_s);
+    EXPECT_EQ(model.selectedID(), QString());
+    model.setSelectedID(u"gone"_s);
+    model.setHoveredID(u"gone"_s);
+    model.moveSelection(1);
+    EXPECT_EQ(model.selectedID(), u"gone"_s);
+    EXPECT_EQ(model.hoveredID(), u"gone"_s);
+}
+
+TEST(Selection, ComparesIdsByCanonicalEquivalence)
+{
+    const std::pair<QString, QString> same[] = {
+        {u"1-0-caf\u00e9"_s, u"1-0-cafe\u0301"_s}, {u"1-0-\u212a"_s, u"1-0-K"_s}, {u"1-0-a"_s, u"1-0-a"_s}};
+    const std::pair<QString, QString> different[] = {{u"1-0-a"_s, u"1-0-A"_s}, {u"1-0-e"_s, u"1-0-\u00e9"_s}};
+    ModelContext context;
+    NotchModel &model = context.model();
+    const auto finds = [&](const QString &id, const QString &selected) {
+        model.setExtras({item(u"0-0-"_s), item(id)});
+        model.setSelectedID(selected);
+        return model.selectedMatch() == &model.extras()[1] && model.extraWithID(selected) == &model.extras()[1];
+    };
+    for (const auto &[id, selected] : same)
+        EXPECT_TRUE(finds(id, selected)) << qPrintable(id);
+    for (const auto &[id, selected] : different)
+        EXPECT_FALSE(finds(id, selected)) << qPrintable(id);
+}
+
+} // namespace
+} // namespace brimshade::model::tests
