@@ -1,6 +1,8 @@
 #pragma once
 #include "platform/Platform.h"
 
+#include <QHash>
+#include <QString>
 #include <memory>
 
 namespace brimshade::platform {
@@ -25,7 +27,6 @@ class HoverZone;
 namespace brimshade::app {
 
 class ItemMoves;
-class KeyHandler;
 class PanelPlacement;
 class PanelPresenter;
 class ScanScheduler;
@@ -56,14 +57,15 @@ public:
 
 private:
     void createStatusItem();
+    void createDivider();
     void createParts();
     void configureButton();
     void installCallbacks();
-    void observeScreens();
-    void welcome();
-    void toggle();
+    void screensChanged();
+    void welcome(); // the setup flow on a first run, else the permission prompt where it is needed
+    void finishOnboarding(const QHash<QString, bool> &choices);
 
-    platform::Platform m_platform;
+    const platform::Platform m_platform;
     std::shared_ptr<model::NotchModel> m_model;
     std::shared_ptr<menubar::MenuBarAccess> m_access;
     std::shared_ptr<platform::SerialQueue> m_scanQueue;

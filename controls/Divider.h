@@ -42,12 +42,18 @@ public:
     bool isWindowVisible() const override;
 
 private:
+    struct Room {
+        double length;
+        bool reachesNotch; // there is room beside the notch: worth checking that the bar gave it
+    };
+
     Divider(const platform::Platform &platform, std::shared_ptr<menubar::MenuBarAccess> access,
             std::shared_ptr<platform::StatusItem> item, const platform::Image &symbol);
 
     void observe();
+    void applicationsChanged();
     void measure();
-    std::optional<double> expandedLength() const; // absent when there is nothing to go by
+    std::optional<Room> room() const; // absent when there is nothing to go by
     void checkClearance();
     void giveWay();
     void later(double seconds, void (Divider::*step)());

@@ -1,0 +1,172 @@
+#include "AppDelegate.h"
+
+#include "ItemMoves.h"
+#include "PanelPlacement.h"
+#include "PanelPresenter.h"
+#include "SecondaryWindows.h"
+#include "StatusMenu.h"
+#include "controls/Divider.h"
+#include "controls/Hotkey.h"
+#include "controls/HoverZone.h"
+#include "controls/Weakly.h"
+#include "menubar/MenuBarAccess.h"
+#include "model/NotchModel.h"
+#include "platform/Accessibility.h"
+#include "platform/Dispatch.h"
+#include "platform/NotificationCenter.h"
+#include "platform/StatusBar.h"
+#include "platform/Symbol.h"
+#include "platform/UserDefaults.h"
+
+using namespace Qt::StringLiterals;
+
+namespace brimshade::app {
+
+using controls::weakly;
+
+namespace {
+
+constexpr qlonglong kFirstPosition = 5; // right of every other item that can move
+
+}
+
+AppDelegate::AppDelegate(const platform::Platform &platform)
+    : m_platform(platform), m_model(std::make_shared<model::NotchModel>(platform.userDefaults, platform.loginItems)),
+      m_access(std::make_shared<menubar::MenuBarAccess>(platform)),
+      m_scanQueue(platform.dispatch.makeSerialQueue(u"brimshade.scan"_s, platform::QualityOfService::userInitiated)),
+      m_placement(std::make_shared<PanelPlacement>(platform.screens, platform.application)),
+      m_hoverZone(std::make_shared<controls::HoverZone>(platform))
+{
+}
+
+AppDelegate::~AppDelegate() = default;
+
+void AppDelegate::applicationDidFinishLaunching()
+{
+    createStatusItem();
+    createDivider();
+    createParts();
+    configureButton();
+    installCallbacks();
+    applySettings();
+    // Once more on a later turn: the status item has its window by then. It must not be lost with its owner.
+    m_platform.dispatch.mainAsync([self = shared_from_this()] { self->m_divider->reanchor(); });
+    m_platform.notificationCenter.addObserver(
+        QString::fromLatin1(platform::kNSApplicationDidChangeScreenParametersNotification), nullptr,
+        weakly(weak_from_this(), &AppDelegate::screensChanged));
+    welcome();
+}
+
+void AppDelegate::createStatusItem()
+{
+    // Stored before the item exists, so that its first place is ours to choose and every later one the user's.
+    const QString position = u"NSStatusItem Preferred Position BrimshadeButton"_s;
+    if (!m_platform.userDefaults.objectForKey(position).isValid())
+        m_platform.userDefaults.setInteger(kFirstPosition, position);
+    m_statusItem = m_platform.statusBar.createStatusItem(platform::kSquareStatusItemLength);
+    m_statusItem->setAutosaveName(u"BrimshadeButton"_s);
+}
+
+void AppDelegate::createDivider()
+{
+    const platform::Image symbol = m_platform.symbols.symbolImage(u"rectangle.topthird.inset.filled"_s, u"Brimshade"_s,
+                                                                  {14, platform::SymbolWeight::semibold});
+    m_divider = controls::Divider::create(m_platform, m_access, m_statusItem, symbol);
+    m_divider->setEnabled(m_model->dividerEnabled());
+    m_divider->reanchor();
+}
+
+void AppDelegate::createParts()
+{
+    const ScanScheduler::Parts parts{m_model, m_access, m_scanQueue, m_placement, m_divider};
+    m_scans = std::make_shared<ScanScheduler>(m_platform, parts);
+    m_panel = std::make_shared<PanelPresenter>(m_platform, parts, m_scans, m_statusItem);
+    m_windows = std::make_shared<SecondaryWindows>(m_platform, m_model, m_panel, m_scans,
+                                                   weakly(weak_from_this(), &AppDelegate::finishOnboarding));
+    m_moves = std::make_shared<ItemMoves>(m_platform, parts, m_scans, m_panel, m_windows);
+    m_statusMenu =
+        std::make_shared<StatusMenu>(m_platform, StatusMenu::Parts{m_model, m_statusItem, m_panel, m_windows, m_scans});
+}
+
+void AppDelegate::configureButton()
+{
+    platform::StatusBarButton *button = m_statusItem->button();
+    if (!button)
+        return;
+    button->setAccessibilityLabel(u"Brimshade"_s);
+    button->setAction(platform::kLeftMouseUpMask | platform::kRightMouseUpMask,
+                      weakly(weak_from_this(), &AppDelegate::statusClicked));
+}
+
+void AppDelegate::installCallbacks()
+{
+    const std::weak_ptr panel = m_panel;
+    m_model->onSelect = weakly(panel, &PanelPresenter::select);
+    m_model->onDismiss = weakly(panel, &PanelPresenter::close);
+    m_model->onSetHidden = weakly(std::weak_ptr(m_moves), &ItemMoves::setHidden);
+    m_model->onOpenSettings = weakly(weak_from_this(), &AppDelegate::openSettings);
+    m_model->onSettingsChanged = weakly(weak_from_this(), &AppDelegate::applySettings);
+    m_model->onRefresh = weakly(weak_from_this(), &AppDelegate::refresh);
+    m_model->onShowOnboarding = weakly(weak_from_this(), &AppDelegate::showOnboarding);
+    m_hoverZone->setOnHover(weakly(panel, &PanelPresenter::hovered));
+}
+
+void AppDelegate::applySettings()
+{
+    if (m_divider->isEnabled() != m_model->dividerEnabled()) {
+        m_divider->setEnabled(m_model->dividerEnabled());
+        m_divider->reanchor();
+    }
+    if (!m_hotkey)
+        m_hotkey = std::make_unique<controls::Hotkey>(m_platform.hotkeyCenter,
+                                                      weakly(std::weak_ptr(m_panel), &PanelPresenter::toggle));
+    m_hotkey->set(m_model->shortcut());
+    m_hoverZone->update(m_model->hoverToOpen(), notchedScreen(m_platform.screens));
+}
+
+void AppDelegate::screensChanged()
+{
+    m_panel->close();
+    applySettings();
+    m_divider->reanchor();
+}
+
+void AppDelegate::welcome()
+{
+    if (!m_platform.userDefaults.boolForKey(u"onboardingDone"_s))
+        showOnboarding();
+    else if (!m_platform.accessibility.isProcessTrusted())
+        m_platform.accessibility.isProcessTrustedWithOptions(true);
+}
+
+void AppDelegate::finishOnboarding(const Choices &choices)
+{
+    m_moves->finishOnboarding(choices);
+}
+
+void AppDelegate::statusClicked()
+{
+    m_statusMenu->clicked();
+}
+
+void AppDelegate::refresh()
+{
+    m_scans->scan();
+}
+
+void AppDelegate::openSettings()
+{
+    m_windows->openSettings();
+}
+
+void AppDelegate::showOnboarding()
+{
+    m_windows->showOnboarding();
+}
+
+bool AppDelegate::shown() const
+{
+    return m_panel && m_panel->shown();
+}
+
+} // namespace brimshade::app

@@ -1,0 +1,28 @@
+#pragma once
+#include "platform/Application.h"
+
+#include <vector>
+
+namespace brimshade::app {
+
+// A set of event monitors that goes as one. Main thread.
+class EventMonitors {
+public:
+    explicit EventMonitors(platform::Application &application) : m_application(application) { }
+    ~EventMonitors() { removeAll(); }
+    EventMonitors(const EventMonitors &) = delete;
+    EventMonitors &operator=(const EventMonitors &) = delete;
+
+    void addGlobal(platform::EventMask mask, std::function<void(const platform::Event &)> handler);
+    void addLocal(platform::EventMask mask,
+                  std::function<std::optional<platform::Event>(const platform::Event &)> handler);
+    void removeAll();
+
+private:
+    void keep(platform::MonitorToken token);
+
+    platform::Application &m_application;
+    std::vector<platform::MonitorToken> m_tokens;
+};
+
+} // namespace brimshade::app

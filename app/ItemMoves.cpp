@@ -1,0 +1,116 @@
+#include "ItemMoves.h"
+
+#include "PanelPlacement.h"
+#include "PanelPresenter.h"
+#include "SecondaryWindows.h"
+#include "controls/Divider.h"
+#include "menubar/MenuBarAccess.h"
+#include "model/NotchModel.h"
+#include "platform/Dispatch.h"
+#include "platform/UserDefaults.h"
+
+#include <algorithm>
+
+using namespace Qt::StringLiterals;
+
+namespace brimshade::app {
+
+namespace {
+
+constexpr double kMoveDelay = 0.35; // the panel is off screen by then
+constexpr double kBulkDelay = 1.2;
+
+} // namespace
+
+ItemMoves::ItemMoves(const platform::Platform &platform, ScanScheduler::Parts parts,
+                     std::shared_ptr<ScanScheduler> scans, std::shared_ptr<PanelPresenter> panel,
+                     std::shared_ptr<SecondaryWindows> windows)
+    : m_platform(platform), m_parts(std::move(parts)), m_scans(std::move(scans)), m_panel(std::move(panel)),
+      m_windows(std::move(windows))
+{
+}
+
+ItemMoves::~ItemMoves() = default;
+
+void ItemMoves::setHidden(const menubar::MenuExtra &extra, bool hidden)
+{
+    if (!m_parts.model->movingID().isEmpty())
+        return;
+    m_panel->close();
+    m_parts.model->setMovingID(extra.id);
+    m_parts.model->setMessage({});
+    m_platform.dispatch.mainAfter(kMoveDelay, [weak = weak_from_this(), extra, hidden] {
+        if (const auto self = weak.lock())
+            self->queueMove(extra, hidden);
+    });
+}
+
+void ItemMoves::queueMove(const menubar::MenuExtra &extra, bool hidden)
+{
+    m_parts.queue->async([weak = weak_from_this(), &dispatch = m_platform.dispatch,
+                          mover = menubar::MenuBarMover(m_platform, m_parts.access),
+                          divider = std::weak_ptr(m_parts.divider), extra, hidden] {
+        dispatch.mainAsync([weak, extra, result = mover.move(extra, hidden, divider)] {
+            if (const auto self = weak.lock())
+                self->moveFinished(extra, result);
+        });
+    });
+}
+
+void ItemMoves::moveFinished(const menubar::MenuExtra &extra, const menubar::MenuBarMover::Result &result)
+{
+    m_parts.model->setMovingID({});
+    if (!result) {
+        m_parts.model->setMessage(failureMessage(extra, result.error()));
+        if (!m_windows->isSettingsVisible())
+            m_windows->openSettings();
+    }
+    m_scans->scan();
+}
+
+void ItemMoves::finishOnboarding(const Choices &choices)
+{
+    m_platform.userDefaults.setBool(true, u"onboardingDone"_s);
+    m_windows->closeOnboarding();
+    model::NotchModel &model = *m_parts.model;
+    const auto pending = [&choices](const menubar::MenuExtra &extra) { return isPending(extra, choices); };
+    if (std::ranges::none_of(model.extras(), pending)) {
+        m_panel->open(false);
+        return;
+    }
+    const auto toHide = [&](const menubar::MenuExtra &extra) { return pending(extra) && !extra.isHidden; };
+    if (std::ranges::any_of(model.extras(), toHide))
+        model.setDividerEnabled(true);
+    model.setMovingID(u"onboarding"_s);
+    m_platform.dispatch.mainAfter(kBulkDelay,
+                                  [weak = weak_from_this(), job = BulkMove::Job{choices, m_parts.placement->screen()}] {
+                                      if (const auto self = weak.lock())
+                                          self->applyChoices(job);
+                                  });
+}
+
+void ItemMoves::applyChoices(BulkMove::Job job)
+{
+    job.passLimit = 2 * m_parts.model->itemCount();
+    m_parts.queue->async(
+        [weak = weak_from_this(), &dispatch = m_platform.dispatch,
+         bulk = std::make_shared<BulkMove>(m_platform, m_parts.access, m_scans, m_parts.divider, std::move(job))] {
+            dispatch.mainAsync([weak, messages = bulk->run()] {
+                if (const auto self = weak.lock())
+                    self->choicesApplied(messages);
+            });
+        });
+}
+
+void ItemMoves::choicesApplied(const MoveMessages &messages)
+{
+    m_parts.model->setMovingID({});
+    if (messages.isEmpty()) {
+        m_panel->open(false);
+        return;
+    }
+    m_parts.model->setMessage(failureSummary(messages));
+    m_windows->openSettings();
+}
+
+} // namespace brimshade::app

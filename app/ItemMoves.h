@@ -1,0 +1,36 @@
+#pragma once
+#include "BulkMove.h"
+#include "platform/Platform.h"
+
+namespace brimshade::app {
+
+class PanelPresenter;
+class SecondaryWindows;
+
+// Hides and shows items by moving them across the divider, one at a time, and words what went wrong. Main thread;
+// the moves themselves run on the scan queue.
+class ItemMoves : public std::enable_shared_from_this<ItemMoves> {
+public:
+    ItemMoves(const platform::Platform &platform, ScanScheduler::Parts parts, std::shared_ptr<ScanScheduler> scans,
+              std::shared_ptr<PanelPresenter> panel, std::shared_ptr<SecondaryWindows> windows);
+    ~ItemMoves();
+
+    // Ignored while anything moves. A failure ends in the model's message.
+    void setHidden(const menubar::MenuExtra &extra, bool hidden);
+    // The setup flow is done: remembers that, and brings every item where it was chosen to be.
+    void finishOnboarding(const Choices &choices);
+
+private:
+    void queueMove(const menubar::MenuExtra &extra, bool hidden);
+    void moveFinished(const menubar::MenuExtra &extra, const menubar::MenuBarMover::Result &result);
+    void applyChoices(BulkMove::Job job);
+    void choicesApplied(const MoveMessages &messages);
+
+    const platform::Platform m_platform;
+    const ScanScheduler::Parts m_parts;
+    const std::shared_ptr<ScanScheduler> m_scans;
+    const std::shared_ptr<PanelPresenter> m_panel;
+    const std::shared_ptr<SecondaryWindows> m_windows;
+};
+
+} // namespace brimshade::app

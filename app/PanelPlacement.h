@@ -1,0 +1,34 @@
+#pragma once
+#include "platform/Screens.h"
+
+namespace brimshade::platform {
+class Application;
+}
+
+namespace brimshade::app {
+
+// The first screen whose menu bar leaves a gap for the camera housing; absent without one.
+std::optional<platform::Screen> notchedScreen(const platform::Screens &screens);
+
+// The screen that the panel opens on, and where on it. Main thread; screen space.
+class PanelPlacement {
+public:
+    PanelPlacement(const platform::Screens &screens, const platform::Application &application);
+
+    // Of the last opening, as it was then; the main screen before the first.
+    const platform::Screen &screen() const { return m_screen; }
+    // The notched screen, else the one under the pointer, else the main one, else the one of last time.
+    void chooseScreen();
+
+    QSizeF notchSize() const; // a stand-in's where the screen has none
+    QRectF panelFrame() const; // hangs from the top of the screen, centred on the notch
+
+private:
+    std::optional<platform::Screen> screenUnderPointer() const;
+
+    const platform::Screens &m_screens;
+    const platform::Application &m_application;
+    platform::Screen m_screen;
+};
+
+} // namespace brimshade::app

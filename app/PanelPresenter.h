@@ -1,0 +1,70 @@
+#pragma once
+#include "EventMonitors.h"
+#include "KeyHandler.h"
+#include "ScanScheduler.h"
+#include "menubar/MenuExtra.h"
+#include "platform/Platform.h"
+
+#include <memory>
+
+namespace brimshade::platform {
+class Log;
+class StatusItem;
+class Timer;
+class Window;
+} // namespace brimshade::platform
+
+namespace brimshade::model {
+class PermissionRequest;
+class TileActions;
+} // namespace brimshade::model
+
+namespace brimshade::app {
+
+// Opens and closes the panel, and watches pointer, clicks and keys while it is shown. Main thread.
+class PanelPresenter : public std::enable_shared_from_this<PanelPresenter> {
+public:
+    PanelPresenter(const platform::Platform &platform, const ScanScheduler::Parts &parts,
+                   std::shared_ptr<ScanScheduler> scans, std::shared_ptr<platform::StatusItem> statusItem);
+    ~PanelPresenter();
+
+    bool shown() const { return m_shown; }
+    // Refused while an item is being moved. By hover the panel leaves the keys where they are.
+    void open(bool byHover);
+    void close(); // the panel goes off screen 0.35 s later, unless reopened
+    void toggle();
+    void select(const menubar::MenuExtra &extra); // closes, then presses the item
+    void hovered(); // the pointer has rested on the notch
+
+private:
+    void prepareModel();
+    void placePanel();
+    void logOpening(bool byHover) const;
+    void show(bool byHover);
+    void orderOutIfClosed();
+    void installMonitors();
+    void handleOutsideClick();
+    std::optional<platform::Event> handleKey(const platform::Event &event);
+    void startPointerWatch();
+    void stopPointerWatch();
+    void watchPointer();
+    bool isPointerInside() const;
+    platform::Window &panel();
+
+    const platform::Platform m_platform;
+    const std::shared_ptr<model::NotchModel> m_model;
+    const std::shared_ptr<menubar::MenuBarAccess> m_access;
+    const std::shared_ptr<PanelPlacement> m_placement;
+    const std::shared_ptr<ScanScheduler> m_scans;
+    const std::shared_ptr<platform::StatusItem> m_statusItem;
+    const std::unique_ptr<model::TileActions> m_tileActions;
+    const std::unique_ptr<model::PermissionRequest> m_permission;
+    const KeyHandler m_keys;
+    std::unique_ptr<platform::Window> m_panel; // from the first opening on
+    EventMonitors m_monitors;
+    std::unique_ptr<platform::Timer> m_pointerWatch; // only while a panel opened by hover is shown
+    std::optional<double> m_awaySince; // Dispatch seconds; absent while the pointer is inside
+    bool m_shown = false;
+};
+
+} // namespace brimshade::app

@@ -1,0 +1,24 @@
+#pragma once
+#include "platform/Window.h"
+
+namespace brimshade::controls {
+
+// The panel that holds the hover view: over the menu bar on every space, and never in anybody's way.
+inline platform::WindowAttributes stripPanelAttributes(const QRectF &frame)
+{
+    platform::WindowAttributes strip;
+    strip.name = QStringLiteral("strip");
+    strip.contentRect = frame;
+    strip.styleMask = platform::kStyleNonactivatingPanel;
+    strip.level = platform::kStatusWindowLevel;
+    strip.collectionBehavior =
+        platform::kCanJoinAllSpaces | platform::kStationary | platform::kIgnoresCycle | platform::kFullScreenAuxiliary;
+    strip.isPanel = true;
+    strip.isOpaque = false;
+    strip.hasShadow = false;
+    strip.canBecomeKey = false;
+    strip.constrainsFrame = false;
+    return strip;
+}
+
+} // namespace brimshade::controls
