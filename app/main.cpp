@@ -29,7 +29,7 @@ int complain(const QString &message)
 // Before the application object: they choose how Qt draws.
 void prepareEnvironment(const app::CommandLine &line)
 {
-    if (!line.script)
+    if (line.hasWindow)
         return;
     qputenv("QT_QPA_PLATFORM", "offscreen");
     qputenv("QT_QUICK_BACKEND", "software");
@@ -45,14 +45,15 @@ std::unique_ptr<platform::UserDefaults> openDefaults(const app::CommandLine &lin
 
 std::expected<app::SessionOptions, QString> sessionOptions(const app::CommandLine &line)
 {
-    const auto description = line.desktopFile ? desktop::readDesktopFile(*line.desktopFile)
-                                              : std::expected<desktop::DesktopDescription, QString>(
-                                                    desktop::builtInDesktop());
+    const auto description = line.desktopFile
+        ? desktop::readDesktopFile(*line.desktopFile)
+        : std::expected<desktop::DesktopDescription, QString>(desktop::builtInDesktop());
     if (!description)
         return std::unexpected(description.error());
     return app::SessionOptions{.description = *description,
                                .defaults = openDefaults(line),
-                               .hasWindow = !line.script,
+                               .isScripted = line.script.has_value(),
+                               .hasWindow = line.hasWindow,
                                .isRealTime = line.isRealTime,
                                .hostsTray = line.hostsTray,
                                .scale = line.scale};
@@ -61,7 +62,6 @@ std::expected<app::SessionOptions, QString> sessionOptions(const app::CommandLin
 int runWindow(app::Session &session)
 {
     QObject::connect(&session.desktop(), &desktop::Desktop::terminated, qApp, &QGuiApplication::quit);
-    session.scene().quickWindow()->show();
     return QGuiApplication::exec();
 }
 
@@ -91,8 +91,8 @@ int main(int argc, char **argv)
     QFile script;
     if (line->script) {
         script.setFileName(*line->script);
-        const bool opened = *line->script == "-"_L1 ? script.open(stdin, QIODevice::ReadOnly)
-                                                    : script.open(QIODevice::ReadOnly);
+        const bool opened =
+            *line->script == "-"_L1 ? script.open(stdin, QIODevice::ReadOnly) : script.open(QIODevice::ReadOnly);
         if (!opened)
             return complain(u"%1: %2"_s.arg(*line->script, script.errorString()));
     }
@@ -108,5 +108,7 @@ int main(int argc, char **argv)
     if (!options)
         return complain(options.error());
     app::Session session(std::move(*options));
+    if (line->hasWindow)
+        session.scene().quickWindow()->show();
     return line->script ? runScript(session, *line, script.handle()) : runWindow(session);
 }

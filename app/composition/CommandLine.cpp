@@ -15,8 +15,9 @@ struct Options {
     QCommandLineOption noTray{u"no-tray"_s, u"Do not host the session's tray items."_s};
     QCommandLineOption tray{u"tray"_s, u"With --script: host the session's tray items."_s};
     QCommandLineOption defaults{u"defaults"_s, u"Keep the settings in <file>."_s, u"file"_s};
-    QCommandLineOption script{u"script"_s, u"Carry out the commands in <file>, - for standard input; no window."_s,
+    QCommandLineOption script{u"script"_s, u"Carry out the commands in <file>, - for standard input, without a window."_s,
                               u"file"_s};
+    QCommandLineOption window{u"window"_s, u"With --script: show the window too, in real time."_s};
     QCommandLineOption realTime{u"real-time"_s, u"With --script: time passes as on a clock."_s};
     QCommandLineOption scale{u"scale"_s, u"With --script: pixels a point in pictures, 1 to 4."_s, u"number"_s, u"1"_s};
     QCommandLineOption help{{u"h"_s, u"help"_s}, u"Print this help."_s};
@@ -24,7 +25,7 @@ struct Options {
 
     QList<QCommandLineOption> all() const
     {
-        return {desktop, noTray, tray, defaults, script, realTime, scale, help, version};
+        return {desktop, noTray, tray, defaults, script, window, realTime, scale, help, version};
     }
 };
 
@@ -38,7 +39,7 @@ std::optional<QString> faultIn(const QCommandLineParser &parser, const Options &
     if (!parser.positionalArguments().isEmpty())
         return u"unexpected argument \"%1\""_s.arg(parser.positionalArguments().constFirst());
     const bool isScript = parser.isSet(options.script);
-    for (const QCommandLineOption &scriptOnly : {options.tray, options.realTime, options.scale}) {
+    for (const QCommandLineOption &scriptOnly : {options.tray, options.window, options.realTime, options.scale}) {
         if (parser.isSet(scriptOnly) && !isScript)
             return u"--%1 goes with --script"_s.arg(scriptOnly.names().constFirst());
     }
@@ -75,7 +76,8 @@ std::expected<CommandLine, QString> parseCommandLine(const QStringList &argument
     line.defaultsFile = valueOf(parser, options.defaults);
     line.script = valueOf(parser, options.script);
     line.hostsTray = isScript ? parser.isSet(options.tray) : !parser.isSet(options.noTray);
-    line.isRealTime = !isScript || parser.isSet(options.realTime);
+    line.hasWindow = !isScript || parser.isSet(options.window);
+    line.isRealTime = line.hasWindow || parser.isSet(options.realTime);
     line.scale = parser.value(options.scale).toDouble();
     return line;
 }

@@ -117,9 +117,8 @@ void Session::Parts::buildDesktop(SessionOptions &options)
         desktop::Desktop::Services{.dispatch = dispatch(),
                                    .symbols = symbols,
                                    .defaults = std::move(options.defaults),
-                                   .loginItems = options.hasWindow
-                                       ? std::make_unique<desktop::AutostartLoginItem>()
-                                       : std::unique_ptr<platform::LoginItems>()},
+                                   .loginItems = options.isScripted ? std::unique_ptr<platform::LoginItems>()
+                                                                    : std::make_unique<desktop::AutostartLoginItem>()},
         options.description);
 }
 

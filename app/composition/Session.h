@@ -18,7 +18,8 @@ class AppDelegate;
 struct SessionOptions {
     desktop::DesktopDescription description;
     std::unique_ptr<platform::UserDefaults> defaults; // null: empty, in memory
-    bool hasWindow = false;  // on the running session; else it is scripted
+    bool isScripted = true;  // the login item is the description's, not the user's own
+    bool hasWindow = false;  // on the running session
     bool isRealTime = false; // always, with a window
     bool hostsTray = false;
     double scale = 1; // pixels a point, for pictures of a script
@@ -33,7 +34,7 @@ public:
     ~Session();
     Q_DISABLE_COPY_MOVE(Session)
 
-    QJsonObject run(const QJsonObject &command); // one script command; only when scripted
+    QJsonObject run(const QJsonObject &command); // one script command
     AppDelegate &delegate();
     desktop::Desktop &desktop();
     desktop::SceneHost &scene();

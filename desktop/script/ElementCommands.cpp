@@ -17,7 +17,7 @@ ScriptRunner::Result ScriptRunner::find(Arguments &arguments)
         return std::unexpected(*fault);
     m_scene.settle();
     QJsonArray elements;
-    for (const FoundElement &element : visibleElements(*m_scene.quickWindow())) {
+    for (const FoundElement &element : visibleElements(m_scene)) {
         if (element.name.contains(text) || element.description.contains(text))
             elements.append(element.toJson());
     }
@@ -32,7 +32,7 @@ ScriptRunner::Result ScriptRunner::pressElement(Arguments &arguments)
         return std::unexpected(*fault);
 
     m_scene.settle();
-    std::vector<FoundElement> elements = visibleElements(*m_scene.quickWindow());
+    std::vector<FoundElement> elements = visibleElements(m_scene);
     std::erase_if(elements, [&](const FoundElement &element) {
         return !element.isInteractive || element.name != name || (!role.isEmpty() && element.role != role);
     });

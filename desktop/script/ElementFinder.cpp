@@ -1,5 +1,6 @@
 #include "ElementFinder.h"
 #include "Json.h"
+#include "desktop/scene/SceneHost.h"
 
 #include <QAccessible>
 #include <QMetaEnum>
@@ -105,10 +106,13 @@ QJsonObject FoundElement::toJson() const
             {u"opacity"_s, opacity}};
 }
 
-std::vector<FoundElement> visibleElements(QQuickWindow &window)
+std::vector<FoundElement> visibleElements(const SceneHost &scene)
 {
+    QQuickWindow &window = *scene.quickWindow();
     std::vector<FoundElement> elements;
     collect(QAccessible::queryAccessibleInterface(&window), QRectF(0, 0, window.width(), window.height()), elements);
+    for (FoundElement &element : elements)
+        element.frame = {scene.toDisplay(element.frame.topLeft()), scene.toDisplay(element.frame.bottomRight())};
     return elements;
 }
 

@@ -1,0 +1,24 @@
+"""What a process has used so far, read from /proc."""
+import os
+import pathlib
+
+
+def status(pid, key):
+    for line in pathlib.Path(f"/proc/{pid}/status").read_text().splitlines():
+        if line.startswith(key + ":"):
+            return int(line.split()[1])
+    raise KeyError(key)
+
+
+def resident_kib(pid):
+    return status(pid, "VmRSS")
+
+
+def cpu_seconds(pid):
+    fields = pathlib.Path(f"/proc/{pid}/stat").read_text().rsplit(")", 1)[1].split()
+    return (int(fields[11]) + int(fields[12])) / os.sysconf("SC_CLK_TCK")
+
+
+def wakeups(pid):
+    """Voluntary context switches of all threads: each is one time that something woke the process."""
+    return sum(status(f"{pid}/task/{thread}", "voluntary_ctxt_switches") for thread in os.listdir(f"/proc/{pid}/task"))
