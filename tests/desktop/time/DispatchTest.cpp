@@ -1,0 +1,211 @@
+// What both implementations promise. Where a delay is needed the order is what counts, not how long it took.
+#include "desktop/time/RealDispatch.h"
+#include "desktop/time/VirtualDispatch.h"
+
+#include <QCoreApplication>
+#include <QEventLoop>
+#include <QString>
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+namespace brimshade::desktop {
+namespace {
+
+using platform::DispatchWorkItem;
+using platform::QualityOfService;
+using testing::ElementsAre;
+using namespace Qt::StringLiterals;
+
+void runUntil(VirtualDispatch &dispatch, const bool &done)
+{
+    dispatch.advance(1);
+    ASSERT_TRUE(done);
+}
+
+void runUntil(RealDispatch &, const bool &done)
+{
+    while (!done)
+        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+}
+
+template <class Implementation> class DispatchTest : public testing::Test {
+protected:
+    // Runs the main queue until done is true, or time enough has passed for it under virtual time.
+    void run(const bool &done) { runUntil(*dispatch, done); }
+    std::shared_ptr<platform::SerialQueue> makeQueue()
+    {
+        return dispatch->makeSerialQueue(u"test"_s, QualityOfService::userInitiated);
+    }
+
+    std::unique_ptr<Implementation> dispatch = std::make_unique<Implementation>();
+    std::vector<int> order;
+    bool done = false;
+};
+
+using Implementations = testing::Types<RealDispatch, VirtualDispatch>;
+TYPED_TEST_SUITE(DispatchTest, Implementations);
+
+TYPED_TEST(DispatchTest, WorkRunsByDueTimeThenByQueueing)
+{
+    auto &order = this->order;
+    this->dispatch->mainAfter(0.003, [&] { this->done = true; });
+    this->dispatch->mainAfter(0.002, [&] { order.push_back(4); });
+    this->dispatch->mainAfter(0.001, [&] { order.push_back(3); });
+    this->dispatch->mainAsync([&] { order.push_back(1); });
+    this->dispatch->mainAfter(-1, [&] { order.push_back(2); });
+    EXPECT_THAT(order, ElementsAre()); // never before a later turn
+    this->run(this->done);
+    EXPECT_THAT(order, ElementsAre(1, 2, 3, 4));
+}
+
+TYPED_TEST(DispatchTest, WorkQueuedByWorkRunsInALaterTurn)
+{
+    auto &order = this->order;
+    this->dispatch->mainAsync([&] {
+        this->dispatch->mainAsync([&] {
+            order.push_back(3);
+            this->done = true;
+        });
+        order.push_back(1);
+    });
+    this->dispatch->mainAsync([&] { order.push_back(2); });
+    this->run(this->done);
+    EXPECT_THAT(order, ElementsAre(1, 2, 3));
+}
+
+TYPED_TEST(DispatchTest, CancelledWorkItemDoesNotRun)
+{
+    auto kept = std::make_shared<DispatchWorkItem>([&] { this->order.push_back(1); });
+    auto cancelled = std::make_shared<DispatchWorkItem>([&] { this->order.push_back(2); });
+    for (const auto &item : {cancelled, kept})
+        this->dispatch->mainAfter(0.001, [item] { item->perform(); });
+    this->dispatch->mainAfter(0.001, [&] { this->done = true; });
+    cancelled->cancel();
+    this->run(this->done);
+    EXPECT_THAT(this->order, ElementsAre(1));
+}
+
+TYPED_TEST(DispatchTest, TimerStopsWhenItIsInvalidatedOrDestroyedInItsOwnTick)
+{
+    int ticks = 0;
+    std::unique_ptr<platform::Timer> invalidated;
+    std::unique_ptr<platform::Timer> destroyed;
+    invalidated = this->dispatch->scheduleRepeating(0.001, [&] {
+        if (++ticks == 3)
+            invalidated->invalidate();
+    });
+    destroyed = this->dispatch->scheduleRepeating(0.001, [&] {
+        destroyed.reset();
+        this->order.push_back(1);
+    });
+    this->dispatch->mainAfter(0.01, [&] { this->done = true; });
+    this->run(this->done);
+    EXPECT_LE(ticks, 3); // a real clock may have skipped some
+    EXPECT_THAT(this->order, ElementsAre(1));
+}
+
+TYPED_TEST(DispatchTest, SerialQueueKeepsItsOrderOffTheMainThread)
+{
+    const auto queue = this->makeQueue();
+    EXPECT_EQ(queue->label(), u"test"_s);
+    std::vector<int> &order = this->order; // touched by the queue only, until done
+    bool onMain = false;
+    for (int i = 0; i < 100; ++i) {
+        queue->async([&, i] {
+            order.push_back(i);
+            onMain |= this->dispatch->isMainThread();
+        });
+    }
+    queue->async([&] { this->dispatch->mainAsync([&] { this->done = true; }); });
+    this->run(this->done);
+    EXPECT_EQ(order.size(), 100U);
+    EXPECT_TRUE(std::ranges::is_sorted(order));
+    EXPECT_FALSE(onMain);
+    EXPECT_TRUE(this->dispatch->isMainThread());
+}
+
+TYPED_TEST(DispatchTest, MainSyncRunsOnTheMainThreadAndReturnsWhenItIsDone)
+{
+    const auto queue = this->makeQueue();
+    std::vector<int> &order = this->order;
+    bool onMain = false;
+    queue->async([&] {
+        order.push_back(1);
+        this->dispatch->mainSync([&] {
+            onMain = this->dispatch->isMainThread();
+            order.push_back(2);
+        });
+        order.push_back(3);
+        this->dispatch->mainAsync([&] { this->done = true; });
+    });
+    this->run(this->done);
+    EXPECT_TRUE(onMain);
+    this->dispatch->mainSync([&] { order.push_back(4); }); // inline
+    EXPECT_THAT(order, ElementsAre(1, 2, 3, 4));
+}
+
+TYPED_TEST(DispatchTest, GlobalWorkOverlaps)
+{
+    // The first piece waits for what the second one does: one after the other they would never end.
+    bool secondRan = false; // main thread only
+    this->dispatch->globalAsync(QualityOfService::userInitiated, [&] {
+        bool seen = false;
+        while (!seen) {
+            this->dispatch->sleep(0.0001);
+            this->dispatch->mainSync([&] { seen = secondRan; });
+        }
+        this->dispatch->mainAsync([&] { this->done = true; });
+    });
+    this->dispatch->globalAsync(QualityOfService::userInitiated,
+                                [&] { this->dispatch->mainSync([&] { secondRan = true; }); });
+    this->run(this->done);
+}
+
+TYPED_TEST(DispatchTest, DestructionEndsSleepsAndDropsMainSync)
+{
+    TypeParam &dispatch = *this->dispatch; // the pointer is gone while the workers end
+    const auto asleep = this->makeQueue();
+    const auto waiting = this->makeQueue();
+    auto witness = std::make_shared<int>();
+    bool woke = false;
+    bool ranOnMain = false;
+    asleep->async([&] {
+        dispatch.mainAsync([&] { this->done = true; });
+        dispatch.sleep(86400);
+        dispatch.sleep(86400);
+        dispatch.mainSync([&] { ranOnMain = true; });
+        woke = true;
+    });
+    asleep->async([witness] { ADD_FAILURE() << "its turn never comes"; });
+    this->run(this->done);
+    waiting->async([&] { dispatch.mainSync([&] { ranOnMain = true; }); }); // under way or not yet begun
+    dispatch.mainAfter(86400, [witness] {});
+    this->dispatch.reset();
+
+    EXPECT_TRUE(woke);
+    EXPECT_FALSE(ranOnMain);
+    asleep->async([witness] {}); // a queue may outlive its dispatch
+    EXPECT_EQ(witness.use_count(), 1);
+}
+
+TYPED_TEST(DispatchTest, TwoInOneProcessDoNotMeet)
+{
+    TypeParam other;
+    bool otherRan = false;
+    const auto queue = other.makeSerialQueue(u"other"_s, QualityOfService::background);
+    queue->async([&] {
+        other.mainSync([&] { this->order.push_back(2); });
+        other.mainAsync([&] { otherRan = true; });
+    });
+    this->dispatch->mainAsync([&] {
+        this->order.push_back(1);
+        this->done = true;
+    });
+    this->run(this->done);
+    this->dispatch.reset();
+    runUntil(other, otherRan);
+    EXPECT_THAT(this->order, testing::UnorderedElementsAre(1, 2));
+}
+
+} // namespace
+} // namespace brimshade::desktop

@@ -1,0 +1,188 @@
+#include "desktop/time/VirtualDispatch.h"
+
+#include <QObject>
+#include <QPointer>
+#include <QString>
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+#include <thread>
+
+namespace brimshade::desktop {
+namespace {
+
+using platform::QualityOfService;
+using testing::DoubleEq;
+using testing::ElementsAre;
+using namespace Qt::StringLiterals;
+
+class VirtualDispatchTest : public testing::Test {
+protected:
+    void note(const std::string &what) { log.push_back(what + " " + std::to_string(dispatch.now()).substr(0, 5)); }
+
+    VirtualDispatch dispatch;
+    std::vector<std::string> log;
+};
+
+TEST_F(VirtualDispatchTest, ADelayEndsExactlyAtItsBound)
+{
+    struct Case {
+        double delay;
+        std::vector<double> before; // not yet due
+        double last;
+    };
+    for (const Case &c : {Case{0.35, {0.349}, 0.001}, Case{0.3, {0.1}, 0.2}, Case{0.3, {0.299999999}, 1e-9},
+                          Case{1.2, {0.4, 0.4, 0.399}, 0.001}, Case{0, {}, 0}}) {
+        bool ran = false;
+        dispatch.mainAfter(c.delay, [&] { ran = true; });
+        for (const double step : c.before)
+            dispatch.advance(step);
+        EXPECT_FALSE(ran) << c.delay;
+        dispatch.advance(c.last);
+        EXPECT_TRUE(ran) << c.delay;
+    }
+    // Ten steps of a tenth are one second, whatever floating point says.
+    const double start = dispatch.now();
+    for (int i = 0; i < 10; ++i)
+        dispatch.advance(0.1);
+    EXPECT_THAT(dispatch.now(), DoubleEq(start + 1));
+}
+
+TEST_F(VirtualDispatchTest, TheClockShowsTheDueTimeWhileWorkRuns)
+{
+    dispatch.mainAfter(0.25, [this] {
+        note("a");
+        dispatch.mainAfter(0.25, [this] { note("c"); });
+        dispatch.mainAsync([this] { note("b"); });
+    });
+    dispatch.mainAfter(0.5, [this] { note("before c"); }); // queued earlier for the same instant
+    dispatch.advance(2);
+    EXPECT_THAT(log, ElementsAre("a 0.250", "b 0.250", "before c 0.500", "c 0.500"));
+    EXPECT_EQ(dispatch.now(), 2);
+}
+
+TEST_F(VirtualDispatchTest, ATimerTicksAtWholeIntervalsUntilItIsInvalidated)
+{
+    auto timer = dispatch.scheduleRepeating(0.25, [this] { note("tick"); });
+    dispatch.advance(0.249);
+    EXPECT_THAT(log, ElementsAre());
+    dispatch.advance(0.501);
+    EXPECT_THAT(log, ElementsAre("tick 0.250", "tick 0.500", "tick 0.750"));
+    timer->invalidate();
+    dispatch.advance(10);
+    EXPECT_EQ(log.size(), 3U);
+}
+
+TEST_F(VirtualDispatchTest, SleepersTakeTurnsByTheClock)
+{
+    // Two queues and the main one, always in the same course.
+    const auto fast = dispatch.makeSerialQueue(u"fast"_s, QualityOfService::userInitiated);
+    const auto slow = dispatch.makeSerialQueue(u"slow"_s, QualityOfService::userInitiated);
+    const auto steps = [this](const char *name, double pause) {
+        for (int i = 0; i < 3; ++i) {
+            dispatch.sleep(pause);
+            note(name);
+        }
+        dispatch.mainSync([this] { note("sync"); });
+        note(name);
+    };
+    slow->async([=] { steps("slow", 0.4); });
+    fast->async([=] { steps("fast", 0.2); });
+    dispatch.mainAfter(0.4, [this] { note("main"); });
+    dispatch.advance(0.39);
+    EXPECT_THAT(log, ElementsAre("fast 0.200"));
+    dispatch.advance(1);
+    EXPECT_THAT(log,
+                ElementsAre("fast 0.200", "main 0.400", "slow 0.400", "fast 0.400", "fast 0.600", "sync 0.600",
+                            "fast 0.600", "slow 0.800", "slow 1.200", "sync 1.200", "slow 1.200"));
+}
+
+TEST_F(VirtualDispatchTest, NothingRunsUntilItIsTold)
+{
+    bool ran = false;
+    dispatch.globalAsync(QualityOfService::userInitiated, [&] { ran = true; });
+    std::thread([&] { dispatch.mainAsync([this] { note("from another thread"); }); }).join();
+    EXPECT_FALSE(ran);
+    dispatch.runDue();
+    EXPECT_TRUE(ran);
+    EXPECT_THAT(log, ElementsAre("from another thread 0.000"));
+}
+
+TEST_F(VirtualDispatchTest, AtMostEightGlobalPiecesAreUnderWay)
+{
+    int ended = 0;
+    for (int i = 0; i < 10; ++i) {
+        dispatch.globalAsync(QualityOfService::userInitiated, [&] {
+            dispatch.sleep(1);
+            ++ended;
+        });
+    }
+    dispatch.advance(1);
+    EXPECT_EQ(ended, 8);
+    dispatch.advance(1);
+    EXPECT_EQ(ended, 10);
+}
+
+TEST_F(VirtualDispatchTest, QtEventsAreDeliveredBetweenTheBlocks)
+{
+    QObject receiver;
+    const QPointer<QObject> doomed = new QObject;
+    dispatch.mainAsync([&] {
+        QMetaObject::invokeMethod(
+            &receiver, [this] { note("queued call"); }, Qt::QueuedConnection);
+        doomed->deleteLater();
+    });
+    dispatch.mainAsync([&] { note(doomed ? "alive" : "deleted"); });
+    dispatch.runDue();
+    EXPECT_THAT(log, ElementsAre("queued call 0.000", "deleted 0.000"));
+}
+
+TEST_F(VirtualDispatchTest, FramesAreMadeOnlyWhileTheyAreWanted)
+{
+    std::vector<double> frames;
+    bool wanted = false;
+    dispatch.setFrames([&] { return wanted; }, [&] { frames.push_back(dispatch.now()); });
+    dispatch.advance(5);
+    EXPECT_TRUE(frames.empty());
+
+    dispatch.mainAfter(0.5, [&] { wanted = true; });
+    dispatch.mainAfter(1, [&] { wanted = false; }); // the frame of that instant is still made
+    dispatch.advance(100);
+    ASSERT_EQ(frames.size(), 30U);
+    EXPECT_THAT(frames.front(), testing::DoubleNear(5.5 + 1 / 60., 1e-8));
+    EXPECT_THAT(frames.back(), DoubleEq(6));
+
+    frames.clear();
+    wanted = true;
+    for (int i = 0; i < 120; ++i)
+        dispatch.advance(1 / 60.);
+    EXPECT_EQ(frames.size(), 120U); // rounding loses none
+}
+
+TEST_F(VirtualDispatchTest, AFrameComesAfterWhatIsDueAndBeforeWhatItCauses)
+{
+    dispatch.setFrames([] { return true; },
+                       [this] {
+                           note("frame");
+                           dispatch.mainAsync([this] { note("caused"); });
+                       });
+    dispatch.mainAfter(0.05, [this] { note("due"); });
+    dispatch.advance(0.04);
+    log.clear();
+    dispatch.advance(0.01);
+    EXPECT_THAT(log, ElementsAre("due 0.050", "frame 0.050", "caused 0.050"));
+}
+
+TEST_F(VirtualDispatchTest, WorkMayAdvanceTheClockItself)
+{
+    dispatch.mainAfter(0.1, [this] {
+        dispatch.advance(5);
+        note("outer");
+    });
+    dispatch.mainAfter(1, [this] { note("inner"); });
+    dispatch.advance(2);
+    EXPECT_THAT(log, ElementsAre("inner 1.000", "outer 5.100"));
+    EXPECT_THAT(dispatch.now(), DoubleEq(5.1)); // never back
+}
+
+} // namespace
+} // namespace brimshade::desktop
