@@ -74,25 +74,30 @@ RealDispatch::RealDispatch()
 
 RealDispatch::~RealDispatch()
 {
-    stop();
-    ::close(m_wakeUp);
-}
-
-void RealDispatch::stop()
-{
     m_notifier.setEnabled(false);
     m_timer.stop();
+    // Before any wait ends: what a worker comes back to must not go on to the next piece of work.
+    dropQueuedWork();
     {
         const std::lock_guard lock(m_mutex);
         m_isStopping = true;
         m_stopped.notify_all();
     }
     m_main.close(); // ends every mainSync
-    for (const auto &queue : m_queues)
-        queue->pool().close();
     m_global.join();
     for (const auto &queue : m_queues)
         queue->pool().join();
+    ::close(m_wakeUp);
+}
+
+void RealDispatch::dropQueuedWork()
+{
+    std::unique_lock lock(m_mutex);
+    const auto queues = m_queues;
+    lock.unlock();
+    for (const auto &queue : queues)
+        queue->pool().close();
+    m_global.close();
 }
 
 double RealDispatch::now() const

@@ -45,6 +45,7 @@ private:
     void runOne();
     void rearm();
     void answerWakeUp();
+    void dropQueuedWork();
 
     const std::thread::id m_mainThread = std::this_thread::get_id();
     DueQueue m_main;
