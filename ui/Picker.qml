@@ -11,6 +11,7 @@ T.AbstractButton {
     required property int currentIndex
     // What the list lies over and stays inside: the view's root.
     required property Item layer
+    property string help // said after the chosen title
     readonly property string currentTitle: control.titles[control.currentIndex] ?? ""
     readonly property bool opened: list.active
 
@@ -36,9 +37,7 @@ T.AbstractButton {
 
     Accessible.role: Accessible.ComboBox
     Accessible.name: control.text
-    Accessible.description: control.currentTitle
-    Accessible.expandable: true
-    Accessible.expanded: control.opened
+    Accessible.description: control.help === "" ? control.currentTitle : control.currentTitle + ". " + control.help
 
     contentItem: StyledText {
         leftPadding: 9

@@ -63,7 +63,7 @@ T.Button {
         FocusRing {
             visible: control.visualFocus
             anchors.leftMargin: control.plain ? -7 : -3
-            anchors.rightMargin: anchors.leftMargin
+            anchors.rightMargin: control.plain ? -7 : -3
             cornerRadius: control.cornerRadius
         }
     }

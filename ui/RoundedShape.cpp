@@ -1,8 +1,10 @@
 #include "RoundedShape.h"
+#include "Blur.h"
 #include "Squircle.h"
 
 #include <QDataStream>
 #include <QIODevice>
+#include <cmath>
 
 namespace brimshade::ui {
 
@@ -21,6 +23,12 @@ QByteArray RoundedShape::pictureKey() const
     out << m_radius << m_continuous << m_color << m_strokeColor << m_strokeWidth << int(m_gradient) << m_endColor
         << m_center << m_startRadius << m_endRadius;
     return key;
+}
+
+QRectF RoundedShape::pictureRect() const
+{
+    const double reach = std::ceil(3 * m_glowRadius);
+    return boundingRect().adjusted(-reach, -reach, reach, reach);
 }
 
 QBrush RoundedShape::brush() const
@@ -46,9 +54,25 @@ QBrush RoundedShape::brush() const
     return gradient;
 }
 
-void RoundedShape::draw(QPainter &painter, double) const
+void RoundedShape::drawGlow(QPainter &painter, const QPainterPath &outline, double scale) const
+{
+    const QRectF rect = pictureRect();
+    QImage caster((rect.size() * scale).toSize(), QImage::Format_ARGB32_Premultiplied);
+    caster.fill(Qt::transparent);
+    QPainter casting(&caster);
+    casting.setRenderHint(QPainter::Antialiasing);
+    casting.scale(scale, scale);
+    casting.translate(-rect.topLeft());
+    casting.fillPath(outline, Qt::black);
+    casting.end();
+    painter.drawImage(rect, blurredSilhouette(caster, m_glowColor, m_glowRadius * scale));
+}
+
+void RoundedShape::draw(QPainter &painter, double scale) const
 {
     const QPainterPath outline = roundedRectangle(boundingRect(), m_radius, m_continuous);
+    if (m_glowRadius > 0)
+        drawGlow(painter, outline, scale);
     painter.fillPath(outline, brush());
     if (m_strokeWidth <= 0 || m_strokeColor.alpha() == 0)
         return;

@@ -21,6 +21,9 @@ class RoundedShape : public DrawnItem {
     Q_PROPERTY(QPointF center MEMBER m_center NOTIFY changed)
     Q_PROPERTY(double startRadius MEMBER m_startRadius NOTIFY changed)
     Q_PROPERTY(double endRadius MEMBER m_endRadius NOTIFY changed)
+    // A shadow without offset; the radius is its standard deviation and it reaches three of them beyond the item.
+    Q_PROPERTY(double glowRadius MEMBER m_glowRadius NOTIFY changed)
+    Q_PROPERTY(QColor glowColor MEMBER m_glowColor NOTIFY changed)
 
 public:
     // From color to endColor: downwards, from top leading to bottom trailing, or around `center`
@@ -35,10 +38,12 @@ Q_SIGNALS:
 
 protected:
     QByteArray pictureKey() const override;
+    QRectF pictureRect() const override;
     void draw(QPainter &painter, double scale) const override;
 
 private:
     QBrush brush() const;
+    void drawGlow(QPainter &painter, const QPainterPath &outline, double scale) const;
 
     double m_radius = 0;
     bool m_continuous = true;
@@ -50,6 +55,8 @@ private:
     QPointF m_center{0.5, 0.5};
     double m_startRadius = 0;
     double m_endRadius = 0;
+    double m_glowRadius = 0;
+    QColor m_glowColor;
 };
 
 } // namespace brimshade::ui

@@ -7,6 +7,7 @@
 #include <QIODevice>
 #include <QPainter>
 #include <QQuickWindow>
+#include <algorithm>
 #include <cmath>
 
 namespace brimshade::ui {
@@ -54,15 +55,23 @@ QImage Shadow::picture(const QByteArray &key, double scale) const
 {
     if (const QImage *known = m_cache->find(key))
         return *known;
+    // A wide blur has no detail: a smaller one, enlarged, is the same and costs a fraction.
+    constexpr double enough = 6; // pixels of deviation
     const int side = 2 * int(std::round(border() * scale)) + 2;
-    QImage caster(side, side, QImage::Format_ARGB32_Premultiplied);
+    const double share = std::min(1.0, enough / std::max(enough, m_blur * scale));
+    const QSize drawn = QSize(side, side) * share;
+    QImage caster(drawn, QImage::Format_ARGB32_Premultiplied);
     caster.fill(Qt::transparent);
     QPainter painter(&caster);
     painter.setRenderHint(QPainter::Antialiasing);
+    painter.scale(double(drawn.width()) / side, double(drawn.height()) / side);
     const double r = reach() * scale;
-    painter.fillPath(roundedRectangle(QRectF(caster.rect()).adjusted(r, r, -r, -r), m_radius * scale, true), Qt::black);
+    painter.fillPath(roundedRectangle(QRectF(0, 0, side, side).adjusted(r, r, -r, -r), m_radius * scale, true),
+                     Qt::black);
     painter.end();
-    const QImage shadow = blurredSilhouette(caster, m_color, m_blur * scale);
+    QImage shadow = blurredSilhouette(caster, m_color, m_blur * scale * share);
+    if (share < 1)
+        shadow = shadow.scaled(side, side, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
     m_cache->insert(key, shadow, {});
     return shadow;
 }

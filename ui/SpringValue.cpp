@@ -34,7 +34,7 @@ void SpringValue::setTarget(double target)
 {
     if (m_target == target || !std::isfinite(target))
         return;
-    if (!m_isComplete) {
+    if (!m_isComplete || !m_isAnimated) {
         jumpTo(target);
         return;
     }
@@ -56,6 +56,12 @@ void SpringValue::jumpTo(double value)
         return;
     m_target = value;
     Q_EMIT targetChanged();
+}
+
+void SpringValue::run(double from, double to)
+{
+    jumpTo(from);
+    setTarget(to);
 }
 
 // The binding of a parameter may run just after that of the target.

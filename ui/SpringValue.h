@@ -18,6 +18,8 @@ class SpringValue : public QObject, public QQmlParserStatus {
     QML_ELEMENT
     Q_PROPERTY(double target READ target WRITE setTarget NOTIFY targetChanged)
     Q_PROPERTY(double value READ value NOTIFY valueChanged)
+    // False: changes of target jump, as for what nobody sees.
+    Q_PROPERTY(bool animated MEMBER m_isAnimated NOTIFY parametersChanged)
     Q_PROPERTY(bool running READ isRunning NOTIFY runningChanged)
     Q_PROPERTY(Curve curve READ curve WRITE setCurve NOTIFY parametersChanged)
     Q_PROPERTY(double response READ response WRITE setResponse NOTIFY parametersChanged)
@@ -48,6 +50,7 @@ public:
     void setDuration(double duration);
     void setDelay(double delay);
     Q_INVOKABLE void jumpTo(double value); // without motion; the target is then that value
+    Q_INVOKABLE void run(double from, double to); // jumps to one, moves to the other
 
     void classBegin() override { }
     void componentComplete() override { m_isComplete = true; }
@@ -93,6 +96,7 @@ private:
     double m_target = 0;
     double m_value = 0;
     bool m_isComplete = false;
+    bool m_isAnimated = true;
     Clock m_clock{*this};
 };
 

@@ -1,0 +1,39 @@
+#pragma once
+// The model's types under their own names in QML: the model itself knows nothing of QML.
+#include "model/NotchModel.h"
+#include "model/PermissionRequest.h"
+#include "model/Shortcut.h"
+#include "model/TileActions.h"
+
+#include <qqml.h>
+
+namespace brimshade::panel {
+
+struct NotchModelForeign {
+    Q_GADGET
+    QML_FOREIGN(brimshade::model::NotchModel)
+    QML_NAMED_ELEMENT(NotchModel)
+    QML_UNCREATABLE("The program has one and hands it to its views.")
+};
+
+struct TileActionsForeign {
+    Q_GADGET
+    QML_FOREIGN(brimshade::model::TileActions)
+    QML_NAMED_ELEMENT(TileActions)
+    QML_UNCREATABLE("The program has one and hands it to its views.")
+};
+
+struct PermissionRequestForeign {
+    Q_GADGET
+    QML_FOREIGN(brimshade::model::PermissionRequest)
+    QML_NAMED_ELEMENT(PermissionRequest)
+    QML_UNCREATABLE("The program has one and hands it to its views.")
+};
+
+namespace ShortcutForeign {
+Q_NAMESPACE
+QML_FOREIGN_NAMESPACE(brimshade::model)
+QML_NAMED_ELEMENT(Shortcuts)
+} // namespace ShortcutForeign
+
+} // namespace brimshade::panel

@@ -1,0 +1,121 @@
+pragma ComponentBehavior: Bound
+import QtQuick
+import Brimshade.Panel
+import Brimshade.Ui
+
+// The whole panel: a black tab that hangs from the top edge, as large as the notch when closed, and around it nothing
+// but what takes the click that closes it.
+Item {
+    id: root
+
+    required property NotchModel model
+    required property TileActions actions
+    required property PermissionRequest permission
+
+    readonly property bool open: root.model.isOpen
+    // From the beginning of the opening to the end of the closing. At other times nothing moves or is read out.
+    readonly property bool presented: root.open || openness.running
+
+    implicitWidth: 1000
+    implicitHeight: 720
+    focus: true
+    Keys.onMenuPressed: {
+        if (panelState.highlightedID !== "")
+            root.actions.showMenu(panelState.highlightedID);
+    }
+
+    PanelState {
+        id: panelState
+        source: root.model
+    }
+    PanelGeometry {
+        id: geometry
+        source: root.model
+        limit: root.height - 64 // leaves the shadow its room
+    }
+    SpringValue {
+        id: openness
+        target: root.open ? 1 : 0
+        response: root.open ? 0.46 : 0.32
+        damping: root.open ? 0.74 : 0.92
+    }
+    SpringValue {
+        id: openWidth
+        target: geometry.openSize.width
+        animated: root.presented
+        response: 0.4
+        damping: 0.85
+    }
+    SpringValue {
+        id: openHeight
+        target: geometry.openSize.height
+        animated: root.presented
+        response: 0.4
+        damping: 0.85
+    }
+
+    MouseArea {
+        objectName: "panelBackground"
+        anchors.fill: parent
+        onClicked: panelState.dismiss()
+    }
+    Shadow {
+        objectName: "panelShadow"
+        x: tab.x + 14
+        y: 14
+        width: tab.width - 28
+        height: tab.height
+        visible: opacity > 0
+        opacity: Math.max(0, Math.min(1, openness.value))
+        radius: 32
+        blur: 28
+        color: Qt.rgba(0, 0, 0, 0.55)
+    }
+    NotchTab {
+        id: tab
+        objectName: "notchTab"
+        closedSize: geometry.closedSize
+        openSize: Qt.size(openWidth.value, openHeight.value)
+        openness: openness.value
+    }
+    Item {
+        objectName: "interior"
+        x: tab.interior.x
+        y: tab.interior.y
+        width: tab.interior.width
+        height: tab.interior.height
+        clip: true
+        visible: root.presented
+
+        Item {
+            id: content
+            objectName: "content"
+            x: (root.width - width) / 2 - parent.x
+            width: openWidth.value - 28 - 2 * 22
+
+            PanelHeader {
+                objectName: "header"
+                width: parent.width
+                height: root.model.notch.height
+                model: root.model
+                panelState: panelState
+                helpTip: helpTip
+            }
+            PanelBody {
+                objectName: "body"
+                y: root.model.notch.height
+                width: parent.width
+                model: root.model
+                actions: root.actions
+                permission: root.permission
+                panelState: panelState
+                geometry: geometry
+                presented: root.presented
+                openness: openness.value
+            }
+        }
+    }
+    HelpTip {
+        id: helpTip
+    }
+}

@@ -1,0 +1,49 @@
+#pragma once
+#include "NotchShape.h"
+
+#include <QQuickItem>
+#include <qqml.h>
+
+namespace brimshade::panel {
+
+// The black tab with its outline, hanging from the top middle of its parent. It sizes and places itself, on whole
+// device pixels, between its closed and its open size. It takes the clicks that fall inside its outline and does
+// nothing with them.
+class NotchTab : public QQuickItem {
+    Q_OBJECT
+    QML_ELEMENT
+    Q_PROPERTY(QSizeF closedSize MEMBER m_closedSize NOTIFY sizesChanged)
+    Q_PROPERTY(QSizeF openSize MEMBER m_openSize NOTIFY sizesChanged)
+    Q_PROPERTY(double openness MEMBER m_openness NOTIFY sizesChanged) // 0 closed, 1 open; springs overshoot
+    // The part of the parent that content may use: it never reaches the outline's corners, so that clipping to this
+    // rectangle keeps everything inside the outline.
+    Q_PROPERTY(QRectF interior READ interior NOTIFY interiorChanged)
+
+public:
+    explicit NotchTab(QQuickItem *parent = nullptr);
+
+    QRectF interior() const;
+    bool contains(const QPointF &point) const override;
+
+Q_SIGNALS:
+    void sizesChanged();
+    void interiorChanged();
+
+protected:
+    QSGNode *updatePaintNode(QSGNode *node, UpdatePaintNodeData *) override;
+    void itemChange(ItemChange change, const ItemChangeData &data) override;
+    void mousePressEvent(QMouseEvent *event) override;
+
+private:
+    void place();
+    double scale() const; // device pixels a point
+    double snapped(double length) const;
+
+    QSizeF m_closedSize;
+    QSizeF m_openSize;
+    double m_openness = 0;
+    NotchShape m_shape; // at present, snapped
+    QMetaObject::Connection m_parentWidth;
+};
+
+} // namespace brimshade::panel

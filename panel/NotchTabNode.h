@@ -1,0 +1,34 @@
+#pragma once
+#include "NotchShape.h"
+
+#include <QImage>
+#include <QSGNode>
+#include <array>
+
+class QQuickWindow;
+class QSGImageNode;
+class QSGRectangleNode;
+
+namespace brimshade::panel {
+
+// The tab in pieces that fit without overlap: plain black rectangles, and small pictures wherever the outline runs. A
+// frame of an animation so draws some thousand antialiased pixels and not the whole tab. Scene graph thread.
+class NotchTabNode : public QSGNode {
+public:
+    explicit NotchTabNode(QQuickWindow &window);
+
+    // Shape and size lie on whole device pixels.
+    void show(const NotchShape &shape, QSizeF size, double outlineOpacity, double scale);
+
+private:
+    static constexpr std::size_t kPictures = 7;
+    static constexpr std::size_t kRectangles = 2;
+
+    void showPicture(std::size_t index, const QRectF &rect, const QImage &picture);
+
+    QQuickWindow &m_window;
+    std::array<QSGImageNode *, kPictures> m_pictures{}; // owned by the tree
+    std::array<QSGRectangleNode *, kRectangles> m_rectangles{};
+};
+
+} // namespace brimshade::panel

@@ -1,0 +1,72 @@
+pragma ComponentBehavior: Bound
+import QtQuick
+import Brimshade.Panel
+import Brimshade.Ui
+
+// Under the header: the permission card, a spinner, a sentence, or the sections and the footer.
+Item {
+    id: root
+
+    required property NotchModel model
+    required property TileActions actions
+    required property PermissionRequest permission
+    required property PanelState panelState
+    required property PanelGeometry geometry
+    required property bool presented
+    required property real openness
+
+    Loader {
+        active: root.panelState.body === PanelState.Permission
+        width: parent.width
+        sourceComponent: PermissionCard {
+            objectName: "permissionCard"
+            permission: root.permission
+        }
+    }
+    Spinner {
+        objectName: "spinner"
+        anchors.horizontalCenter: parent.horizontalCenter
+        y: 30 - height / 2
+        visible: root.presented && root.panelState.body === PanelState.Waiting
+        color: "white"
+    }
+    StyledText {
+        objectName: "noItems"
+        visible: root.panelState.body === PanelState.NoItems
+        width: parent.width
+        height: 60
+        text: root.panelState.sentence
+        size: 12
+        font.weight: Font.Medium
+        color: Qt.rgba(1, 1, 1, 0.6)
+        wrapMode: Text.WordWrap
+        horizontalAlignment: Text.AlignHCenter
+        verticalAlignment: Text.AlignVCenter
+    }
+    Sections {
+        objectName: "sections"
+        visible: root.panelState.body === PanelState.Tiles
+        width: parent.width
+        model: root.model
+        actions: root.actions
+        panelState: root.panelState
+        geometry: root.geometry
+        presented: root.presented
+    }
+    PanelFooter {
+        visible: root.panelState.body === PanelState.Tiles
+        y: footerY.value
+        width: parent.width
+        opacity: Math.max(0, Math.min(1, root.openness))
+        panelState: root.panelState
+        animated: root.model.isOpen
+
+        SpringValue {
+            id: footerY
+            target: root.geometry.footerY
+            animated: root.presented
+            response: 0.4
+            damping: 0.85
+        }
+    }
+}

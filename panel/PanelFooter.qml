@@ -1,0 +1,54 @@
+pragma ComponentBehavior: Bound
+import QtQuick
+import Brimshade.Panel
+import Brimshade.Ui
+
+// One line: the focused item's detail or the hint. A new line fades in while the one before sinks and fades.
+Item {
+    id: root
+
+    required property PanelState panelState
+    required property bool animated
+
+    component Line: StyledText {
+        required property bool isHint
+
+        width: root.width
+        height: root.height
+        size: 11
+        font.weight: Font.Medium
+        color: Qt.rgba(1, 1, 1, isHint ? 0.28 : 0.7)
+        elide: Text.ElideRight
+        horizontalAlignment: Text.AlignHCenter
+        verticalAlignment: Text.AlignVCenter
+    }
+
+    height: 18
+
+    FooterText {
+        id: lines
+        state: root.panelState
+        onReplaced: root.animated ? change.run(0, 1) : change.jumpTo(1)
+    }
+    SpringValue {
+        id: change
+        target: 1
+        curve: SpringValue.EaseOut
+        duration: 0.15
+    }
+    Line {
+        objectName: "footer"
+        y: 3 * (1 - change.value)
+        opacity: change.value
+        text: lines.text
+        isHint: lines.isHint
+    }
+    Line {
+        y: 3 * change.value
+        visible: change.running
+        opacity: 1 - change.value
+        text: lines.leavingText
+        isHint: lines.leavingIsHint
+        Accessible.ignored: true
+    }
+}

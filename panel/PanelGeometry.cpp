@@ -1,0 +1,116 @@
+#include "PanelGeometry.h"
+#include "GridMetrics.h"
+
+#include <algorithm>
+#include <optional>
+
+namespace brimshade::panel {
+
+using model::NotchModel;
+
+namespace {
+
+constexpr double kClosedExtraWidth = 12;
+constexpr double kTopPadding = 10;
+constexpr double kSpacing = 14; // between sections, sentence and footer
+constexpr double kSentenceHeight = 74;
+constexpr double kFooterHeight = 18;
+constexpr double kBottomMargin = 4; // what the panel's height leaves under the footer
+
+std::optional<int> placeOf(const QString &id, const NotchModel &model, const NotchModel::Matches &matches)
+{
+    const auto found =
+        std::ranges::find_if(matches, [&](int index) { return model.extras()[std::size_t(index)].id == id; });
+    if (found == matches.end())
+        return {};
+    return int(found - matches.begin());
+}
+
+} // namespace
+
+void PanelGeometry::setSource(NotchModel *source)
+{
+    if (m_source == source)
+        return;
+    if (m_source)
+        disconnect(m_source, nullptr, this, nullptr);
+    m_source = source;
+    if (source) {
+        for (const auto signal :
+             {&NotchModel::panelSizeChanged, &NotchModel::matchesChanged, &NotchModel::notchChanged})
+            connect(source, signal, this, &PanelGeometry::changed);
+    }
+    Q_EMIT sourceChanged();
+    Q_EMIT changed();
+}
+
+QSizeF PanelGeometry::closedSize() const
+{
+    return m_source ? m_source->notch() + QSizeF(kClosedExtraWidth, 0) : QSizeF();
+}
+
+QSizeF PanelGeometry::openSize() const
+{
+    return m_source ? m_source->panelSize().boundedTo(QSizeF(m_source->panelSize().width(), m_limit)) : QSizeF();
+}
+
+double PanelGeometry::hiddenSectionY() const
+{
+    return kTopPadding;
+}
+
+double PanelGeometry::visibleSectionY() const
+{
+    const int hidden = m_source ? m_source->hiddenMatchCount() : 0;
+    return kTopPadding + (hidden > 0 ? m_source->gridHeight(hidden) + kSpacing : 0);
+}
+
+double PanelGeometry::contentHeight() const
+{
+    if (!m_source)
+        return 0;
+    const int hidden = m_source->hiddenMatchCount();
+    const int visible = m_source->visibleMatchCount();
+    if (hidden + visible == 0)
+        return kTopPadding + kSentenceHeight;
+    return visible > 0 ? visibleSectionY() + m_source->gridHeight(visible) : kTopPadding + m_source->gridHeight(hidden);
+}
+
+double PanelGeometry::viewportHeight() const
+{
+    if (!m_source)
+        return 0;
+    const double room = openSize().height() - m_source->notch().height() - kSpacing - kFooterHeight - kBottomMargin;
+    return std::clamp(room, 0.0, contentHeight());
+}
+
+double PanelGeometry::footerY() const
+{
+    return viewportHeight() + kSpacing;
+}
+
+double PanelGeometry::clampedScroll(double scroll) const
+{
+    return std::clamp(scroll, 0.0, contentHeight() - viewportHeight());
+}
+
+double PanelGeometry::scrollShowing(const QString &id, double scroll) const
+{
+    if (!m_source || id.isEmpty())
+        return clampedScroll(scroll);
+    double sectionY = hiddenSectionY();
+    std::optional<int> place = placeOf(id, *m_source, m_source->hiddenMatches());
+    if (!place) {
+        sectionY = visibleSectionY();
+        place = placeOf(id, *m_source, m_source->visibleMatches());
+    }
+    if (!place)
+        return clampedScroll(scroll);
+    const int row = *place / m_source->columns();
+    const double tileY = sectionY + kSectionTitleHeight + row * kRowPitch;
+    const double top = row == 0 ? sectionY - kTopPadding : tileY - kTileSpacing;
+    const double bottom = tileY + kTileHeight + kTileSpacing;
+    return clampedScroll(std::min(top, std::max(scroll, bottom - viewportHeight())));
+}
+
+} // namespace brimshade::panel

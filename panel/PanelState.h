@@ -1,0 +1,52 @@
+#pragma once
+#include "model/NotchModel.h"
+
+#include <QObject>
+#include <QPointer>
+#include <qqml.h>
+
+namespace brimshade::panel {
+
+// What the panel shows in words and cases, derived from the model; and the model's callbacks that no tile calls.
+class PanelState : public QObject {
+    Q_OBJECT
+    QML_ELEMENT
+    Q_PROPERTY(brimshade::model::NotchModel *source READ source WRITE setSource NOTIFY sourceChanged REQUIRED)
+    Q_PROPERTY(Body body READ body NOTIFY bodyChanged)
+    Q_PROPERTY(bool hasHeader READ hasHeader NOTIFY bodyChanged)
+    Q_PROPERTY(QString sentence READ sentence NOTIFY bodyChanged) // instead of tiles; empty when there are some
+    Q_PROPERTY(QString highlightedID READ highlightedID NOTIFY focusChanged) // empty: no tile
+    Q_PROPERTY(QString focusID READ focusID NOTIFY focusChanged) // of the footer's item; empty: the hint
+    Q_PROPERTY(QString focusText READ focusText NOTIFY focusChanged)
+
+public:
+    enum Body { Permission, Waiting, NoItems, Tiles };
+    Q_ENUM(Body)
+
+    using QObject::QObject;
+
+    model::NotchModel *source() const { return m_source; }
+    void setSource(model::NotchModel *source);
+
+    Body body() const;
+    bool hasHeader() const;
+    QString sentence() const;
+    QString highlightedID() const;
+    QString focusID() const;
+    QString focusText() const;
+
+    Q_INVOKABLE void dismiss();
+    Q_INVOKABLE void openSettings();
+
+Q_SIGNALS:
+    void sourceChanged();
+    void bodyChanged();
+    void focusChanged();
+
+private:
+    const model::MenuExtra *focused() const;
+
+    QPointer<model::NotchModel> m_source;
+};
+
+} // namespace brimshade::panel

@@ -1,0 +1,109 @@
+pragma ComponentBehavior: Bound
+import QtQuick
+import Brimshade.Panel
+import Brimshade.Ui
+
+// One menu bar item: its face, its name, what a click, a right click and the pointer do.
+Item {
+    id: root
+
+    required property TileActions actions
+    required property bool open
+    required property bool highlighted
+    required property int index // across both sections, in reading order
+    required property bool isNew
+    required property string extraID
+    required property string name
+    required property string detail
+    required property var icon
+    required property string symbol
+    required property color tint
+    required property bool isHidden
+
+    readonly property real shown: Math.max(0, Math.min(1, entrance.value))
+
+    width: 64
+    height: 74
+    opacity: root.shown * arrival.value
+    transform: [
+        Scale {
+            origin.x: root.width / 2
+            xScale: 0.5 + 0.5 * entrance.value
+            yScale: xScale
+        },
+        Translate { y: -14 * (1 - entrance.value) }
+    ]
+
+    Accessible.role: Accessible.Button
+    Accessible.name: root.name
+    Accessible.description: root.detail
+    Accessible.onPressAction: root.actions.open(root.extraID)
+
+    Component.onCompleted: {
+        if (root.isNew && root.open)
+            arrival.run(0, 1);
+    }
+
+    SpringValue {
+        id: entrance
+        target: root.open ? 1 : 0
+        curve: root.open ? SpringValue.Spring : SpringValue.EaseIn
+        response: 0.5
+        damping: 0.7
+        delay: root.open ? root.index * 0.022 + 0.07 : 0
+        duration: 0.1
+    }
+    SpringValue {
+        id: arrival
+        target: 1
+        response: 0.4
+        damping: 1
+    }
+    PressStyle {
+        id: press
+        pressed: area.pressed && area.pressedButtons === Qt.LeftButton
+    }
+    HoverHandler {
+        onHoveredChanged: hovered ? root.actions.pointerEntered(root.extraID) : root.actions.pointerLeft(root.extraID)
+    }
+    MouseArea {
+        id: area
+        anchors.fill: parent
+        acceptedButtons: Qt.LeftButton | Qt.RightButton
+        onClicked: mouse => {
+            if (mouse.button === Qt.RightButton)
+                root.actions.showMenu(root.extraID);
+            else
+                root.actions.open(root.extraID);
+        }
+    }
+    Item {
+        anchors.fill: parent
+        scale: press.value
+
+        TileFace {
+            objectName: "face"
+            anchors.horizontalCenter: parent.horizontalCenter
+            icon: root.icon
+            symbol: root.symbol
+            tint: root.tint
+            isHidden: root.isHidden
+            hovered: root.highlighted
+        }
+        StyledText {
+            objectName: "name"
+            y: 61
+            width: parent.width
+            height: 13
+            text: root.name
+            size: 10
+            font.weight: Font.Medium
+            color: Qt.rgba(1, 1, 1, root.highlighted ? 0.95 : root.isHidden ? 0.62 : 0.45)
+            elide: Text.ElideRight
+            maximumLineCount: 1
+            horizontalAlignment: Text.AlignHCenter
+            verticalAlignment: Text.AlignVCenter
+            Accessible.ignored: true
+        }
+    }
+}

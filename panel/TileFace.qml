@@ -1,0 +1,98 @@
+pragma ComponentBehavior: Bound
+import QtQuick
+import Brimshade.Ui
+
+// A rounded square with the item's icon or symbol. Every change of look is an opacity: the pictures stay.
+Item {
+    id: root
+
+    required property var icon
+    required property string symbol
+    required property color tint
+    required property bool isHidden
+    required property bool hovered
+
+    readonly property real highlight: motion.value
+    readonly property real shown: Math.max(0, Math.min(1, root.highlight)) // springs overshoot, light does not
+
+    function between(rest: real, highlighted: real): real {
+        return rest + (highlighted - rest) * root.shown;
+    }
+
+    width: 54
+    height: 54
+    scale: 1 + 0.07 * root.highlight
+
+    SpringValue {
+        id: motion
+        target: root.hovered ? 1 : 0
+        response: 0.28
+        damping: 0.6
+    }
+
+    RoundedShape {
+        objectName: "background"
+        anchors.fill: parent
+        radius: 16
+        color: "white"
+        opacity: root.between(root.isHidden ? 0.06 : 0.035, 0.11)
+    }
+    RoundedShape {
+        objectName: "glow"
+        anchors.fill: parent
+        visible: root.shown > 0
+        opacity: root.shown
+        radius: 16
+        gradient: RoundedShape.Radial
+        color: Qt.alpha(root.tint, 0.55)
+        endColor: Qt.alpha(root.tint, 0)
+        startRadius: 2
+        endRadius: 40
+    }
+    RoundedShape {
+        objectName: "border"
+        anchors.fill: parent
+        radius: 16
+        strokeColor: "white"
+        strokeWidth: 0.5
+        opacity: root.between(0.06, 0.18)
+    }
+    ImageView {
+        anchors.fill: picture
+        visible: root.shown > 0
+        opacity: root.shown
+        image: root.icon
+        glowRadius: 10
+        glowColor: Qt.alpha(root.tint, 0.6)
+    }
+    ImageView {
+        id: picture
+        objectName: "icon"
+        anchors.centerIn: parent
+        width: 36
+        height: 36
+        image: root.icon
+    }
+    SymbolIcon {
+        objectName: "symbol"
+        anchors.centerIn: parent
+        visible: picture.isNull
+        name: root.symbol
+        pointSize: 19
+        weight: SymbolIcon.Semibold
+        opacity: root.between(0.85, 1)
+    }
+    RoundedShape {
+        objectName: "marker"
+        anchors.centerIn: parent
+        anchors.horizontalCenterOffset: 19
+        anchors.verticalCenterOffset: -19
+        visible: root.isHidden
+        width: 5
+        height: 5
+        radius: 2.5
+        color: Theme.hiddenMarker
+        glowRadius: 3
+        glowColor: Theme.orange
+    }
+}

@@ -1,0 +1,70 @@
+pragma ComponentBehavior: Bound
+import QtQuick
+import Brimshade.Panel
+import Brimshade.Ui
+
+// A title and its grid, of which only the rows in view exist.
+Item {
+    id: root
+
+    required property NotchModel model
+    required property TileActions actions
+    required property PanelState panelState
+    required property string title
+    required property int section
+    required property int startIndex
+    required property bool presented // on screen: whatever moves may be seen to move
+    required property real viewTop // what of the section is in view, in its own coordinates
+    required property real viewBottom
+
+    readonly property real titleHeight: 24
+    readonly property real pitchX: 74
+    readonly property real pitchY: 84
+
+    StyledText {
+        height: root.titleHeight
+        text: root.title.toUpperCase()
+        size: 9.5
+        font.weight: Font.Bold
+        font.letterSpacing: 1.2
+        color: Qt.rgba(1, 1, 1, 0.32)
+        Accessible.description: root.title
+    }
+    Repeater {
+        model: TilesModel {
+            source: root.model
+            section: root.section
+            viewTop: root.viewTop - root.titleHeight
+            viewBottom: root.viewBottom - root.titleHeight
+        }
+        delegate: Tile {
+            id: tile
+
+            required property int position
+            readonly property int columns: root.model.columns
+
+            objectName: "tile"
+            x: column.value * root.pitchX
+            y: root.titleHeight + row.value * root.pitchY
+            index: root.startIndex + tile.position
+            actions: root.actions
+            open: root.model.isOpen
+            highlighted: root.panelState.highlightedID === tile.extraID
+
+            SpringValue {
+                id: column
+                target: tile.position % tile.columns
+                animated: root.presented
+                response: 0.4
+                damping: 0.85
+            }
+            SpringValue {
+                id: row
+                target: Math.floor(tile.position / tile.columns)
+                animated: root.presented
+                response: 0.4
+                damping: 0.85
+            }
+        }
+    }
+}
