@@ -14,13 +14,13 @@ using OpenItem = std::function<void(const QRectF &itemFrame)>;
 // A running application as the desktop hosts it: what its description says, and what a file cannot say.
 struct ApplicationSpec {
     ApplicationDescription description;
-    platform::Image icon; // null: made from description.icon
+    platform::Image icon = {}; // null: made from description.icon
 
     // By identifier of the extra. Absent: the bar draws the description's symbol or the icon, and pressing
     // opens the description's menu.
-    std::map<QString, platform::Image> itemImages;
-    std::map<QString, OpenItem> openItem;
-    std::map<QString, QString> toolTips;
+    std::map<QString, platform::Image> itemImages = {};
+    std::map<QString, OpenItem> openItem = {};
+    std::map<QString, QString> toolTips = {};
 };
 
 } // namespace brimshade::desktop

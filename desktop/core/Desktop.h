@@ -3,6 +3,7 @@
 #include "platform/Platform.h"
 
 #include <QObject>
+#include <QVariantMap>
 #include <memory>
 
 namespace brimshade::desktop {
@@ -45,6 +46,7 @@ public:
     Permission &permission();
     WindowStack &windows();
     ScriptedLoginItem *scriptedLoginItem(); // null when Services brought login items
+    QVariantMap storedDefaults() const; // every key of the settings store
 
     int ownPid() const; // this program's, as its running applications list it
 

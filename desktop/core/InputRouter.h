@@ -69,6 +69,9 @@ private:
     struct Private;
 
     Target targetAt(QPointF point) const;
+    Target moved(QPointF to);
+    Target press(MouseButton button, std::uint64_t modifierFlags);
+    Target release(MouseButton button, std::uint64_t modifierFlags);
     Target takePress(MouseButton button, std::uint64_t modifierFlags);
     Target pressInMenuBar(MouseButton button, const platform::Event &event);
     Target pressInWindow(const platform::Event &event);

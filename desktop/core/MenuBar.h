@@ -4,6 +4,7 @@
 #include <QObject>
 #include <QRectF>
 #include <QString>
+#include <functional>
 #include <memory>
 #include <optional>
 #include <utility>
@@ -47,6 +48,7 @@ public:
     std::optional<std::pair<double, double>> notch() const; // x of its edges
     double applicationMenusEnd() const; // x up to which the bar belongs to application menus
     bool isShowing() const { return m_isShowing; }
+    double ownItemLength() const; // as it was last set, settled or not; 0 without an item
 
     // For the desktop's other parts.
     using EntryPointer = std::shared_ptr<BarEntry>;
@@ -59,7 +61,9 @@ public:
     void setScreens(); // read them anew
     void setShowing(bool showing);
     void setMovesAccepted(bool accepted) { m_areMovesAccepted = accepted; }
-    void settleNow(); // at start: nothing was there before
+    // Several changes laid out together, here or all at once: at start, when nothing was there before.
+    void update(const std::function<void()> &changes);
+    void settleNow(const std::function<void()> &changes);
 
     EntryPointer entryAt(QPointF point) const; // whose frame holds the point, drawn or not; null for none
     EntryPointer drawnEntryAt(QPointF point) const; // the one that takes clicks there
@@ -75,8 +79,11 @@ Q_SIGNALS:
 
 private:
     struct Private;
+    using Layout = std::vector<std::pair<EntryPointer, QRectF>>; // of each item that is laid out
+    Layout layout() const;
     void relayout();
-    void apply(const std::vector<std::pair<EntryPointer, QRectF>> &frames);
+    void touch();
+    void apply(const Layout &layout);
 
     std::unique_ptr<Private> m_d;
     bool m_isShowing = true;

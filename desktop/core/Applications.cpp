@@ -1,0 +1,223 @@
+#include "Applications.h"
+#include "AppIcons.h"
+#include "DescribedMenu.h"
+#include "MenuBar.h"
+#include "MenuHost.h"
+
+#include <algorithm>
+
+using namespace brimshade::platform;
+using namespace Qt::StringLiterals;
+
+namespace brimshade::desktop {
+
+namespace {
+
+bool isPinned(const ApplicationDescription &application, const ExtraDescription &extra)
+{
+    const QString identifier = extra.identifier.value_or(QString());
+    return application.bundleIdentifier == u"com.apple.MenuBarAgent"_s
+        && (identifier.endsWith(".clock"_L1) || identifier.endsWith(".controlcenter"_L1));
+}
+
+BarEntry::Place placeOf(const ApplicationDescription &application, const ExtraDescription &extra)
+{
+    if (extra.frameKind == ExtraDescription::Frame::fixed)
+        return BarEntry::Place::fixed;
+    return isPinned(application, extra) ? BarEntry::Place::pinned : BarEntry::Place::movable;
+}
+
+template <typename Value> Value valueOr(const std::map<QString, Value> &values, const QString &key, Value fallback = {})
+{
+    const auto found = values.find(key);
+    return found == values.end() ? fallback : found->second;
+}
+
+RunningApplication running(const ApplicationDescription &application, const Image &icon)
+{
+    return {application.pid, application.bundleIdentifier, application.bundlePath, application.name, icon};
+}
+
+} // namespace
+
+Applications::Applications(SharedState &state, MenuBar &menuBar, MenuHost &menus)
+    : m_state(state), m_menuBar(menuBar), m_menus(menus)
+{
+}
+
+Applications::~Applications() = default;
+
+bool Applications::isRunning(int pid) const
+{
+    return m_hosted.contains(pid);
+}
+
+bool Applications::launch(const ApplicationSpec &application)
+{
+    const int pid = application.description.pid;
+    if (pid <= 0 || isRunning(pid))
+        return false;
+    host(m_hosted.emplace(pid, Hosted{application, {}, {}}).first->second);
+    return true;
+}
+
+bool Applications::change(int pid, const ApplicationSpec &application)
+{
+    const auto hosted = m_hosted.find(pid);
+    if (hosted == m_hosted.end() || application.description.pid != pid)
+        return false;
+    const bool hasSameIcon =
+        application.icon.isNull() && application.description.icon == hosted->second.spec.description.icon;
+    hosted->second.spec = application;
+    if (!hasSameIcon)
+        hosted->second.icon = {};
+    host(hosted->second);
+    return true;
+}
+
+bool Applications::quit(int pid)
+{
+    auto hosted = m_hosted.extract(pid);
+    if (hosted.empty())
+        return false;
+    m_state.write([pid](DisplayState &state) {
+        std::erase_if(state.applications,
+                      [pid](const auto &application) { return application.processIdentifier == pid; });
+        const auto process = state.processes.extract(pid);
+        process.mapped().responsiveness->isRunning = false;
+        if (process.mapped().extrasMenuBar)
+            killChildren(*process.mapped().extrasMenuBar);
+    });
+    m_menuBar.update([&] {
+        for (const Item &item : hosted.mapped().items) {
+            if (item.entry)
+                m_menuBar.remove(item.entry);
+        }
+    });
+    const auto *menu = qobject_cast<DescribedMenu *>(m_menus.openMenu());
+    if (menu && menu->pid() == pid)
+        m_menus.dismiss();
+    return true;
+}
+
+// Brings the bar and Accessibility in line with the specification; both for a new application and for a changed one.
+void Applications::host(Hosted &hosted)
+{
+    if (hosted.icon.isNull())
+        hosted.icon = hosted.spec.icon.isNull() ? makeIcon(hosted.spec.description) : hosted.spec.icon;
+    const auto extras = publish(hosted);
+    auto before = std::exchange(hosted.items, {});
+    m_menuBar.update([&] {
+        std::map<const Element *, BarEntryPointer> entries;
+        for (const Item &item : before)
+            entries[item.extra.element.get()] = item.entry;
+        for (const DescribedExtra &extra : extras)
+            hosted.items.push_back({extra, makeEntry(hosted, extra, std::exchange(entries[extra.element.get()], {}))});
+        for (const auto &[element, entry] : entries) {
+            if (entry)
+                m_menuBar.remove(entry);
+        }
+        m_menuBar.widthChanged();
+        m_menuBar.lookChanged();
+    });
+}
+
+std::vector<DescribedExtra> Applications::publish(Hosted &hosted)
+{
+    const ApplicationDescription &description = hosted.spec.description;
+    return m_state.write([&](DisplayState &state) {
+        const auto known =
+            std::ranges::find(state.applications, description.pid, &RunningApplication::processIdentifier);
+        if (known != state.applications.end())
+            *known = running(description, hosted.icon);
+        else
+            state.applications.push_back(running(description, hosted.icon));
+        if (description.bundlePath && !hosted.icon.isNull())
+            state.bundleIcons.insert_or_assign(*description.bundlePath, hosted.icon);
+
+        Process &process = state.processes[description.pid];
+        if (!process.responsiveness)
+            process.responsiveness = std::make_shared<Responsiveness>();
+        process.responsiveness->hangs = description.hangs;
+        process.responsiveness->latency = description.latency;
+        if (!process.extrasMenuBar) {
+            process.extrasMenuBar = std::make_shared<Element>(Element::Kind::extrasMenuBar, description.pid);
+            process.extrasMenuBar->process = process.responsiveness;
+            process.extrasMenuBar->role = u"AXMenuBar"_s;
+        }
+        auto extras =
+            describeChildren(*process.extrasMenuBar, description.extras.value_or(std::vector<ExtraDescription>()));
+        if (!description.extras) {
+            process.extrasMenuBar->isAlive = false;
+            process.extrasMenuBar = nullptr;
+        }
+        return extras;
+    });
+}
+
+BarEntryPointer Applications::makeEntry(const Hosted &hosted, const DescribedExtra &extra, BarEntryPointer before)
+{
+    const ApplicationDescription &application = hosted.spec.description;
+    const ExtraDescription &description = extra.description;
+    const auto place = placeOf(application, description);
+    if (before && (before->place != place || description.frameKind == ExtraDescription::Frame::unreadable))
+        m_menuBar.remove(std::exchange(before, nullptr));
+    if (description.frameKind == ExtraDescription::Frame::unreadable)
+        return nullptr;
+    const auto entry = before ? before : std::make_shared<BarEntry>();
+    entry->pid = application.pid;
+    entry->place = place;
+    entry->width = description.width;
+    if (place == BarEntry::Place::fixed)
+        entry->frame = description.frame;
+    entry->element = extra.element;
+    entry->open = [this, pid = application.pid, element = extra.element.get()] { open(pid, element); };
+    entry->identifier = description.identifier.value_or(QString());
+    entry->title = description.title.value_or(QString());
+    entry->description = description.description.value_or(QString());
+    entry->symbol = description.symbol;
+    entry->toolTip = valueOr(hosted.spec.toolTips, entry->identifier);
+    const bool showsIcon = description.role == "AXMenuBarItem"_L1;
+    entry->image = valueOr(hosted.spec.itemImages, entry->identifier, showsIcon ? hosted.icon : Image());
+    if (!before)
+        m_menuBar.add(entry);
+    return entry;
+}
+
+void Applications::pressed(const ElementPointer &element)
+{
+    open(element->pid, element.get());
+}
+
+void Applications::open(int pid, const Element *element)
+{
+    const auto hosted = m_hosted.find(pid);
+    if (hosted == m_hosted.end())
+        return; // it quit between the press and its effect
+    const auto &items = hosted->second.items;
+    const auto item =
+        std::ranges::find_if(items, [element](const Item &item) { return item.extra.element.get() == element; });
+    if (item != items.end())
+        open(hosted->second, *item);
+}
+
+void Applications::open(const Hosted &hosted, const Item &item)
+{
+    const ExtraDescription &extra = item.extra.description;
+    const QRectF frame = item.entry ? item.entry->frame.value_or(QRectF()) : QRectF();
+    if (const OpenItem opens = valueOr(hosted.spec.openItem, extra.identifier.value_or(QString()))) {
+        opens(frame);
+        return;
+    }
+    const ApplicationDescription &application = hosted.spec.description;
+    const QString name = application.name.value_or(application.bundleIdentifier.value_or(QString()));
+    if (extra.menu.isEmpty()) {
+        Q_EMIT notified(name, extra.title.value_or(extra.description.value_or(name)));
+        return;
+    }
+    m_menus.open(std::make_shared<DescribedMenu>(application.pid, extra.menu,
+                                                 [this, name](const QString &title) { Q_EMIT notified(name, title); }),
+                 frame);
+}
+
+} // namespace brimshade::desktop

@@ -1,0 +1,55 @@
+#pragma once
+#include "ApplicationSpec.h"
+#include "BarEntry.h"
+#include "ElementTree.h"
+
+#include <QObject>
+#include <map>
+
+namespace brimshade::desktop {
+
+class MenuBar;
+class MenuHost;
+
+// The running applications: what Accessibility reads of them, their items in the bar, and what a press opens.
+// Main thread.
+class Applications : public QObject {
+    Q_OBJECT
+public:
+    Applications(SharedState &state, MenuBar &menuBar, MenuHost &menus);
+    ~Applications() override;
+
+    // As Desktop says; nothing is announced here.
+    bool launch(const ApplicationSpec &application);
+    bool quit(int pid);
+    bool change(int pid, const ApplicationSpec &application);
+    bool isRunning(int pid) const;
+
+    void pressed(const ElementPointer &element); // through Accessibility
+
+Q_SIGNALS:
+    void notified(const QString &application, const QString &what);
+
+private:
+    struct Item {
+        DescribedExtra extra;
+        BarEntryPointer entry; // null: its frame is unreadable, the bar does not have it
+    };
+    struct Hosted {
+        ApplicationSpec spec;
+        platform::Image icon;
+        std::vector<Item> items;
+    };
+    std::vector<DescribedExtra> publish(Hosted &hosted);
+    void host(Hosted &hosted);
+    BarEntryPointer makeEntry(const Hosted &hosted, const DescribedExtra &extra, BarEntryPointer before);
+    void open(int pid, const Element *element);
+    void open(const Hosted &hosted, const Item &item);
+
+    SharedState &m_state;
+    MenuBar &m_menuBar;
+    MenuHost &m_menus;
+    std::map<int, Hosted> m_hosted; // by pid
+};
+
+} // namespace brimshade::desktop

@@ -1,0 +1,27 @@
+#pragma once
+#include "SharedState.h"
+#include "platform/Image.h"
+
+#include <functional>
+
+namespace brimshade::desktop {
+
+// An item of the bar as the desktop keeps it. Shared by the bar and whoever brought the item. Main thread.
+struct BarEntry {
+    // Right to left, each kind ends where the next begins.
+    enum class Place { pinned, own, movable, fixed };
+
+    int pid = 0;
+    Place place = Place::movable;
+    double width = 0; // points; what the next layout takes
+    std::optional<QRectF> frame; // the settled one, display space; absent until the bar has laid the item out
+    ElementPointer element; // null for the own item
+    std::function<void()> open; // a click; null for the own item
+
+    QString identifier, title, description, symbol, toolTip;
+    platform::Image image;
+    bool isPressed = false;
+};
+using BarEntryPointer = std::shared_ptr<BarEntry>;
+
+} // namespace brimshade::desktop

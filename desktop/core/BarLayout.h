@@ -1,0 +1,40 @@
+#pragma once
+#include "platform/Screens.h"
+
+#include <utility>
+#include <vector>
+
+// Where a bar's items stand. Pure functions; lengths in points, rectangles in display space.
+namespace brimshade::desktop {
+
+// The bar with status items on its screen.
+struct BarGeometry {
+    QRectF frame; // of the bar
+    std::optional<std::pair<double, double>> notch; // x of its edges
+    double applicationMenusEnd = 0; // x
+
+    bool operator==(const BarGeometry &) const = default;
+};
+
+// The screen with the bar: the first one with a notch, else the primary one; null without any screen.
+const platform::Screen *barScreen(const std::vector<platform::Screen> &screens);
+// Of the bar on that screen.
+BarGeometry barGeometry(const platform::Screen &screen, double primaryHeight);
+
+// Items from right to left; the frames in the same order. The first that has no room and all after it stand
+// off-screen, leftwards from x = 0, or from the bar's left edge when that is further left.
+std::vector<QRectF> layOut(const std::vector<double> &widths, const BarGeometry &bar);
+
+// Wholly right of the notch, without one of the application menus: only then is an item drawn and takes clicks.
+bool isDrawnAt(const QRectF &frame, const BarGeometry &bar);
+
+// How many of the items, from right to left, belong right of one that is dropped at x: those whose middle is at or
+// right of it.
+std::size_t dropIndex(const std::vector<QRectF> &frames, double x);
+
+// How many movable items, from right to left, stand right of the own item that keeps its right edge that far from the
+// bar's right edge.
+std::size_t preferredIndex(const std::vector<double> &pinned, const std::vector<double> &movable,
+                           double pointsFromRight);
+
+} // namespace brimshade::desktop

@@ -1,0 +1,29 @@
+#pragma once
+#include "BarEntry.h"
+
+#include <QPointF>
+
+namespace brimshade::desktop {
+
+class MenuBar;
+
+// Rearranging the bar's items by hand or by synthetic events: pressed with Command on an item, dragged, released with
+// Command in the bar's row. Main thread; points in display space.
+class CommandDrag {
+public:
+    explicit CommandDrag(MenuBar &bar) : m_bar(bar) { }
+
+    // True when the press was on an item of the bar, drawn or not, and belongs to the drag from here on.
+    bool begin(QPointF at, std::uint64_t modifierFlags);
+    bool isActive() const { return m_entry != nullptr; }
+    const BarEntryPointer &entry() const { return m_entry; }
+    void dragged() { m_wasDragged = true; }
+    bool end(QPointF at, std::uint64_t modifierFlags); // true when the order changed
+
+private:
+    MenuBar &m_bar;
+    BarEntryPointer m_entry;
+    bool m_wasDragged = false;
+};
+
+} // namespace brimshade::desktop

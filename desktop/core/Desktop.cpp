@@ -1,0 +1,286 @@
+#include "Desktop.h"
+#include "AccessibilityService.h"
+#include "Applications.h"
+#include "InputRouter.h"
+#include "Inspection.h"
+#include "MenuBar.h"
+#include "MenuHost.h"
+#include "Permission.h"
+#include "ProgramApplication.h"
+#include "ScreenGeometry.h"
+#include "ScreensService.h"
+#include "StatusBarService.h"
+#include "SyntheticEvents.h"
+#include "WindowInfo.h"
+#include "WindowStack.h"
+#include "WorkspaceService.h"
+#include "desktop/services/HotkeyRegistry.h"
+#include "desktop/services/LogWriter.h"
+#include "desktop/services/MemoryDefaults.h"
+#include "desktop/services/ScriptedLoginItem.h"
+
+#include <QCoreApplication>
+#include <algorithm>
+
+using namespace brimshade::platform;
+
+namespace brimshade::desktop {
+
+namespace {
+
+// The process's own, or the next that no described application claims: a desktop file knows nothing of this process.
+int freePid(const std::vector<ApplicationDescription> &applications)
+{
+    auto pid = static_cast<int>(QCoreApplication::applicationPid());
+    while (std::ranges::find(applications, pid, &ApplicationDescription::pid) != applications.end())
+        ++pid;
+    return pid;
+}
+
+} // namespace
+
+// In the order in which they depend on each other; taken down in the opposite one.
+struct Desktop::Parts {
+    Parts(Services given, const DesktopDescription &description);
+
+    Services services;
+    SharedState state;
+    LogWriter log;
+    HotkeyRegistry hotkeys;
+    Notifications notifications;
+    Inspection inspection{state};
+    Permission permission{state};
+    ScreensService screens{state};
+    WindowInfoService windowInfo{state};
+    WindowStack windows{state};
+    MenuHost menus{state};
+    MenuBar menuBar{services.dispatch, state, menus};
+    ProgramApplication application{state, windows};
+    Applications applications{state, menuBar, menus};
+    WorkspaceService workspace;
+    AccessibilityService accessibility{services.dispatch, state, permission,
+                                       [this](const ElementPointer &item) { applications.pressed(item); }};
+    StatusBarService statusBar;
+    InputRouter input{{state, application, permission, windows, menus, menuBar, statusBar, hotkeys}};
+    SyntheticEvents events{services.dispatch, state, input};
+    ScriptedLoginItem *scriptedLoginItem = nullptr;
+
+    void applyScreens(const std::vector<ScreenDescription> &descriptions);
+    void publishBars();
+    void fillDefaults(const QVariantMap &values);
+    void start(const DesktopDescription &description);
+};
+
+Desktop::Parts::Parts(Services given, const DesktopDescription &description)
+    : services(std::move(given)), workspace(state, freePid(description.applications)),
+      statusBar({state, menuBar, menus, application, notifications, *services.defaults, workspace.processIdentifier()})
+{
+}
+
+// The settings first: what reads them comes later.
+void Desktop::Parts::fillDefaults(const QVariantMap &values)
+{
+    for (auto value = values.begin(); value != values.end(); ++value) {
+        if (services.defaults->objectForKey(value.key()).isValid())
+            continue;
+        if (value->typeId() == QMetaType::Bool)
+            services.defaults->setBool(value->toBool(), value.key());
+        else if (value->typeId() == QMetaType::QString)
+            services.defaults->setObject(value->toString(), value.key());
+        else
+            services.defaults->setInteger(value->toLongLong(), value.key());
+    }
+}
+
+void Desktop::Parts::start(const DesktopDescription &description)
+{
+    fillDefaults(description.defaults);
+    state.write([&](DisplayState &display) {
+        display.isTrusted = description.trusted;
+        display.displayNames = description.displayNames;
+    });
+    applyScreens(description.screens);
+    const QSizeF primary = description.screens.empty() ? QSizeF() : description.screens.front().frame.size();
+    state.write([&](DisplayState &display) {
+        display.pointer = description.pointer.value_or(QPointF(primary.width() / 2, primary.height() / 2));
+    });
+    menuBar.setMovesAccepted(description.movesAccepted);
+    menuBar.setShowing(description.menuBarShowing);
+    publishBars();
+    menuBar.settleNow([&] {
+        for (const ApplicationDescription &application : description.applications)
+            applications.launch({.description = application});
+    });
+    workspace.publishOwn();
+}
+
+void Desktop::Parts::applyScreens(const std::vector<ScreenDescription> &descriptions)
+{
+    state.write([&](DisplayState &display) {
+        display.screens.clear();
+        std::ranges::transform(descriptions, std::back_inserter(display.screens), makeScreen);
+    });
+    menuBar.update([this] {
+        menuBar.setScreens();
+        statusBar.barChanged();
+    });
+    windows.screensChanged();
+    publishBars();
+}
+
+void Desktop::Parts::publishBars()
+{
+    state.write([showing = menuBar.isShowing()](DisplayState &display) {
+        display.menuBarInfo.clear();
+        if (!showing || display.screens.empty())
+            return;
+        const double primaryHeight = display.screens.front().frame.height();
+        for (const Screen &screen : display.screens) {
+            const double height = maxY(screen.frame) - maxY(screen.visibleFrame);
+            const QRectF bar(minX(screen.frame), primaryHeight - maxY(screen.frame), screen.frame.width(), height);
+            display.menuBarInfo.push_back(desktop::windowInfo(kMainMenuWindowLevel, bar));
+        }
+    });
+}
+
+Desktop::Desktop(Services services, const DesktopDescription &description)
+{
+    ScriptedLoginItem *scripted = nullptr;
+    if (!services.defaults)
+        services.defaults = std::make_unique<MemoryDefaults>();
+    if (!services.loginItems) {
+        const auto item = description.loginItem.value_or(LoginItemDescription());
+        auto owned = std::make_unique<ScriptedLoginItem>();
+        owned->answer(static_cast<LoginItemStatus>(item.status), item.failure);
+        scripted = owned.get();
+        services.loginItems = std::move(owned);
+    }
+    m_parts = std::make_unique<Parts>(std::move(services), description);
+    m_parts->scriptedLoginItem = scripted;
+    m_parts->start(description);
+
+    connect(&m_parts->permission, &Permission::changed, this, &Desktop::changed);
+    connect(&m_parts->applications, &Applications::notified, this, &Desktop::notified);
+    connect(&m_parts->application, &ProgramApplication::terminated, this, &Desktop::terminated);
+    connect(&m_parts->workspace, &WorkspaceService::accessibilityPageOpened, &m_parts->permission,
+            &Permission::openPage);
+    connect(&m_parts->workspace, &WorkspaceService::otherApplicationOpened, &m_parts->windows,
+            &WindowStack::deactivate);
+}
+
+Desktop::~Desktop() = default;
+
+Platform Desktop::platform()
+{
+    Parts &p = *m_parts;
+    return {p.accessibility,        p.application, p.services.dispatch, p.events,   p.hotkeys,   p.log,
+            *p.services.loginItems, p.menus,       p.notifications,     p.screens,  p.statusBar, p.services.symbols,
+            *p.services.defaults,   p.windows,     p.windowInfo,        p.workspace};
+}
+
+HotkeyRegistry &Desktop::hotkeys()
+{
+    return m_parts->hotkeys;
+}
+
+InputRouter &Desktop::input()
+{
+    return m_parts->input;
+}
+
+Inspection &Desktop::inspection()
+{
+    return m_parts->inspection;
+}
+
+LogWriter &Desktop::log()
+{
+    return m_parts->log;
+}
+
+MenuBar &Desktop::menuBar()
+{
+    return m_parts->menuBar;
+}
+
+MenuHost &Desktop::menus()
+{
+    return m_parts->menus;
+}
+
+Permission &Desktop::permission()
+{
+    return m_parts->permission;
+}
+
+WindowStack &Desktop::windows()
+{
+    return m_parts->windows;
+}
+
+ScriptedLoginItem *Desktop::scriptedLoginItem()
+{
+    return m_parts->scriptedLoginItem;
+}
+
+QVariantMap Desktop::storedDefaults() const
+{
+    const auto *store = dynamic_cast<const MemoryDefaults *>(m_parts->services.defaults.get());
+    return store ? store->all() : QVariantMap();
+}
+
+int Desktop::ownPid() const
+{
+    return m_parts->workspace.processIdentifier();
+}
+
+bool Desktop::launch(const ApplicationSpec &application)
+{
+    if (application.description.pid == ownPid() || !m_parts->applications.launch(application))
+        return false;
+    m_parts->workspace.notificationCenter().post(kNSWorkspaceDidLaunchApplicationNotification);
+    Q_EMIT changed();
+    return true;
+}
+
+bool Desktop::quit(int pid)
+{
+    if (!m_parts->applications.quit(pid))
+        return false;
+    m_parts->workspace.notificationCenter().post(kNSWorkspaceDidTerminateApplicationNotification);
+    Q_EMIT changed();
+    return true;
+}
+
+bool Desktop::change(int pid, const ApplicationSpec &application)
+{
+    if (!m_parts->applications.change(pid, application))
+        return false;
+    Q_EMIT changed();
+    return true;
+}
+
+void Desktop::setScreens(const std::vector<ScreenDescription> &screens)
+{
+    m_parts->applyScreens(screens);
+    m_parts->notifications.post(kNSApplicationDidChangeScreenParametersNotification);
+    Q_EMIT changed();
+}
+
+void Desktop::setTrusted(bool trusted)
+{
+    m_parts->permission.setTrusted(trusted);
+}
+
+void Desktop::setMenuBarShowing(bool showing)
+{
+    m_parts->menuBar.setShowing(showing);
+    m_parts->publishBars();
+}
+
+void Desktop::setMovesAccepted(bool accepted)
+{
+    m_parts->menuBar.setMovesAccepted(accepted);
+}
+
+} // namespace brimshade::desktop

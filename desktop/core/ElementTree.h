@@ -1,0 +1,22 @@
+#pragma once
+#include "SharedState.h"
+#include "desktop/file/DesktopDescription.h"
+
+namespace brimshade::desktop {
+
+// An item of an application and its element. Groups are none; their children stand in their place.
+struct DescribedExtra {
+    ExtraDescription description;
+    ElementPointer element;
+};
+
+// Makes or renews the elements below an extras menu bar or a group and answers the items among them, in the order
+// listed. An extra that was there before keeps its element: the one of the same identifier, or without any of the same
+// role, title and description, under the same parent. Elements of extras that are gone die. Run under the SharedState's
+// lock.
+std::vector<DescribedExtra> describeChildren(Element &parent, const std::vector<ExtraDescription> &extras);
+
+// The application quit: it and everything below it answers no more.
+void killChildren(Element &parent);
+
+} // namespace brimshade::desktop

@@ -1,0 +1,251 @@
+#include "MenuBar.h"
+#include "BarLayout.h"
+#include "BarOrder.h"
+#include "Lifetime.h"
+#include "MenuHost.h"
+#include "SharedState.h"
+
+#include <algorithm>
+
+using namespace brimshade::platform;
+
+namespace brimshade::desktop {
+
+namespace {
+
+constexpr double kSettleDelay = 0.1; // seconds
+
+} // namespace
+
+struct MenuBar::Private {
+    Dispatch &dispatch;
+    SharedState &state;
+    MenuHost &menus;
+    BarOrder order = {};
+    std::optional<BarGeometry> geometry = {}; // absent without a screen
+    Layout latest = {}; // what shows once it has settled
+    int updates = 0; // nesting of update(): what is due waits for its end
+    bool needsLayout = false;
+    bool needsSignal = false;
+    Lifetime lifetime = {};
+};
+
+MenuBar::MenuBar(Dispatch &dispatch, SharedState &state, MenuHost &menus)
+    : m_d(new Private{.dispatch = dispatch, .state = state, .menus = menus})
+{
+    connect(&menus, &MenuHost::changed, this, &MenuBar::changed);
+}
+
+MenuBar::~MenuBar() = default;
+
+QRectF MenuBar::frame() const
+{
+    return m_d->geometry ? m_d->geometry->frame : QRectF();
+}
+
+std::optional<std::pair<double, double>> MenuBar::notch() const
+{
+    return m_d->geometry ? m_d->geometry->notch : std::nullopt;
+}
+
+double MenuBar::applicationMenusEnd() const
+{
+    return m_d->geometry ? m_d->geometry->applicationMenusEnd : 0;
+}
+
+double MenuBar::ownItemLength() const
+{
+    const auto widths = m_d->order.widths(BarEntry::Place::own);
+    return widths.empty() ? 0 : widths.front();
+}
+
+std::vector<BarItem> MenuBar::items() const
+{
+    const bool isMenuOpen = m_d->menus.openMenu();
+    std::vector<BarItem> items;
+    for (const auto *entries : {&m_d->order.laidOut(), &m_d->order.fixed()}) {
+        for (const auto &entry : *entries) {
+            if (!entry->frame)
+                continue;
+            const BarEntry &e = *entry;
+            items.push_back({e.pid, e.identifier, e.title, e.description, e.symbol, e.image, e.toolTip, *e.frame,
+                             isDrawn(e), e.place == BarEntry::Place::own,
+                             e.isPressed || (isMenuOpen && m_d->menus.anchor() == *e.frame)});
+        }
+    }
+    std::ranges::stable_sort(items, {}, [](const BarItem &item) { return minX(item.frame); });
+    return items;
+}
+
+void MenuBar::add(const EntryPointer &entry)
+{
+    m_d->order.add(entry);
+    if (entry->place == BarEntry::Place::fixed)
+        touch();
+    else
+        relayout();
+}
+
+void MenuBar::remove(const EntryPointer &entry)
+{
+    m_d->order.remove(entry);
+    relayout();
+    touch(); // it is gone at once; the others close up when they settle
+}
+
+void MenuBar::widthChanged()
+{
+    relayout();
+}
+
+void MenuBar::lookChanged()
+{
+    touch();
+}
+
+void MenuBar::placeOwn(const EntryPointer &entry, double pointsFromRight)
+{
+    const auto pinned = m_d->order.widths(BarEntry::Place::pinned);
+    const auto movable = m_d->order.widths(BarEntry::Place::movable);
+    if (m_d->order.moveTo(entry, pinned.size() + preferredIndex(pinned, movable, pointsFromRight)))
+        relayout();
+}
+
+void MenuBar::setScreens()
+{
+    m_d->geometry = m_d->state.read([](const DisplayState &state) -> std::optional<BarGeometry> {
+        const Screen *screen = barScreen(state.screens);
+        if (!screen)
+            return std::nullopt;
+        return barGeometry(*screen, state.screens.front().frame.height());
+    });
+    relayout();
+    touch();
+}
+
+void MenuBar::setShowing(bool showing)
+{
+    if (std::exchange(m_isShowing, showing) != showing)
+        touch();
+}
+
+void MenuBar::update(const std::function<void()> &changes)
+{
+    ++m_d->updates;
+    changes();
+    if (--m_d->updates > 0)
+        return;
+    if (std::exchange(m_d->needsLayout, false))
+        relayout();
+    if (std::exchange(m_d->needsSignal, false))
+        touch();
+}
+
+void MenuBar::settleNow(const std::function<void()> &changes)
+{
+    ++m_d->updates;
+    changes();
+    --m_d->updates;
+    m_d->needsLayout = m_d->needsSignal = false;
+    m_d->latest = layout();
+    apply(m_d->latest);
+}
+
+MenuBar::Layout MenuBar::layout() const
+{
+    Layout layout;
+    if (!m_d->geometry)
+        return layout;
+    const auto frames = layOut(m_d->order.widths(), *m_d->geometry);
+    for (std::size_t i = 0; i < frames.size(); ++i)
+        layout.emplace_back(m_d->order.laidOut()[i], frames[i]);
+    return layout;
+}
+
+// Laid out now, shown later: two changes within the delay show one after the other, each as it was meant.
+void MenuBar::relayout()
+{
+    if (m_d->updates > 0) {
+        m_d->needsLayout = true;
+        return;
+    }
+    Layout next = layout();
+    if (next == m_d->latest)
+        return;
+    m_d->latest = next;
+    m_d->dispatch.mainAfter(kSettleDelay, m_d->lifetime.guard([this, next = std::move(next)] { apply(next); }));
+}
+
+void MenuBar::touch()
+{
+    if (m_d->updates > 0)
+        m_d->needsSignal = true;
+    else
+        Q_EMIT changed();
+}
+
+void MenuBar::apply(const Layout &layout)
+{
+    m_d->state.write([&](DisplayState &) {
+        for (const auto &[entry, frame] : layout) {
+            entry->frame = frame;
+            if (entry->element)
+                entry->element->frame = frame;
+        }
+    });
+    Q_EMIT settled();
+    Q_EMIT changed();
+}
+
+MenuBar::EntryPointer MenuBar::entryAt(QPointF point) const
+{
+    for (const auto *entries : {&m_d->order.laidOut(), &m_d->order.fixed()}) {
+        for (const auto &entry : *entries) {
+            if (entry->frame && containsPoint(*entry->frame, point))
+                return entry;
+        }
+    }
+    return nullptr;
+}
+
+MenuBar::EntryPointer MenuBar::drawnEntryAt(QPointF point) const
+{
+    const auto entry = entryAt(point);
+    return entry && isDrawn(*entry) ? entry : nullptr;
+}
+
+bool MenuBar::isDrawn(const BarEntry &entry) const
+{
+    return m_isShowing && m_d->geometry && entry.frame && isDrawnAt(*entry.frame, *m_d->geometry);
+}
+
+bool MenuBar::containsRow(QPointF point) const
+{
+    return point.y() >= minY(frame()) && point.y() < maxY(frame());
+}
+
+bool MenuBar::move(const EntryPointer &entry, double x)
+{
+    if (!m_areMovesAccepted)
+        return false;
+    std::vector<QRectF> others;
+    for (const auto &other : m_d->order.laidOut()) {
+        if (other != entry && other->frame)
+            others.push_back(*other->frame);
+    }
+    if (!m_d->order.moveTo(entry, dropIndex(others, x)))
+        return false;
+    relayout();
+    return true;
+}
+
+double MenuBar::pointsFromRight(const BarEntry &entry) const
+{
+    for (const auto &[laidOut, rect] : m_d->latest) {
+        if (laidOut.get() == &entry)
+            return maxX(frame()) - maxX(rect);
+    }
+    return 0;
+}
+
+} // namespace brimshade::desktop

@@ -1,0 +1,23 @@
+#pragma once
+#include "platform/NotificationCenter.h"
+
+#include <vector>
+
+namespace brimshade::desktop {
+
+class Notifications : public platform::NotificationCenter {
+public:
+    void addObserver(const QString &name, const void *object, platform::Work handler) override;
+    // Observers added meanwhile hear of the next one.
+    void post(const char *name, const void *object = nullptr);
+
+private:
+    struct Observer {
+        QString name;
+        const void *object;
+        platform::Work handler;
+    };
+    std::vector<Observer> m_observers;
+};
+
+} // namespace brimshade::desktop

@@ -1,0 +1,13 @@
+#pragma once
+#include "desktop/file/DesktopDescription.h"
+#include "platform/Screens.h"
+
+namespace brimshade::desktop {
+
+// Rectangles in screen space.
+platform::Screen makeScreen(const ScreenDescription &description);
+// The screen that holds most of the rectangle; none when no screen holds any of it. A rectangle without area is on the
+// screen that holds its corner.
+std::optional<platform::Screen> screenHolding(const std::vector<platform::Screen> &screens, const QRectF &rect);
+
+} // namespace brimshade::desktop
