@@ -29,8 +29,8 @@ struct ExtraDescription {
     QRectF frame; // display space; only with Frame::fixed
     QStringList actions;
     std::optional<int> pressError; // every action answers this code
-    QStringList menu;              // "-" is a separator
-    QString symbol;                // what the bar draws; the application's icon when empty
+    QStringList menu; // "-" is a separator
+    QString symbol; // what the bar draws; the application's icon when empty
     std::vector<ExtraDescription> children;
 };
 

@@ -74,6 +74,12 @@ RealDispatch::RealDispatch()
 
 RealDispatch::~RealDispatch()
 {
+    stop();
+    ::close(m_wakeUp);
+}
+
+void RealDispatch::stop()
+{
     m_notifier.setEnabled(false);
     m_timer.stop();
     // Before any wait ends: what a worker comes back to must not go on to the next piece of work.
@@ -87,7 +93,6 @@ RealDispatch::~RealDispatch()
     m_global.join();
     for (const auto &queue : m_queues)
         queue->pool().join();
-    ::close(m_wakeUp);
 }
 
 void RealDispatch::dropQueuedWork()

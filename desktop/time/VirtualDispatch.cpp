@@ -49,6 +49,11 @@ VirtualDispatch::~VirtualDispatch()
 
 void VirtualDispatch::stop()
 {
+    stop();
+}
+
+void VirtualDispatch::stop()
+{
     {
         const std::lock_guard lock(m_mutex);
         m_isStopping = true;

@@ -26,6 +26,10 @@ public:
     ~VirtualDispatch() override; // stops
     Q_DISABLE_COPY_MOVE(VirtualDispatch)
 
+    // Drops what waits; workers run to their end without sleeping. For an owner whose workers use what goes before
+    // the dispatch does. Work that comes later is dropped. Destroying does it too.
+    void stop();
+
     // As RealDispatch's: ends sleeps, drops what waits and joins every thread.
     void stop();
 

@@ -1,0 +1,31 @@
+#pragma once
+#include "platform/LoginItems.h"
+
+#include <QStringList>
+
+namespace brimshade::desktop {
+
+// The login item as an XDG autostart entry for the running program. Main thread; reads and writes small files.
+class AutostartLoginItem : public platform::LoginItems {
+public:
+    struct Places {
+        QString userFolder; // where entries are written
+        QStringList systemFolders; // most important first
+        QString program; // absolute path
+    };
+    AutostartLoginItem(); // of this session and this process
+    explicit AutostartLoginItem(Places places);
+
+    platform::LoginItemStatus status() const override;
+    std::expected<void, QString> registerMainApp() override;
+    std::expected<void, QString> unregisterMainApp() override;
+
+private:
+    QString userFile() const;
+    QString systemFile() const; // empty when there is none
+    std::expected<void, QString> write(const QByteArray &content) const;
+
+    Places m_places;
+};
+
+} // namespace brimshade::desktop
