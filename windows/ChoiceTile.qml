@@ -1,0 +1,83 @@
+pragma ComponentBehavior: Bound
+import QtQuick
+import QtQuick.Templates as T
+import Brimshade.Ui
+
+// One menu bar item of the setup flow: lit where it stays in the menu bar, dimmed where it is tucked away.
+T.AbstractButton {
+    id: control
+
+    required property string name
+    required property var icon
+    required property string symbol
+    required property bool canMove
+    required property bool hidden
+    required property HelpTip tip
+    readonly property string help: !control.canMove ? qsTr("Pinned by macOS") : control.hidden
+        ? qsTr("Tucked into the notch. Click to keep it in the menu bar.") : qsTr("In the menu bar. Click to tuck it away.")
+
+    signal toggleRequested
+
+    implicitWidth: 96
+    implicitHeight: implicitContentHeight
+    hoverEnabled: true
+    scale: press.value * grow.value
+    onClicked: control.toggleRequested()
+    onHoveredChanged: control.hovered ? control.tip.show(control, control.help) : control.tip.hide(control)
+    Component.onDestruction: control.tip?.hide(control)
+
+    Accessible.role: Accessible.Button
+    Accessible.name: control.name
+    Accessible.description: control.help
+
+    SpringValue {
+        id: press
+        target: control.down ? 0.9 : 1
+        response: 0.2
+        damping: 0.6
+    }
+    SpringValue {
+        id: grow
+        target: control.hovered && control.canMove ? 1.05 : 1
+        response: 0.25
+        damping: 0.7
+    }
+    // 1 where it stays, 0 where it is tucked away.
+    SpringValue {
+        id: lit
+        target: control.hidden ? 0 : 1
+        response: 0.25
+        damping: 0.7
+    }
+
+    contentItem: Column {
+        spacing: 8
+
+        ChoiceWell {
+            anchors.horizontalCenter: parent.horizontalCenter
+            icon: control.icon
+            symbol: control.symbol
+            canMove: control.canMove
+            hidden: control.hidden
+            lit: lit.value
+
+            FocusRing {
+                visible: control.visualFocus
+                cornerRadius: 18
+            }
+        }
+        StyledText {
+            objectName: "choiceName"
+            width: 96
+            text: control.name
+            size: 11
+            font.weight: Font.Medium
+            color: "white"
+            opacity: 0.45 + 0.45 * Math.max(0, Math.min(lit.value, 1))
+            horizontalAlignment: Text.AlignHCenter
+            maximumLineCount: 1
+            elide: Text.ElideRight
+            Accessible.ignored: true
+        }
+    }
+}

@@ -1,0 +1,68 @@
+pragma ComponentBehavior: Bound
+import QtQuick
+import Brimshade.Ui
+
+// The square of a choice tile: the item's picture, and a badge that says where it goes.
+Item {
+    id: root
+
+    required property var icon
+    required property string symbol
+    required property bool canMove
+    required property bool hidden
+    required property real lit // 1 stays, 0 tucked away; a spring, so a little beyond either
+    readonly property real share: Math.max(0, Math.min(root.lit, 1))
+
+    implicitWidth: 64
+    implicitHeight: 64
+
+    RoundedShape {
+        anchors.fill: parent
+        radius: 18
+        color: Qt.rgba(1, 1, 1, 0.04)
+        strokeColor: Qt.rgba(1, 1, 1, 0.06)
+        strokeWidth: 1
+        opacity: 1 - root.share
+    }
+    RoundedShape {
+        anchors.fill: parent
+        radius: 18
+        color: Qt.rgba(1, 1, 1, 0.1)
+        strokeColor: Qt.rgba(1, 1, 1, 0.25)
+        strokeWidth: 1
+        opacity: root.share
+    }
+    ImageView {
+        id: picture
+        anchors.centerIn: parent
+        width: 40
+        height: 40
+        image: root.icon
+        opacity: 0.45 + 0.55 * root.share
+    }
+    SymbolIcon {
+        anchors.centerIn: parent
+        visible: picture.isNull
+        name: root.symbol
+        pointSize: 20
+        weight: SymbolIcon.Semibold
+        opacity: picture.opacity
+    }
+    Rectangle {
+        objectName: "choiceBadge"
+        x: parent.width - width + 2
+        y: -2
+        width: badge.width
+        height: width
+        radius: width / 2
+        color: "black"
+
+        SymbolIcon {
+            id: badge
+            name: !root.canMove ? "lock.fill" : root.hidden ? "eye.slash.fill" : "checkmark.circle.fill"
+            pointSize: 13
+            weight: SymbolIcon.Bold
+            color: !root.canMove ? Qt.rgba(1, 1, 1, 0.5) : root.hidden ? Theme.orange : Theme.green
+        }
+    }
+}

@@ -1,0 +1,72 @@
+pragma ComponentBehavior: Bound
+import QtQuick
+import Brimshade.Ui
+
+Item {
+    id: root
+
+    required property NotchModel model
+    required property OnboardingFlow flow
+
+    Column {
+        anchors.centerIn: parent
+        width: parent.width
+        spacing: 26
+
+        StepHeader {
+            title: qsTr("Almost there")
+            body: qsTr("A couple of last details.")
+        }
+        Column {
+            anchors.horizontalCenter: parent.horizontalCenter
+            width: Math.min(460, parent.width)
+            spacing: 12
+
+            OptionRow {
+                symbol: "power"
+                title: qsTr("Launch at login")
+                subtitle: qsTr("Start Brimshade with your Mac")
+
+                Switch {
+                    objectName: "setupLoginSwitch"
+                    text: qsTr("Launch at login")
+                    value: root.model.launchAtLogin
+                    Accessible.description: qsTr("Start Brimshade with your Mac")
+                    onValueRequested: value => root.model.launchAtLogin = value
+                }
+            }
+            OptionRow {
+                symbol: "square.grid.2x2"
+                title: qsTr("Show every item in the panel")
+                subtitle: qsTr("Not only the hidden ones")
+
+                Switch {
+                    objectName: "setupShowVisibleSwitch"
+                    text: qsTr("Show every item in the panel")
+                    value: root.model.showVisible
+                    Accessible.description: qsTr("Not only the hidden ones")
+                    onValueRequested: value => root.model.showVisible = value
+                }
+            }
+        }
+        Row {
+            anchors.horizontalCenter: parent.horizontalCenter
+            visible: root.flow.pendingCount > 0
+            spacing: 6
+
+            SymbolIcon {
+                name: "hand.raised.fill"
+                pointSize: 12
+                color: Qt.rgba(1, 1, 1, 0.6)
+            }
+            StyledText {
+                objectName: "pendingLabel"
+                width: Math.min(implicitWidth, 420)
+                text: qsTr("Finishing moves %n item(s) for you. Your pointer will jump for a few seconds, so hands off the mouse.", "", root.flow.pendingCount)
+                size: 12
+                color: Qt.rgba(1, 1, 1, 0.6)
+                wrapMode: Text.WordWrap
+            }
+        }
+    }
+}

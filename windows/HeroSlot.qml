@@ -1,0 +1,38 @@
+pragma ComponentBehavior: Bound
+import QtQuick
+import Brimshade.Ui
+
+Item {
+    id: root
+
+    required property int index
+    required property var image // undefined where there is no icon for the slot
+    required property color tint
+    required property bool open
+
+    implicitWidth: 44
+    implicitHeight: 44
+    scale: 0.4 + 0.6 * pop.value
+    opacity: Math.max(0, Math.min(pop.value, 1))
+
+    SpringValue {
+        id: pop
+        target: root.open ? 1 : 0
+        response: 0.5
+        damping: 0.7
+        delay: root.open ? 0.15 + 0.06 * root.index : 0
+    }
+    ImageView {
+        anchors.fill: parent
+        visible: root.image !== undefined
+        image: root.image
+    }
+    RoundedShape {
+        anchors.fill: parent
+        visible: root.image === undefined
+        radius: 10
+        gradient: RoundedShape.Diagonal
+        color: root.tint
+        endColor: Qt.rgba(1, 1, 1, 0.3)
+    }
+}

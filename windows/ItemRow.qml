@@ -1,0 +1,103 @@
+pragma ComponentBehavior: Bound
+import QtQuick
+import Brimshade.Ui
+
+// A menu bar item in the settings, with what may be done to it.
+Item {
+    id: root
+
+    required property string extraID
+    required property string name
+    required property string detail
+    required property var icon
+    required property string symbol
+    required property int control
+    required property bool switchEnabled
+    required property bool inMenuBar
+
+    signal moveRequested(bool toMenuBar)
+
+    objectName: "itemRow"
+    width: parent?.width ?? 0
+    height: 44
+
+    Rectangle {
+        x: 12
+        width: root.width - 24
+        height: 0.5
+        color: root.palette.mid
+    }
+    ItemIcon {
+        id: face
+        x: 12
+        anchors.verticalCenter: parent.verticalCenter
+        image: root.icon
+        symbol: root.symbol
+    }
+    Column {
+        anchors.left: face.right
+        anchors.leftMargin: 10
+        anchors.right: trailing.left
+        anchors.rightMargin: 12
+        anchors.verticalCenter: parent.verticalCenter
+        spacing: 1
+
+        StyledText {
+            objectName: "itemName"
+            width: parent.width
+            text: root.name
+            color: root.palette.windowText
+            maximumLineCount: 1
+            elide: Text.ElideRight
+        }
+        StyledText {
+            objectName: "itemDetail"
+            width: parent.width
+            visible: root.detail !== ""
+            text: root.detail
+            size: 10
+            color: root.palette.placeholderText
+            maximumLineCount: 1
+            elide: Text.ElideRight
+        }
+    }
+    Loader {
+        id: trailing
+        anchors.right: parent.right
+        anchors.rightMargin: 12
+        anchors.verticalCenter: parent.verticalCenter
+        sourceComponent: [spinner, pinned, movable][root.control]
+    }
+
+    Component {
+        id: spinner
+
+        Spinner {
+            objectName: "itemSpinner"
+            color: root.palette.windowText
+        }
+    }
+    Component {
+        id: pinned
+
+        StyledText {
+            objectName: "itemPinned"
+            text: qsTr("Pinned by macOS")
+            size: 10
+            color: root.palette.placeholderText
+        }
+    }
+    Component {
+        id: movable
+
+        Switch {
+            objectName: "itemSwitch"
+            text: qsTr("Visible")
+            small: true
+            enabled: root.switchEnabled
+            value: root.inMenuBar
+            Accessible.description: root.name
+            onValueRequested: value => root.moveRequested(value)
+        }
+    }
+}

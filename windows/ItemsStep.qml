@@ -1,0 +1,77 @@
+pragma ComponentBehavior: Bound
+import QtQuick
+import Brimshade.Ui
+
+Item {
+    id: root
+
+    required property NotchModel model
+    required property OnboardingFlow flow
+    required property HelpTip tip
+
+    StepHeader {
+        id: header
+        anchors.top: parent.top
+        title: qsTr("What stays in the menu bar?")
+        body: qsTr("Lit items stay in the menu bar. Dimmed ones are tucked into the notch, one click away.")
+    }
+    StyledText {
+        objectName: "noChoicesText"
+        anchors.top: header.bottom
+        anchors.bottom: parent.bottom
+        width: parent.width
+        visible: root.model.itemCount === 0
+        text: root.model.trusted ? qsTr("Reading your menu bar…") : qsTr("Allow Accessibility first to see your items.")
+        color: Qt.rgba(1, 1, 1, 0.5)
+        horizontalAlignment: Text.AlignHCenter
+        verticalAlignment: Text.AlignVCenter
+        wrapMode: Text.WordWrap
+    }
+    ScrollArea {
+        id: scroll
+        objectName: "choicesScroll"
+        anchors.top: header.bottom
+        anchors.topMargin: 18
+        anchors.bottom: counts.top
+        anchors.bottomMargin: 18
+        width: parent.width
+        visible: root.model.itemCount > 0
+        contentWidth: width
+        contentHeight: grid.height + 12
+
+        Grid {
+            id: grid
+            x: (scroll.width - width) / 2
+            y: 6
+            columns: 5
+            columnSpacing: 12
+            rowSpacing: 14
+
+            Repeater {
+                model: root.flow.tiles
+
+                ChoiceTile {
+                    id: tile
+
+                    required property string extraID
+
+                    objectName: "choiceTile"
+                    tip: root.tip
+                    onToggleRequested: root.flow.toggle(tile.extraID)
+                }
+            }
+        }
+    }
+    StyledText {
+        id: counts
+        objectName: "choiceCounts"
+        anchors.bottom: parent.bottom
+        width: parent.width
+        visible: root.model.itemCount > 0
+        text: qsTr("%1 in the menu bar  ·  %2 in the notch").arg(root.flow.stayCount).arg(root.flow.tuckedCount)
+        size: 11
+        font.weight: Font.DemiBold
+        color: Qt.rgba(1, 1, 1, 0.45)
+        horizontalAlignment: Text.AlignHCenter
+    }
+}

@@ -1,0 +1,29 @@
+pragma ComponentBehavior: Bound
+import QtQuick
+import Brimshade.Ui
+
+// Black with a warm glow from the top and a violet one from the lower right.
+Rectangle {
+    id: root
+
+    color: "black"
+
+    RoundedShape {
+        anchors.fill: parent
+        gradient: RoundedShape.Radial
+        center: Qt.point(0.5, 0.05)
+        startRadius: 10
+        endRadius: 420
+        color: Qt.rgba(1, 0.45, 0.2, 0.35)
+        endColor: Qt.alpha(color, 0)
+    }
+    RoundedShape {
+        anchors.fill: parent
+        gradient: RoundedShape.Radial
+        center: Qt.point(0.9, 1)
+        startRadius: 10
+        endRadius: 380
+        color: Qt.rgba(0.55, 0.35, 1, 0.22)
+        endColor: Qt.alpha(color, 0)
+    }
+}

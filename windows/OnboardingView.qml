@@ -1,0 +1,121 @@
+pragma ComponentBehavior: Bound
+import QtQuick
+import Brimshade.Ui
+
+// The content of the setup window. The flow looks for the permission as long as this can be seen.
+FocusScope {
+    id: root
+
+    required property NotchModel model
+    required property OnboardingFlow flow
+
+    implicitWidth: 640
+    implicitHeight: 580
+    focus: true
+    palette {
+        base: "#2a2a2d"
+        windowText: "white"
+        button: "#4a4a4e"
+        buttonText: Qt.rgba(1, 1, 1, 0.92)
+        highlight: Theme.blue
+        dark: Qt.rgba(1, 1, 1, 0.2)
+    }
+    Keys.onReturnPressed: root.pressPrimary()
+    Keys.onEnterPressed: root.pressPrimary()
+    Component.onDestruction: root.flow.active = false
+
+    function pressPrimary() {
+        if (root.flow.action !== OnboardingFlow.Skip)
+            root.flow.act();
+    }
+
+    Binding {
+        target: root.flow
+        property: "active"
+        value: root.visible
+    }
+    OnboardingBackground {
+        anchors.fill: parent
+    }
+    Item {
+        id: content
+        anchors.fill: parent
+        anchors.leftMargin: 36
+        anchors.rightMargin: 36
+        anchors.topMargin: 44
+        anchors.bottomMargin: 26
+
+        Item {
+            id: stage
+            anchors.left: parent.left
+            anchors.right: parent.right
+            anchors.top: parent.top
+            anchors.bottom: bar.top
+            anchors.bottomMargin: 8
+
+            Repeater {
+                model: [welcome, permission, items, opening, final]
+
+                StepSlide {
+                    required property int index
+                    required property Component modelData
+
+                    anchors.fill: parent
+                    current: root.flow.step === index
+                    sourceComponent: modelData
+                }
+            }
+        }
+        BottomBar {
+            id: bar
+            anchors.left: parent.left
+            anchors.right: parent.right
+            anchors.bottom: parent.bottom
+            flow: root.flow
+        }
+    }
+    HelpTip {
+        id: tip
+    }
+
+    Component {
+        id: welcome
+
+        WelcomeStep {
+            flow: root.flow
+        }
+    }
+    Component {
+        id: permission
+
+        PermissionStep {
+            model: root.model
+            flow: root.flow
+        }
+    }
+    Component {
+        id: items
+
+        ItemsStep {
+            model: root.model
+            flow: root.flow
+            tip: tip
+        }
+    }
+    Component {
+        id: opening
+
+        OpeningStep {
+            model: root.model
+            layer: root
+        }
+    }
+    Component {
+        id: final
+
+        FinalStep {
+            model: root.model
+            flow: root.flow
+        }
+    }
+}

@@ -1,0 +1,38 @@
+pragma ComponentBehavior: Bound
+import QtQuick
+import Brimshade.Ui
+
+// The open lock, which a green seal replaces: one shrinks and fades while the other grows.
+Item {
+    id: root
+
+    required property bool trusted
+
+    implicitWidth: lock.width
+    implicitHeight: lock.height
+
+    SpringValue {
+        id: granted
+        target: root.trusted ? 1 : 0
+        response: 0.35
+        damping: 0.8
+    }
+    SymbolIcon {
+        id: lock
+        name: "lock.open.fill"
+        pointSize: 44
+        weight: SymbolIcon.Semibold
+        color: Theme.orange
+        endColor: Theme.pink
+        opacity: Math.max(0, Math.min(1 - 2 * granted.value, 1))
+        scale: 1 - 0.4 * Math.max(0, Math.min(granted.value, 1))
+    }
+    SymbolIcon {
+        name: "checkmark.seal.fill"
+        pointSize: 44
+        weight: SymbolIcon.Semibold
+        color: Theme.green
+        opacity: Math.max(0, Math.min(2 * granted.value - 1, 1))
+        scale: 0.6 + 0.4 * granted.value
+    }
+}

@@ -1,0 +1,60 @@
+pragma ComponentBehavior: Bound
+import QtQuick
+import QtQuick.Templates as T
+
+// Scrolls its content with the wheel and to whatever in it gets the keyboard. It cannot be dragged: a press in it is
+// for what lies there.
+Flickable {
+    id: root
+
+    property Item focused: root.Window.activeFocusItem
+
+    function contains(item: Item): bool {
+        for (let each = item; each; each = each.parent) {
+            if (each === root.contentItem)
+                return true;
+        }
+        return false;
+    }
+
+    function scrollTo(y: real) {
+        root.contentY = Math.max(0, Math.min(y, root.contentHeight - root.height));
+    }
+
+    function reveal(item: Item) {
+        const margin = 24;
+        const top = item.mapToItem(root.contentItem, 0, 0).y;
+        if (top - margin < root.contentY)
+            root.scrollTo(top - margin);
+        else if (top + item.height + margin > root.contentY + root.height)
+            root.scrollTo(top + item.height + margin - root.height);
+    }
+
+    clip: true
+    interactive: false
+    boundsBehavior: Flickable.StopAtBounds
+    onFocusedChanged: {
+        if (root.contains(root.focused))
+            root.reveal(root.focused);
+    }
+    onContentHeightChanged: root.scrollTo(root.contentY)
+
+    WheelHandler {
+        acceptedDevices: PointerDevice.Mouse | PointerDevice.TouchPad
+        onWheel: event => root.scrollTo(root.contentY - (event.pixelDelta.y || event.angleDelta.y / 2))
+    }
+
+    T.ScrollBar.vertical: T.ScrollBar {
+        id: bar
+        policy: root.contentHeight > root.height ? T.ScrollBar.AlwaysOn : T.ScrollBar.AlwaysOff
+        visible: root.contentHeight > root.height
+        width: 10
+        padding: 2
+        minimumSize: 0.08
+        contentItem: Rectangle {
+            radius: 3
+            color: bar.palette.windowText
+            opacity: bar.pressed || bar.hovered ? 0.5 : 0.25
+        }
+    }
+}

@@ -1,0 +1,106 @@
+pragma ComponentBehavior: Bound
+import QtQuick
+import Brimshade.Ui
+
+// The content of the settings window: every preference, and every menu bar item with its switch.
+FocusScope {
+    id: root
+
+    required property NotchModel model
+
+    implicitWidth: 480
+    implicitHeight: 640
+    focus: true
+    palette {
+        window: "#f2f2f4"
+        base: "white"
+        windowText: Qt.rgba(0, 0, 0, 0.85)
+        placeholderText: Qt.rgba(0, 0, 0, 0.5)
+        button: "white"
+        buttonText: Qt.rgba(0, 0, 0, 0.85)
+        highlight: "#007aff"
+        dark: Qt.rgba(0, 0, 0, 0.16)
+        mid: Qt.rgba(0, 0, 0, 0.12)
+        midlight: Qt.rgba(0, 0, 0, 0.07)
+    }
+
+    SettingsActions {
+        id: actions
+        model: root.model
+    }
+    Rectangle {
+        anchors.fill: parent
+        color: root.palette.window
+    }
+    ScrollArea {
+        id: scroll
+        objectName: "settingsScroll"
+        anchors.fill: parent
+        contentWidth: width
+        contentHeight: form.height + 40
+
+        Column {
+            id: form
+            x: 20
+            y: 20
+            width: scroll.width - 40
+            spacing: 20
+
+            Loader {
+                width: parent.width
+                active: root.model.message !== ""
+                visible: active
+                sourceComponent: SettingsSection {
+                    MessageRow {
+                        message: root.model.message
+                        onDismissed: root.model.message = ""
+                    }
+                }
+            }
+            ItemsSection {
+                model: root.model
+            }
+            OpeningSection {
+                model: root.model
+                layer: root
+            }
+            SettingsSection {
+                title: qsTr("Panel")
+
+                SettingsRow {
+                    first: true
+                    label: qsTr("Also show items already in the menu bar")
+
+                    Switch {
+                        objectName: "showVisibleSwitch"
+                        text: qsTr("Also show items already in the menu bar")
+                        value: root.model.showVisible
+                        onValueRequested: value => root.model.showVisible = value
+                    }
+                }
+            }
+            SettingsSection {
+                title: qsTr("General")
+
+                SettingsRow {
+                    first: true
+                    label: qsTr("Launch at login")
+
+                    Switch {
+                        objectName: "launchAtLoginSwitch"
+                        text: qsTr("Launch at login")
+                        value: root.model.launchAtLogin
+                        onValueRequested: value => root.model.launchAtLogin = value
+                    }
+                }
+                SettingsRow {
+                    PushButton {
+                        objectName: "runSetupButton"
+                        text: qsTr("Run Setup Again…")
+                        onClicked: actions.runSetupAgain()
+                    }
+                }
+            }
+        }
+    }
+}

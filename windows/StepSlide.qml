@@ -1,0 +1,33 @@
+pragma ComponentBehavior: Bound
+import QtQuick
+import Brimshade.Ui
+
+// Holds one step of the flow while it is the current one or on its way out: it comes in from the right and leaves to
+// the left, fading. Turned round half way, it goes back the way it came.
+Loader {
+    id: root
+
+    required property bool current
+    property int side: 1 // where it is coming from or going to: 1 right, -1 left
+
+    active: root.current || presence.value > 0.001 && presence.running
+    enabled: root.current
+    visible: active
+    opacity: Math.max(0, Math.min(presence.value, 1))
+    transform: Translate {
+        x: root.side * 30 * (1 - presence.value)
+    }
+    onCurrentChanged: {
+        if (root.current && presence.value < 0.01)
+            root.side = 1;
+        else if (!root.current && presence.value > 0.99)
+            root.side = -1;
+    }
+
+    SpringValue {
+        id: presence
+        target: root.current ? 1 : 0
+        response: 0.45
+        damping: 0.85
+    }
+}

@@ -1,0 +1,51 @@
+#pragma once
+#include "windows/flow/ItemRows.h"
+#include "windows/flow/OnboardingFlow.h"
+#include "windows/flow/SettingsActions.h"
+#include "windows/flow/ShortcutChoice.h"
+
+#include <qqml.h>
+
+// The names under which this module's QML knows what windows/flow decides.
+namespace brimshade::windows {
+
+struct NotchModelType {
+    Q_GADGET
+    QML_FOREIGN(brimshade::model::NotchModel)
+    QML_NAMED_ELEMENT(NotchModel)
+    QML_UNCREATABLE("The program has one and hands it to its views.")
+};
+
+struct ItemRowsType {
+    Q_GADGET
+    QML_FOREIGN(brimshade::windows::ItemRows)
+    QML_NAMED_ELEMENT(ItemRows)
+};
+
+struct SettingsActionsType {
+    Q_GADGET
+    QML_FOREIGN(brimshade::windows::SettingsActions)
+    QML_NAMED_ELEMENT(SettingsActions)
+};
+
+struct ShortcutChoiceType {
+    Q_GADGET
+    QML_FOREIGN(brimshade::windows::ShortcutChoice)
+    QML_NAMED_ELEMENT(ShortcutChoice)
+};
+
+struct ChoiceTilesType {
+    Q_GADGET
+    QML_FOREIGN(brimshade::windows::ChoiceTiles)
+    QML_NAMED_ELEMENT(ChoiceTiles)
+    QML_UNCREATABLE("Belongs to the flow.")
+};
+
+struct OnboardingFlowType {
+    Q_GADGET
+    QML_FOREIGN(brimshade::windows::OnboardingFlow)
+    QML_NAMED_ELEMENT(OnboardingFlow)
+    QML_UNCREATABLE("Made by the coordinator.")
+};
+
+} // namespace brimshade::windows
