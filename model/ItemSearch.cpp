@@ -27,15 +27,13 @@ QString folded(QString text, bool dotlessI)
     return text.normalized(QString::NormalizationForm_C);
 }
 
+// Ends each text; no text that means anything has it, and no hit reaches across it.
+constexpr QChar kEnd = u'\uffff';
+
 // A hit that ends before a combining mark ends in the middle of a character: "x" is not in "x̂".
-bool contains(const QString &text, const QString &needle)
+bool endsInsideCharacter(const QString &text, qsizetype end)
 {
-    for (qsizetype at = text.indexOf(needle); at >= 0; at = text.indexOf(needle, at + 1)) {
-        const qsizetype end = at + needle.size();
-        if (end == text.size() || !text.at(end).isMark())
-            return true;
-    }
-    return false;
+    return text.at(end).isMark();
 }
 
 } // namespace
@@ -43,24 +41,32 @@ bool contains(const QString &text, const QString &needle)
 ItemSearch::ItemSearch(const menubar::ExtraList &extras)
 {
     const bool dotlessI = hasDotlessI();
-    m_texts.reserve(extras.size());
-    for (const menubar::MenuExtra &extra : extras)
-        m_texts.push_back({folded(extra.name, dotlessI), folded(extra.detail, dotlessI)});
+    m_ends.reserve(extras.size());
+    for (const menubar::MenuExtra &extra : extras) {
+        m_text += folded(extra.name, dotlessI) + kEnd + folded(extra.detail, dotlessI) + kEnd;
+        m_ends.push_back(m_text.size());
+    }
 }
 
 std::vector<int> ItemSearch::matches(const QString &query) const
 {
     const QString needle = folded(menubar::trimmedBlanks(query).toString(), hasDotlessI());
     if (needle.isEmpty()) {
-        std::vector<int> all(m_texts.size());
+        std::vector<int> all(m_ends.size());
         std::iota(all.begin(), all.end(), 0);
         return all;
     }
     std::vector<int> found;
-    for (int i = 0; const Texts &texts : m_texts) {
-        if (contains(texts.name, needle) || contains(texts.detail, needle))
-            found.push_back(i);
-        ++i;
+    if (needle.contains(kEnd))
+        return found;
+    auto item = m_ends.begin();
+    for (qsizetype at = m_text.indexOf(needle); at >= 0;) {
+        while (*item <= at)
+            ++item;
+        const bool isHit = !endsInsideCharacter(m_text, at + needle.size());
+        if (isHit)
+            found.push_back(static_cast<int>(item - m_ends.begin()));
+        at = m_text.indexOf(needle, isHit ? *item : at + 1);
     }
     return found;
 }

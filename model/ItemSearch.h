@@ -16,11 +16,8 @@ public:
     std::vector<int> matches(const QString &query) const;
 
 private:
-    struct Texts {
-        QString name;
-        QString detail;
-    };
-    std::vector<Texts> m_texts;
+    QString m_text; // every item's texts one after the other: one search goes through all
+    std::vector<qsizetype> m_ends; // where each item's end in it
 };
 
 } // namespace brimshade::model
