@@ -23,10 +23,6 @@ public:
     ~RealDispatch() override; // stops
     Q_DISABLE_COPY_MOVE(RealDispatch)
 
-    // Ends sleeps, drops what waits and joins every thread; for an owner whose workers use what goes before the
-    // dispatch does. Work that comes later is dropped. Destroying does it too.
-    void stop();
-
     // Main thread. Ends sleeps, drops what waits and joins every thread; nothing runs after it. For an owner whose
     // work uses objects that must go before the clock does.
     void stop();

@@ -49,11 +49,6 @@ VirtualDispatch::~VirtualDispatch()
 
 void VirtualDispatch::stop()
 {
-    stop();
-}
-
-void VirtualDispatch::stop()
-{
     {
         const std::lock_guard lock(m_mutex);
         m_isStopping = true;

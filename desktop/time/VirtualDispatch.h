@@ -30,9 +30,6 @@ public:
     // the dispatch does. Work that comes later is dropped. Destroying does it too.
     void stop();
 
-    // As RealDispatch's: ends sleeps, drops what waits and joins every thread.
-    void stop();
-
     // Runs everything that is due now, and what becomes due by it. Qt events (bindings, queued signals, deferred
     // deletes) are delivered before, between and after. May be called from work that it runs.
     void runDue();

@@ -180,9 +180,12 @@ TYPED_TEST(DispatchTest, DestructionEndsSleepsAndDropsMainSync)
     this->run(this->done);
     waiting->async([&] { dispatch.mainSync([&] { ranOnMain = true; }); }); // under way or not yet begun
     dispatch.mainAfter(86400, [witness] {});
+    dispatch.stop();
+    EXPECT_TRUE(woke);
+    dispatch.mainAsync([witness] {});
+    dispatch.makeSerialQueue({}, QualityOfService::utility)->async([witness] {});
     this->dispatch.reset();
 
-    EXPECT_TRUE(woke);
     EXPECT_FALSE(ranOnMain);
     asleep->async([witness] {}); // a queue may outlive its dispatch
     EXPECT_EQ(witness.use_count(), 1);
