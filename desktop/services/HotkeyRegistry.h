@@ -26,6 +26,8 @@ public:
     void setGrabber(std::unique_ptr<GlobalKeyGrabber> grabber);
 
 private:
+    bool isRegistered(KeyCombination combination) const;
+
     std::map<platform::EventHotKeyRef, KeyCombination> m_registered;
     platform::EventHotKeyRef m_lastRef = 0;
     platform::Work m_handler;
