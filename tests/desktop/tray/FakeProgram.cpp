@@ -1,0 +1,80 @@
+#include "FakeProgram.h"
+
+#include <QDBusMessage>
+
+namespace brimshade::desktop::tray {
+
+FakeProgram::FakeProgram(const QDBusConnection &connection, const QString &itemPath)
+    : menu{0, {}, {}}, m_connection(connection), m_itemPath(itemPath)
+{
+    registerWireTypes();
+    m_connection.registerVirtualObject(itemPath, this);
+    m_connection.registerVirtualObject(QStringLiteral("/Menu"), this);
+}
+
+QStringList FakeProgram::takeEvents()
+{
+    const auto events = m_calls.filter(QStringLiteral("Event "));
+    m_calls.clear();
+    return events;
+}
+
+void FakeProgram::registerItem(const QString &argument)
+{
+    const auto watcher = QStringLiteral("org.kde.StatusNotifierWatcher");
+    auto call = QDBusMessage::createMethodCall(watcher, QStringLiteral("/StatusNotifierWatcher"), watcher,
+                                               QStringLiteral("RegisterStatusNotifierItem"));
+    call << argument;
+    m_connection.send(call);
+}
+
+void FakeProgram::signalItem(const QString &name)
+{
+    m_connection.send(QDBusMessage::createSignal(m_itemPath, QStringLiteral("org.kde.StatusNotifierItem"), name));
+}
+
+void FakeProgram::signalLayout(int parent)
+{
+    auto signal = QDBusMessage::createSignal(QStringLiteral("/Menu"), QStringLiteral("com.canonical.dbusmenu"),
+                                             QStringLiteral("LayoutUpdated"));
+    signal << 1U << parent;
+    m_connection.send(signal);
+}
+
+bool FakeProgram::handleMessage(const QDBusMessage &message, const QDBusConnection &connection)
+{
+    QStringList words{message.member()};
+    for (const auto &argument : message.arguments().mid(0, 2)) {
+        if (message.member() != u"GetAll" && argument.canConvert<QString>() && words.size() < 3)
+            words.append(argument.toString());
+    }
+    if (message.member() == u"GetLayout")
+        words = words.mid(0, 2);
+    m_calls.append(words.join(u' '));
+    if (silentMethods.contains(message.member()))
+        return true;
+    if (unknownMethods.contains(message.member()))
+        connection.send(message.createErrorReply(QDBusError::UnknownMethod, QStringLiteral("no such method")));
+    else
+        connection.send(message.createReply(answer(message)));
+    return true;
+}
+
+QVariantList FakeProgram::answer(const QDBusMessage &message)
+{
+    const int id = message.arguments().value(0).toInt();
+    if (message.member() == u"GetAll")
+        return {properties};
+    if (message.member() == u"AboutToShow") {
+        if (onAboutToShow)
+            onAboutToShow(id);
+        return {false};
+    }
+    if (message.member() == u"GetLayout") {
+        const auto *node = menu.find(id);
+        return {1U, QVariant::fromValue(node ? *node : MenuNode())};
+    }
+    return {};
+}
+
+} // namespace brimshade::desktop::tray

@@ -1,0 +1,44 @@
+#pragma once
+#include "WireLayout.h"
+
+#include <QDBusConnection>
+#include <QDBusVirtualObject>
+#include <QSet>
+#include <QStringList>
+#include <functional>
+
+namespace brimshade::desktop::tray {
+
+// A scripted program with one tray item and one menu. It notes what it is asked to do.
+class FakeProgram : public QDBusVirtualObject {
+    Q_OBJECT
+public:
+    explicit FakeProgram(const QDBusConnection &connection,
+                         const QString &itemPath = QStringLiteral("/StatusNotifierItem"));
+
+    QVariantMap properties; // of the item
+    MenuNode menu; // at /Menu; read anew for every answer
+    QSet<QString> unknownMethods; // answered as a program that lacks them does
+    QSet<QString> silentMethods; // never answered
+    std::function<void(int id)> onAboutToShow;
+
+    // "Activate 10 37", "AboutToShow 0", "GetLayout 0", "Event 3 clicked", "GetAll", in order
+    QStringList calls() const { return m_calls; }
+    QStringList takeEvents(); // only the events, and forgets them
+
+    void registerItem(const QString &argument); // with whoever is the watcher
+    void signalItem(const QString &name);
+    void signalLayout(int parent);
+
+    bool handleMessage(const QDBusMessage &message, const QDBusConnection &connection) override;
+    QString introspect(const QString &) const override { return {}; }
+
+private:
+    QVariantList answer(const QDBusMessage &message);
+
+    QDBusConnection m_connection;
+    QString m_itemPath;
+    QStringList m_calls;
+};
+
+} // namespace brimshade::desktop::tray

@@ -1,0 +1,222 @@
+#include "desktop/tray/BusName.h"
+#include "desktop/tray/IconFinder.h"
+#include "desktop/tray/Pixmap.h"
+#include "desktop/tray/ShortcutText.h"
+#include "desktop/tray/TrayItem.h"
+#include "desktop/tray/WireValue.h"
+
+#include <QDir>
+#include <QTemporaryDir>
+#include <gtest/gtest.h>
+
+#include <sys/stat.h>
+
+namespace brimshade::desktop::tray {
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+QVariant picture(QVariant width, QVariant height, const QByteArray &bytes)
+{
+    return QVariantList{std::move(width), std::move(height), bytes};
+}
+
+QVariantList strings(const QStringList &texts)
+{
+    return {QVariant(texts)};
+}
+
+} // namespace
+
+TEST(Registration, TakesEveryFormThatProgramsUseAndNothingElse)
+{
+    const auto sender = u":1.7"_s;
+    const struct {
+        QString argument, service, path;
+    } good[] = {
+        {u"/org/ayatana/NotificationItem/redshift"_s, sender, u"/org/ayatana/NotificationItem/redshift"_s},
+        {u"org.kde.StatusNotifierItem-41-1"_s, u"org.kde.StatusNotifierItem-41-1"_s, u"/StatusNotifierItem"_s},
+        {u":1.70"_s, u":1.70"_s, u"/StatusNotifierItem"_s},
+        {u":1.70/org/item/1"_s, u":1.70"_s, u"/org/item/1"_s},
+        {u"/"_s, sender, u"/"_s},
+    };
+    for (const auto &row : good)
+        EXPECT_EQ(parseRegistration(row.argument, sender), (Registration{row.service, row.path}))
+            << row.argument.toStdString();
+
+    for (const auto &bad : {u""_s, u"word"_s, u"a..b"_s, u"1a.b"_s, u":1"_s, u"org.x/with space"_s, u"//"_s, u"/a/"_s,
+                            u"org.x//y"_s, u"a.b\n"_s, u"ä.b"_s, QString(300, u'a') + u".b"_s})
+        EXPECT_EQ(parseRegistration(bad, sender), std::nullopt) << bad.toStdString();
+}
+
+TEST(Pixmaps, ABigEndianStraightAlphaPictureBecomesItsColours)
+{
+    QStringList complaints;
+    const auto image = largestPixmap(QVariantList{picture(1, 1, QByteArray::fromHex("ff0000ff")),
+                                                  picture(2, 1,
+                                                          QByteArray::fromHex("ff102030"
+                                                                              "80ff0000")),
+                                                  picture(1, 1, QByteArray(4, '\0'))},
+                                     complaints);
+    ASSERT_EQ(image.size(), QSize(2, 1));
+    EXPECT_EQ(image.pixel(0, 0), qRgba(0x10, 0x20, 0x30, 0xff));
+    EXPECT_EQ(image.pixel(1, 0), qRgba(0xff, 0, 0, 0x80));
+    EXPECT_TRUE(complaints.isEmpty());
+}
+
+TEST(Pixmaps, ASizeThatLiesIsComplainedOfAndTheSoundOneIsUsed)
+{
+    const QByteArray four(4, '\1');
+    const QVariant liars[] = {
+        picture(2, 2, four),
+        picture(0, 1, {}),
+        picture(-1, -1, four),
+        picture(65536, 65536, {}),
+        picture(1 << 30, 1, four),
+        picture(2147483647, 2147483647, four),
+        picture(1, 1, QByteArray(5, '\1')),
+        picture(u"1"_s, 1, four),
+        picture(1, 1, {}),
+        QVariantList{1, 1},
+        QVariant(7),
+        picture(513, 1, QByteArray(4 * 513, 1)),
+    };
+    for (const auto &liar : liars) {
+        QStringList complaints;
+        EXPECT_TRUE(largestPixmap(QVariantList{liar}, complaints).isNull());
+        EXPECT_EQ(complaints.size(), 1);
+        EXPECT_EQ(largestPixmap(QVariantList{liar, picture(1, 1, four)}, complaints).size(), QSize(1, 1));
+    }
+}
+
+TEST(TrayItemParsing, WhatIsMissingOrOfAWrongTypeIsAbsent)
+{
+    EXPECT_EQ(parseItem({}).item, TrayItem());
+    const auto parsed = parseItem({{u"Id"_s, 7},
+                                   {u"Title"_s, QVariantList{}},
+                                   {u"Status"_s, u"Sleeping"_s},
+                                   {u"ToolTip"_s, QVariantList{u"a"_s, u"b"_s}},
+                                   {u"Menu"_s, u"no path"_s},
+                                   {u"ItemIsMenu"_s, u"true"_s},
+                                   {u"IconPixmap"_s, u"pixels"_s}});
+    EXPECT_EQ(parsed.item, TrayItem());
+}
+
+TEST(TrayItemParsing, TextsBecomeOnePlainBoundedLine)
+{
+    const auto item =
+        parseItem({{u"Title"_s, u"  Two\nlines\x07\t"_s},
+                   {u"Id"_s, QString(10'000, u'x')},
+                   {u"ToolTip"_s, QVariantList{u""_s, QVariantList(), u"<b>Mail</b>"_s, u"3&nbsp;new<br/>1 &lt; 2"_s}}})
+            .item;
+    EXPECT_EQ(item.title, u"Two lines"_s);
+    EXPECT_EQ(item.id.size(), 256);
+    EXPECT_EQ(item.toolTipTitle, u"Mail"_s);
+    EXPECT_EQ(item.toolTipText, u"3&nbsp;new 1 < 2"_s);
+}
+
+TEST(TrayItemParsing, NamesAndIconsFallBackInOrder)
+{
+    TrayItem item;
+    item.id = u"id"_s;
+    EXPECT_EQ(item.nameForPeople(), u"id"_s);
+    item.toolTipTitle = u"tip"_s;
+    EXPECT_EQ(item.nameForPeople(), u"tip"_s);
+    item.title = u"title"_s;
+    EXPECT_EQ(item.nameForPeople(), u"title"_s);
+
+    item.icon.name = u"calm"_s;
+    item.status = TrayItem::Status::needsAttention;
+    EXPECT_EQ(item.shownIcon().name, u"calm"_s);
+    item.attentionIcon.name = u"alarm"_s;
+    EXPECT_EQ(item.shownIcon().name, u"alarm"_s);
+    item.status = TrayItem::Status::passive;
+    EXPECT_EQ(item.shownIcon().name, u"calm"_s);
+}
+
+TEST(TrayItemParsing, APressTriesWhatTheProgramOffers)
+{
+    using enum Press;
+    const struct {
+        QVariantMap properties;
+        std::vector<Press> order;
+    } rows[] = {
+        {{{u"Menu"_s, u"/MenuBar"_s}}, {menu, contextMenu, activate}},
+        {{{u"Menu"_s, u"/MenuBar"_s}, {u"ItemIsMenu"_s, false}}, {menu, contextMenu, activate}},
+        {{{u"Menu"_s, u"/NO_DBUSMENU"_s}}, {contextMenu, activate}},
+        {{{u"Menu"_s, u"/"_s}}, {activate, contextMenu}},
+        {{{u"ItemIsMenu"_s, true}}, {contextMenu, activate}},
+        {{}, {activate, contextMenu}},
+    };
+    for (const auto &row : rows)
+        EXPECT_EQ(pressOrder(parseItem(row.properties).item), row.order);
+}
+
+TEST(Icons, AreFoundInABareFolderAndInAThemeBelowIt)
+{
+    QTemporaryDir folder;
+    QDir(folder.path()).mkpath(u"hicolor/32x32/apps"_s);
+    QImage red(8, 8, QImage::Format_ARGB32), blue(32, 32, QImage::Format_ARGB32);
+    red.fill(Qt::red);
+    blue.fill(Qt::blue);
+    red.save(folder.filePath(u"bare.png"_s));
+    blue.save(folder.filePath(u"hicolor/32x32/apps/deep-symbolic.png"_s));
+
+    const IconFinder finder;
+    EXPECT_EQ(finder.find(u"bare"_s, folder.path()).bitmap().size(), QSize(8, 8));
+    EXPECT_EQ(finder.find(folder.filePath(u"bare.png"_s), {}).bitmap().size(), QSize(8, 8));
+    EXPECT_FALSE(finder.find(u"bare"_s, folder.path()).isTemplate());
+    const auto deep = finder.find(u"deep-symbolic"_s, folder.path());
+    EXPECT_EQ(deep.bitmap().pixelColor(0, 0), QColor(Qt::blue));
+    EXPECT_TRUE(deep.isTemplate());
+    EXPECT_TRUE(finder.find(u"../"_s + QFileInfo(folder.path()).fileName() + u"/bare"_s, folder.path()).isNull());
+    EXPECT_TRUE(finder.find(u"absent"_s, folder.path()).isNull());
+}
+
+TEST(Icons, WhatIsNoPictureIsNotOpenedForEver)
+{
+    QTemporaryDir folder;
+    const auto pipe = folder.filePath(u"pipe.png"_s);
+    ASSERT_EQ(mkfifo(pipe.toLocal8Bit().constData(), 0600), 0);
+    QFile text(folder.filePath(u"text.png"_s));
+    ASSERT_TRUE(text.open(QIODevice::WriteOnly));
+    text.write("not a picture");
+    text.close();
+    for (const auto &path : {pipe, text.fileName(), folder.path()})
+        EXPECT_TRUE(IconFinder().find(path, {}).isNull()) << path.toStdString();
+}
+
+TEST(Icons, ThePixelsStandInForAnUnknownNameAndTheOverlayLiesOverThem)
+{
+    TrayItem item;
+    item.icon.name = u"no-theme-has-this"_s;
+    item.icon.pixmap = QImage(16, 16, QImage::Format_ARGB32);
+    item.icon.pixmap.fill(Qt::green);
+    item.overlayIcon.pixmap = QImage(4, 4, QImage::Format_ARGB32);
+    item.overlayIcon.pixmap.fill(Qt::red);
+    const auto image = IconFinder().itemImage(item);
+    EXPECT_EQ(image.size(), QSizeF(22, 22));
+    EXPECT_EQ(image.bitmap().pixelColor(2, 2), QColor(Qt::green));
+    EXPECT_EQ(image.bitmap().pixelColor(12, 12), QColor(Qt::red));
+}
+
+TEST(Shortcuts, AreWrittenAsMenusWriteThem)
+{
+    const struct {
+        QStringList keys;
+        QString text;
+    } rows[] = {
+        {{u"Control"_s, u"q"_s}, u"⌃Q"_s},
+        {{u"Super"_s, u"Shift"_s, u"Alt"_s, u"Control"_s, u"F5"_s}, u"⌃⌥⇧⌘F5"_s},
+        {{u"Control"_s, u"plus"_s}, u"⌃+"_s},
+        {{u"Return"_s}, u"↩"_s},
+    };
+    for (const auto &row : rows)
+        EXPECT_EQ(shortcutText(strings(row.keys)), row.text);
+    EXPECT_EQ(shortcutText(QVariantList{}), QString());
+    EXPECT_EQ(shortcutText(QVariantList{QVariantList{}}), QString());
+    EXPECT_EQ(shortcutText(u"Control+Q"_s), QString());
+}
+
+} // namespace brimshade::desktop::tray
