@@ -46,7 +46,8 @@ QString formatLog(QStringView format, std::span<const platform::LogArgument> arg
         else
             line += u"<decode: missing data>"_s;
     }
-    return line + format.sliced(from);
+    line += format.sliced(from);
+    return line;
 }
 
 } // namespace brimshade::desktop
