@@ -35,7 +35,7 @@ void prepareEnvironment(const app::CommandLine &line)
     qputenv("QT_QUICK_BACKEND", "software");
 }
 
-std::unique_ptr<platform::UserDefaults> openDefaults(const app::CommandLine &line)
+std::unique_ptr<desktop::FileDefaults> openDefaults(const app::CommandLine &line)
 {
     if (line.script && !line.defaultsFile)
         return nullptr;

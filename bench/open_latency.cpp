@@ -66,10 +66,9 @@ void pass(int milliseconds)
     loop.exec();
 }
 
-class Bench
-{
+class Bench {
 public:
-    explicit Bench(app::Session &session) : m_session(session), m_window(*session.scene().quickWindow()) {}
+    explicit Bench(app::Session &session) : m_session(session), m_window(*session.scene().quickWindow()) { }
 
     double openOnce()
     {

@@ -15,8 +15,8 @@ struct Options {
     QCommandLineOption noTray{u"no-tray"_s, u"Do not host the session's tray items."_s};
     QCommandLineOption tray{u"tray"_s, u"With --script: host the session's tray items."_s};
     QCommandLineOption defaults{u"defaults"_s, u"Keep the settings in <file>."_s, u"file"_s};
-    QCommandLineOption script{u"script"_s, u"Carry out the commands in <file>, - for standard input, without a window."_s,
-                              u"file"_s};
+    QCommandLineOption script{
+        u"script"_s, u"Carry out the commands in <file>, - for standard input, without a window."_s, u"file"_s};
     QCommandLineOption window{u"window"_s, u"With --script: show the window too, in real time."_s};
     QCommandLineOption realTime{u"real-time"_s, u"With --script: time passes as on a clock."_s};
     QCommandLineOption scale{u"scale"_s, u"With --script: pixels a point in pictures, 1 to 4."_s, u"number"_s, u"1"_s};

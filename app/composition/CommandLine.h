@@ -7,13 +7,13 @@
 namespace brimshade::app {
 
 struct CommandLine {
-    std::optional<QString> desktopFile;  // absent: the built-in desktop
+    std::optional<QString> desktopFile; // absent: the built-in desktop
     std::optional<QString> defaultsFile; // absent: the user's settings, or memory in a script
-    std::optional<QString> script;       // "-" is standard input; absent: a window
+    std::optional<QString> script; // "-" is standard input; absent: a window
     bool hasWindow = true; // a script has one only when asked for
     bool hostsTray = true;
     bool isRealTime = true; // always, with a window
-    double scale = 1;       // pixels a point, for pictures of a script
+    double scale = 1; // pixels a point, for pictures of a script
     std::optional<QString> information; // to print instead of starting: the help text or the version
 };
 

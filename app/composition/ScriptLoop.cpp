@@ -24,8 +24,8 @@ int complain(const QString &message)
 
 } // namespace
 
-ScriptLoop::ScriptLoop(int fileDescriptor, const QString &name, Run run) :
-    m_fileDescriptor(fileDescriptor), m_name(name), m_run(std::move(run))
+ScriptLoop::ScriptLoop(int fileDescriptor, const QString &name, Run run)
+    : m_fileDescriptor(fileDescriptor), m_name(name), m_run(std::move(run))
 {
 }
 
@@ -59,7 +59,8 @@ std::optional<int> ScriptLoop::runLine(const QByteArray &line)
     QJsonParseError error;
     const QJsonDocument document = QJsonDocument::fromJson(line, &error);
     if (error.error != QJsonParseError::NoError)
-        return complain(u"%1:%2: expected a JSON object: %3"_s.arg(place).arg(error.offset + 1).arg(error.errorString()));
+        return complain(
+            u"%1:%2: expected a JSON object: %3"_s.arg(place).arg(error.offset + 1).arg(error.errorString()));
     if (!document.isObject())
         return complain(u"%1: expected a JSON object"_s.arg(place));
 

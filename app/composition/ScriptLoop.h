@@ -10,8 +10,7 @@ class QJsonObject;
 namespace brimshade::app {
 
 // Feeds a script, one JSON object a line, to a runner and prints one JSON answer a line. Main thread.
-class ScriptLoop
-{
+class ScriptLoop {
 public:
     using Run = std::function<QJsonObject(const QJsonObject &)>;
 

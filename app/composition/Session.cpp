@@ -1,10 +1,11 @@
 #include "Session.h"
-#include "app/AppDelegate.h"
 #include "StateReport.h"
+#include "app/AppDelegate.h"
 #include "desktop/core/Desktop.h"
 #include "desktop/scene/SceneHost.h"
 #include "desktop/script/ScriptRunner.h"
 #include "desktop/services/AutostartLoginItem.h"
+#include "desktop/services/HotkeyRegistry.h"
 #include "desktop/services/X11KeyGrabber.h"
 #include "desktop/time/RealDispatch.h"
 #include "desktop/time/VirtualDispatch.h"
@@ -14,15 +15,17 @@
 #include <QEventLoop>
 #include <QGuiApplication>
 #include <QTimer>
+#include <cstdio>
 
 namespace brimshade::app {
 
 namespace {
 
-class VirtualClock : public desktop::ScriptClock
-{
+class VirtualClock : public desktop::ScriptClock {
 public:
-    VirtualClock(desktop::VirtualDispatch &dispatch, desktop::SceneHost &scene) : m_dispatch(dispatch), m_scene(scene) {}
+    VirtualClock(desktop::VirtualDispatch &dispatch, desktop::SceneHost &scene) : m_dispatch(dispatch), m_scene(scene)
+    {
+    }
     void settle() override
     {
         m_dispatch.runDue();
@@ -37,11 +40,10 @@ private:
     desktop::SceneHost &m_scene;
 };
 
-class RealClock : public desktop::ScriptClock
-{
+class RealClock : public desktop::ScriptClock {
 public:
-    RealClock(desktop::RealDispatch &dispatch, desktop::SceneHost &scene) :
-        m_dispatch(dispatch), m_scene(scene), m_start(dispatch.now())
+    RealClock(desktop::RealDispatch &dispatch, desktop::SceneHost &scene)
+        : m_dispatch(dispatch), m_scene(scene), m_start(dispatch.now())
     {
     }
     void settle() override
@@ -66,8 +68,7 @@ private:
 } // namespace
 
 // In the order in which they come to life; taken down in the opposite one.
-class Session::Parts
-{
+class Session::Parts {
 public:
     explicit Parts(SessionOptions options);
     ~Parts();
@@ -75,6 +76,7 @@ public:
     std::unique_ptr<desktop::RealDispatch> realTime;
     std::unique_ptr<desktop::VirtualDispatch> virtualTime;
     ui::SymbolService symbols;
+    desktop::MemoryDefaults *defaults = nullptr; // the desktop's
     std::unique_ptr<desktop::Desktop> desktop;
     std::unique_ptr<desktop::SceneHost> scene;
     std::shared_ptr<AppDelegate> delegate;
@@ -87,6 +89,7 @@ private:
     void buildDesktop(SessionOptions &options);
     void buildScene(const SessionOptions &options);
     void buildScript();
+    void hostTray();
 };
 
 platform::Dispatch &Session::Parts::dispatch() const
@@ -104,7 +107,7 @@ Session::Parts::Parts(SessionOptions options)
     buildScene(options);
     delegate = std::make_shared<AppDelegate>(desktop->platform());
     if (options.hostsTray)
-        tray = std::make_unique<desktop::TrayHost>(*desktop, QDBusConnection::sessionBus(), dispatch());
+        hostTray();
     buildScript();
     delegate->applicationDidFinishLaunching();
     if (!options.hasWindow)
@@ -113,6 +116,9 @@ Session::Parts::Parts(SessionOptions options)
 
 void Session::Parts::buildDesktop(SessionOptions &options)
 {
+    if (!options.defaults)
+        options.defaults = std::make_unique<desktop::MemoryDefaults>();
+    defaults = options.defaults.get();
     desktop = std::make_unique<desktop::Desktop>(
         desktop::Desktop::Services{.dispatch = dispatch(),
                                    .symbols = symbols,
@@ -120,6 +126,8 @@ void Session::Parts::buildDesktop(SessionOptions &options)
                                    .loginItems = options.isScripted ? std::unique_ptr<platform::LoginItems>()
                                                                     : std::make_unique<desktop::AutostartLoginItem>()},
         options.description);
+    if (options.hasWindow) // the shortcut works while another program of the session has the keys
+        desktop->hotkeys().setGrabber(desktop::X11KeyGrabber::create());
 }
 
 void Session::Parts::buildScene(const SessionOptions &options)
@@ -134,8 +142,15 @@ void Session::Parts::buildScript()
         clock = std::make_unique<VirtualClock>(*virtualTime, *scene);
     else
         clock = std::make_unique<RealClock>(*realTime, *scene);
-    script = std::make_unique<desktop::ScriptRunner>(*desktop, *scene, *clock, desktop->scriptedLoginItem(),
+    script = std::make_unique<desktop::ScriptRunner>(*desktop, *scene, *clock, *defaults,
                                                      [this] { return stateReport(*delegate); });
+}
+
+void Session::Parts::hostTray()
+{
+    tray = std::make_unique<desktop::TrayHost>(*desktop, QDBusConnection::sessionBus(), dispatch());
+    QObject::connect(tray.get(), &desktop::TrayHost::message, tray.get(),
+                     [](const QString &text) { std::fprintf(stderr, "brimshade: %s\n", qUtf8Printable(text)); });
 }
 
 Session::Parts::~Parts()
@@ -147,13 +162,28 @@ Session::Parts::~Parts()
         realTime->stop();
 }
 
-Session::Session(SessionOptions options) : m_parts(std::make_unique<Parts>(std::move(options))) {}
+Session::Session(SessionOptions options) : m_parts(std::make_unique<Parts>(std::move(options))) { }
 Session::~Session() = default;
 
-QJsonObject Session::run(const QJsonObject &command) { return m_parts->script->run(command); }
-AppDelegate &Session::delegate() { return *m_parts->delegate; }
-desktop::Desktop &Session::desktop() { return *m_parts->desktop; }
-desktop::SceneHost &Session::scene() { return *m_parts->scene; }
-desktop::VirtualDispatch *Session::virtualTime() { return m_parts->virtualTime.get(); }
+QJsonObject Session::run(const QJsonObject &command)
+{
+    return m_parts->script->run(command);
+}
+AppDelegate &Session::delegate()
+{
+    return *m_parts->delegate;
+}
+desktop::Desktop &Session::desktop()
+{
+    return *m_parts->desktop;
+}
+desktop::SceneHost &Session::scene()
+{
+    return *m_parts->scene;
+}
+desktop::VirtualDispatch *Session::virtualTime()
+{
+    return m_parts->virtualTime.get();
+}
 
 } // namespace brimshade::app

@@ -1,6 +1,6 @@
 #pragma once
 #include "desktop/file/DesktopDescription.h"
-#include "platform/UserDefaults.h"
+#include "desktop/services/MemoryDefaults.h"
 
 #include <QJsonObject>
 #include <memory>
@@ -17,9 +17,9 @@ class AppDelegate;
 
 struct SessionOptions {
     desktop::DesktopDescription description;
-    std::unique_ptr<platform::UserDefaults> defaults; // null: empty, in memory
-    bool isScripted = true;  // the login item is the description's, not the user's own
-    bool hasWindow = false;  // on the running session
+    std::unique_ptr<desktop::MemoryDefaults> defaults; // null: empty, in memory
+    bool isScripted = true; // the login item is the description's, not the user's own
+    bool hasWindow = false; // on the running session
     bool isRealTime = false; // always, with a window
     bool hostsTray = false;
     double scale = 1; // pixels a point, for pictures of a script
@@ -27,8 +27,7 @@ struct SessionOptions {
 
 // One whole Brimshade on one whole desktop: built, launched and taken down in the right order. Any number
 // may live in a process, one after the other or side by side. Main thread; needs a QGuiApplication.
-class Session
-{
+class Session {
 public:
     explicit Session(SessionOptions options);
     ~Session();

@@ -11,7 +11,10 @@ namespace brimshade::app {
 
 namespace {
 
-QJsonValue textOrNull(const QString &text) { return text.isEmpty() ? QJsonValue() : QJsonValue(text); }
+QJsonValue textOrNull(const QString &text)
+{
+    return text.isEmpty() ? QJsonValue() : QJsonValue(text);
+}
 
 QJsonObject extraReport(const menubar::MenuExtra &extra)
 {

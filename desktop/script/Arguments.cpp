@@ -95,7 +95,10 @@ std::uint64_t Arguments::modifiers()
     return result;
 }
 
-QJsonValue Arguments::value(const QString &name) { return required(name, false); }
+QJsonValue Arguments::value(const QString &name)
+{
+    return required(name, false);
+}
 
 std::optional<QString> Arguments::finish() const
 {

@@ -13,8 +13,7 @@ namespace brimshade::desktop {
 
 // Typed access to one script command. Readers keep the first fault and answer a default; finish() tells it, or names
 // a field that no reader asked for. A command acts only after finish() said nothing.
-class Arguments
-{
+class Arguments {
 public:
     explicit Arguments(const QJsonObject &command) : m_command(command) { m_asked.insert(QStringLiteral("do")); }
 

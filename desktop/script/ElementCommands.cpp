@@ -37,9 +37,8 @@ ScriptRunner::Result ScriptRunner::pressElement(Arguments &arguments)
         return !element.isInteractive || element.name != name || (!role.isEmpty() && element.role != role);
     });
     if (elements.size() != 1) {
-        return std::unexpected(u"name: %1 interactive elements are named \"%2\", expected one"_s
-                                   .arg(elements.size())
-                                   .arg(name));
+        return std::unexpected(
+            u"name: %1 interactive elements are named \"%2\", expected one"_s.arg(elements.size()).arg(name));
     }
     clickAt(elements.front().frame.center(), false, 0);
     return {};

@@ -100,8 +100,12 @@ void collect(QAccessibleInterface *element, const QRectF &viewport, std::vector<
 
 QJsonObject FoundElement::toJson() const
 {
-    return {{u"window"_s, window},     {u"role"_s, role},         {u"name"_s, name},
-            {u"description"_s, description}, {u"frame"_s, json::rect(frame)}, {u"enabled"_s, isEnabled},
+    return {{u"window"_s, window},
+            {u"role"_s, role},
+            {u"name"_s, name},
+            {u"description"_s, description},
+            {u"frame"_s, json::rect(frame)},
+            {u"enabled"_s, isEnabled},
             {u"checked"_s, isCheckable ? QJsonValue(isChecked) : QJsonValue()},
             {u"opacity"_s, opacity}};
 }

@@ -11,7 +11,7 @@ class SceneHost;
 // One element of the accessibility tree that a person could see now.
 struct FoundElement {
     QString window; // the name of the program's window that holds it, "desktop" outside of any
-    QString role;   // the toolkit's name: "Button", "CheckBox"
+    QString role; // the toolkit's name: "Button", "CheckBox"
     QString name;
     QString description;
     QRectF frame; // display space, what is not clipped away

@@ -1,4 +1,5 @@
 #include "ScriptRunner.h"
+#include "desktop/scene/KeyMap.h"
 #include "desktop/scene/SceneHost.h"
 
 #include <QTextBoundaryFinder>
@@ -10,6 +11,13 @@ namespace brimshade::desktop {
 namespace {
 
 constexpr int kDragSteps = 10;
+
+// Codes of keys that an ANSI keyboard lacks are 0, as for text from an input method.
+std::uint16_t keyCodeForCharacter(const QString &character)
+{
+    const auto key = static_cast<Qt::Key>(character.at(0).toUpper().unicode());
+    return keyCodeFor(key, false).value_or(0);
+}
 
 MouseButton buttonOf(Arguments &arguments)
 {

@@ -17,41 +17,26 @@ constexpr double kLongestAdvance = 86400; // a day: a typing error should not ha
 
 } // namespace
 
-ScriptRunner::ScriptRunner(Desktop &desktop, SceneHost &scene, ScriptClock &clock, ScriptedLoginItem *loginItem,
-                           ProgramState programState) :
-    m_desktop(desktop),
-    m_scene(scene),
-    m_clock(clock),
-    m_loginItem(loginItem),
-    m_programState(std::move(programState))
+ScriptRunner::ScriptRunner(Desktop &desktop, SceneHost &scene, ScriptClock &clock, const MemoryDefaults &defaults,
+                           ProgramState programState)
+    : m_desktop(desktop), m_scene(scene), m_clock(clock), m_defaults(defaults), m_programState(std::move(programState))
 {
 }
 
 ScriptRunner::Handler ScriptRunner::handlerFor(const QString &command)
 {
     static const QHash<QString, Handler> handlers{
-        {u"advance"_s, &ScriptRunner::advance},
-        {u"state"_s, &ScriptRunner::state},
-        {u"picture"_s, &ScriptRunner::picture},
-        {u"move"_s, &ScriptRunner::move},
-        {u"click"_s, &ScriptRunner::click},
-        {u"press"_s, &ScriptRunner::press},
-        {u"release"_s, &ScriptRunner::release},
-        {u"drag"_s, &ScriptRunner::drag},
-        {u"key"_s, &ScriptRunner::key},
-        {u"type"_s, &ScriptRunner::type},
-        {u"find"_s, &ScriptRunner::find},
-        {u"press-element"_s, &ScriptRunner::pressElement},
-        {u"menu"_s, &ScriptRunner::menu},
-        {u"choose"_s, &ScriptRunner::choose},
-        {u"launch"_s, &ScriptRunner::launch},
-        {u"quit"_s, &ScriptRunner::quit},
-        {u"change"_s, &ScriptRunner::change},
-        {u"screens"_s, &ScriptRunner::screens},
-        {u"trust"_s, &ScriptRunner::trust},
-        {u"menuBar"_s, &ScriptRunner::menuBar},
-        {u"moves"_s, &ScriptRunner::moves},
-        {u"loginItem"_s, &ScriptRunner::loginItem},
+        {u"advance"_s, &ScriptRunner::advance}, {u"state"_s, &ScriptRunner::state},
+        {u"picture"_s, &ScriptRunner::picture}, {u"move"_s, &ScriptRunner::move},
+        {u"click"_s, &ScriptRunner::click},     {u"press"_s, &ScriptRunner::press},
+        {u"release"_s, &ScriptRunner::release}, {u"drag"_s, &ScriptRunner::drag},
+        {u"key"_s, &ScriptRunner::key},         {u"type"_s, &ScriptRunner::type},
+        {u"find"_s, &ScriptRunner::find},       {u"press-element"_s, &ScriptRunner::pressElement},
+        {u"menu"_s, &ScriptRunner::menu},       {u"choose"_s, &ScriptRunner::choose},
+        {u"launch"_s, &ScriptRunner::launch},   {u"quit"_s, &ScriptRunner::quit},
+        {u"change"_s, &ScriptRunner::change},   {u"screens"_s, &ScriptRunner::screens},
+        {u"trust"_s, &ScriptRunner::trust},     {u"menuBar"_s, &ScriptRunner::menuBar},
+        {u"moves"_s, &ScriptRunner::moves},     {u"loginItem"_s, &ScriptRunner::loginItem},
     };
     return handlers.value(command, nullptr);
 }
@@ -86,7 +71,7 @@ ScriptRunner::Result ScriptRunner::state(Arguments &arguments)
 {
     if (const auto fault = arguments.finish())
         return std::unexpected(*fault);
-    QJsonObject answer = stateAnswer(m_desktop);
+    QJsonObject answer = stateAnswer(m_desktop, m_defaults);
     answer.insert(u"time"_s, m_clock.now());
     const QJsonObject program = m_programState();
     for (auto field = program.begin(); field != program.end(); ++field)

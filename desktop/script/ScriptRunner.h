@@ -10,17 +10,16 @@ namespace brimshade::desktop {
 
 class Desktop;
 class SceneHost;
-class ScriptedLoginItem;
+class MemoryDefaults;
 
 // Carries out script commands, one JSON object at a time. docs/DESKTOP.md is the reference. Main thread.
-class ScriptRunner
-{
+class ScriptRunner {
 public:
     // What only the program itself can tell: "model", "shown" and "divider" of the state answer.
     using ProgramState = std::function<QJsonObject()>;
 
-    // loginItem: null when the session's own is in use.
-    ScriptRunner(Desktop &desktop, SceneHost &scene, ScriptClock &clock, ScriptedLoginItem *loginItem,
+    // All outlive the runner. defaults: the store that the desktop uses.
+    ScriptRunner(Desktop &desktop, SceneHost &scene, ScriptClock &clock, const MemoryDefaults &defaults,
                  ProgramState programState);
 
     // The answer, "ok" included. Never throws, never ends the program.
@@ -62,7 +61,7 @@ private:
     Desktop &m_desktop;
     SceneHost &m_scene;
     ScriptClock &m_clock;
-    ScriptedLoginItem *m_loginItem;
+    const MemoryDefaults &m_defaults;
     ProgramState m_programState;
 };
 

@@ -8,6 +8,7 @@
 #include "desktop/core/WindowStack.h"
 #include "desktop/services/HotkeyRegistry.h"
 #include "desktop/services/LogWriter.h"
+#include "desktop/services/MemoryDefaults.h"
 #include "desktop/services/ScriptedLoginItem.h"
 
 using namespace Qt::StringLiterals;
@@ -33,9 +34,8 @@ QJsonValue statusItemAnswer(const MenuBar &bar)
 {
     for (const BarItem &item : bar.items()) {
         if (item.isOwn)
-            return QJsonObject{{u"length"_s, bar.ownItemLength()},
-                               {u"frame"_s, json::rect(item.frame)},
-                               {u"drawn"_s, item.drawn}};
+            return QJsonObject{
+                {u"length"_s, bar.ownItemLength()}, {u"frame"_s, json::rect(item.frame)}, {u"drawn"_s, item.drawn}};
     }
     return {};
 }
@@ -123,7 +123,7 @@ QJsonValue loginItemAnswer(const ScriptedLoginItem *item)
 
 } // namespace
 
-QJsonObject stateAnswer(Desktop &desktop)
+QJsonObject stateAnswer(Desktop &desktop, const MemoryDefaults &defaults)
 {
     MenuBar &bar = desktop.menuBar();
     WindowStack &windows = desktop.windows();
@@ -136,7 +136,7 @@ QJsonObject stateAnswer(Desktop &desktop)
             {u"menuBar"_s, menuBarAnswer(bar)},
             {u"windows"_s, windowsAnswer(windows)},
             {u"menu"_s, menuOpen ? QJsonValue(QJsonArray::fromStringList(desktop.menus().titles())) : QJsonValue()},
-            {u"defaults"_s, QJsonObject::fromVariantMap(desktop.storedDefaults())},
+            {u"defaults"_s, QJsonObject::fromVariantMap(defaults.all())},
             {u"loginItem"_s, loginItemAnswer(desktop.scriptedLoginItem())},
             {u"pointer"_s, json::point(desktop.input().pointer())},
             {u"openedURLs"_s, QJsonArray::fromStringList(inspection.takeOpenedURLs())},

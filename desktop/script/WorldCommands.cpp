@@ -96,10 +96,10 @@ ScriptRunner::Result ScriptRunner::loginItem(Arguments &arguments)
         arguments.fail(u"status"_s, u"0 to 3"_s);
     if (const auto fault = arguments.finish())
         return std::unexpected(*fault);
-    if (!m_loginItem)
+    ScriptedLoginItem *item = m_desktop.scriptedLoginItem();
+    if (!item)
         return std::unexpected(u"the session's own login item is in use"_s);
-    m_loginItem->answer(static_cast<platform::LoginItemStatus>(status),
-                        fails ? std::optional(failure) : std::nullopt);
+    item->answer(static_cast<platform::LoginItemStatus>(status), fails ? std::optional(failure) : std::nullopt);
     return {};
 }
 
