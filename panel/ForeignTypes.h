@@ -2,7 +2,6 @@
 // The model's types under their own names in QML: the model itself knows nothing of QML.
 #include "model/NotchModel.h"
 #include "model/PermissionRequest.h"
-#include "model/Shortcut.h"
 #include "model/TileActions.h"
 
 #include <qqml.h>
@@ -29,11 +28,5 @@ struct PermissionRequestForeign {
     QML_NAMED_ELEMENT(PermissionRequest)
     QML_UNCREATABLE("The program has one and hands it to its views.")
 };
-
-namespace ShortcutForeign {
-Q_NAMESPACE
-QML_FOREIGN_NAMESPACE(brimshade::model)
-QML_NAMED_ELEMENT(Shortcuts)
-} // namespace ShortcutForeign
 
 } // namespace brimshade::panel

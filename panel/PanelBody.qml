@@ -15,13 +15,11 @@ Item {
     required property bool presented
     required property real openness
 
-    Loader {
-        active: root.panelState.body === PanelState.Permission
+    PermissionCard {
+        objectName: "permissionCard"
+        visible: root.panelState.body === PanelState.Permission
         width: parent.width
-        sourceComponent: PermissionCard {
-            objectName: "permissionCard"
-            permission: root.permission
-        }
+        permission: root.permission
     }
     Spinner {
         objectName: "spinner"

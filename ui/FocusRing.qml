@@ -1,5 +1,6 @@
 pragma ComponentBehavior: Bound
 import QtQuick
+import Brimshade.Ui
 
 // The ring around the control that has the keyboard. It lies outside the item it fills.
 RoundedShape {

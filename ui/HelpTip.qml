@@ -1,5 +1,6 @@
 pragma ComponentBehavior: Bound
 import QtQuick
+import Brimshade.Ui
 
 // The one tooltip of a view, above everything in its parent, which it stays inside. The item under the pointer calls
 // show() and, when the pointer leaves it, hide(). Assistive programs get the text as the item's own description.

@@ -1,5 +1,6 @@
 pragma ComponentBehavior: Bound
 import QtQuick
+import Brimshade.Ui
 import QtQuick.Templates as T
 
 // A pop-up button: shows one of its titles and opens a list of them over itself. Its text is its name to assistive

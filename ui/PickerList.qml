@@ -1,5 +1,6 @@
 pragma ComponentBehavior: Bound
 import QtQuick
+import Brimshade.Ui
 
 // The open list of a Picker: fills the picker's layer and takes every key and click until it is closed.
 FocusScope {

@@ -1,5 +1,6 @@
 pragma ComponentBehavior: Bound
 import QtQuick
+import Brimshade.Ui
 
 // A short state with a coloured dot, on dark.
 RoundedShape {

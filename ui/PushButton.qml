@@ -1,5 +1,6 @@
 pragma ComponentBehavior: Bound
 import QtQuick
+import Brimshade.Ui
 import QtQuick.Templates as T
 
 // A push button with a title. Plain has no border and shows only its title.

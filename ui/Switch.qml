@@ -1,5 +1,6 @@
 pragma ComponentBehavior: Bound
 import QtQuick
+import Brimshade.Ui
 import QtQuick.Templates as T
 
 // A switch that shows a value owned elsewhere: a change is asked for by valueRequested and seen when the value follows.

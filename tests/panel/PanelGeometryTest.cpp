@@ -1,0 +1,83 @@
+#include "panel/PanelGeometry.h"
+#include "PanelScene.h"
+
+#include <gtest/gtest.h>
+
+namespace brimshade::panel {
+namespace {
+
+using namespace Qt::StringLiterals;
+
+class PanelGeometryTest : public testing::Test {
+protected:
+    PanelGeometryTest() { geometry.setSource(&fixture.model); }
+
+    ModelFixture fixture;
+    PanelGeometry geometry;
+};
+
+// The model's size leaves the footer four points above the lower edge whenever there are tiles.
+TEST_F(PanelGeometryTest, StacksTheSectionsAndTheFooter)
+{
+    const struct {
+        int hidden, visible;
+        double visibleY, contentHeight;
+    } cases[] = {
+        {3, 2, 10 + 98 + 14, 10 + 98 + 14 + 98},
+        {12, 3, 10 + 182 + 14, 10 + 182 + 14 + 98},
+        {0, 5, 10, 10 + 98},
+        {27, 0, 10, 10 + 266},
+    };
+    for (const auto &c : cases) {
+        fixture.model.setExtras(makeExtras(c.hidden, c.visible));
+        SCOPED_TRACE(testing::Message() << c.hidden << '+' << c.visible);
+        if (c.visible > 0) {
+            EXPECT_EQ(geometry.visibleSectionY(), c.visibleY);
+        }
+        EXPECT_EQ(geometry.contentHeight(), c.contentHeight);
+        EXPECT_EQ(geometry.viewportHeight(), c.contentHeight);
+        EXPECT_EQ(geometry.footerY(), c.contentHeight + 14);
+        EXPECT_EQ(geometry.openSize(), fixture.model.panelSize());
+        EXPECT_EQ(fixture.model.notch().height() + geometry.footerY() + 18 + 4, geometry.openSize().height());
+    }
+}
+
+TEST_F(PanelGeometryTest, ASentenceStandsWhereSectionsWould)
+{
+    fixture.model.setExtras(makeExtras(3, 2));
+    fixture.model.setQuery(u"zzz"_s);
+    EXPECT_EQ(geometry.contentHeight(), 84);
+    EXPECT_EQ(geometry.footerY(), 98);
+    EXPECT_EQ(geometry.openSize().height(), 134 + 32);
+}
+
+TEST_F(PanelGeometryTest, ScrollsOnlyWhatDoesNotFit)
+{
+    fixture.model.setExtras(makeExtras(400, 2));
+    geometry.setProperty("limit", 600);
+    EXPECT_EQ(geometry.openSize().height(), 600);
+    EXPECT_EQ(geometry.viewportHeight(), 600 - 32 - 36);
+    EXPECT_EQ(geometry.footerY(), 600 - 32 - 22);
+    EXPECT_EQ(geometry.clampedScroll(-40), 0);
+    EXPECT_EQ(geometry.clampedScroll(1e9), geometry.contentHeight() - geometry.viewportHeight());
+}
+
+TEST_F(PanelGeometryTest, BringsTheSelectedTileIntoViewAndNoFurther)
+{
+    fixture.model.setExtras(makeExtras(400, 30));
+    geometry.setProperty("limit", 600);
+    const auto &extras = fixture.model.extras();
+    const double view = geometry.viewportHeight();
+    const double end = geometry.contentHeight() - view;
+    const auto rowTop = [](int row) { return 10 + 24 + row * 84.0; };
+    EXPECT_EQ(geometry.scrollShowing(extras[0].id, 700), 0) << "the title above the first row is shown too";
+    EXPECT_EQ(geometry.scrollShowing(extras[20].id, 10), 10) << "in view already";
+    EXPECT_EQ(geometry.scrollShowing(extras[90].id, 0), rowTop(10) + 84 - view) << "from below";
+    EXPECT_EQ(geometry.scrollShowing(extras[90].id, 2000), rowTop(10) - 10) << "from above";
+    EXPECT_EQ(geometry.scrollShowing(extras[429].id, 0), end);
+    EXPECT_EQ(geometry.scrollShowing(u"gone"_s, 500), 500);
+    EXPECT_EQ(geometry.scrollShowing(u"gone"_s, 1e9), end) << "what went took its room with it";
+}
+
+} // namespace
+} // namespace brimshade::panel

@@ -1,0 +1,1 @@
+#include "PanelScene.h"

@@ -1,0 +1,122 @@
+#include "panel/TilesModel.h"
+#include "PanelScene.h"
+#include "panel/GridMetrics.h"
+
+#include <QAbstractItemModelTester>
+#include <QRandomGenerator>
+#include <QSignalSpy>
+#include <gtest/gtest.h>
+
+namespace brimshade::panel {
+namespace {
+
+using namespace Qt::StringLiterals;
+
+TEST(TilesInView, AreTheRowsTouchedAndOneBeyondOnEitherSide)
+{
+    const struct {
+        double top, bottom;
+        int columns, count, first, end;
+    } cases[] = {
+        {0, 74, 9, 27, 0, 18},
+        {0, 84, 9, 27, 0, 27},
+        {0, 0.5, 4, 3, 0, 3},
+        {-500, -200, 4, 40, 0, 4},
+        {5000, 5200, 4, 40, 36, 40},
+        {84, 168, 4, 400, 0, 16},
+        {8400, 8484, 9, 10000, 891, 927},
+        {0, 500, 4, 0, 0, 0},
+    };
+    for (const auto &c : cases) {
+        EXPECT_EQ(tilesInView(c.top, c.bottom, c.columns, c.count), (std::pair{c.first, c.end}))
+            << c.top << ".." << c.bottom << " of " << c.count;
+    }
+}
+
+class TilesModelTest : public testing::Test {
+protected:
+    TilesModelTest()
+    {
+        tiles.setProperty("section", TilesModel::BehindTheNotch);
+        tiles.setProperty("viewBottom", 400);
+        tiles.setSource(&fixture.model);
+    }
+
+    QStringList names() const
+    {
+        QStringList result;
+        for (int row = 0; row < tiles.rowCount(); ++row)
+            result << tiles.index(row).data(TilesModel::NameRole).toString();
+        return result;
+    }
+
+    void show(const QString &names)
+    {
+        model::ExtraList extras;
+        for (const QString &name : names.split(u' ', Qt::SkipEmptyParts))
+            extras.push_back(makeExtra(name, true));
+        fixture.model.setExtras(std::move(extras));
+    }
+
+    ModelFixture fixture;
+    TilesModel tiles;
+    QAbstractItemModelTester tester{&tiles, QAbstractItemModelTester::FailureReportingMode::Fatal};
+};
+
+TEST_F(TilesModelTest, AnItemThatStaysKeepsItsRowAndLearnsItsPlace)
+{
+    show(u"a b c d e"_s);
+    const QPersistentModelIndex d = tiles.index(3);
+    QSignalSpy changed(&tiles, &QAbstractItemModel::dataChanged);
+    show(u"d x e a"_s);
+    EXPECT_EQ(names(), (QStringList{u"d"_s, u"x"_s, u"e"_s, u"a"_s}));
+    ASSERT_TRUE(d.isValid());
+    EXPECT_EQ(d.row(), 0);
+    EXPECT_EQ(d.data(TilesModel::PositionRole), 0);
+    EXPECT_GT(changed.count(), 0);
+    show(u"e"_s);
+    EXPECT_FALSE(d.isValid());
+}
+
+TEST_F(TilesModelTest, NewItemsComeAndOldOnesGoInBatches)
+{
+    QSignalSpy inserted(&tiles, &QAbstractItemModel::rowsInserted);
+    QSignalSpy removed(&tiles, &QAbstractItemModel::rowsRemoved);
+    show(u"a b c d e f"_s);
+    EXPECT_EQ(inserted.count(), 1);
+    show(u"a f"_s);
+    EXPECT_EQ(removed.count(), 1);
+    show(u"a f"_s);
+    EXPECT_EQ(inserted.count() + removed.count(), 2) << "an equal scan changes nothing";
+}
+
+TEST_F(TilesModelTest, AnyListFollowsAnyOtherEvenWithARepeatedId)
+{
+    QRandomGenerator random(7);
+    for (int round = 0; round < 300; ++round) {
+        QString list;
+        const int count = random.bounded(12);
+        for (int i = 0; i < count; ++i)
+            list += QChar(u'a' + random.bounded(14)) + u" "_s;
+        show(list);
+        ASSERT_EQ(names(), list.split(u' ', Qt::SkipEmptyParts)) << "round " << round;
+        for (int row = 0; row < tiles.rowCount(); ++row)
+            ASSERT_EQ(tiles.index(row).data(TilesModel::PositionRole), row);
+    }
+}
+
+TEST_F(TilesModelTest, ScrollingBringsRowsThatAreNotNew)
+{
+    fixture.model.setExtras(makeExtras(400, 0));
+    const int columns = fixture.model.columns();
+    EXPECT_EQ(tiles.rowCount(), 6 * columns); // 400 points touch five rows; one beyond
+    EXPECT_EQ(tiles.index(0).data(TilesModel::IsNewRole), true);
+    tiles.setProperty("viewBottom", 400 + 840);
+    tiles.setProperty("viewTop", 840);
+    EXPECT_EQ(tiles.rowCount(), 7 * columns);
+    EXPECT_EQ(tiles.index(0).data(TilesModel::PositionRole), 9 * columns);
+    EXPECT_EQ(tiles.index(tiles.rowCount() - 1).data(TilesModel::IsNewRole), false);
+}
+
+} // namespace
+} // namespace brimshade::panel
