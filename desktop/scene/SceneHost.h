@@ -40,7 +40,7 @@ public:
 
     // Delivers queued Qt events and lays out, so that geometry and bindings are final. Renders nothing.
     void settle();
-    QImage picture(); // of the whole desktop, at the scale; after settle()
+    QImage picture(); // of the whole desktop, at the scale
     // Of one of the program's windows, by its attributes' name; nothing when it is not on screen.
     std::optional<QImage> picture(const QString &windowName);
     QQuickItem *contentOf(const DesktopWindow *window) const; // the view's root item; null for a native view

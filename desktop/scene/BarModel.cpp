@@ -1,0 +1,97 @@
+#include "BarModel.h"
+#include "WallClock.h"
+
+using namespace Qt::StringLiterals;
+
+namespace brimshade::desktop {
+
+namespace {
+
+constexpr double kImageSide = 18;
+constexpr double kTextMargin = 6; // left and right of an item's text
+
+QString nameOf(const BarItem &item)
+{
+    for (const QString &text : {item.title, item.description, item.toolTip}) {
+        if (!text.isEmpty())
+            return text;
+    }
+    return item.identifier;
+}
+
+// The program draws its own image to measure; others come in any size.
+QSizeF imageSize(const BarItem &item)
+{
+    return item.isOwn ? item.image.size() : QSizeF(kImageSide, kImageSide);
+}
+
+} // namespace
+
+BarModel::BarModel(const MenuBar &bar, const WallClock &clock) : m_bar(bar), m_clock(clock)
+{
+    connect(&bar, &MenuBar::changed, this, &BarModel::refresh);
+    connect(&clock, &WallClock::changed, this, &BarModel::refresh);
+    refresh();
+}
+
+void BarModel::refresh()
+{
+    std::vector<BarItem> items = m_bar.items();
+    std::erase_if(items, [](const BarItem &item) { return !item.drawn; });
+    if (items.size() == m_items.size()) {
+        m_items = std::move(items);
+        if (!m_items.empty())
+            Q_EMIT dataChanged(index(0), index(int(m_items.size()) - 1));
+    } else {
+        beginResetModel();
+        m_items = std::move(items);
+        endResetModel();
+    }
+    Q_EMIT changed();
+}
+
+QString BarModel::text(const BarItem &item) const
+{
+    return item.identifier.endsWith(".clock"_L1) ? m_clock.text(item.frame.width() - 2 * kTextMargin) : QString();
+}
+
+int BarModel::rowCount(const QModelIndex &parent) const
+{
+    return parent.isValid() ? 0 : int(m_items.size());
+}
+
+QVariant BarModel::data(const QModelIndex &index, int role) const
+{
+    const BarItem &item = m_items[index.row()];
+    switch (role) {
+    case FrameRole:
+        return item.frame;
+    case NameRole:
+        return nameOf(item);
+    case DescriptionRole:
+        return item.description;
+    case TextRole:
+        return text(item);
+    case SymbolRole:
+        return item.symbol;
+    case ImageRole:
+        return QVariant::fromValue(item.image);
+    case ImageSizeRole:
+        return imageSize(item);
+    case HighlightedRole:
+        return item.isHighlighted;
+    case ToolTipRole:
+        return item.toolTip;
+    default:
+        return {};
+    }
+}
+
+QHash<int, QByteArray> BarModel::roleNames() const
+{
+    return {{FrameRole, "frame"},     {NameRole, "name"},   {DescriptionRole, "description"},
+            {TextRole, "text"},       {SymbolRole, "symbol"}, {ImageRole, "image"},
+            {ImageSizeRole, "imageSize"}, {HighlightedRole, "isHighlighted"}, {ToolTipRole, "toolTip"}};
+}
+
+} // namespace brimshade::desktop

@@ -1,0 +1,53 @@
+#pragma once
+#include "desktop/core/MenuBar.h"
+
+#include <QAbstractListModel>
+#include <qqml.h>
+
+namespace brimshade::desktop {
+
+class WallClock;
+
+// The bar with status items as the views show it: the items that are drawn, left to right. Display space.
+class BarModel : public QAbstractListModel {
+    Q_OBJECT
+    QML_ELEMENT
+    QML_UNCREATABLE("belongs to a scene")
+    Q_PROPERTY(QRectF frame READ frame NOTIFY changed)
+    Q_PROPERTY(bool isShowing READ isShowing NOTIFY changed)
+    Q_PROPERTY(bool hasNotch READ hasNotch NOTIFY changed)
+    Q_PROPERTY(double notchLeft READ notchLeft NOTIFY changed)
+    Q_PROPERTY(double notchRight READ notchRight NOTIFY changed)
+    Q_PROPERTY(double menusEnd READ menusEnd NOTIFY changed)
+
+public:
+    // Text is what is drawn as such, of the clock; name is what the item is called.
+    enum Role { FrameRole = Qt::UserRole + 1, NameRole, DescriptionRole, TextRole, SymbolRole, ImageRole, ImageSizeRole,
+                HighlightedRole, ToolTipRole };
+
+    BarModel(const MenuBar &bar, const WallClock &clock);
+
+    QRectF frame() const { return m_bar.frame(); }
+    bool isShowing() const { return m_bar.isShowing(); }
+    bool hasNotch() const { return m_bar.notch().has_value(); }
+    double notchLeft() const { return m_bar.notch().value_or(std::pair(0.0, 0.0)).first; }
+    double notchRight() const { return m_bar.notch().value_or(std::pair(0.0, 0.0)).second; }
+    double menusEnd() const { return m_bar.applicationMenusEnd(); }
+
+    int rowCount(const QModelIndex &parent = {}) const override;
+    QVariant data(const QModelIndex &index, int role) const override;
+    QHash<int, QByteArray> roleNames() const override;
+
+Q_SIGNALS:
+    void changed();
+
+private:
+    void refresh();
+    QString text(const BarItem &item) const;
+
+    const MenuBar &m_bar;
+    const WallClock &m_clock;
+    std::vector<BarItem> m_items;
+};
+
+} // namespace brimshade::desktop

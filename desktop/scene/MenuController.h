@@ -1,0 +1,62 @@
+#pragma once
+#include "MenuLevel.h"
+#include "desktop/core/MenuHost.h"
+#include "platform/Application.h"
+
+#include <QAbstractListModel>
+#include <functional>
+#include <memory>
+
+namespace brimshade::desktop {
+
+// What pointer and keys do to the open menu: the lists that are open, from the menu itself to the deepest submenu.
+// Points are in display space. Main thread.
+class MenuController : public QAbstractListModel {
+    Q_OBJECT
+    QML_ELEMENT
+    QML_UNCREATABLE("belongs to a scene")
+    Q_PROPERTY(bool isOpen READ isOpen NOTIFY isOpenChanged)
+
+public:
+    enum Role { LevelRole = Qt::UserRole + 1 };
+    using ScreenAt = std::function<QRectF(QPointF)>; // the frame of the screen that shows a menu of that point
+
+    MenuController(MenuHost &host, ScreenAt screenAt);
+    ~MenuController() override;
+
+    bool isOpen() const { return !m_levels.empty(); }
+    const MenuLevel &level(int depth) const { return *m_levels[depth]; }
+
+    void pointerMoved(QPointF to);
+    void pressed(QPointF at); // outside of every list it dismisses the menu
+    void released(QPointF at);
+    void wheel(QPointF at, double points);
+    void key(const platform::Event &event);
+
+    int rowCount(const QModelIndex &parent = {}) const override;
+    QVariant data(const QModelIndex &index, int role) const override;
+    QHash<int, QByteArray> roleNames() const override;
+
+Q_SIGNALS:
+    void isOpenChanged();
+
+private:
+    int depthAt(QPointF point) const; // -1 outside of every list
+    void hostChanged();
+    void reopen();
+    void refresh();
+    void place(int depth);
+    void openSubmenu(int depth); // of the chosen row at that depth
+    void truncate(int depth); // keeps that many lists
+    void select(int depth, int row);
+    void step(int by);
+    void choose(); // the chosen row of the deepest list
+    void enterSubmenu();
+
+    MenuHost &m_host;
+    const ScreenAt m_screenAt;
+    MenuSource *m_source = nullptr; // the one whose lists are open
+    std::vector<std::unique_ptr<MenuLevel>> m_levels;
+};
+
+} // namespace brimshade::desktop

@@ -1,0 +1,61 @@
+#include "OffscreenSurface.h"
+
+#include <QLoggingCategory>
+#include <QQuickRenderTarget>
+#include <QQuickItem>
+
+namespace brimshade::desktop {
+
+namespace {
+
+// The software renderer has no use for what it says it did not find.
+void initializeQuietly(QQuickRenderControl &control)
+{
+    const QtMessageHandler before = qInstallMessageHandler([](QtMsgType, const QMessageLogContext &, const QString &) {});
+    control.initialize();
+    qInstallMessageHandler(before);
+}
+
+} // namespace
+
+OffscreenSurface::OffscreenSurface()
+    : m_control(std::make_unique<QQuickRenderControl>()), m_window(std::make_unique<QQuickWindow>(m_control.get()))
+{
+    m_window->setColor(Qt::transparent);
+}
+
+OffscreenSurface::~OffscreenSurface()
+{
+    m_window.reset(); // the control says that it goes first, but the window still uses it
+}
+
+void OffscreenSurface::setSize(QSize size, double scale)
+{
+    m_image = QImage((QSizeF(size) * scale).toSize(), QImage::Format_ARGB32_Premultiplied);
+    m_image.setDevicePixelRatio(scale);
+    auto target = QQuickRenderTarget::fromPaintDevice(&m_image);
+    target.setDevicePixelRatio(scale);
+    m_window->setRenderTarget(target);
+    m_window->setGeometry(QRect(QPoint(), size));
+    m_window->contentItem()->setSize(size);
+    if (!m_isInitialized)
+        initializeQuietly(*m_control);
+    m_isInitialized = true;
+}
+
+void OffscreenSurface::layOut()
+{
+    m_control->polishItems();
+}
+
+QImage OffscreenSurface::render()
+{
+    m_control->polishItems();
+    m_control->beginFrame();
+    m_control->sync();
+    m_control->render();
+    m_control->endFrame();
+    return m_image.copy();
+}
+
+} // namespace brimshade::desktop

@@ -1,0 +1,46 @@
+#include "WallClock.h"
+
+#include <QFont>
+#include <QFontMetricsF>
+#include <QLocale>
+#include <QPointer>
+
+using namespace Qt::StringLiterals;
+
+namespace brimshade::desktop {
+
+WallClock::WallClock(platform::Dispatch &dispatch, Now now) : m_dispatch(dispatch), m_now(std::move(now))
+{
+    waitForMinute();
+}
+
+void WallClock::waitForMinute()
+{
+    constexpr int minute = 60'000; // milliseconds
+    const int left = minute - m_now().time().msecsSinceStartOfDay() % minute;
+    m_dispatch.mainAfter(left / 1000.0, [self = QPointer(this)] {
+        if (!self)
+            return;
+        Q_EMIT self->changed();
+        self->waitForMinute();
+    });
+}
+
+QString WallClock::text(double width) const
+{
+    QFont font(u"Inter"_s);
+    font.setPixelSize(13);
+    font.setWeight(QFont::Medium);
+    const QFontMetricsF metrics(font);
+    const QDateTime now = m_now();
+    const QLocale locale = QLocale::c();
+    QString text;
+    for (const QString &form : {u"ddd MMM d  HH:mm"_s, u"ddd HH:mm"_s, u"HH:mm"_s}) {
+        text = locale.toString(now, form);
+        if (metrics.horizontalAdvance(text) <= width)
+            return text;
+    }
+    return text;
+}
+
+} // namespace brimshade::desktop

@@ -1,0 +1,31 @@
+#pragma once
+#include "platform/Dispatch.h"
+
+#include <QDateTime>
+#include <QObject>
+#include <functional>
+
+namespace brimshade::desktop {
+
+// The time of day as the menu bar tells it: wakes once a minute, on the minute. Main thread.
+class WallClock : public QObject {
+    Q_OBJECT
+public:
+    using Now = std::function<QDateTime()>;
+
+    WallClock(platform::Dispatch &dispatch, Now now);
+
+    // The longest of the usual forms that is no wider, in points.
+    QString text(double width) const;
+
+Q_SIGNALS:
+    void changed();
+
+private:
+    void waitForMinute();
+
+    platform::Dispatch &m_dispatch;
+    const Now m_now;
+};
+
+} // namespace brimshade::desktop

@@ -1,0 +1,16 @@
+#pragma once
+#include "ui/DrawnItem.h"
+
+namespace brimshade::desktop {
+
+// The picture behind everything: dusk over a lake between hills. Drawn by code for the item's size.
+class Wallpaper : public ui::DrawnItem {
+    Q_OBJECT
+    QML_ELEMENT
+
+protected:
+    QByteArray pictureKey() const override { return "wallpaper"; }
+    void draw(QPainter &painter, double scale) const override;
+};
+
+} // namespace brimshade::desktop

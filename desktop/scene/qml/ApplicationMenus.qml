@@ -1,0 +1,32 @@
+pragma ComponentBehavior: Bound
+import QtQuick
+import Brimshade.Ui
+
+// The active application's menus at the left end of the bar. A decoration: they do not open.
+Row {
+    id: root
+
+    spacing: 19
+
+    SymbolIcon {
+        anchors.verticalCenter: parent.verticalCenter
+        name: "circle.grid.2x2.fill"
+        pointSize: 13
+        weight: SymbolIcon.Semibold
+        color: "white"
+    }
+    Repeater {
+        model: ["Atelier", "File", "Edit", "View", "Window", "Help"]
+
+        StyledText {
+            required property string modelData
+            required property int index
+
+            anchors.verticalCenter: parent.verticalCenter
+            text: modelData
+            size: 13
+            font.weight: index === 0 ? Font.Bold : Font.Medium
+            color: Qt.rgba(1, 1, 1, 0.95)
+        }
+    }
+}

@@ -1,0 +1,61 @@
+pragma ComponentBehavior: Bound
+import QtQuick
+import Brimshade.Ui
+
+// One status item. Pointer and keys reach it through the desktop, not through this view.
+Item {
+    id: root
+
+    required property real origin // of the bar, in display space
+    required property rect frame
+    required property string name
+    required property string description
+    required property string text
+    required property string symbol
+    required property var image
+    required property size imageSize
+    required property bool isHighlighted
+
+    objectName: "barItem"
+    x: root.frame.x - root.origin
+    width: root.frame.width
+    height: root.frame.height
+
+    Accessible.role: Accessible.ButtonMenu
+    Accessible.name: root.name
+    Accessible.description: root.text !== "" ? root.text : root.description
+
+    RoundedShape {
+        visible: root.isHighlighted
+        anchors.centerIn: parent
+        width: parent.width
+        height: Math.min(parent.height, 24)
+        radius: 5
+        color: Qt.rgba(1, 1, 1, 0.24)
+    }
+    StyledText {
+        visible: root.text !== ""
+        anchors.centerIn: parent
+        text: root.text
+        size: 13
+        font.weight: Font.Medium
+        color: Qt.rgba(1, 1, 1, 0.95)
+        Accessible.ignored: true
+    }
+    SymbolIcon {
+        visible: root.text === "" && root.symbol !== ""
+        anchors.centerIn: parent
+        name: root.symbol
+        pointSize: 14
+        weight: SymbolIcon.Semibold
+        color: Qt.rgba(1, 1, 1, 0.95)
+    }
+    ImageView {
+        visible: root.text === "" && root.symbol === "" && !isNull
+        anchors.centerIn: parent
+        width: root.imageSize.width
+        height: root.imageSize.height
+        image: root.image
+        templateColor: Qt.rgba(1, 1, 1, 0.95)
+    }
+}

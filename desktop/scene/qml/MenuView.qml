@@ -1,0 +1,73 @@
+pragma ComponentBehavior: Bound
+import QtQuick
+import Brimshade.Ui
+
+// One open list of the menu. Pointer and keys are the menu controller's; long lists make only the rows that show.
+Item {
+    id: root
+
+    required property MenuLevel level
+
+    objectName: "menu"
+    x: root.level.frame.x
+    y: root.level.frame.y
+    width: root.level.frame.width
+    height: root.level.frame.height
+    visible: width > 0 && height > 0
+
+    Accessible.role: Accessible.PopupMenu
+    Accessible.name: qsTr("Menu")
+
+    WindowPlate {
+        anchors.fill: parent
+        radius: 7
+        color: Qt.rgba(0.955, 0.95, 0.965, 0.97)
+    }
+    ListView {
+        id: list
+        anchors.fill: parent
+        anchors.topMargin: 5
+        anchors.bottomMargin: 5
+        clip: true
+        interactive: false
+        model: root.level
+        contentY: root.level.scroll
+        cacheBuffer: 0
+
+        delegate: MenuRow {
+            width: list.width
+            isCurrent: index === root.level.current
+            textColumn: root.level.textColumn
+            iconColumn: root.level.iconColumn
+        }
+    }
+
+    component Chevron: Rectangle {
+        id: chevron
+        property bool pointsUp: false
+
+        x: 5
+        width: root.width - 10
+        height: 18
+        color: "#f4f2f6"
+
+        SymbolIcon {
+            anchors.centerIn: parent
+            name: "chevron.down"
+            rotation: chevron.pointsUp ? 180 : 0
+            pointSize: 10
+            weight: SymbolIcon.Bold
+            color: Qt.rgba(0, 0, 0, 0.6)
+        }
+    }
+
+    Chevron {
+        visible: root.level.canScrollUp
+        y: 4
+        pointsUp: true
+    }
+    Chevron {
+        visible: root.level.canScrollDown
+        y: root.height - height - 4
+    }
+}
