@@ -5,6 +5,7 @@
 #include <QIcon>
 #include <QImageReader>
 #include <QPainter>
+#include <QStandardPaths>
 
 namespace brimshade::desktop::tray {
 
@@ -79,16 +80,35 @@ QString fileInFolder(const QString &folder, const QString &name)
     return best.filePath();
 }
 
-QImage findPicture(const QString &name, const QString &themePath)
+// The theme that programs install their icons in, whichever one the user chose. Qt finds it on some platforms only.
+QStringList installedFolders()
 {
-    if (name.startsWith(u'/'))
-        return readPicture(name);
-    if (name.isEmpty() || name.contains(u'/'))
-        return {};
-    if (const auto picture = readPicture(fileInFolder(themePath, name)); !picture.isNull())
-        return picture;
-    const auto icon = QIcon::fromTheme(name);
-    return icon.isNull() ? QImage() : icon.pixmap(QSize(kPixels, kPixels), 1.0).toImage();
+    QStringList folders;
+    const auto themes = QStandardPaths::locateAll(QStandardPaths::GenericDataLocation, QStringLiteral("icons/hicolor"),
+                                                  QStandardPaths::LocateDirectory);
+    for (const auto *size :
+         {"scalable", "128x128", "256x256", "64x64", "48x48", "32x32", "24x24", "22x22", "16x16", "symbolic"}) {
+        for (const auto &theme : themes) {
+            const QDir folder(theme + u'/' + QString::fromLatin1(size));
+            for (const auto &context : folder.entryList(QDir::Dirs | QDir::NoDotAndDotDot))
+                folders.append(folder.filePath(context));
+        }
+    }
+    return folders
+        + QStandardPaths::locateAll(QStandardPaths::GenericDataLocation, QStringLiteral("pixmaps"),
+                                    QStandardPaths::LocateDirectory);
+}
+
+QString fileInFolders(const QStringList &folders, const QString &name)
+{
+    for (const auto &folder : folders) {
+        for (const auto *suffix : {".svg", ".png", ".svgz", ".xpm"}) {
+            const auto path = folder + u'/' + name + QString::fromLatin1(suffix);
+            if (QFileInfo::exists(path))
+                return path;
+        }
+    }
+    return {};
 }
 
 bool isSymbolic(const QString &name)
@@ -114,6 +134,21 @@ platform::Image imageOf(const QImage &pixels, QSizeF size, bool isTemplate)
     if (pixels.isNull())
         return {};
     return {std::make_shared<PixelSource>(pixels), size, isTemplate};
+}
+
+IconFinder::IconFinder() : m_installed(installedFolders()) { }
+
+QImage IconFinder::findPicture(const QString &name, const QString &themePath) const
+{
+    if (name.startsWith(u'/'))
+        return readPicture(name);
+    if (name.isEmpty() || name.contains(u'/'))
+        return {};
+    if (const auto picture = readPicture(fileInFolder(themePath, name)); !picture.isNull())
+        return picture;
+    if (const auto icon = QIcon::fromTheme(name); !icon.isNull())
+        return icon.pixmap(QSize(kPixels, kPixels), 1.0).toImage();
+    return readPicture(fileInFolders(m_installed, name));
 }
 
 platform::Image IconFinder::find(const QString &name, const QString &themePath) const

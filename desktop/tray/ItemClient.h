@@ -19,7 +19,7 @@ class MenuClient;
 class ItemClient : public QObject {
     Q_OBJECT
 public:
-    ItemClient(const QDBusConnection &bus, const ItemKey &key, platform::Dispatch &dispatch);
+    ItemClient(const QDBusConnection &bus, const ItemKey &key, platform::Dispatch &dispatch, const IconFinder &icons);
     ~ItemClient() override;
 
     const ItemKey &key() const { return m_key; }

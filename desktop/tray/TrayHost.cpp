@@ -91,7 +91,7 @@ void TrayHost::Private::place(const ItemKey &key, int pid)
     // It may have been taken back, and even registered again, while the bus was asked.
     if (!m_registry.contains(key) || isPlaced(key))
         return;
-    auto client = std::make_unique<ItemClient>(m_bus, key, m_dispatch);
+    auto client = std::make_unique<ItemClient>(m_bus, key, m_dispatch, m_icons);
     auto *item = client.get();
     connect(item, &ItemClient::changed, this, [this, pid] { update(pid); });
     connect(item, &ItemClient::message, &m_owner, &TrayHost::message);

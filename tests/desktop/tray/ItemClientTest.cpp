@@ -20,7 +20,7 @@ protected:
     {
         if (!m_client) {
             m_client = std::make_unique<ItemClient>(
-                m_own, ItemKey{m_connection.baseService(), u"/StatusNotifierItem"_s}, m_dispatch);
+                m_own, ItemKey{m_connection.baseService(), u"/StatusNotifierItem"_s}, m_dispatch, IconFinder());
             waitUntil([&] { return m_client->item().has_value(); });
         }
         return *m_client;
@@ -69,8 +69,8 @@ TEST_F(ItemClientTest, ALyingPixmapIsOneMessageHoweverOftenItIsRead)
 {
     m_program.properties = {{u"Title"_s, u"Liar"_s},
                             {u"IconPixmap"_s, QVariant::fromValue(WirePictures{{500, 500, QByteArray(3, 'x')}})}};
-    m_client =
-        std::make_unique<ItemClient>(m_own, ItemKey{m_connection.baseService(), u"/StatusNotifierItem"_s}, m_dispatch);
+    m_client = std::make_unique<ItemClient>(m_own, ItemKey{m_connection.baseService(), u"/StatusNotifierItem"_s},
+                                            m_dispatch, IconFinder());
     QSignalSpy messages(m_client.get(), &ItemClient::message), changes(m_client.get(), &ItemClient::changed);
     waitUntil([&] { return changes.size() == 1; });
     m_program.properties[u"Title"_s] = u"Still"_s;
