@@ -1,7 +1,7 @@
 pragma ComponentBehavior: Bound
 import QtQuick
-import Brimshade.Ui
 import QtQuick.Templates as T
+import Brimshade.Ui
 
 // A pop-up button: shows one of its titles and opens a list of them over itself. Its text is its name to assistive
 // programs; it is not drawn.
@@ -11,28 +11,29 @@ T.AbstractButton {
     required property list<string> titles
     required property int currentIndex
     // What the list lies over and stays inside: the view's root.
-    required property Item layer
+    required property Item surface
     property string help // said after the chosen title
     readonly property string currentTitle: control.titles[control.currentIndex] ?? ""
-    readonly property bool opened: list.active
+    property bool opened: false
+    property bool openedByKeyboard: false
 
     signal chosen(int index)
 
     function open() {
-        list.byKeyboard = control.visualFocus;
-        list.active = true;
+        control.openedByKeyboard = control.visualFocus;
+        control.opened = true;
     }
 
     function close() {
-        list.active = false;
-        control.forceActiveFocus(list.byKeyboard ? Qt.TabFocusReason : Qt.MouseFocusReason);
+        control.opened = false;
+        control.forceActiveFocus(control.openedByKeyboard ? Qt.TabFocusReason : Qt.MouseFocusReason);
     }
 
     implicitWidth: 150
     implicitHeight: 24
     opacity: control.enabled ? 1 : 0.4
     onClicked: control.open()
-    onVisibleChanged: list.active = false
+    onVisibleChanged: control.opened = false
     Keys.onUpPressed: control.open()
     Keys.onDownPressed: control.open()
 
@@ -87,17 +88,14 @@ T.AbstractButton {
         }
     }
 
-    Loader {
-        id: list
+    Repeater {
+        parent: control.surface
+        model: control.opened ? 1 : 0
 
-        property bool byKeyboard: false
-
-        parent: control.layer
-        anchors.fill: parent
-        active: false
-        z: 50
-        sourceComponent: PickerList {
+        PickerList {
             objectName: control.objectName + "List"
+            anchors.fill: parent
+            z: 50
             title: control.text
             titles: control.titles
             currentIndex: control.currentIndex

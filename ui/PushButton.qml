@@ -1,7 +1,7 @@
 pragma ComponentBehavior: Bound
 import QtQuick
-import Brimshade.Ui
 import QtQuick.Templates as T
+import Brimshade.Ui
 
 // A push button with a title. Plain has no border and shows only its title.
 T.Button {

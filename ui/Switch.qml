@@ -1,7 +1,7 @@
 pragma ComponentBehavior: Bound
 import QtQuick
-import Brimshade.Ui
 import QtQuick.Templates as T
+import Brimshade.Ui
 
 // A switch that shows a value owned elsewhere: a change is asked for by valueRequested and seen when the value follows.
 // Its text is its name to assistive programs; it is not drawn.

@@ -1,6 +1,7 @@
 pragma ComponentBehavior: Bound
 import QtQuick
 import Brimshade.Ui
+import Brimshade.Windows
 
 // Where the user is in the flow, and the ways on and back.
 Item {

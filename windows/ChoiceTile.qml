@@ -1,6 +1,7 @@
 pragma ComponentBehavior: Bound
 import QtQuick
 import QtQuick.Templates as T
+import Brimshade.Panel
 import Brimshade.Ui
 
 // One menu bar item of the setup flow: lit where it stays in the menu bar, dimmed where it is tucked away.
@@ -8,7 +9,7 @@ T.AbstractButton {
     id: control
 
     required property string name
-    required property var icon
+    required property var image
     required property string symbol
     required property bool canMove
     required property bool hidden
@@ -30,11 +31,9 @@ T.AbstractButton {
     Accessible.name: control.name
     Accessible.description: control.help
 
-    SpringValue {
+    PressStyle {
         id: press
-        target: control.down ? 0.9 : 1
-        response: 0.2
-        damping: 0.6
+        pressed: control.down
     }
     SpringValue {
         id: grow
@@ -55,7 +54,7 @@ T.AbstractButton {
 
         ChoiceWell {
             anchors.horizontalCenter: parent.horizontalCenter
-            icon: control.icon
+            image: control.image
             symbol: control.symbol
             canMove: control.canMove
             hidden: control.hidden

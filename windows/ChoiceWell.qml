@@ -6,7 +6,7 @@ import Brimshade.Ui
 Item {
     id: root
 
-    required property var icon
+    required property var image
     required property string symbol
     required property bool canMove
     required property bool hidden
@@ -37,7 +37,7 @@ Item {
         anchors.centerIn: parent
         width: 40
         height: 40
-        image: root.icon
+        image: root.image
         opacity: 0.45 + 0.55 * root.share
     }
     SymbolIcon {

@@ -6,7 +6,7 @@ Item {
     id: root
 
     required property int index
-    required property var image // undefined where there is no icon for the slot
+    required property var image // null where there is no icon for the slot
     required property color tint
     required property bool open
 
@@ -23,13 +23,13 @@ Item {
         delay: root.open ? 0.15 + 0.06 * root.index : 0
     }
     ImageView {
+        id: picture
         anchors.fill: parent
-        visible: root.image !== undefined
         image: root.image
     }
     RoundedShape {
         anchors.fill: parent
-        visible: root.image === undefined
+        visible: picture.isNull
         radius: 10
         gradient: RoundedShape.Diagonal
         color: root.tint

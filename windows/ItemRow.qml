@@ -1,6 +1,7 @@
 pragma ComponentBehavior: Bound
 import QtQuick
 import Brimshade.Ui
+import Brimshade.Windows
 
 // A menu bar item in the settings, with what may be done to it.
 Item {
@@ -9,7 +10,7 @@ Item {
     required property string extraID
     required property string name
     required property string detail
-    required property var icon
+    required property var image
     required property string symbol
     required property int control
     required property bool switchEnabled
@@ -31,7 +32,7 @@ Item {
         id: face
         x: 12
         anchors.verticalCenter: parent.verticalCenter
-        image: root.icon
+        image: root.image
         symbol: root.symbol
     }
     Column {
@@ -61,37 +62,29 @@ Item {
             elide: Text.ElideRight
         }
     }
-    Loader {
+    Item {
         id: trailing
         anchors.right: parent.right
         anchors.rightMargin: 12
         anchors.verticalCenter: parent.verticalCenter
-        sourceComponent: [spinner, pinned, movable][root.control]
-    }
-
-    Component {
-        id: spinner
+        width: childrenRect.width
+        height: childrenRect.height
 
         Spinner {
             objectName: "itemSpinner"
+            visible: root.control === ItemRows.moving
             color: root.palette.windowText
         }
-    }
-    Component {
-        id: pinned
-
         StyledText {
             objectName: "itemPinned"
+            visible: root.control === ItemRows.pinned
             text: qsTr("Pinned by macOS")
             size: 10
             color: root.palette.placeholderText
         }
-    }
-    Component {
-        id: movable
-
         Switch {
             objectName: "itemSwitch"
+            visible: root.control === ItemRows.movable
             text: qsTr("Visible")
             small: true
             enabled: root.switchEnabled

@@ -1,6 +1,8 @@
 pragma ComponentBehavior: Bound
 import QtQuick
+import Brimshade.Panel
 import Brimshade.Ui
+import Brimshade.Windows
 
 SettingsSection {
     id: root

@@ -1,6 +1,8 @@
 pragma ComponentBehavior: Bound
 import QtQuick
+import Brimshade.Panel
 import Brimshade.Ui
+import Brimshade.Windows
 
 Item {
     id: root
@@ -8,6 +10,8 @@ Item {
     required property NotchModel model
     required property OnboardingFlow flow
     required property HelpTip tip
+
+    anchors.fill: parent
 
     StepHeader {
         id: header

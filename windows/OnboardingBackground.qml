@@ -15,7 +15,7 @@ Rectangle {
         startRadius: 10
         endRadius: 420
         color: Qt.rgba(1, 0.45, 0.2, 0.35)
-        endColor: Qt.alpha(color, 0)
+        endColor: Qt.rgba(1, 0.45, 0.2, 0)
     }
     RoundedShape {
         anchors.fill: parent
@@ -24,6 +24,6 @@ Rectangle {
         startRadius: 10
         endRadius: 380
         color: Qt.rgba(0.55, 0.35, 1, 0.22)
-        endColor: Qt.alpha(color, 0)
+        endColor: Qt.rgba(0.55, 0.35, 1, 0)
     }
 }

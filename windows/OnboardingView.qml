@@ -1,6 +1,8 @@
 pragma ComponentBehavior: Bound
 import QtQuick
+import Brimshade.Panel
 import Brimshade.Ui
+import Brimshade.Windows
 
 // The content of the setup window. The flow looks for the permission as long as this can be seen.
 FocusScope {
@@ -53,16 +55,44 @@ FocusScope {
             anchors.bottom: bar.top
             anchors.bottomMargin: 8
 
-            Repeater {
-                model: [welcome, permission, items, opening, final]
+            StepSlide {
+                current: root.flow.step === OnboardingFlow.Welcome
 
-                StepSlide {
-                    required property int index
-                    required property Component modelData
+                WelcomeStep {
+                    flow: root.flow
+                }
+            }
+            StepSlide {
+                current: root.flow.step === OnboardingFlow.Permission
 
-                    anchors.fill: parent
-                    current: root.flow.step === index
-                    sourceComponent: modelData
+                PermissionStep {
+                    model: root.model
+                    flow: root.flow
+                }
+            }
+            StepSlide {
+                current: root.flow.step === OnboardingFlow.Items
+
+                ItemsStep {
+                    model: root.model
+                    flow: root.flow
+                    tip: helpTip
+                }
+            }
+            StepSlide {
+                current: root.flow.step === OnboardingFlow.Opening
+
+                OpeningStep {
+                    model: root.model
+                    surface: root
+                }
+            }
+            StepSlide {
+                current: root.flow.step === OnboardingFlow.Final
+
+                FinalStep {
+                    model: root.model
+                    flow: root.flow
                 }
             }
         }
@@ -75,47 +105,6 @@ FocusScope {
         }
     }
     HelpTip {
-        id: tip
-    }
-
-    Component {
-        id: welcome
-
-        WelcomeStep {
-            flow: root.flow
-        }
-    }
-    Component {
-        id: permission
-
-        PermissionStep {
-            model: root.model
-            flow: root.flow
-        }
-    }
-    Component {
-        id: items
-
-        ItemsStep {
-            model: root.model
-            flow: root.flow
-            tip: tip
-        }
-    }
-    Component {
-        id: opening
-
-        OpeningStep {
-            model: root.model
-            layer: root
-        }
-    }
-    Component {
-        id: final
-
-        FinalStep {
-            model: root.model
-            flow: root.flow
-        }
+        id: helpTip
     }
 }

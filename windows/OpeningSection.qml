@@ -1,12 +1,14 @@
 pragma ComponentBehavior: Bound
 import QtQuick
+import Brimshade.Panel
 import Brimshade.Ui
+import Brimshade.Windows
 
 SettingsSection {
     id: root
 
     required property NotchModel model
-    required property Item layer
+    required property Item surface
 
     title: qsTr("Opening")
 
@@ -29,7 +31,7 @@ SettingsSection {
             text: qsTr("Keyboard shortcut")
             titles: shortcut.titles
             currentIndex: shortcut.index
-            layer: root.layer
+            surface: root.surface
             onChosen: index => shortcut.choose(index)
 
             ShortcutChoice {

@@ -1,12 +1,16 @@
 pragma ComponentBehavior: Bound
 import QtQuick
+import Brimshade.Panel
 import Brimshade.Ui
+import Brimshade.Windows
 
 Item {
     id: root
 
     required property NotchModel model
-    required property Item layer
+    required property Item surface
+
+    anchors.fill: parent
 
     ShortcutChoice {
         id: shortcut
@@ -51,7 +55,7 @@ Item {
                     help: qsTr("Open from anywhere")
                     titles: shortcut.titles
                     currentIndex: shortcut.index
-                    layer: root.layer
+                    surface: root.surface
                     onChosen: index => shortcut.choose(index)
                 }
             }

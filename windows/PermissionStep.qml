@@ -1,12 +1,16 @@
 pragma ComponentBehavior: Bound
 import QtQuick
+import Brimshade.Panel
 import Brimshade.Ui
+import Brimshade.Windows
 
 Item {
     id: root
 
     required property NotchModel model
     required property OnboardingFlow flow
+
+    anchors.fill: parent
 
     Column {
         anchors.centerIn: parent

@@ -1,6 +1,7 @@
 pragma ComponentBehavior: Bound
 import QtQuick
 import QtQuick.Templates as T
+import Brimshade.Panel
 import Brimshade.Ui
 
 // The white call to action. The view that holds it presses it on Return, wherever the keyboard is.
@@ -12,11 +13,9 @@ T.AbstractButton {
     Accessible.role: Accessible.Button
     Accessible.name: control.text
 
-    SpringValue {
+    PressStyle {
         id: press
-        target: control.down ? 0.9 : 1
-        response: 0.2
-        damping: 0.6
+        pressed: control.down
     }
 
     background: RoundedShape {

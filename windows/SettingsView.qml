@@ -1,6 +1,8 @@
 pragma ComponentBehavior: Bound
 import QtQuick
+import Brimshade.Panel
 import Brimshade.Ui
+import Brimshade.Windows
 
 // The content of the settings window: every preference, and every menu bar item with its switch.
 FocusScope {
@@ -46,15 +48,12 @@ FocusScope {
             width: scroll.width - 40
             spacing: 20
 
-            Loader {
-                width: parent.width
-                active: root.model.message !== ""
-                visible: active
-                sourceComponent: SettingsSection {
-                    MessageRow {
-                        message: root.model.message
-                        onDismissed: root.model.message = ""
-                    }
+            SettingsSection {
+                visible: root.model.message !== ""
+
+                MessageRow {
+                    message: root.model.message
+                    onDismissed: root.model.message = ""
                 }
             }
             ItemsSection {
@@ -62,7 +61,7 @@ FocusScope {
             }
             OpeningSection {
                 model: root.model
-                layer: root
+                surface: root
             }
             SettingsSection {
                 title: qsTr("Panel")

@@ -4,15 +4,16 @@ import Brimshade.Ui
 
 // Holds one step of the flow while it is the current one or on its way out: it comes in from the right and leaves to
 // the left, fading. Turned round half way, it goes back the way it came.
-Loader {
+Item {
     id: root
 
     required property bool current
+    default property alias step: place.delegate
     property int side: 1 // where it is coming from or going to: 1 right, -1 left
 
-    active: root.current || presence.value > 0.001 && presence.running
+    anchors.fill: parent
     enabled: root.current
-    visible: active
+    visible: root.current || presence.running
     opacity: Math.max(0, Math.min(presence.value, 1))
     transform: Translate {
         x: root.side * 30 * (1 - presence.value)
@@ -24,6 +25,10 @@ Loader {
             root.side = -1;
     }
 
+    Repeater {
+        id: place
+        model: root.current || presence.running ? 1 : 0
+    }
     SpringValue {
         id: presence
         target: root.current ? 1 : 0

@@ -9,13 +9,6 @@
 // The names under which this module's QML knows what windows/flow decides.
 namespace brimshade::windows {
 
-struct NotchModelType {
-    Q_GADGET
-    QML_FOREIGN(brimshade::model::NotchModel)
-    QML_NAMED_ELEMENT(NotchModel)
-    QML_UNCREATABLE("The program has one and hands it to its views.")
-};
-
 struct ItemRowsType {
     Q_GADGET
     QML_FOREIGN(brimshade::windows::ItemRows)

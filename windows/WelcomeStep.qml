@@ -1,10 +1,13 @@
 pragma ComponentBehavior: Bound
 import QtQuick
+import Brimshade.Windows
 
 Item {
     id: root
 
     required property OnboardingFlow flow
+
+    anchors.fill: parent
 
     Column {
         anchors.centerIn: parent

@@ -35,7 +35,7 @@ QVariant ExtraRows::data(const QModelIndex &index, int role) const
         return extra.name;
     case DetailRole:
         return extra.detail;
-    case IconRole:
+    case ImageRole:
         return QVariant::fromValue(extra.icon);
     case SymbolRole:
         return extra.symbol.value_or(QStringLiteral("circle"));
@@ -49,7 +49,7 @@ QVariant ExtraRows::data(const QModelIndex &index, int role) const
 QHash<int, QByteArray> ExtraRows::roleNames() const
 {
     return {{ExtraIDRole, "extraID"}, {NameRole, "name"},     {DetailRole, "detail"},
-            {IconRole, "icon"},       {SymbolRole, "symbol"}, {CanMoveRole, "canMove"}};
+            {ImageRole, "image"},     {SymbolRole, "symbol"}, {CanMoveRole, "canMove"}};
 }
 
 void ExtraRows::setExtras(const ExtraList &extras)

@@ -11,12 +11,20 @@ class ExtraRows : public QAbstractListModel {
     Q_OBJECT
 
 public:
-    enum Role { ExtraIDRole = Qt::UserRole + 1, NameRole, DetailRole, IconRole, SymbolRole, CanMoveRole, FirstOwnRole };
+    enum Role {
+        ExtraIDRole = Qt::UserRole + 1,
+        NameRole,
+        DetailRole,
+        ImageRole,
+        SymbolRole,
+        CanMoveRole,
+        FirstOwnRole
+    };
 
     using QAbstractListModel::QAbstractListModel;
 
     int rowCount(const QModelIndex &parent = {}) const override;
-    // icon is a platform::Image, null where there is none; symbol is never empty: "circle" stands in.
+    // image is the icon, a platform::Image, null where there is none; symbol is never empty: "circle" stands in.
     QVariant data(const QModelIndex &index, int role) const override;
     QHash<int, QByteArray> roleNames() const override;
 

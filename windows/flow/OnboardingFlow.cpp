@@ -144,6 +144,8 @@ void OnboardingFlow::updateHeroIcons()
     for (const MenuExtra &extra : m_model.extras())
         if (!extra.icon.isNull() && icons.size() < kHeroIcons)
             icons.append(QVariant::fromValue(extra.icon));
+    while (icons.size() < kHeroIcons)
+        icons.append(QVariant::fromValue(platform::Image()));
     const bool same = std::ranges::equal(icons, m_heroIcons, [](const QVariant &a, const QVariant &b) {
         return a.value<platform::Image>().isSameObject(b.value<platform::Image>());
     });

@@ -62,7 +62,7 @@ public:
     int stayCount() const;
     int tuckedCount() const;
     int pendingCount() const; // items whose choice differs from where they are now
-    QVariantList heroIcons() const { return m_heroIcons; } // platform::Image, at most five
+    QVariantList heroIcons() const { return m_heroIcons; } // five of platform::Image, null where there are no more
 
     Q_INVOKABLE void act(); // the action of the bottom right button
     Q_INVOKABLE void back();

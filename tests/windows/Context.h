@@ -1,0 +1,54 @@
+#pragma once
+#include "Fakes.h"
+#include "OffscreenScene.h"
+#include "model/NotchModel.h"
+#include "model/PermissionRequest.h"
+#include "windows/flow/OnboardingFlow.h"
+
+#include <optional>
+
+namespace brimshade::windows {
+
+// A model with its flow and, once asked for, one of the two windows, offscreen.
+class Context {
+public:
+    Context();
+    ~Context();
+
+    FakeAccessibility accessibility;
+    FakeWorkspace workspace;
+    FakeDispatch dispatch;
+    FakeDefaults defaults;
+    FakeLoginItems loginItems;
+    model::NotchModel model{defaults, loginItems};
+    model::PermissionRequest permission{accessibility, workspace};
+    std::optional<OnboardingFlow::Choices> finished;
+    int scans = 0;
+    int setups = 0;
+    QStringList moves; // "relay hide"
+    OnboardingFlow flow{model, permission, accessibility, dispatch,
+                        [this](const auto &choices) { finished = choices; }};
+
+    void setExtras(const menubar::ExtraList &extras);
+    void goTo(int step);
+    ui::OffscreenScene &showSettings(double scale = 1);
+    ui::OffscreenScene &showSetup(double scale = 1);
+    ui::OffscreenScene &scene() { return *m_scene; }
+
+    QQuickItem *item(const QString &objectName) { return m_scene->find(objectName); }
+    QVariant property(const QString &objectName, const char *name) { return item(objectName)->property(name); }
+    void click(const QString &objectName);
+    void key(int key, Qt::KeyboardModifiers modifiers = Qt::NoModifier, const QString &text = {});
+    QString focused() const; // the object name of the item with the keyboard
+
+private:
+    ui::OffscreenScene &show(const QByteArray &view, QSize size, double scale);
+
+    std::unique_ptr<ui::OffscreenScene> m_scene;
+};
+
+// Relay and Wi-Fi in the menu bar, Ledger hidden, the clock pinned.
+menubar::ExtraList someExtras();
+menubar::MenuExtra extra(const QString &id, const QString &name, bool isHidden = false, bool canMove = true);
+
+} // namespace brimshade::windows
