@@ -54,11 +54,11 @@ T.Switch {
         }
         Shadow {
             anchors.fill: knob
-            anchors.topMargin: 1
-            anchors.bottomMargin: -1
+            anchors.topMargin: 0.5
+            anchors.bottomMargin: -0.5
             radius: knob.radius
-            blur: 1.5
-            color: Qt.rgba(0, 0, 0, 0.35)
+            blur: 0.8
+            color: Qt.rgba(0, 0, 0, 0.3)
         }
         RoundedShape {
             id: knob

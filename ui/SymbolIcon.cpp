@@ -42,21 +42,31 @@ QRectF SymbolIcon::pictureRect() const
     return {std::floor((width() - side) / 2), std::floor((height() - side) / 2), side, side};
 }
 
-void SymbolIcon::draw(QPainter &painter, double) const
+QBrush SymbolIcon::brush(const QRectF &rect) const
+{
+    if (!m_endColor.isValid())
+        return m_color;
+    QLinearGradient gradient(rect.topLeft(), rect.bottomRight());
+    gradient.setColorAt(0, m_color);
+    gradient.setColorAt(1, m_endColor);
+    return gradient;
+}
+
+void SymbolIcon::draw(QPainter &painter, double scale) const
 {
     const QRectF rect = pictureRect();
-    QPainterPath path = symbolPath(m_name, {m_pointSize, platform::SymbolWeight(m_weight)});
+    QImage mask((rect.size() * scale).toSize(), QImage::Format_ARGB32_Premultiplied);
+    mask.fill(Qt::transparent);
     const double inset = (rect.width() - symbolExtent(m_pointSize)) / 2;
-    path.translate(rect.x() + inset, rect.y() + inset);
-    QBrush brush = m_color;
-    if (m_endColor.isValid()) {
-        const QRectF bounds = path.boundingRect();
-        QLinearGradient gradient(bounds.topLeft(), bounds.bottomRight());
-        gradient.setColorAt(0, m_color);
-        gradient.setColorAt(1, m_endColor);
-        brush = gradient;
-    }
-    painter.fillPath(path, brush);
+    QPainter masking(&mask);
+    masking.scale(scale, scale);
+    masking.translate(inset, inset);
+    paintSymbol(masking, symbolOutline(m_name), {m_pointSize, platform::SymbolWeight(m_weight)}, Qt::white);
+    masking.setCompositionMode(QPainter::CompositionMode_SourceIn);
+    masking.translate(-inset, -inset);
+    masking.fillRect(QRectF(QPointF(), rect.size()), brush(QRectF(QPointF(), rect.size())));
+    masking.end();
+    painter.drawImage(rect, mask);
 }
 
 } // namespace brimshade::ui

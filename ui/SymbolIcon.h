@@ -40,6 +40,8 @@ protected:
     void draw(QPainter &painter, double scale) const override;
 
 private:
+    QBrush brush(const QRectF &rect) const;
+
     QString m_name;
     double m_pointSize = 0;
     Weight m_weight = Regular;

@@ -1,7 +1,6 @@
 #include "SymbolService.h"
 #include "SymbolTable.h"
 
-#include <QPainterPath>
 #include <utility>
 
 namespace brimshade::ui {
@@ -10,15 +9,18 @@ namespace {
 
 class SymbolSource : public platform::ImageSource {
 public:
-    SymbolSource(QPainterPath path, double extent) : m_path(std::move(path)), m_extent(extent) { }
+    SymbolSource(QPainterPath outline, const platform::SymbolConfiguration &configuration)
+        : m_outline(std::move(outline)), m_configuration(configuration)
+    {
+    }
 
     void draw(QPainter &painter, const QRectF &rect) const override
     {
+        const double extent = symbolExtent(m_configuration.pointSize);
         painter.save();
-        painter.setRenderHint(QPainter::Antialiasing);
         painter.translate(rect.topLeft());
-        painter.scale(rect.width() / m_extent, rect.height() / m_extent);
-        painter.fillPath(m_path, Qt::black);
+        painter.scale(rect.width() / extent, rect.height() / extent);
+        paintSymbol(painter, m_outline, m_configuration, Qt::black);
         painter.restore();
     }
 
@@ -33,8 +35,8 @@ public:
     }
 
 private:
-    QPainterPath m_path;
-    double m_extent; // side of the square that the path is drawn in, points
+    QPainterPath m_outline;
+    platform::SymbolConfiguration m_configuration;
 };
 
 } // namespace
@@ -42,11 +44,11 @@ private:
 platform::Image SymbolService::symbolImage(const QString &name, const QString &,
                                            const platform::SymbolConfiguration &configuration)
 {
-    QPainterPath path = symbolPath(name, configuration);
-    if (path.isEmpty())
+    QPainterPath outline = symbolOutline(name);
+    if (outline.isEmpty())
         return {};
     const double extent = symbolExtent(configuration.pointSize);
-    return {std::make_shared<SymbolSource>(std::move(path), extent), QSizeF(extent, extent), true};
+    return {std::make_shared<SymbolSource>(std::move(outline), configuration), QSizeF(extent, extent), true};
 }
 
 } // namespace brimshade::ui

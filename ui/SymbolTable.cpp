@@ -2,7 +2,7 @@
 #include "SymbolDrawings.h"
 
 #include <QFont>
-#include <QPainterPathStroker>
+#include <QPen>
 #include <QRawFont>
 #include <QTransform>
 #include <algorithm>
@@ -112,19 +112,17 @@ QPainterPath symbolOutline(const QString &name)
     return symbol->drawing ? symbol->drawing() : glyphOutline(symbol->glyph);
 }
 
-QPainterPath symbolPath(const QString &name, const platform::SymbolConfiguration &configuration)
+void paintSymbol(QPainter &painter, const QPainterPath &outline, const platform::SymbolConfiguration &configuration,
+                 const QColor &color)
 {
-    QPainterPath path = symbolOutline(name);
-    if (path.isEmpty())
-        return path;
-    if (const double extra = emboldening(configuration.weight) * kSymbolGrid; extra > 0) {
-        QPainterPathStroker stroker;
-        stroker.setWidth(extra);
-        stroker.setJoinStyle(Qt::RoundJoin);
-        path = path.united(stroker.createStroke(path));
-    }
     const double scale = symbolExtent(configuration.pointSize) / kSymbolGrid;
-    return QTransform::fromScale(scale, scale).map(path);
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.scale(scale, scale);
+    painter.fillPath(outline, color);
+    if (const double extra = emboldening(configuration.weight) * kSymbolGrid; extra > 0)
+        painter.strokePath(outline, QPen(color, extra, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+    painter.restore();
 }
 
 double symbolExtent(double pointSize)

@@ -1,6 +1,8 @@
 #pragma once
 #include "platform/Symbol.h"
 
+#include <QColor>
+#include <QPainter>
 #include <QPainterPath>
 #include <QString>
 #include <QStringList>
@@ -13,8 +15,10 @@ inline constexpr double kSymbolGrid = 480;
 // from the icon font.
 QPainterPath symbolOutline(const QString &name);
 
-// The outline at that configuration, in a square of side symbolExtent whose corner is the origin.
-QPainterPath symbolPath(const QString &name, const platform::SymbolConfiguration &configuration);
+// Paints a symbol's outline at that configuration, in a square of side symbolExtent whose corner is the origin. The
+// colour is opaque: weight is a stroke along the edge, which would show through a translucent one. Any thread.
+void paintSymbol(QPainter &painter, const QPainterPath &outline, const platform::SymbolConfiguration &configuration,
+                 const QColor &color);
 
 // Side, in points, of the square that a symbol fills: a little more than the text of the same size is high.
 double symbolExtent(double pointSize);

@@ -55,7 +55,7 @@ TEST(NotchShape, FlaresOutwardAboveAndRoundsInwardBelow)
         {{15, 100}, true},
         // At a quadratic corner's middle the curve is a quarter of the radius from either side.
         {{14 + 8.5, 200 - 8.5}, true},
-        
+
         {{14 + 7.5, 200 - 7.5}, false},
     };
     for (const auto &expected : cases)

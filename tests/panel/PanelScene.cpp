@@ -1,8 +1,8 @@
 #include "PanelScene.h"
 
 #include <QPainter>
-#include <QtQml/qqmlextensionplugin.h>
 #include <QPainterPath>
+#include <QtQml/qqmlextensionplugin.h>
 #include <algorithm>
 #include <cstdlib>
 
@@ -189,8 +189,30 @@ PanelScene::PanelScene(int hidden, int visible, double scale) : scene({1000, 720
     scene.load(R"(
         import QtQuick
         import Brimshade.Panel
-        NotchRoot { objectName: "panel" }
-        )",
+        Item {
+            id: root
+            required property NotchModel model
+            required property TileActions actions
+            required property PermissionRequest permission
+            property bool wallpaper: false
+            Rectangle {
+                anchors.fill: parent
+                visible: root.wallpaper
+                gradient: Gradient {
+                    orientation: Gradient.Horizontal
+                    GradientStop { position: 0; color: "#6f8fc9" }
+                    GradientStop { position: 0.5; color: "#c29db4" }
+                    GradientStop { position: 1; color: "#e8c49c" }
+                }
+            }
+            NotchRoot {
+                objectName: "panel"
+                anchors.fill: parent
+                model: root.model
+                actions: root.actions
+                permission: root.permission
+            }
+        })",
                {{u"model"_s, QVariant::fromValue(&model)},
                 {u"actions"_s, QVariant::fromValue(&actions)},
                 {u"permission"_s, QVariant::fromValue(&permission)}});
@@ -229,14 +251,12 @@ QRectF PanelScene::frame(const QString &objectName) const
 
 QColor PanelScene::pixel(QPointF at)
 {
-    QImage picture = scene.picture();
-    QImage onGrey(picture.size(), QImage::Format_RGB32);
-    onGrey.fill(QColor(0x80, 0x80, 0x80));
-    QPainter painter(&onGrey);
-    picture.setDevicePixelRatio(1);
-    painter.drawImage(0, 0, picture);
-    painter.end();
-    return onGrey.pixelColor((at * m_scale).toPoint());
+    return scene.picture().pixelColor((at * m_scale).toPoint());
+}
+
+void PanelScene::setWallpaper(bool shown)
+{
+    scene.root()->setProperty("wallpaper", shown);
 }
 
 } // namespace brimshade::panel

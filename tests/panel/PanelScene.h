@@ -56,7 +56,8 @@ public:
     QQuickItem *tile(const QString &name) const; // null when it has no delegate
     QStringList tileNames() const; // in reading order
     QRectF frame(const QString &objectName) const;
-    QColor pixel(QPointF at); // over grey 0x808080
+    QColor pixel(QPointF at);
+    void setWallpaper(bool shown); // else plain grey
 
     model::TileActions actions{model, *system.menus};
     model::PermissionRequest permission{*system.accessibility, *system.workspace};

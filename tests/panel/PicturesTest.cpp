@@ -2,7 +2,6 @@
 #include "PanelScene.h"
 
 #include <QDir>
-#include <QPainter>
 #include <gtest/gtest.h>
 
 namespace brimshade::panel {
@@ -13,28 +12,16 @@ using namespace Qt::StringLiterals;
 void save(PanelScene &panel, const QString &name, double scale)
 {
     QDir().mkpath(u"pictures"_s);
-    QImage panelPicture = panel.scene.picture();
-    panelPicture.setDevicePixelRatio(1);
-    QImage picture(panelPicture.size(), QImage::Format_RGB32);
-    QPainter painter(&picture);
-    QLinearGradient wallpaper(0, 0, picture.width(), picture.height());
-    wallpaper.setColorAt(0, QColor(0x6f, 0x8f, 0xc9));
-    wallpaper.setColorAt(0.5, QColor(0xc2, 0x9d, 0xb4));
-    wallpaper.setColorAt(1, QColor(0xe8, 0xc4, 0x9c));
-    painter.fillRect(picture.rect(), wallpaper);
-    painter.drawImage(0, 0, panelPicture);
-    painter.end();
-    ASSERT_TRUE(picture.save(u"pictures/%1@%2.png"_s.arg(name).arg(scale)));
+    ASSERT_TRUE(panel.scene.picture().save(u"pictures/%1@%2.png"_s.arg(name).arg(scale)));
 }
 
-class Pictures : public testing::TestWithParam<double>
-{
-};
+class Pictures : public testing::TestWithParam<double> { };
 
 TEST_P(Pictures, OfEveryState)
 {
     const double scale = GetParam();
     PanelScene panel(12, 9, scale);
+    panel.setWallpaper(true);
     panel.model.setNotch({186, 37});
     save(panel, u"closed"_s, scale);
     panel.model.setIsOpen(true);

@@ -2,7 +2,6 @@
 #include "ui/SymbolTable.h"
 
 #include <QDir>
-#include <QPainter>
 #include <QtQml/qqmlextensionplugin.h>
 #include <gtest/gtest.h>
 
@@ -17,14 +16,7 @@ using namespace Qt::StringLiterals;
 void keep(const QImage &picture, const QString &name)
 {
     QDir().mkpath(u"pictures"_s);
-    QImage onGrey(picture.size(), QImage::Format_RGB32);
-    onGrey.fill(QColor(70, 74, 92));
-    QPainter painter(&onGrey);
-    QImage plain = picture;
-    plain.setDevicePixelRatio(1);
-    painter.drawImage(0, 0, plain);
-    painter.end();
-    onGrey.save(u"pictures/"_s + name + u".png"_s);
+    picture.save(u"pictures/"_s + name + u".png"_s);
 }
 
 TEST(Items, SymbolsAreDrawnInTheirColourAtEveryScale)
@@ -88,8 +80,8 @@ TEST(Items, ShapesShadowsAndTextOnOneSheet)
         EXPECT_EQ(at(100, 80), QColor(Qt::white));
         EXPECT_EQ(at(100, 42), QColor(Qt::red)) << "the stroke is inside the edge";
         EXPECT_EQ(at(100, 45), QColor(Qt::white));
-        EXPECT_GT(at(100, 128).alpha(), at(100, 150).alpha()) << "the shadow falls off";
-        EXPECT_GT(at(100, 150).alpha(), 0);
+        EXPECT_LT(at(100, 128).red(), at(100, 150).red()) << "the shadow falls off";
+        EXPECT_LT(at(100, 150).red(), kBackground.red());
         EXPECT_GT(at(240, 80).green(), 235);
         EXPECT_LT(at(276, 80).green(), 30);
         EXPECT_GT(at(340, 44).blue(), 230);

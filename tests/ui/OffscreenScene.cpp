@@ -14,7 +14,7 @@ OffscreenScene::OffscreenScene(QSize size, double scale)
       m_image((QSizeF(size) * scale).toSize(), QImage::Format_ARGB32_Premultiplied)
 {
     m_engine->addImportPath(QStringLiteral("qrc:/qt/qml"));
-    m_window->setColor(Qt::transparent);
+    m_window->setColor(kBackground);
     m_window->setGeometry(QRect(QPoint(), size));
     m_window->contentItem()->setSize(size);
     m_image.setDevicePixelRatio(scale);
@@ -69,7 +69,6 @@ QQuickItem *OffscreenScene::find(const QString &objectName) const
 QImage OffscreenScene::picture()
 {
     settle();
-    m_image.fill(Qt::transparent);
     m_control->beginFrame();
     m_control->sync();
     m_control->render();

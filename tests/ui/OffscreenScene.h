@@ -1,6 +1,7 @@
 #pragma once
 #include "ManualAnimationDriver.h"
 
+#include <QColor>
 #include <QImage>
 #include <QQmlEngine>
 #include <QQuickItem>
@@ -10,6 +11,8 @@
 #include <memory>
 
 namespace brimshade::ui {
+
+inline constexpr QColor kBackground{0x80, 0x80, 0x80}; // where nothing is drawn
 
 // A QML component rendered without a display by the software renderer, at any scale, under a clock of its own.
 class OffscreenScene {
@@ -24,7 +27,8 @@ public:
     QList<QQuickItem *> findAll(const QString &objectName) const;
     QQuickWindow *window() const { return m_window.get(); }
 
-    QImage picture(); // transparent where nothing is drawn
+    // Opaque. Only what changed since the last one is drawn anew, as in a real window.
+    QImage picture();
     void settle(); // bindings, polish and delegates are done
     void advance(int milliseconds); // frames of 16 ms, nothing rendered
     QRectF frameOf(const QQuickItem *item) const; // in the scene, transforms applied

@@ -59,8 +59,7 @@ TEST(Symbols, AHeavierWeightCoversMore)
         QImage image(96, 96, QImage::Format_Alpha8);
         image.fill(0);
         QPainter painter(&image);
-        painter.setRenderHint(QPainter::Antialiasing);
-        painter.fillPath(symbolPath(u"gearshape.fill"_s, {75, weight}), Qt::black);
+        paintSymbol(painter, symbolOutline(u"gearshape.fill"_s), {75, weight}, Qt::black);
         painter.end();
         long sum = 0;
         for (int y = 0; y < image.height(); ++y)
