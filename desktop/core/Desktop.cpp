@@ -100,7 +100,7 @@ void Desktop::Parts::start(const DesktopDescription &description)
         display.displayNames = description.displayNames;
     });
     applyScreens(description.screens);
-    const QSizeF primary = description.screens.empty() ? QSizeF() : description.screens.front().frame.size();
+    const QSizeF primary = description.screens.empty() ? QSizeF(0, 0) : description.screens.front().frame.size();
     state.write([&](DisplayState &display) {
         display.pointer = description.pointer.value_or(QPointF(primary.width() / 2, primary.height() / 2));
     });

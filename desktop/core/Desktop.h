@@ -1,6 +1,8 @@
 #pragma once
 #include "ApplicationSpec.h"
+#include "platform/LoginItems.h"
 #include "platform/Platform.h"
+#include "platform/UserDefaults.h"
 
 #include <QObject>
 #include <QVariantMap>

@@ -194,11 +194,13 @@ std::optional<Event> InputRouter::keyDown(const Event &event)
 
 void InputRouter::synthetic(const CGMouseEvent &event)
 {
-    moved(event.location);
+    m_d->at = event.location;
     if (event.type == kCGEventLeftMouseDown)
         press(MouseButton::left, event.flags);
     else if (event.type == kCGEventLeftMouseUp)
         release(MouseButton::left, event.flags);
+    else
+        moved(event.location);
     Q_EMIT pointerWarped();
 }
 

@@ -43,7 +43,7 @@ void MenuHost::open(std::shared_ptr<MenuSource> source, const QRectF &anchor, pl
 
 void MenuHost::popUpContextMenu(const platform::Menu &menu, platform::Work dismissed)
 {
-    open(makeMenuSource(menu), QRectF(m_state.pointer(), QSizeF()), std::move(dismissed));
+    open(makeMenuSource(menu), QRectF(m_state.pointer(), QSizeF(0, 0)), std::move(dismissed));
 }
 
 void MenuHost::dismiss()

@@ -157,9 +157,8 @@ void OwnStatusItem::barSettled()
     const auto screen = m_window.screen();
     if (!screen)
         return;
-    const std::pair identity(screen->localizedName, screen->frame);
-    const auto before = std::exchange(m_screen, identity);
-    if (before && *before != identity)
+    const auto before = std::exchange(m_screen, screen->localizedName);
+    if (before && before != m_screen)
         m_bar->m_parts.notifications.post(kNSWindowDidChangeScreenNotification, static_cast<Window *>(&m_window));
 }
 

@@ -70,7 +70,7 @@ private:
     std::optional<platform::Menu> m_menu;
     platform::EventMask m_sendOn = 0;
     platform::Work m_action;
-    std::optional<std::pair<QString, QRectF>> m_screen; // the one the window was on when the bar last settled
+    std::optional<QString> m_screen; // by name, the one the window was on when the bar last settled
 };
 
 } // namespace brimshade::desktop

@@ -1,0 +1,262 @@
+#include "World.h"
+
+using namespace brimshade::platform;
+using namespace Qt::StringLiterals;
+
+namespace brimshade::desktop {
+namespace {
+
+const auto kPlaceKey = u"NSStatusItem Preferred Position BrimshadeButton"_s;
+
+class BarTest : public World {
+protected:
+    std::shared_ptr<StatusItem> createOwn(double length = 28)
+    {
+        auto item = platform.statusBar.createStatusItem(length);
+        item->setAutosaveName(u"BrimshadeButton"_s);
+        settle();
+        return item;
+    }
+    QRectF windowFrame(StatusItem &item) // in display space
+    {
+        return item.button()->window() ? flipped(item.button()->window()->frame(), 982) : QRectF();
+    }
+    // The gesture as a program makes it.
+    void drag(QPointF from, QPointF to, std::uint64_t downFlags, std::uint64_t upFlags, int drags = 3)
+    {
+        platform.eventServices.post({kCGEventLeftMouseDown, from, downFlags, 1});
+        for (int i = 1; i <= drags; ++i)
+            platform.eventServices.post({kCGEventLeftMouseDragged, from + (to - from) * i / drags, downFlags, 1});
+        platform.eventServices.post({kCGEventLeftMouseUp, to, upFlags, 1});
+        dispatch.runDue();
+        settle();
+    }
+};
+
+// One more desktop, for the rows of a table.
+class BarWorld : public BarTest {
+public:
+    using BarTest::barOrder;
+    using BarTest::desktop;
+    using BarTest::drag;
+
+private:
+    void TestBody() override { }
+};
+
+TEST_F(BarTest, OrdersPinnedThenOwnThenOthersAndAddsLaterOnesAtTheLeftEnd)
+{
+    EXPECT_EQ(barOrder(), QStringList({u"b.three"_s, u"b.two"_s, u"a.one"_s, u"com.example.clock"_s}));
+    EXPECT_EQ(barFrame(u"com.example.clock"_s), QRectF(1372, 0, 132, 37));
+    EXPECT_EQ(barFrame(u"a.one"_s), QRectF(1342, 0, 30, 37));
+
+    const auto own = createOwn();
+    desktop.launch({.description = application(13, {extra(u"c.four"_s)})});
+    settle();
+    EXPECT_EQ(
+        barOrder(),
+        QStringList({u"c.four"_s, u"b.three"_s, u"b.two"_s, u"a.one"_s, u"BrimshadeButton"_s, u"com.example.clock"_s}));
+    desktop.quit(11);
+    EXPECT_FALSE(barOrder().contains(u"a.one"_s)) << "a quit application's items are gone at once";
+    EXPECT_EQ(barFrame(u"b.two"_s).x(), 1284) << "the others close up when they settle";
+    settle();
+    EXPECT_EQ(barFrame(u"b.two"_s).x(), 1314);
+}
+
+TEST_F(BarTest, ShowsEachLayoutATenthOfASecondAfterItsChange)
+{
+    const auto own = platform.statusBar.createStatusItem(28);
+    EXPECT_EQ(own->button()->window(), nullptr);
+    dispatch.advance(0.099);
+    EXPECT_EQ(own->button()->window(), nullptr);
+    dispatch.advance(0.001);
+    ASSERT_NE(own->button()->window(), nullptr);
+    EXPECT_EQ(windowFrame(*own), QRectF(1344, 0, 28, 37));
+
+    own->setLength(100);
+    dispatch.advance(0.05);
+    own->setLength(200);
+    EXPECT_EQ(own->length(), 200);
+    dispatch.advance(0.049);
+    EXPECT_EQ(windowFrame(*own).width(), 28);
+    EXPECT_EQ(axFrame(item(11, 0)).x(), 1314);
+    dispatch.advance(0.001);
+    EXPECT_EQ(windowFrame(*own), QRectF(1272, 0, 100, 37)) << "the first change as it was meant";
+    EXPECT_EQ(axFrame(item(11, 0)).x(), 1242) << "everything at the same instant";
+    dispatch.advance(0.05);
+    EXPECT_EQ(windowFrame(*own), QRectF(1172, 0, 200, 37));
+    own->setLength(kSquareStatusItemLength);
+    settle();
+    EXPECT_EQ(windowFrame(*own).width(), 37);
+}
+
+TEST_F(BarTest, TucksAwayWhatAWideItemPushesBehindTheNotchAndOffScreen)
+{
+    const auto own = createOwn();
+    own->setLength(493); // up to 879, as right of the notch as a divider goes
+    settle();
+    const auto drawn = [this] {
+        QStringList drawn;
+        for (const BarItem &item : desktop.menuBar().items())
+            drawn << (item.drawn ? item.identifier : u"-"_s);
+        return drawn;
+    };
+    EXPECT_EQ(drawn(), QStringList({u"-"_s, u"-"_s, u"a.one"_s, u"BrimshadeButton"_s, u"com.example.clock"_s}));
+    EXPECT_EQ(axFrame(item(12, 0)), QRectF(819, 0, 30, 37)) << "behind the notch is still a place";
+    own->setLength(720);
+    settle();
+    EXPECT_EQ(axFrame(item(11, 0)), QRectF(-30, 0, 30, 37));
+    EXPECT_EQ(axFrame(item(12, 1)), QRectF(-90, 0, 30, 37));
+    EXPECT_FALSE(own->button()->window()->occlusionStateVisible()) << "covered by the notch";
+}
+
+TEST_F(BarTest, PutsItsOwnItemWhereTheSettingsSayAndStoresOnlyADragOfIt)
+{
+    platform.userDefaults.setInteger(199, kPlaceKey);
+    const auto own = createOwn();
+    EXPECT_EQ(maxX(windowFrame(*own)), 1342) << "left of the one item that fits in 199 points";
+    desktop.quit(11);
+    settle();
+    drag({1329, 18}, {1371, 18}, kCGEventFlagMaskCommand, kCGEventFlagMaskCommand);
+    EXPECT_EQ(maxX(windowFrame(*own)), 1342);
+    EXPECT_EQ(platform.userDefaults.objectForKey(kPlaceKey), QVariant(199)) << "another item was dragged across";
+    const QPointF middle = windowFrame(*own).center();
+    drag(middle, {1200, 18}, kCGEventFlagMaskCommand, kCGEventFlagMaskCommand);
+    EXPECT_EQ(windowFrame(*own).left(), 1372 - 60 - 28);
+    EXPECT_EQ(platform.userDefaults.objectForKey(kPlaceKey), QVariant(qlonglong(140 + 60)));
+}
+
+TEST_F(BarTest, RearrangesByCommandDragsAndByNothingElse)
+{
+    // At first, left to right: three 1282, two 1312, one 1342, clock 1372.
+    const QString before = u"b.three b.two a.one com.example.clock"_s;
+    constexpr auto command = kCGEventFlagMaskCommand;
+    struct Case {
+        const char *name;
+        QPointF from, to;
+        std::uint64_t downFlags, upFlags;
+        int drags;
+        bool accepted;
+        QString after;
+    };
+    const Case cases[] = {
+        {"to the left end",
+         {1357, 10},
+         {1200, 36},
+         command,
+         command,
+         1,
+         true,
+         u"a.one b.three b.two com.example.clock"_s},
+        {"on the middle of another",
+         {1297, 10},
+         {1327, 10},
+         command,
+         command,
+         3,
+         true,
+         u"b.three b.two a.one com.example.clock"_s},
+        {"just right of that middle",
+         {1297, 10},
+         {1327.5, 10},
+         command,
+         command,
+         3,
+         true,
+         u"b.two b.three a.one com.example.clock"_s},
+        {"right of the pinned clock",
+         {1297, 10},
+         {1500, 10},
+         command,
+         command,
+         3,
+         true,
+         u"b.two a.one b.three com.example.clock"_s},
+        {"the pinned clock", {1400, 10}, {1200, 10}, command, command, 3, true, before},
+        {"without a drag", {1357, 10}, {1200, 10}, command, command, 0, true, before},
+        {"pressed without Command", {1357, 10}, {1200, 10}, 0, command, 3, true, before},
+        {"released without Command", {1357, 10}, {1200, 10}, command, 0, 3, true, before},
+        {"dropped below the row", {1357, 10}, {1200, 37}, command, command, 3, true, before},
+        {"refused", {1357, 10}, {1200, 10}, command, command, 3, false, before},
+        {"nothing there", {1000, 10}, {1200, 10}, command, command, 3, true, before},
+    };
+    for (const Case &c : cases) {
+        BarWorld test;
+        test.desktop.setMovesAccepted(c.accepted);
+        test.drag(c.from, c.to, c.downFlags, c.upFlags, c.drags);
+        EXPECT_EQ(test.barOrder().join(u' ').toStdString(), c.after.toStdString()) << c.name;
+    }
+}
+
+TEST_F(BarTest, MovesAnItemFromBehindTheNotchAndNoneFromOffScreen)
+{
+    const auto own = createOwn();
+    own->setLength(493);
+    settle();
+    ASSERT_EQ(axFrame(item(12, 0)).x(), 819);
+    drag({834, 18}, {1400, 18}, kCGEventFlagMaskCommand, kCGEventFlagMaskCommand);
+    EXPECT_EQ(axFrame(item(12, 0)).x(), 1342) << "right of the own item, left of the clock";
+    own->setLength(720);
+    settle();
+    const QStringList before = barOrder();
+    drag({axFrame(item(12, 1)).center()}, {1300, 18}, kCGEventFlagMaskCommand, kCGEventFlagMaskCommand);
+    EXPECT_EQ(barOrder(), before);
+}
+
+TEST_F(BarTest, FollowsTheScreensAndTellsWhenTheOwnItemChangesItsScreen)
+{
+    const auto own = createOwn();
+    int changes = 0, parameters = 0;
+    platform.notificationCenter.addObserver(QLatin1StringView(kNSWindowDidChangeScreenNotification),
+                                            own->button()->window(), [&] { ++changes; });
+    platform.notificationCenter.addObserver(QLatin1StringView(kNSApplicationDidChangeScreenParametersNotification),
+                                            nullptr, [&] { ++parameters; });
+    auto notched = notchedScreen();
+    notched.frame.moveLeft(1920);
+    desktop.setScreens({plainScreen({0, 0, 1920, 1080}), notched});
+    EXPECT_EQ(parameters, 1);
+    settle();
+    EXPECT_EQ(changes, 0) << "it stays on the notched one";
+    EXPECT_EQ(barFrame(u"BrimshadeButton"_s).y(), 1080 - 982);
+
+    desktop.setScreens({plainScreen({0, 0, 1920, 1080})});
+    EXPECT_EQ(changes, 0) << "not before the bar has settled";
+    settle();
+    EXPECT_EQ(changes, 1);
+    EXPECT_EQ(barFrame(u"BrimshadeButton"_s), QRectF(1920 - 8 - 132 - 28, 0, 28, 24));
+    EXPECT_EQ(own->button()->window()->screen()->localizedName, u"External"_s);
+    desktop.setScreens({});
+    settle();
+    EXPECT_TRUE(platform.screens.screens().empty());
+    EXPECT_FALSE(own->button()->window()->occlusionStateVisible());
+}
+
+TEST_F(BarTest, ListsTheBarOfEachScreenAndOurWindowsAtTheirLevels)
+{
+    desktop.setScreens({notchedScreen(), plainScreen({1512, 0, 1920, 1080})});
+    WindowAttributes attributes;
+    attributes.contentRect = QRectF(10, 20, 100, 50);
+    const auto normal = platform.windows.createWindow(attributes, HostedView());
+    attributes.level = kStatusWindowLevel;
+    const auto panel = platform.windows.createWindow(attributes, HostedView());
+    panel->orderFrontRegardless();
+    normal->orderFrontRegardless();
+
+    const auto layers = [this] {
+        std::vector<int> layers;
+        for (const QVariantMap &info : platform.windowServer.copyWindowInfo())
+            layers.push_back(info.value(QLatin1StringView(kCGWindowLayer)).toInt());
+        return layers;
+    };
+    EXPECT_EQ(layers(), (std::vector{25, 24, 24, 0}));
+    const auto bounds = platform.windowServer.copyWindowInfo()[2].value(QLatin1StringView(kCGWindowBounds)).toMap();
+    EXPECT_EQ(bounds, (QVariantMap{{u"X"_s, 1512.}, {u"Y"_s, 982. - 1080}, {u"Width"_s, 1920.}, {u"Height"_s, 24.}}));
+    EXPECT_EQ(platform.windowServer.levelForKey(kCGMainMenuWindowLevelKey), 24);
+    desktop.setMenuBarShowing(false);
+    EXPECT_EQ(layers(), (std::vector{25, 0}));
+    for (const BarItem &item : desktop.menuBar().items())
+        EXPECT_FALSE(item.drawn);
+}
+
+} // namespace
+} // namespace brimshade::desktop

@@ -1,0 +1,204 @@
+#include "World.h"
+
+using namespace brimshade::platform;
+using namespace Qt::StringLiterals;
+
+namespace brimshade::desktop {
+namespace {
+
+constexpr QPointF kOwnItem(1360, 18), kFirstItem(1330, 18), kClock(1400, 18), kEmptyBar(400, 18), kWall(300, 800);
+
+class InputTest : public World {
+protected:
+    InputTest()
+    {
+        own->button()->setAction(kLeftMouseUpMask | kRightMouseUpMask,
+                                 [this] { heard << u"action %1"_s.arg(*platform.application.currentEventType()); });
+        settle();
+        listen();
+    }
+    void listen()
+    {
+        const EventMask all = kLeftMouseDownMask | kLeftMouseUpMask | kRightMouseDownMask | kKeyDownMask;
+        platform.application.addGlobalMonitor(all,
+                                              [this](const Event &event) { heard << u"global %1"_s.arg(event.type); });
+        platform.application.addLocalMonitor(all, [this](const Event &event) -> std::optional<Event> {
+            heard << u"local %1"_s.arg(event.type);
+            return event;
+        });
+    }
+    std::unique_ptr<Window> openWindow(const QString &name, const QRectF &rect, int level = kNormalWindowLevel,
+                                       unsigned style = 0)
+    {
+        WindowAttributes attributes;
+        attributes.name = name;
+        attributes.contentRect = rect;
+        attributes.level = level;
+        attributes.styleMask = style;
+        auto window = platform.windows.createWindow(attributes, HostedView());
+        window->makeKeyAndOrderFront();
+        return window;
+    }
+    QString takeHeard() { return std::exchange(heard, {}).join(u", "_s); }
+
+    QStringList heard;
+    std::shared_ptr<StatusItem> own = platform.statusBar.createStatusItem(28);
+};
+
+TEST_F(InputTest, TellsMonitorsOfPressesByWhereTheyLand)
+{
+    const auto window = openWindow(u"w"_s, QRectF(700, 200, 300, 300));
+    struct Case {
+        const char *name;
+        QPointF at;
+        MouseButton button;
+        Target target;
+        QString heard;
+        bool keepsKeys;
+    };
+    const Case cases[] = {
+        {"its window", {750, 600}, MouseButton::left, Target::window, u"local 1, local 2"_s, true},
+        {"its item", kOwnItem, MouseButton::left, Target::menuBar, u"local 1, local 2, action 2"_s, true},
+        {"its item, right", kOwnItem, MouseButton::right, Target::menuBar, u"local 3, action 4"_s, true},
+        {"another's item", kClock, MouseButton::left, Target::menuBar, u"global 1, global 2"_s, true},
+        {"the bar", kEmptyBar, MouseButton::right, Target::menuBar, u"global 3"_s, true},
+        {"another application", kWall, MouseButton::left, Target::elsewhere, u"global 1, global 2"_s, false},
+    };
+    for (const Case &c : cases) {
+        window->makeKeyAndOrderFront();
+        moveTo(c.at);
+        EXPECT_EQ(desktop.input().pressed(c.button, 0), c.target) << c.name;
+        EXPECT_EQ(desktop.input().released(c.button, 0), c.target) << c.name;
+        EXPECT_EQ(takeHeard(), c.heard) << c.name;
+        EXPECT_EQ(window->isKeyWindow(), c.keepsKeys) << c.name;
+        EXPECT_FALSE(platform.application.currentEventType()) << c.name;
+    }
+}
+
+TEST_F(InputTest, RunsTheItemsActionOnlyForAReleaseInsideOfAPressInside)
+{
+    press(kOwnItem);
+    EXPECT_TRUE(desktop.menuBar().items().back().isOwn || desktop.menuBar().items().at(3).isHighlighted);
+    moveTo(kWall);
+    desktop.input().released(MouseButton::left, 0);
+    EXPECT_EQ(takeHeard(), u"local 1, local 2"_s);
+    press(kWall);
+    moveTo(kOwnItem);
+    desktop.input().released(MouseButton::left, 0);
+    EXPECT_EQ(takeHeard(), u"global 1, global 2"_s);
+    EXPECT_EQ(desktop.input().released(MouseButton::left, 0), Target::menuBar) << "a release without a press";
+    click(kOwnItem, MouseButton::left, kControlFlag);
+    EXPECT_EQ(takeHeard(), u"local 1, local 2, action 2"_s) << "Control makes no right button";
+}
+
+TEST_F(InputTest, OpensMenusOfItemsAndHandsAllInputToAnOpenOne)
+{
+    click(kFirstItem);
+    ASSERT_EQ(desktop.menus().titles(), QStringList({u"Open"_s, u"-"_s, u"Quit"_s}));
+    takeHeard();
+    moveTo(kWall);
+    EXPECT_EQ(desktop.input().pressed(MouseButton::left, 0), Target::menu);
+    EXPECT_EQ(desktop.input().released(MouseButton::left, 0), Target::menu);
+    EXPECT_FALSE(key(53));
+    EXPECT_EQ(takeHeard(), QString());
+    desktop.menus().dismiss();
+
+    bool isGone = false;
+    own->setMenu(Menu{{{.title = u"Refresh"_s, .keyEquivalent = {}, .action = {}}}});
+    click(kOwnItem);
+    EXPECT_EQ(desktop.menus().titles(), QStringList(u"Refresh"_s)) << "an attached menu opens instead of the action";
+    EXPECT_FALSE(takeHeard().contains(u"action"_s));
+    desktop.menus().dismiss();
+    own->button()->performClick([&] { isGone = true; });
+    EXPECT_EQ(desktop.menus().anchor(), barFrame(QString()));
+    EXPECT_FALSE(isGone);
+    desktop.menus().dismiss();
+    EXPECT_TRUE(isGone);
+}
+
+TEST_F(InputTest, GivesKeysToHotkeysThenToTheKeyWindowElseToAnotherApplication)
+{
+    int hotkeys = 0;
+    platform.hotkeyCenter.installEventHandler([&] { ++hotkeys; });
+    ASSERT_TRUE(platform.hotkeyCenter.registerEventHotKey(45, kCarbonOption | kCarbonCommand, {}));
+    EXPECT_FALSE(key(45, kOptionFlag | kCommandFlag));
+    EXPECT_FALSE(key(45, kOptionFlag));
+    EXPECT_EQ(hotkeys, 1);
+    EXPECT_EQ(takeHeard(), u"global 10"_s) << "no window has the keys";
+    desktop.setTrusted(false);
+    key(45);
+    EXPECT_EQ(takeHeard(), QString());
+
+    const auto window = openWindow(u"w"_s, QRectF(0, 0, 100, 100));
+    EXPECT_TRUE(key(45));
+    EXPECT_FALSE(key(45, kOptionFlag | kCommandFlag)) << "a hotkey goes before any window";
+    EXPECT_EQ(takeHeard(), u"local 10"_s);
+
+    const auto swallow = platform.application.addLocalMonitor(
+        kKeyDownMask, [](const Event &event) { return event.keyCode == 53 ? std::nullopt : std::optional(event); });
+    EXPECT_FALSE(key(53));
+    EXPECT_TRUE(key(45));
+    platform.application.removeMonitor(swallow);
+    EXPECT_TRUE(key(53));
+}
+
+TEST_F(InputTest, DoesNotTellAMonitorThatWasRemovedMeanwhile)
+{
+    MonitorToken second = 0;
+    int told = 0;
+    platform.application.addGlobalMonitor(kLeftMouseDownMask,
+                                          [&](const Event &) { platform.application.removeMonitor(second); });
+    second = platform.application.addGlobalMonitor(kLeftMouseDownMask, [&](const Event &) { ++told; });
+    EXPECT_NE(second, 0u);
+    click(kWall);
+    EXPECT_EQ(told, 0);
+}
+
+TEST_F(InputTest, AsksForACommandDragBeforeAnyWindowThatCoversTheBar)
+{
+    const auto panel = openWindow(u"panel"_s, QRectF(256, 262, 1256, 720), kStatusWindowLevel);
+    press(kFirstItem);
+    EXPECT_EQ(desktop.input().released(MouseButton::left, 0), Target::window);
+    press(kFirstItem, MouseButton::left, kCommandFlag);
+    moveTo({1390, 18}, kCommandFlag);
+    EXPECT_EQ(desktop.input().released(MouseButton::left, kCommandFlag), Target::menuBar);
+    settle();
+    EXPECT_EQ(barFrame(u"a.one"_s).x(), 1342);
+}
+
+TEST_F(InputTest, ThePermissionsWindowsStandAboveOursAndAreAnotherApplications)
+{
+    const auto window = openWindow(u"w"_s, QRectF(0, 0, 1512, 900));
+    platform.workspace.openURL(u"x-apple.systempreferences:com.apple.preference.security?Privacy_Accessibility"_s);
+    EXPECT_TRUE(desktop.permission().isPageOpen());
+    EXPECT_FALSE(window->isKeyWindow()) << "another application came to the front";
+    EXPECT_FALSE(platform.workspace.openURL(u"no address"_s));
+    EXPECT_EQ(desktop.inspection().takeOpenedURLs().size(), 1);
+    window->makeKeyAndOrderFront();
+    press(desktop.permission().pageFrame().center());
+    EXPECT_EQ(desktop.input().released(MouseButton::left, 0), Target::systemWindow);
+    EXPECT_EQ(takeHeard(), u"global 1, global 2"_s);
+    EXPECT_FALSE(window->isKeyWindow());
+}
+
+TEST_F(InputTest, KeepsPostedEventsInOrderAndThePointerWhereItWasLastPut)
+{
+    QPointF seen;
+    onWorker([&] {
+        platform.eventServices.post({kCGEventLeftMouseDown, kOwnItem, 0, 1});
+        platform.eventServices.post({kCGEventLeftMouseUp, kOwnItem, 0, 1});
+        seen = *platform.eventServices.pointerLocation();
+        platform.eventServices.warpMouseCursorPosition({5, 5});
+    });
+    EXPECT_EQ(seen, kOwnItem) << "at once";
+    EXPECT_EQ(takeHeard(), u"local 1, local 2, action 2"_s);
+    EXPECT_EQ(platform.application.mouseLocation(), QPointF(5, 982 - 5)) << "effects do not move a warped pointer back";
+    const auto events = desktop.inspection().takeEvents();
+    ASSERT_EQ(events.size(), 2u);
+    EXPECT_EQ(events[1].event.type, kCGEventLeftMouseUp);
+    EXPECT_EQ(events[1].event.clickState, 1);
+    EXPECT_DOUBLE_EQ(events[1].time, 0.1);
+}
+
+} // namespace
+} // namespace brimshade::desktop
