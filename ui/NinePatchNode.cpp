@@ -9,23 +9,30 @@ namespace brimshade::ui {
 
 namespace {
 
-// The eight outer cells of the rectangle's three by three.
-std::array<QRectF, 8> cells(const QRectF &rect, const QMarginsF &border)
+// The eight outer cells of the rectangle's three by three. share: how much of each corner is shown, across and down.
+std::array<QRectF, 8> cells(const QRectF &rect, const QMarginsF &border, QSizeF share)
 {
-    const double share = std::min({1.0, rect.width() / std::max(1e-6, border.left() + border.right()),
-                                   rect.height() / std::max(1e-6, border.top() + border.bottom())});
-    const std::array xs{rect.left(), rect.left() + border.left() * share, rect.right() - border.right() * share,
-                        rect.right()};
-    const std::array ys{rect.top(), rect.top() + border.top() * share, rect.bottom() - border.bottom() * share,
-                        rect.bottom()};
-    std::array<QRectF, 8> result;
-    std::size_t next = 0;
-    for (std::size_t row = 0; row < 3; ++row) {
-        for (std::size_t column = 0; column < 3; ++column) {
-            if (row != 1 || column != 1)
-                result[next++] = QRectF(QPointF(xs[column], ys[row]), QPointF(xs[column + 1], ys[row + 1]));
-        }
-    }
+    const double left = rect.left() + border.left() * share.width();
+    const double right = rect.right() - border.right() * share.width();
+    const double top = rect.top() + border.top() * share.height();
+    const double bottom = rect.bottom() - border.bottom() * share.height();
+    const auto cell = [](double x, double y, double toX, double toY) { return QRectF(x, y, toX - x, toY - y); };
+    return {cell(rect.left(), rect.top(), left, top),   cell(left, rect.top(), right, top),
+            cell(right, rect.top(), rect.right(), top), cell(rect.left(), top, left, bottom),
+            cell(right, top, rect.right(), bottom),     cell(rect.left(), bottom, left, rect.bottom()),
+            cell(left, bottom, right, rect.bottom()),   cell(right, bottom, rect.right(), rect.bottom())};
+}
+
+// The middle of each source edge, for whatever share: one pixel is enough to stretch.
+std::array<QRectF, 8> sources(const QRectF &picture, const QMarginsF &border, QSizeF share)
+{
+    std::array<QRectF, 8> result = cells(picture, border, share);
+    const double x = picture.center().x();
+    const double y = picture.center().y();
+    for (const std::size_t edge : {std::size_t(1), std::size_t(6)})
+        result[edge] = QRectF(x, result[edge].y(), 1, result[edge].height());
+    for (const std::size_t edge : {std::size_t(3), std::size_t(4)})
+        result[edge] = QRectF(result[edge].x(), y, result[edge].width(), 1);
     return result;
 }
 
@@ -37,25 +44,30 @@ NinePatchNode::~NinePatchNode() = default;
 void NinePatchNode::setPicture(QQuickWindow *window, const QImage &picture, const QMarginsF &border)
 {
     std::unique_ptr<QSGTexture> texture(window->createTextureFromImage(picture));
-    const auto sources = cells(QRectF(QPointF(), QSizeF(picture.size())), border);
-    for (std::size_t i = 0; i < m_pieces.size(); ++i) {
-        if (!m_pieces[i]) {
-            m_pieces[i] = window->createImageNode();
-            m_pieces[i]->setFiltering(QSGTexture::Linear);
-            appendChildNode(m_pieces[i]);
+    for (QSGImageNode *&piece : m_pieces) {
+        if (!piece) {
+            piece = window->createImageNode();
+            piece->setFiltering(QSGTexture::Nearest);
+            appendChildNode(piece);
         }
-        m_pieces[i]->setTexture(texture.get());
-        m_pieces[i]->setSourceRect(sources[i]);
+        piece->setTexture(texture.get());
     }
     m_texture = std::move(texture);
+    m_picture = QRectF(QPointF(), QSizeF(picture.size()));
+    m_pictureBorder = border;
 }
 
 void NinePatchNode::setTarget(const QRectF &target, const QMarginsF &border)
 {
-    const auto targets = cells(target, border);
+    const QSizeF share(std::min(1.0, target.width() / std::max(1e-6, border.left() + border.right())),
+                       std::min(1.0, target.height() / std::max(1e-6, border.top() + border.bottom())));
+    const auto from = sources(m_picture, m_pictureBorder, share);
+    const auto to = cells(target, border, share);
     for (std::size_t i = 0; i < m_pieces.size(); ++i) {
-        if (m_pieces[i])
-            m_pieces[i]->setRect(targets[i]);
+        if (!m_pieces[i])
+            continue;
+        m_pieces[i]->setSourceRect(from[i]);
+        m_pieces[i]->setRect(to[i]);
     }
 }
 

@@ -21,13 +21,15 @@ public:
 
     // border: what of the picture are corners, in pixels.
     void setPicture(QQuickWindow *window, const QImage &picture, const QMarginsF &border);
-    // The corners are `border` points large; they shrink together when the target is smaller than two of them.
+    // The corners are `border` points large; of those that would overlap the outer parts are shown.
     void setTarget(const QRectF &target, const QMarginsF &border);
 
 private:
     static constexpr int kPieces = 8;
 
     std::unique_ptr<QSGTexture> m_texture;
+    QRectF m_picture; // pixels
+    QMarginsF m_pictureBorder;
     std::array<QSGImageNode *, kPieces> m_pieces{}; // owned by the tree
 };
 
