@@ -23,7 +23,6 @@ public:
 private:
     QString userFile() const;
     QString systemFile() const; // empty when there is none
-    std::expected<void, QString> write(const QByteArray &content) const;
 
     Places m_places;
 };

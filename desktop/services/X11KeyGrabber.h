@@ -1,15 +1,18 @@
 #pragma once
 #include "GlobalKeyGrabber.h"
 
+#include <QByteArray>
 #include <memory>
 
 namespace brimshade::desktop {
 
-// Grabs on the X server of DISPLAY, through a connection of its own: Command is Super, Option Alt. The state of Caps
-// Lock and Num Lock does not matter. Follows changes of the keyboard mapping.
+// Grabs on an X server, through a connection of its own: Command is Super (Mod4), Option Alt (Mod1). The state of
+// Caps Lock and Num Lock (Mod2) does not matter, a key that is held presses once, and a changed keyboard mapping is
+// followed. grab and release wait for one answer of the server. A lost connection ends all presses, silently.
 class X11KeyGrabber : public GlobalKeyGrabber {
 public:
-    static std::unique_ptr<X11KeyGrabber> create(); // null without an X server
+    // Of the DISPLAY where none is named; null when there is no server.
+    static std::unique_ptr<X11KeyGrabber> create(const QByteArray &display = {});
     ~X11KeyGrabber() override;
 
     void setPressed(std::function<void(KeyCombination)> pressed) override;

@@ -1,0 +1,17 @@
+#pragma once
+#include <QByteArray>
+#include <QString>
+
+namespace brimshade::desktop {
+
+// The autostart entry of a program, as desktop entry files are written.
+QByteArray autostartEntry(const QString &program);
+QByteArray hiddenAutostartEntry(); // in the user's folder: switches off the one of the system
+
+struct AutostartState {
+    bool isEnabled = false; // neither hidden nor switched off
+    QString tryExec; // empty when absent
+};
+AutostartState readAutostartEntry(const QByteArray &content);
+
+} // namespace brimshade::desktop

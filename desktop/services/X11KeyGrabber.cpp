@@ -1,0 +1,238 @@
+#include "X11KeyGrabber.h"
+
+#include "platform/HotkeyCenter.h"
+
+#include <QObject>
+#include <QSocketNotifier>
+#include <array>
+#include <cstdlib>
+#include <map>
+#include <utility>
+#include <vector>
+#include <xcb/xcb.h>
+
+namespace brimshade::desktop {
+
+namespace {
+
+template <class T> using Reply = std::unique_ptr<T, decltype([](void *reply) { std::free(reply); })>;
+
+using Keys = std::vector<xcb_grab_key_request_t>;
+
+// The Mac's virtual key codes of the combinations that can be chosen, as keysyms.
+constexpr std::array<std::pair<std::uint32_t, xcb_keysym_t>, 3> kKeysyms{{{45, 'n'}, {46, 'm'}, {49, ' '}}};
+
+constexpr std::array<std::pair<std::uint32_t, std::uint16_t>, 3> kModifiers{
+    {{platform::kCarbonCommand, XCB_MOD_MASK_4},
+     {platform::kCarbonOption, XCB_MOD_MASK_1},
+     {platform::kCarbonControl, XCB_MOD_MASK_CONTROL}}};
+
+constexpr std::uint16_t kNumLock = XCB_MOD_MASK_2;
+constexpr std::array<std::uint16_t, 4> kLocks{0, XCB_MOD_MASK_LOCK, kNumLock, XCB_MOD_MASK_LOCK | kNumLock};
+constexpr std::uint16_t kNoLocks =
+    XCB_MOD_MASK_SHIFT | XCB_MOD_MASK_CONTROL | XCB_MOD_MASK_1 | XCB_MOD_MASK_3 | XCB_MOD_MASK_4 | XCB_MOD_MASK_5;
+
+struct Key {
+    xcb_keycode_t code = 0; // 0: the keyboard has none
+    std::uint16_t modifiers = 0;
+    auto operator<=>(const Key &) const = default;
+};
+
+std::uint16_t x11Modifiers(std::uint32_t carbon)
+{
+    std::uint16_t mask = 0;
+    for (const auto &[bit, modifier] : kModifiers)
+        mask |= carbon & bit ? modifier : 0;
+    return mask;
+}
+
+} // namespace
+
+class X11KeyGrabber::Private {
+public:
+    explicit Private(xcb_connection_t *connection);
+    ~Private() { xcb_disconnect(m_connection); }
+    Q_DISABLE_COPY_MOVE(Private)
+
+    std::function<void(KeyCombination)> pressed;
+
+    bool grab(KeyCombination combination);
+    void release(KeyCombination combination);
+
+private:
+    Key keyOf(KeyCombination combination) const;
+    xcb_keycode_t keycodeOf(xcb_keysym_t keysym) const;
+    bool grabKey(Key key) const;
+    void releaseKey(Key key) const;
+    void readEvents();
+    void handle(const xcb_generic_event_t &event);
+    void keyPressed(const xcb_key_press_event_t &event);
+    void grabAgain();
+
+    xcb_connection_t *const m_connection;
+    const xcb_window_t m_root;
+    QSocketNotifier m_notifier;
+    std::map<KeyCombination, Key> m_grabbed; // a key without a code waits for another mapping
+    std::pair<xcb_keycode_t, xcb_timestamp_t> m_released; // the latest
+};
+
+X11KeyGrabber::Private::Private(xcb_connection_t *connection)
+    : m_connection(connection), m_root(xcb_setup_roots_iterator(xcb_get_setup(connection)).data->root),
+      m_notifier(xcb_get_file_descriptor(connection), QSocketNotifier::Read)
+{
+    QObject::connect(&m_notifier, &QSocketNotifier::activated, &m_notifier, [this] { readEvents(); });
+}
+
+bool X11KeyGrabber::Private::grab(KeyCombination combination)
+{
+    const Key key = keyOf(combination);
+    const bool granted = grabKey(key);
+    if (granted || !key.code)
+        m_grabbed.emplace(combination, key);
+    // What came while we waited for the answer is in the connection's queue; its descriptor does not tell.
+    QMetaObject::invokeMethod(
+        &m_notifier, [this] { readEvents(); }, Qt::QueuedConnection);
+    return granted;
+}
+
+void X11KeyGrabber::Private::release(KeyCombination combination)
+{
+    if (const auto found = m_grabbed.extract(combination))
+        releaseKey(found.mapped());
+}
+
+Key X11KeyGrabber::Private::keyOf(KeyCombination combination) const
+{
+    for (const auto &[code, keysym] : kKeysyms) {
+        if (code == combination.keyCode)
+            return {keycodeOf(keysym), x11Modifiers(combination.modifiers)};
+    }
+    return {};
+}
+
+// The first column counts most: other groups have the letter too on a keyboard of another script.
+xcb_keycode_t X11KeyGrabber::Private::keycodeOf(xcb_keysym_t keysym) const
+{
+    const xcb_setup_t *setup = xcb_get_setup(m_connection);
+    const int count = setup->max_keycode - setup->min_keycode + 1;
+    const auto cookie = xcb_get_keyboard_mapping(m_connection, setup->min_keycode, static_cast<std::uint8_t>(count));
+    const Reply<xcb_get_keyboard_mapping_reply_t> mapping(
+        xcb_get_keyboard_mapping_reply(m_connection, cookie, nullptr));
+    if (!mapping)
+        return 0;
+    const xcb_keysym_t *keysyms = xcb_get_keyboard_mapping_keysyms(mapping.get());
+    const int columns = mapping->keysyms_per_keycode;
+    for (int column = 0; column < columns; ++column) {
+        for (int row = 0; row < count; ++row) {
+            if (keysyms[row * columns + column] == keysym)
+                return static_cast<xcb_keycode_t>(setup->min_keycode + row);
+        }
+    }
+    return 0;
+}
+
+// False when another client has one of them; then none is kept.
+bool X11KeyGrabber::Private::grabKey(Key key) const
+{
+    if (!key.code)
+        return false;
+    std::array<xcb_void_cookie_t, kLocks.size()> cookies{};
+    for (std::size_t i = 0; i < kLocks.size(); ++i)
+        cookies[i] = xcb_grab_key_checked(m_connection, 0, m_root, key.modifiers | kLocks[i], key.code,
+                                          XCB_GRAB_MODE_ASYNC, XCB_GRAB_MODE_ASYNC);
+    bool granted = true;
+    for (const xcb_void_cookie_t cookie : cookies)
+        granted &= !Reply<xcb_generic_error_t>(xcb_request_check(m_connection, cookie));
+    if (!granted)
+        releaseKey(key);
+    return granted;
+}
+
+void X11KeyGrabber::Private::releaseKey(Key key) const
+{
+    if (!key.code)
+        return;
+    for (const std::uint16_t locks : kLocks)
+        xcb_ungrab_key(m_connection, key.code, m_root, key.modifiers | locks);
+    xcb_flush(m_connection);
+}
+
+void X11KeyGrabber::Private::readEvents()
+{
+    while (const Reply<xcb_generic_event_t> event{xcb_poll_for_event(m_connection)})
+        handle(*event);
+    if (xcb_connection_has_error(m_connection))
+        m_notifier.setEnabled(false);
+}
+
+void X11KeyGrabber::Private::handle(const xcb_generic_event_t &event)
+{
+    switch (event.response_type & 0x7f) { // the high bit says that a client sent it
+    case XCB_KEY_PRESS:
+        return keyPressed(reinterpret_cast<const xcb_key_press_event_t &>(event));
+    case XCB_KEY_RELEASE: {
+        const auto &release = reinterpret_cast<const xcb_key_release_event_t &>(event);
+        m_released = {release.detail, release.time};
+        return;
+    }
+    case XCB_MAPPING_NOTIFY:
+        return grabAgain();
+    default:
+        return;
+    }
+}
+
+void X11KeyGrabber::Private::keyPressed(const xcb_key_press_event_t &event)
+{
+    // Auto-repeat releases and presses at one and the same time.
+    if (std::pair(event.detail, event.time) == m_released)
+        return;
+    const Key key{event.detail, static_cast<std::uint16_t>(event.state & kNoLocks)};
+    for (const auto &[combination, grabbed] : m_grabbed) {
+        if (grabbed != key || !pressed)
+            continue;
+        const KeyCombination found = combination; // what it points into may be gone by then
+        return pressed(found);
+    }
+}
+
+void X11KeyGrabber::Private::grabAgain()
+{
+    for (const auto &[combination, key] : m_grabbed)
+        releaseKey(key);
+    for (auto &[combination, key] : m_grabbed) {
+        key = keyOf(combination);
+        if (!grabKey(key))
+            key.code = 0;
+    }
+}
+
+X11KeyGrabber::X11KeyGrabber(std::unique_ptr<Private> d) : m_d(std::move(d)) { }
+
+X11KeyGrabber::~X11KeyGrabber() = default;
+
+std::unique_ptr<X11KeyGrabber> X11KeyGrabber::create(const QByteArray &display)
+{
+    xcb_connection_t *connection = xcb_connect(display.isEmpty() ? nullptr : display.constData(), nullptr);
+    if (!xcb_connection_has_error(connection))
+        return std::unique_ptr<X11KeyGrabber>(new X11KeyGrabber(std::make_unique<Private>(connection)));
+    xcb_disconnect(connection);
+    return nullptr;
+}
+
+void X11KeyGrabber::setPressed(std::function<void(KeyCombination)> pressed)
+{
+    m_d->pressed = std::move(pressed);
+}
+
+bool X11KeyGrabber::grab(KeyCombination combination)
+{
+    return m_d->grab(combination);
+}
+
+void X11KeyGrabber::release(KeyCombination combination)
+{
+    m_d->release(combination);
+}
+
+} // namespace brimshade::desktop
