@@ -72,19 +72,19 @@ Item {
 
         Spinner {
             objectName: "itemSpinner"
-            visible: root.control === ItemRows.moving
+            visible: root.control === ItemRows.Moving
             color: root.palette.windowText
         }
         StyledText {
             objectName: "itemPinned"
-            visible: root.control === ItemRows.pinned
+            visible: root.control === ItemRows.Pinned
             text: qsTr("Pinned by macOS")
             size: 10
             color: root.palette.placeholderText
         }
         Switch {
             objectName: "itemSwitch"
-            visible: root.control === ItemRows.movable
+            visible: root.control === ItemRows.Movable
             text: qsTr("Visible")
             small: true
             enabled: root.switchEnabled

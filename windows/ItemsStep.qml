@@ -47,6 +47,7 @@ Item {
             id: grid
             x: (scroll.width - width) / 2
             y: 6
+            width: 5 * 96 + 4 * 12
             columns: 5
             columnSpacing: 12
             rowSpacing: 14

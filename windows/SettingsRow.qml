@@ -2,7 +2,8 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import Brimshade.Ui
 
-// One row of the form: a label, and a control at its trailing end that carries the label as its own name.
+// One row of the form: a label, and a control at its trailing end that carries the label as its own name. Without a
+// label the control leads.
 Item {
     id: root
 
@@ -25,7 +26,7 @@ Item {
         id: text
         x: 12
         anchors.verticalCenter: parent.verticalCenter
-        width: trailing.x - 12 - text.x
+        width: Math.max(0, trailing.x - 24)
         text: root.label
         color: root.palette.windowText
         wrapMode: Text.WordWrap
@@ -33,8 +34,7 @@ Item {
     }
     Item {
         id: trailing
-        anchors.right: parent.right
-        anchors.rightMargin: 12
+        x: root.label === "" ? 12 : root.width - width - 12
         anchors.verticalCenter: parent.verticalCenter
         width: childrenRect.width
         height: childrenRect.height

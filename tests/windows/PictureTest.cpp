@@ -19,13 +19,26 @@ TEST(Pictures, Setup)
 {
     Context context;
     context.model.setTrusted(false);
-    context.setExtras(someExtras());
     for (const double scale : {1.0, 2.0}) {
-        context.showSetup(scale).advance(2500);
+        const QString at = u"@%1x"_s.arg(scale);
+        context.setExtras(someExtras());
+        context.showSetup(scale).advance(1800);
         for (int step = 0; step < 5; ++step) {
             context.goTo(step);
-            keep(context, u"setup-%1@%2x"_s.arg(step).arg(scale));
+            keep(context, u"setup-%1%2"_s.arg(step).arg(at));
         }
+        context.goTo(2);
+        context.flow.toggle(u"relay"_s);
+        context.goTo(4);
+        keep(context, u"setup-4-pending"_s + at);
+        context.flow.toggle(u"relay"_s);
+        context.model.setTrusted(true);
+        context.goTo(1);
+        keep(context, u"setup-1-granted"_s + at);
+        context.model.setTrusted(false);
+        context.setExtras({});
+        context.goTo(2);
+        keep(context, u"setup-2-empty"_s + at);
         context.goTo(0);
     }
 }
@@ -33,10 +46,28 @@ TEST(Pictures, Setup)
 TEST(Pictures, Settings)
 {
     Context context;
-    context.setExtras(someExtras());
     for (const double scale : {1.0, 2.0}) {
+        const QString at = u"@%1x"_s.arg(scale);
+        context.setExtras(someExtras());
         context.showSettings(scale);
-        keep(context, u"settings-top@%1x"_s.arg(scale));
+        keep(context, u"settings-top"_s + at);
+        context.model.setMovingID(u"relay"_s);
+        context.model.setMessage(
+            u"Relay: macOS didn't accept the move. Try again, or Cmd-drag it across the divider."_s);
+        context.scene().advance(500);
+        keep(context, u"settings-message"_s + at);
+        context.model.setMovingID({});
+        context.click(u"shortcutPicker"_s);
+        keep(context, u"settings-picker"_s + at);
+        context.key(Qt::Key_Escape);
+        context.model.setMessage({});
+        context.key(Qt::Key_Tab);
+        for (int i = 0; i < 3; ++i)
+            context.key(Qt::Key_Tab);
+        keep(context, u"settings-bottom"_s + at);
+        context.setExtras({});
+        context.scene().advance(500);
+        keep(context, u"settings-empty"_s + at);
     }
 }
 

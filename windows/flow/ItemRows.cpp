@@ -65,8 +65,8 @@ void ItemRows::setInMenuBar(const QString &id, bool inMenuBar)
 ItemRows::Control ItemRows::control(const MenuExtra &extra) const
 {
     if (m_model && m_model->movingID() == extra.id)
-        return moving;
-    return extra.canMove ? movable : pinned;
+        return Moving;
+    return extra.canMove ? Movable : Pinned;
 }
 
 } // namespace brimshade::windows

@@ -13,8 +13,8 @@ class ItemRows : public ExtraRows {
     Q_PROPERTY(brimshade::model::NotchModel *model READ model WRITE setModel NOTIFY modelChanged REQUIRED)
 
 public:
-    // movable: a switch. It is on while the item is in the menu bar and disabled while any item moves.
-    enum Control { moving, pinned, movable };
+    // Movable: a switch. It is on while the item is in the menu bar and disabled while any item moves.
+    enum Control { Moving, Pinned, Movable };
     Q_ENUM(Control)
     enum OwnRole { ControlRole = FirstOwnRole, SwitchEnabledRole, InMenuBarRole };
 

@@ -1,0 +1,348 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="de" sourcelanguage="en">
+<context>
+    <name>BottomBar</name>
+    <message>
+        <source>Get started</source>
+        <translation>Los geht’s</translation>
+    </message>
+    <message>
+        <source>Skip for now</source>
+        <translation>Vorerst überspringen</translation>
+    </message>
+    <message>
+        <source>Finish</source>
+        <translation>Fertig</translation>
+    </message>
+    <message>
+        <source>Continue</source>
+        <translation>Weiter</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>Zurück</translation>
+    </message>
+</context>
+<context>
+    <name>ChoiceTile</name>
+    <message>
+        <source>Pinned by macOS</source>
+        <translation>Von macOS fixiert</translation>
+    </message>
+    <message>
+        <source>Tucked into the notch. Click to keep it in the menu bar.</source>
+        <translation>In der Notch verstaut. Klicken, um es in der Menüleiste zu behalten.</translation>
+    </message>
+    <message>
+        <source>In the menu bar. Click to tuck it away.</source>
+        <translation>In der Menüleiste. Klicken, um es zu verstauen.</translation>
+    </message>
+</context>
+<context>
+    <name>FinalStep</name>
+    <message>
+        <source>Almost there</source>
+        <translation>Fast geschafft</translation>
+    </message>
+    <message>
+        <source>A couple of last details.</source>
+        <translation>Noch ein paar letzte Details.</translation>
+    </message>
+    <message>
+        <source>Launch at login</source>
+        <translation>Bei der Anmeldung starten</translation>
+    </message>
+    <message>
+        <source>Start Brimshade with your Mac</source>
+        <translation>Brimshade zusammen mit dem Mac starten</translation>
+    </message>
+    <message>
+        <source>Show every item in the panel</source>
+        <translation>Alle Objekte im Panel zeigen</translation>
+    </message>
+    <message>
+        <source>Not only the hidden ones</source>
+        <translation>Nicht nur die ausgeblendeten</translation>
+    </message>
+    <message numerus="yes">
+        <source>Finishing moves %n item(s) for you. Your pointer will jump for a few seconds, so hands off the mouse.</source>
+        <translation>
+            <numerusform>Zum Abschluss wird %n Objekt für dich verschoben. Der Zeiger springt dabei einige Sekunden lang, also Hände weg von der Maus.</numerusform>
+            <numerusform>Zum Abschluss werden %n Objekte für dich verschoben. Der Zeiger springt dabei einige Sekunden lang, also Hände weg von der Maus.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>GearButton</name>
+    <message>
+        <source>Settings</source>
+        <translation>Einstellungen</translation>
+    </message>
+</context>
+<context>
+    <name>ItemRow</name>
+    <message>
+        <source>Pinned by macOS</source>
+        <translation>Von macOS fixiert</translation>
+    </message>
+    <message>
+        <source>Visible</source>
+        <translation>Sichtbar</translation>
+    </message>
+</context>
+<context>
+    <name>ItemsSection</name>
+    <message>
+        <source>Menu bar items</source>
+        <translation>Objekte der Menüleiste</translation>
+    </message>
+    <message>
+        <source>When on, the Brimshade icon widens up to the notch and everything to its left is tucked away into the notch. Switching an item does a quick Cmd-drag across the Brimshade icon for you, so the pointer jumps for a moment. You can also Cmd-drag items across it yourself.</source>
+        <translation>Wenn aktiviert, wird das Brimshade-Symbol bis zur Notch verbreitert und alles links davon in der Notch verstaut. Beim Umschalten eines Objekts zieht Brimshade es kurz mit gedrückter Befehlstaste über das Brimshade-Symbol, deshalb springt der Zeiger für einen Moment. Du kannst Objekte auch selbst mit gedrückter Befehlstaste darüberziehen.</translation>
+    </message>
+    <message>
+        <source>Tuck away items left of Brimshade</source>
+        <translation>Objekte links von Brimshade verstauen</translation>
+    </message>
+    <message>
+        <source>Reading your menu bar…</source>
+        <translation>Menüleiste wird gelesen …</translation>
+    </message>
+    <message>
+        <source>Allow Accessibility access to manage your menu bar.</source>
+        <translation>Erlaube den Zugriff auf Bedienungshilfen, um deine Menüleiste zu verwalten.</translation>
+    </message>
+</context>
+<context>
+    <name>ItemsStep</name>
+    <message>
+        <source>What stays in the menu bar?</source>
+        <translation>Was bleibt in der Menüleiste?</translation>
+    </message>
+    <message>
+        <source>Lit items stay in the menu bar. Dimmed ones are tucked into the notch, one click away.</source>
+        <translation>Helle Objekte bleiben in der Menüleiste. Gedimmte werden in der Notch verstaut, nur einen Klick entfernt.</translation>
+    </message>
+    <message>
+        <source>Reading your menu bar…</source>
+        <translation>Menüleiste wird gelesen …</translation>
+    </message>
+    <message>
+        <source>Allow Accessibility first to see your items.</source>
+        <translation>Erlaube zuerst die Bedienungshilfen, um deine Objekte zu sehen.</translation>
+    </message>
+    <message>
+        <source>%1 in the menu bar  ·  %2 in the notch</source>
+        <translation>%1 in der Menüleiste  ·  %2 in der Notch</translation>
+    </message>
+</context>
+<context>
+    <name>MessageRow</name>
+    <message>
+        <source>Dismiss</source>
+        <translation>Ausblenden</translation>
+    </message>
+</context>
+<context>
+    <name>OpeningSection</name>
+    <message>
+        <source>Opening</source>
+        <translation>Öffnen</translation>
+    </message>
+    <message>
+        <source>Open when the pointer rests on the notch</source>
+        <translation>Öffnen, wenn der Zeiger auf der Notch ruht</translation>
+    </message>
+    <message>
+        <source>Keyboard shortcut</source>
+        <translation>Tastaturkurzbefehl</translation>
+    </message>
+</context>
+<context>
+    <name>OpeningStep</name>
+    <message>
+        <source>How do you want to open it?</source>
+        <translation>Wie möchtest du es öffnen?</translation>
+    </message>
+    <message>
+        <source>The icon right of the notch always works. Add a shortcut or a hover if you like.</source>
+        <translation>Das Symbol rechts der Notch funktioniert immer. Wenn du magst, kommt ein Kurzbefehl oder das Zeigen hinzu.</translation>
+    </message>
+    <message>
+        <source>Hover the notch</source>
+        <translation>Auf die Notch zeigen</translation>
+    </message>
+    <message>
+        <source>Rest the pointer on the notch to open Brimshade</source>
+        <translation>Zeiger auf der Notch ruhen lassen, um Brimshade zu öffnen</translation>
+    </message>
+    <message>
+        <source>Keyboard shortcut</source>
+        <translation>Tastaturkurzbefehl</translation>
+    </message>
+    <message>
+        <source>Open from anywhere</source>
+        <translation>Von überall öffnen</translation>
+    </message>
+</context>
+<context>
+    <name>PanelHeader</name>
+    <message>
+        <source>%1 hidden</source>
+        <translation>%1 ausgeblendet</translation>
+    </message>
+    <message>
+        <source>%1 items</source>
+        <translation>%1 Objekte</translation>
+    </message>
+</context>
+<context>
+    <name>PermissionCard</name>
+    <message>
+        <source>One permission, then you&apos;re set</source>
+        <translation>Eine Erlaubnis, dann kann es losgehen</translation>
+    </message>
+    <message>
+        <source>Brimshade reads your menu bar through Accessibility.
+Nothing leaves your Mac.</source>
+        <translation>Brimshade liest deine Menüleiste über die Bedienungshilfen.
+Nichts verlässt deinen Mac.</translation>
+    </message>
+    <message>
+        <source>Open Accessibility Settings</source>
+        <translation>Bedienungshilfen-Einstellungen öffnen</translation>
+    </message>
+</context>
+<context>
+    <name>PermissionStep</name>
+    <message>
+        <source>Allow Accessibility</source>
+        <translation>Bedienungshilfen erlauben</translation>
+    </message>
+    <message>
+        <source>Brimshade reads your menu bar items and opens them through Accessibility.
+Nothing leaves your Mac.</source>
+        <translation>Brimshade liest und öffnet die Objekte deiner Menüleiste über die Bedienungshilfen.
+Nichts verlässt deinen Mac.</translation>
+    </message>
+    <message>
+        <source>Access granted</source>
+        <translation>Zugriff erlaubt</translation>
+    </message>
+    <message>
+        <source>Waiting for access…</source>
+        <translation>Warten auf Zugriff …</translation>
+    </message>
+    <message>
+        <source>Open Accessibility Settings</source>
+        <translation>Bedienungshilfen-Einstellungen öffnen</translation>
+    </message>
+    <message>
+        <source>Already listed but this doesn&apos;t turn green? Select Brimshade, remove it with –, then allow it again.</source>
+        <translation>Schon in der Liste, aber hier wird nichts grün? Wähle Brimshade aus, entferne es mit – und erlaube es dann erneut.</translation>
+    </message>
+</context>
+<context>
+    <name>Sections</name>
+    <message>
+        <source>Behind the notch</source>
+        <translation>Hinter der Notch</translation>
+    </message>
+    <message>
+        <source>In the menu bar</source>
+        <translation>In der Menüleiste</translation>
+    </message>
+</context>
+<context>
+    <name>SettingsView</name>
+    <message>
+        <source>Panel</source>
+        <translation>Panel</translation>
+    </message>
+    <message>
+        <source>Also show items already in the menu bar</source>
+        <translation>Auch Objekte zeigen, die in der Menüleiste sind</translation>
+    </message>
+    <message>
+        <source>General</source>
+        <translation>Allgemein</translation>
+    </message>
+    <message>
+        <source>Launch at login</source>
+        <translation>Bei der Anmeldung starten</translation>
+    </message>
+    <message>
+        <source>Run Setup Again…</source>
+        <translation>Einrichtung erneut starten …</translation>
+    </message>
+</context>
+<context>
+    <name>Spinner</name>
+    <message>
+        <source>Working</source>
+        <translation>In Arbeit</translation>
+    </message>
+</context>
+<context>
+    <name>StepDots</name>
+    <message>
+        <source>Step %1 of %2</source>
+        <translation>Schritt %1 von %2</translation>
+    </message>
+</context>
+<context>
+    <name>Tile</name>
+    <message>
+        <source>Open</source>
+        <translation>Öffnen</translation>
+    </message>
+    <message>
+        <source>Show in Menu Bar</source>
+        <translation>In der Menüleiste zeigen</translation>
+    </message>
+    <message>
+        <source>Hide from Menu Bar</source>
+        <translation>Aus der Menüleiste ausblenden</translation>
+    </message>
+</context>
+<context>
+    <name>WelcomeStep</name>
+    <message>
+        <source>Your whole menu bar, one click away</source>
+        <translation>Deine ganze Menüleiste, einen Klick entfernt</translation>
+    </message>
+    <message>
+        <source>The notch hides menu bar items when there&apos;s no room.
+Brimshade opens the notch and shows every one of them.</source>
+        <translation>Die Notch verdeckt Objekte der Menüleiste, wenn der Platz nicht reicht.
+Brimshade öffnet die Notch und zeigt sie alle.</translation>
+    </message>
+</context>
+<context>
+    <name>brimshade::panel::PanelState</name>
+    <message>
+        <source>No menu bar items found. If you just allowed Accessibility, quit and reopen Brimshade.</source>
+        <translation>Keine Objekte in der Menüleiste gefunden. Wenn du die Bedienungshilfen gerade erst erlaubt hast, beende Brimshade und öffne es erneut.</translation>
+    </message>
+    <message>
+        <source>Nothing is hidden. Everything fits in your menu bar.</source>
+        <translation>Nichts ist ausgeblendet. Alles passt in deine Menüleiste.</translation>
+    </message>
+    <message>
+        <source>No matches for “%1”</source>
+        <translation>Keine Treffer für „%1“</translation>
+    </message>
+    <message>
+        <source>Type to search  ·  ↩ to open  ·  right-click to hide or show  ·  esc to close</source>
+        <translation>Tippen: suchen  ·  ↩: öffnen  ·  Rechtsklick: aus- oder einblenden  ·  esc: schließen</translation>
+    </message>
+</context>
+<context>
+    <name>brimshade::windows::ShortcutChoice</name>
+    <message>
+        <source>None</source>
+        <translation>Ohne</translation>
+    </message>
+</context>
+</TS>

@@ -1,0 +1,121 @@
+#include "windows/flow/ItemRows.h"
+#include "Fakes.h"
+#include "model/NotchModel.h"
+#include "windows/flow/ShortcutChoice.h"
+
+#include <gtest/gtest.h>
+
+namespace brimshade::windows {
+namespace {
+
+using namespace Qt::StringLiterals;
+using menubar::MenuExtra;
+
+class Rows : public testing::Test {
+protected:
+    FakeDefaults defaults;
+    FakeLoginItems loginItems;
+    model::NotchModel model{defaults, loginItems};
+    ItemRows rows;
+    QStringList log;
+
+    void SetUp() override
+    {
+        MenuExtra relay;
+        relay.id = relay.name = relay.detail = u"relay"_s;
+        MenuExtra ledger = relay;
+        ledger.id = u"ledger"_s;
+        ledger.detail = u"balance"_s;
+        ledger.isHidden = true;
+        MenuExtra clock = relay;
+        clock.id = u"clock"_s;
+        clock.symbol = u"clock.fill"_s;
+        clock.canMove = false;
+        model.setExtras({relay, ledger, clock});
+        rows.setModel(&model);
+        model.onSettingsChanged = [this] { log << (model.dividerEnabled() ? u"divider on"_s : u"divider off"_s); };
+        model.onSetHidden = [this](const MenuExtra &extra, bool hidden) {
+            log << extra.id + (hidden ? u" hide"_s : u" show"_s);
+        };
+    }
+    QVariant at(int row, int role) const { return rows.data(rows.index(row), role); }
+    QString control(int row) const
+    {
+        switch (at(row, ItemRows::ControlRole).value<ItemRows::Control>()) {
+        case ItemRows::Moving:
+            return u"spinner"_s;
+        case ItemRows::Pinned:
+            return u"pinned"_s;
+        case ItemRows::Movable:
+            return (at(row, ItemRows::InMenuBarRole).toBool() ? u"on"_s : u"off"_s)
+                + (at(row, ItemRows::SwitchEnabledRole).toBool() ? u""_s : u" disabled"_s);
+        }
+        return {};
+    }
+};
+
+TEST_F(Rows, ShowTheControlThatFits)
+{
+    struct Case {
+        QString moving;
+        QStringList controls;
+    };
+    const Case cases[]{
+        {{}, {u"on"_s, u"off"_s, u"pinned"_s}},
+        {u"ledger"_s, {u"on disabled"_s, u"spinner"_s, u"pinned"_s}},
+        {u"clock"_s, {u"on disabled"_s, u"off disabled"_s, u"spinner"_s}},
+        {u"onboarding"_s, {u"on disabled"_s, u"off disabled"_s, u"pinned"_s}},
+        {{}, {u"on"_s, u"off"_s, u"pinned"_s}},
+    };
+    int told = 0;
+    QObject::connect(&rows, &ItemRows::dataChanged, &rows, [&told] { ++told; });
+    for (const Case &each : cases) {
+        model.setMovingID(each.moving);
+        EXPECT_EQ((QStringList{control(0), control(1), control(2)}), each.controls) << qPrintable(each.moving);
+    }
+    EXPECT_GE(told, 4) << "views must hear of each change";
+}
+
+TEST_F(Rows, NameADetailOnlyWhereItSaysMoreAndASymbolAlways)
+{
+    EXPECT_EQ(at(0, ItemRows::DetailRole), QString());
+    EXPECT_EQ(at(1, ItemRows::DetailRole), u"balance"_s);
+    EXPECT_EQ(at(0, ItemRows::SymbolRole), u"circle"_s);
+    EXPECT_EQ(at(2, ItemRows::SymbolRole), u"clock.fill"_s);
+}
+
+TEST_F(Rows, TurnTheDividerOnBeforeTheyAskForAMove)
+{
+    rows.setInMenuBar(u"relay"_s, false);
+    rows.setInMenuBar(u"ledger"_s, true);
+    rows.setInMenuBar(u"gone"_s, true);
+    EXPECT_EQ(log, (QStringList{u"divider on"_s, u"relay hide"_s, u"divider on"_s, u"ledger show"_s}));
+    EXPECT_EQ(control(0), u"on"_s) << "the row waits for the scan that follows the move";
+}
+
+// Applying the setting may scan and replace the rows while the request is under way.
+TEST_F(Rows, AskForTheItemTheyShowedEvenIfItVanishesMeanwhile)
+{
+    model.onSettingsChanged = [this] { model.setExtras({}); };
+    rows.setInMenuBar(u"relay"_s, false);
+    EXPECT_EQ(log, QStringList{u"relay hide"_s});
+}
+
+TEST_F(Rows, ShortcutsAreChosenByIndex)
+{
+    ShortcutChoice choice;
+    choice.setModel(&model);
+    EXPECT_EQ(choice.titles(), (QStringList{u"None"_s, u"⌥⌘N"_s, u"⌃⌥Space"_s, u"⌃⌥⌘M"_s}));
+    EXPECT_EQ(choice.index(), 0);
+    choice.choose(2);
+    EXPECT_EQ(model.shortcut(), model::Shortcut::controlOptionSpace);
+    EXPECT_EQ(choice.index(), 2);
+    choice.choose(4);
+    choice.choose(-1);
+    EXPECT_EQ(choice.index(), 2);
+    choice.choose(0);
+    EXPECT_EQ(defaults.stringForKey(u"shortcut"_s), u"none"_s);
+}
+
+} // namespace
+} // namespace brimshade::windows
