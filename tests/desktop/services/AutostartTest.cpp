@@ -1,0 +1,134 @@
+#include "desktop/services/AutostartEntry.h"
+#include "desktop/services/AutostartLoginItem.h"
+#include "desktop/services/ScriptedLoginItem.h"
+
+#include <QDir>
+#include <QFile>
+#include <QProcess>
+#include <QTemporaryDir>
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+namespace brimshade::desktop {
+namespace {
+
+using platform::LoginItemStatus;
+using namespace Qt::StringLiterals;
+
+class AutostartTest : public testing::Test {
+protected:
+    AutostartTest() { write(program, "#!/bin/sh\n", true); }
+
+    void write(const QString &path, const QByteArray &content, bool isProgram = false)
+    {
+        QDir().mkpath(QFileInfo(path).path());
+        QFile file(path);
+        ASSERT_TRUE(file.open(QIODevice::WriteOnly)) << qPrintable(path);
+        file.write(content);
+        file.setPermissions(file.permissions().setFlag(QFile::ExeUser, isProgram));
+    }
+    QByteArray entry(const QByteArray &more) const
+    {
+        return "[Desktop Entry]\nType=Application\nName=B\nExec=b\n" + more;
+    }
+    void expectValid(const QString &path)
+    {
+        QProcess validator;
+        validator.start(u"desktop-file-validate"_s, {u"--no-hints"_s, path});
+        ASSERT_TRUE(validator.waitForFinished());
+        EXPECT_EQ(validator.exitCode(), 0) << validator.readAllStandardOutput().constData();
+        EXPECT_EQ(validator.readAllStandardOutput(), "");
+    }
+
+    QTemporaryDir folder;
+    QString program = folder.filePath(u"bin/we ird \"$`%\\name"_s);
+    QString userFile = folder.filePath(u"user/autostart/org.brimshade.Brimshade.desktop"_s);
+    QString systemFile = folder.filePath(u"system/autostart/org.brimshade.Brimshade.desktop"_s);
+    AutostartLoginItem item{{.userFolder = folder.filePath(u"user/autostart"_s),
+                             .systemFolders = {folder.filePath(u"none"_s), folder.filePath(u"system/autostart"_s)},
+                             .program = program}};
+};
+
+TEST_F(AutostartTest, RegistersAndUnregistersTheProgram)
+{
+    EXPECT_EQ(item.status(), LoginItemStatus::notRegistered);
+    EXPECT_TRUE(item.unregisterMainApp()); // nothing to do
+    ASSERT_TRUE(item.registerMainApp());
+    EXPECT_EQ(item.status(), LoginItemStatus::enabled);
+    expectValid(userFile);
+    QFile::remove(program);
+    EXPECT_EQ(item.status(), LoginItemStatus::notFound); // the program has gone
+    ASSERT_TRUE(item.unregisterMainApp());
+    EXPECT_EQ(item.status(), LoginItemStatus::notRegistered);
+    EXPECT_FALSE(QFile::exists(userFile));
+}
+
+TEST_F(AutostartTest, AnEntryOfTheSystemIsOverruledByTheUsers)
+{
+    write(systemFile, entry({}));
+    EXPECT_EQ(item.status(), LoginItemStatus::enabled);
+    ASSERT_TRUE(item.unregisterMainApp());
+    EXPECT_EQ(item.status(), LoginItemStatus::notRegistered);
+    expectValid(userFile);
+    EXPECT_TRUE(QFile::exists(systemFile));
+    ASSERT_TRUE(item.registerMainApp());
+    EXPECT_EQ(item.status(), LoginItemStatus::enabled);
+}
+
+TEST_F(AutostartTest, ReadsEntriesOfOthers)
+{
+    struct Case {
+        QByteArray content;
+        LoginItemStatus status;
+    };
+    for (const Case &each :
+         {Case{entry("TryExec=sh\n"), LoginItemStatus::enabled},
+          Case{entry("TryExec=/bin/sh\n"), LoginItemStatus::enabled},
+          Case{entry("TryExec=no-such-program-here\n"), LoginItemStatus::notFound},
+          Case{entry("TryExec=/etc/passwd\n"), LoginItemStatus::notFound},
+          Case{entry("Hidden=true\n"), LoginItemStatus::notRegistered},
+          Case{entry("X-GNOME-Autostart-enabled=false\n"), LoginItemStatus::notRegistered},
+          Case{entry("[Desktop Action x]\nHidden=true\n"), LoginItemStatus::enabled},
+          Case{entry("# Hidden=true\n Hidden = false\n"), LoginItemStatus::enabled},
+          Case{"", LoginItemStatus::notRegistered}, Case{QByteArray(100'000, '['), LoginItemStatus::notRegistered}}) {
+        write(userFile, each.content);
+        EXPECT_EQ(item.status(), each.status) << each.content.left(200).constData();
+    }
+}
+
+TEST_F(AutostartTest, FailuresAreTheSystemsWords)
+{
+    write(folder.filePath(u"user"_s), "in the way");
+    EXPECT_EQ(item.registerMainApp().error(), u"Not a directory"_s);
+    EXPECT_EQ(item.status(), LoginItemStatus::notRegistered);
+}
+
+// A shell undoes the quoting of an argument in the same way, once that of the string and the percent signs is undone.
+TEST_F(AutostartTest, ExecNamesTheProgramWhateverItsName)
+{
+    ASSERT_TRUE(item.registerMainApp());
+    QFile file(userFile);
+    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+    QString exec = QString::fromUtf8(file.readAll()).section(u"\nExec="_s, 1).section(u'\n', 0, 0);
+    exec.replace(u"\\\\"_s, u"\\"_s).replace(u"%%"_s, u"%"_s);
+    QProcess shell;
+    shell.start(u"sh"_s, {u"-c"_s, u"printf %s "_s + exec});
+    ASSERT_TRUE(shell.waitForFinished());
+    EXPECT_EQ(QString::fromUtf8(shell.readAllStandardOutput()), program);
+}
+
+TEST(ScriptedLoginItemTest, AnswersAsTold)
+{
+    ScriptedLoginItem item;
+    EXPECT_TRUE(item.registerMainApp());
+    EXPECT_EQ(item.status(), LoginItemStatus::enabled);
+    item.answer(LoginItemStatus::requiresApproval, u"denied"_s);
+    EXPECT_EQ(item.unregisterMainApp().error(), u"denied"_s);
+    EXPECT_EQ(item.status(), LoginItemStatus::requiresApproval); // a failure changes nothing
+    item.answer(LoginItemStatus::enabled, std::nullopt);
+    EXPECT_TRUE(item.unregisterMainApp());
+    EXPECT_EQ(item.status(), LoginItemStatus::notRegistered);
+}
+
+} // namespace
+} // namespace brimshade::desktop

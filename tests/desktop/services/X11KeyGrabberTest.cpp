@@ -1,0 +1,142 @@
+// Against a real X server, started for the test, with keys pressed by another client.
+#include "desktop/services/X11KeyGrabber.h"
+#include "platform/HotkeyCenter.h"
+
+#include <QCoreApplication>
+#include <QEventLoop>
+#include <QProcess>
+#include <QProcessEnvironment>
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+#include <memory>
+#include <xcb/xcb.h>
+
+namespace brimshade::desktop {
+namespace {
+
+using testing::ElementsAre;
+using namespace Qt::StringLiterals;
+
+constexpr KeyCombination kOptionCommandN{45, platform::kCarbonOption | platform::kCarbonCommand};
+constexpr KeyCombination kControlOptionSpace{49, platform::kCarbonControl | platform::kCarbonOption};
+constexpr KeyCombination kControlOptionCommandM{46, platform::kCarbonControl | kOptionCommandN.modifiers};
+
+class X11KeyGrabberTest : public testing::Test {
+protected:
+    void SetUp() override
+    {
+        server.setProgram(u"Xvfb"_s);
+        server.setArguments({u"-displayfd"_s, u"1"_s, u"-screen"_s, u"0"_s, u"640x480x24"_s, u"-nolisten"_s, u"tcp"_s});
+        server.start();
+        ASSERT_TRUE(server.waitForReadyRead()) << "Xvfb: " << qPrintable(server.errorString());
+        display = ":" + server.readLine().trimmed();
+        grabber = X11KeyGrabber::create(display);
+        ASSERT_TRUE(grabber);
+        grabber->setPressed([this](KeyCombination combination) { pressed.push_back(combination); });
+    }
+    void TearDown() override
+    {
+        grabber.reset();
+        server.terminate();
+        server.waitForFinished();
+    }
+
+    void xdotool(const QStringList &arguments)
+    {
+        QProcess tool;
+        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+        environment.insert(u"DISPLAY"_s, QString::fromLatin1(display));
+        tool.setProcessEnvironment(environment);
+        tool.start(u"xdotool"_s, arguments);
+        ASSERT_TRUE(tool.waitForFinished());
+        ASSERT_EQ(tool.exitCode(), 0) << tool.readAllStandardError().constData();
+    }
+    // Presses the keys and then a combination that is known to come: everything before it has come too.
+    std::vector<KeyCombination> press(const QStringList &keys)
+    {
+        pressed.clear();
+        xdotool(QStringList{u"key"_s} + keys + QStringList{u"ctrl+alt+space"_s});
+        while (pressed.empty() || pressed.back() != kControlOptionSpace)
+            QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+        pressed.pop_back();
+        return pressed;
+    }
+    // Gives the key of one letter the other one, and the other way round, as a keyboard layout would.
+    void swapKeys(xcb_keysym_t a, xcb_keysym_t b);
+
+    QProcess server;
+    QByteArray display;
+    std::unique_ptr<X11KeyGrabber> grabber;
+    std::vector<KeyCombination> pressed;
+};
+
+void X11KeyGrabberTest::swapKeys(xcb_keysym_t a, xcb_keysym_t b)
+{
+    xcb_connection_t *connection = xcb_connect(display.constData(), nullptr);
+    const xcb_setup_t *setup = xcb_get_setup(connection);
+    const auto count = static_cast<std::uint8_t>(setup->max_keycode - setup->min_keycode + 1);
+    xcb_get_keyboard_mapping_reply_t *mapping = xcb_get_keyboard_mapping_reply(
+        connection, xcb_get_keyboard_mapping(connection, setup->min_keycode, count), nullptr);
+    xcb_keysym_t *keysyms = xcb_get_keyboard_mapping_keysyms(mapping);
+    for (int i = 0; i < count * mapping->keysyms_per_keycode; ++i) {
+        if (keysyms[i] == a || keysyms[i] == b)
+            keysyms[i] = keysyms[i] == a ? b : a;
+    }
+    const xcb_void_cookie_t change = xcb_change_keyboard_mapping_checked(connection, count, setup->min_keycode,
+                                                                         mapping->keysyms_per_keycode, keysyms);
+    EXPECT_EQ(xcb_request_check(connection, change), nullptr);
+    std::free(mapping);
+    xcb_disconnect(connection);
+}
+
+TEST_F(X11KeyGrabberTest, TellsWhichCombinationWasPressed)
+{
+    for (const KeyCombination &each : {kOptionCommandN, kControlOptionSpace, kControlOptionCommandM})
+        EXPECT_TRUE(grabber->grab(each));
+    EXPECT_FALSE(grabber->grab({0, platform::kCarbonCommand})); // no key that can be chosen
+
+    EXPECT_THAT(press({u"super+alt+n"_s, u"super+alt+ctrl+m"_s}), ElementsAre(kOptionCommandN, kControlOptionCommandM));
+    EXPECT_THAT(press({u"n"_s, u"super+n"_s, u"super+alt+m"_s, u"super+alt+shift+n"_s}), ElementsAre());
+    // Neither lock is a modifier of ours.
+    EXPECT_THAT(press({u"Num_Lock"_s, u"super+alt+n"_s}), ElementsAre(kOptionCommandN));
+    EXPECT_THAT(press({u"Caps_Lock"_s, u"super+alt+n"_s}), ElementsAre(kOptionCommandN));
+
+    grabber->release(kOptionCommandN);
+    EXPECT_THAT(press({u"super+alt+n"_s}), ElementsAre());
+}
+
+TEST_F(X11KeyGrabberTest, ATakenCombinationIsRefusedAndFreedWithItsOwner)
+{
+    auto other = X11KeyGrabber::create(display);
+    EXPECT_TRUE(other->grab(kOptionCommandN));
+    EXPECT_FALSE(grabber->grab(kOptionCommandN));
+    other->release(kOptionCommandN);
+    EXPECT_TRUE(grabber->grab(kOptionCommandN));
+    EXPECT_FALSE(other->grab(kOptionCommandN));
+}
+
+TEST_F(X11KeyGrabberTest, FollowsTheKeyboardMapping)
+{
+    EXPECT_TRUE(grabber->grab(kOptionCommandN));
+    EXPECT_TRUE(grabber->grab(kControlOptionSpace));
+    swapKeys('n', 'm');
+    // The answer to a request of ours comes after the notice: the grab below has seen the new mapping.
+    EXPECT_TRUE(grabber->grab(kControlOptionCommandM));
+    press({});
+    EXPECT_THAT(press({u"super+alt+n"_s, u"super+alt+m"_s}), ElementsAre(kOptionCommandN));
+    EXPECT_THAT(press({u"super+alt+ctrl+m"_s}), ElementsAre(kControlOptionCommandM));
+}
+
+TEST_F(X11KeyGrabberTest, AServerThatEndsIsBorne)
+{
+    EXPECT_TRUE(grabber->grab(kOptionCommandN));
+    server.kill();
+    ASSERT_TRUE(server.waitForFinished());
+    QCoreApplication::processEvents();
+    EXPECT_FALSE(grabber->grab(kControlOptionSpace));
+    grabber->release(kOptionCommandN);
+    EXPECT_FALSE(X11KeyGrabber::create(display));
+}
+
+} // namespace
+} // namespace brimshade::desktop
