@@ -32,7 +32,8 @@ protected:
     // Lets messages come and time pass until the condition holds; ctest's time limit ends one that never does.
     template <typename Condition> void waitUntil(const Condition &condition)
     {
-        for (m_dispatch.advance(0.02); !condition(); m_dispatch.advance(0.02))
+        constexpr double step = 0.25; // more than any delay here, the bar's layout included
+        for (m_dispatch.advance(step); !condition(); m_dispatch.advance(step))
             QCoreApplication::processEvents(QEventLoop::AllEvents | QEventLoop::WaitForMoreEvents);
     }
 
