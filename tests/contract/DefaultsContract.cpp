@@ -1,0 +1,59 @@
+#include "Implementations.h"
+
+using namespace brimshade::platform;
+using namespace Qt::StringLiterals;
+
+namespace brimshade::contract {
+namespace {
+
+class DefaultsContract : public Contract { };
+
+TEST_P(DefaultsContract, TellsTypesApartAndWritesAreVisibleAtOnce)
+{
+    UserDefaults &defaults = platform.userDefaults;
+    EXPECT_FALSE(defaults.objectForKey(u"none"_s).isValid());
+    EXPECT_FALSE(defaults.boolForKey(u"none"_s));
+    EXPECT_EQ(defaults.stringForKey(u"none"_s), QString());
+
+    defaults.setBool(false, u"flag"_s);
+    EXPECT_EQ(defaults.objectForKey(u"flag"_s).typeId(), QMetaType::Bool) << "false is stored, not absent";
+    defaults.setBool(true, u"flag"_s);
+    EXPECT_TRUE(defaults.boolForKey(u"flag"_s));
+    EXPECT_EQ(defaults.stringForKey(u"flag"_s), QString()) << "a Bool is no string";
+    defaults.setInteger(5, u"place"_s);
+    EXPECT_EQ(defaults.objectForKey(u"place"_s).typeId(), QMetaType::LongLong);
+    EXPECT_EQ(defaults.objectForKey(u"place"_s).toLongLong(), 5);
+    defaults.setObject(u"optionCommandN"_s, u"shortcut"_s);
+    EXPECT_EQ(defaults.stringForKey(u"shortcut"_s), u"optionCommandN"_s);
+    EXPECT_FALSE(defaults.boolForKey(u"shortcut"_s)) << "text that says nothing about yes or no";
+    defaults.setObject(u"text"_s, u"flag"_s);
+    EXPECT_EQ(defaults.objectForKey(u"flag"_s).typeId(), QMetaType::QString) << "the latest value's type";
+}
+
+TEST_P(DefaultsContract, ObserversHearOnlyWhatTheyAskedForInOrder)
+{
+    // Posted by nobody but the system: the order shows with an arrangement of screens.
+    std::string order;
+    const auto name = QLatin1StringView(kNSApplicationDidChangeScreenParametersNotification);
+    platform.notificationCenter.addObserver(name, nullptr, [&] { order += 'a'; });
+    platform.notificationCenter.addObserver(name, &order, [&] { order += 'x'; });
+    platform.notificationCenter.addObserver(name, nullptr, [&] { order += 'b'; });
+    platform.notificationCenter.addObserver(u"SomethingElse"_s, nullptr, [&] { order += 'y'; });
+    driver->changeScreens();
+    driver->runDue();
+    EXPECT_EQ(order, "ab");
+}
+
+TEST_P(DefaultsContract, TheLoginItemAnswersWithWhatItWasSet)
+{
+    ASSERT_EQ(platform.loginItems.status(), LoginItemStatus::notRegistered);
+    ASSERT_TRUE(platform.loginItems.registerMainApp());
+    EXPECT_EQ(platform.loginItems.status(), LoginItemStatus::enabled);
+    ASSERT_TRUE(platform.loginItems.unregisterMainApp());
+    EXPECT_NE(platform.loginItems.status(), LoginItemStatus::enabled);
+}
+
+INSTANTIATE_TEST_SUITE_P(On, DefaultsContract, implementations(), implementationName);
+
+} // namespace
+} // namespace brimshade::contract

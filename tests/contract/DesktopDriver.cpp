@@ -1,0 +1,98 @@
+#include "DesktopDriver.h"
+#include "desktop/core/Desktop.h"
+#include "desktop/core/InputRouter.h"
+#include "desktop/core/MenuHost.h"
+#include "desktop/time/VirtualDispatch.h"
+#include "platform/Symbol.h"
+
+using namespace brimshade::desktop;
+using namespace brimshade::platform;
+using namespace Qt::StringLiterals;
+
+namespace brimshade::contract {
+
+namespace {
+
+class NoSymbols : public Symbols {
+public:
+    Image symbolImage(const QString &, const QString &, const SymbolConfiguration &) override { return {}; }
+};
+
+DesktopDescription notchedDesktop()
+{
+    DesktopDescription description;
+    description.screens = {{u"Built-in Display"_s, QRectF(0, 0, 1512, 982), 37, 37, std::pair(663., 849.)}};
+    return description;
+}
+
+class DesktopDriver : public Driver {
+public:
+    Platform platform() override { return m_desktop.platform(); }
+
+    void runDue() override { m_dispatch.runDue(); }
+    void advance(double seconds) override { m_dispatch.advance(seconds); }
+    void settleMenuBar() override { m_dispatch.advance(0.1); }
+
+    void movePointer(QPointF at) override { m_desktop.input().pointerMoved(at, 0); }
+    void click(QPointF at, bool right) override
+    {
+        const MouseButton button = right ? MouseButton::right : MouseButton::left;
+        movePointer(at);
+        m_desktop.input().pressed(button, 0);
+        m_desktop.input().released(button, 0);
+    }
+    void key(std::uint16_t code, std::uint64_t modifierFlags) override
+    {
+        Event event;
+        event.keyCode = code;
+        event.modifierFlags = modifierFlags;
+        m_desktop.input().keyDown(event);
+    }
+    QStringList openMenu() override { return m_desktop.menus().titles(); }
+    void choose(const QString &title) override { m_desktop.menus().choose(title); }
+    void dismissMenu() override { m_desktop.menus().dismiss(); }
+
+    int launch(const std::vector<ItemOfAnother> &items) override
+    {
+        ApplicationDescription application;
+        application.pid = ++m_latestPid;
+        application.name = u"Another"_s;
+        application.extras.emplace();
+        for (const ItemOfAnother &item : items) {
+            ExtraDescription extra;
+            extra.role = u"AXMenuBarItem"_s;
+            extra.identifier = item.identifier;
+            extra.actions = item.actions;
+            extra.menu = item.menu;
+            application.extras->push_back(extra);
+        }
+        m_launched[application.pid] = application;
+        m_desktop.launch({.description = application});
+        return application.pid;
+    }
+    void quit(int pid) override { m_desktop.quit(pid); }
+    void hang(int pid) override
+    {
+        m_launched[pid].hangs = true;
+        m_desktop.change(pid, {.description = m_launched[pid]});
+    }
+    void setTrusted(bool trusted) override { m_desktop.setTrusted(trusted); }
+    void changeScreens() override { m_desktop.setScreens({{u"External"_s, QRectF(0, 0, 1920, 1080), 24, 0, {}}}); }
+
+private:
+    VirtualDispatch m_dispatch;
+    NoSymbols m_symbols;
+    Desktop m_desktop{{.dispatch = m_dispatch, .symbols = m_symbols, .defaults = nullptr, .loginItems = nullptr},
+                      notchedDesktop()};
+    std::map<int, ApplicationDescription> m_launched;
+    int m_latestPid = 100;
+};
+
+} // namespace
+
+std::unique_ptr<Driver> makeDesktopDriver()
+{
+    return std::make_unique<DesktopDriver>();
+}
+
+} // namespace brimshade::contract

@@ -1,0 +1,73 @@
+#pragma once
+#include "platform/Accessibility.h"
+#include "platform/Application.h"
+#include "platform/Dispatch.h"
+#include "platform/EventServices.h"
+#include "platform/HotkeyCenter.h"
+#include "platform/LoginItems.h"
+#include "platform/Menu.h"
+#include "platform/NotificationCenter.h"
+#include "platform/Platform.h"
+#include "platform/Screens.h"
+#include "platform/StatusBar.h"
+#include "platform/UserDefaults.h"
+#include "platform/Window.h"
+#include "platform/WindowServer.h"
+#include "platform/Workspace.h"
+
+#include <QStringList>
+#include <functional>
+#include <gtest/gtest.h>
+#include <memory>
+
+namespace brimshade::contract {
+
+struct ItemOfAnother {
+    QString identifier;
+    QStringList actions{QStringLiteral("AXPress")};
+    QStringList menu{QStringLiteral("Entry")};
+};
+
+// Stands for what is outside of the program: the person, the other applications, the passing of time. Each
+// implementation of the platform brings its own; the suite knows the platform only through its interfaces and this.
+// The desktop it starts with has a screen, trusts the program and shows its menu bar.
+class Driver {
+public:
+    virtual ~Driver() = default;
+    virtual platform::Platform platform() = 0;
+
+    virtual void runDue() = 0; // everything due at the present instant
+    virtual void advance(double seconds) = 0;
+    virtual void settleMenuBar() = 0; // until items stand where they belong
+
+    virtual void movePointer(QPointF at) = 0; // display space
+    virtual void click(QPointF at, bool right = false) = 0;
+    virtual void key(std::uint16_t code, std::uint64_t modifierFlags) = 0;
+    virtual QStringList openMenu() = 0; // titles; empty when none is open
+    virtual void choose(const QString &title) = 0;
+    virtual void dismissMenu() = 0;
+
+    virtual int launch(const std::vector<ItemOfAnother> &items) = 0; // the new process identifier
+    virtual void quit(int pid) = 0;
+    virtual void hang(int pid) = 0; // it answers nothing from now on
+    virtual void setTrusted(bool trusted) = 0;
+    virtual void changeScreens() = 0; // some other arrangement
+};
+
+using DriverFactory = std::function<std::unique_ptr<Driver>()>;
+
+class Contract : public testing::TestWithParam<DriverFactory> {
+protected:
+    // Runs work on another thread while up to so many seconds pass.
+    void onWorker(const platform::Work &work, double limit = 10);
+    std::unique_ptr<platform::Window> makeWindow(const QRectF &rect, bool canBecomeKey = true);
+    // The children of an application's extras menu bar; none when it cannot be read.
+    std::vector<platform::AXUIElement> items(int pid);
+    QPointF toDisplay(QPointF inScreenSpace) const;
+    QPointF emptySpot() const; // of the first screen, far from its menu bar; display space
+
+    std::unique_ptr<Driver> driver = GetParam()();
+    platform::Platform platform = driver->platform();
+};
+
+} // namespace brimshade::contract

@@ -1,0 +1,123 @@
+#include "Implementations.h"
+
+#include <QImage>
+
+using namespace brimshade::platform;
+using namespace Qt::StringLiterals;
+
+namespace brimshade::contract {
+namespace {
+
+class StatusItemContract : public Contract {
+protected:
+    QPointF middle() { return toDisplay(item->button()->window()->frame().center()); }
+
+    std::shared_ptr<StatusItem> item = platform.statusBar.createStatusItem(28);
+};
+
+TEST_P(StatusItemContract, IsAsLongAsItSaysOnceTheBarHasSettled)
+{
+    item->setAutosaveName(u"Contract"_s);
+    driver->settleMenuBar();
+    ASSERT_TRUE(item->button());
+    Window *window = item->button()->window();
+    ASSERT_TRUE(window);
+    EXPECT_EQ(window->frame().width(), 28);
+    const double right = maxX(window->frame());
+    const auto screen = window->screen();
+    ASSERT_TRUE(screen);
+    EXPECT_EQ(maxY(window->frame()), maxY(screen->frame)) << "in the menu bar";
+    EXPECT_TRUE(window->occlusionStateVisible());
+    item->setLength(100);
+    EXPECT_EQ(item->length(), 100);
+    driver->settleMenuBar();
+    EXPECT_EQ(item->button()->window(), window) << "one item, one window";
+    EXPECT_EQ(window->frame().width(), 100);
+    EXPECT_EQ(maxX(window->frame()), right) << "it grows to the left";
+    item->setLength(kSquareStatusItemLength);
+    EXPECT_EQ(item->length(), kSquareStatusItemLength);
+}
+
+TEST_P(StatusItemContract, KeepsItsImage)
+{
+    EXPECT_TRUE(item->button()->image().isNull());
+    class Nothing : public ImageSource {
+        void draw(QPainter &, const QRectF &) const override { }
+        QImage bitmap() const override { return {}; }
+    };
+    const Image image(std::make_shared<Nothing>(), QSizeF(20, 16), true);
+    item->button()->setImage(image);
+    EXPECT_TRUE(item->button()->image().isSameObject(image));
+    EXPECT_EQ(item->button()->image().size(), QSizeF(20, 16));
+}
+
+TEST_P(StatusItemContract, SendsItsActionOnTheEventsOfTheMask)
+{
+    std::vector<std::optional<NSEventType>> types;
+    item->button()->setAction(kLeftMouseUpMask | kRightMouseUpMask,
+                              [&] { types.push_back(platform.application.currentEventType()); });
+    int outside = 0;
+    platform.application.addGlobalMonitor(kLeftMouseDownMask | kRightMouseDownMask, [&](const Event &) { ++outside; });
+    driver->settleMenuBar();
+    driver->click(middle());
+    driver->click(middle(), true);
+    EXPECT_EQ(types, (std::vector<std::optional<NSEventType>>{leftMouseUp, rightMouseUp}));
+    EXPECT_EQ(outside, 0) << "a press on it is not one in another application";
+}
+
+TEST_P(StatusItemContract, OpensAnAttachedMenuInsteadAndTellsWhenItIsGone)
+{
+    std::string order;
+    item->button()->setAction(kLeftMouseUpMask, [&] { order += 'a'; });
+    driver->settleMenuBar();
+    Menu menu{{{.title = u"Settings…"_s, .keyEquivalent = u","_s, .action = [&] { order += 's'; }},
+               MenuItem::separator(),
+               {.title = u"Off"_s, .keyEquivalent = {}, .isEnabled = false, .action = [&] { order += 'o'; }}}};
+    item->setMenu(menu);
+    item->button()->performClick([&] { order += 'd'; });
+    EXPECT_EQ(driver->openMenu(), QStringList({u"Settings…"_s, u"-"_s, u"Off"_s}));
+    EXPECT_EQ(order, "");
+    driver->choose(u"Off"_s);
+    EXPECT_EQ(order, "") << "a disabled entry cannot be chosen";
+    driver->choose(u"Settings…"_s);
+    EXPECT_EQ(order, "sd") << "the action first";
+    EXPECT_TRUE(driver->openMenu().isEmpty());
+    item->setMenu(std::nullopt);
+    driver->click(middle());
+    EXPECT_EQ(order, "sda");
+}
+
+TEST_P(StatusItemContract, AContextMenuDismissesTheOneBefore)
+{
+    std::string order;
+    const auto menu = [&](char name) {
+        return Menu{
+            {{.title = QChar::fromLatin1(name), .keyEquivalent = {}, .action = [&order, name] { order += name; }}}};
+    };
+    platform.menus.popUpContextMenu(menu('a'), [&] { order += '1'; });
+    platform.menus.popUpContextMenu(menu('b'), [&] { order += '2'; });
+    EXPECT_EQ(order, "1");
+    EXPECT_EQ(driver->openMenu(), QStringList(u"b"_s));
+    driver->choose(u"b"_s);
+    EXPECT_EQ(order, "1b2");
+    platform.menus.popUpContextMenu(menu('c'), [&] { order += '3'; });
+    driver->dismissMenu();
+    EXPECT_EQ(order, "1b23");
+}
+
+TEST_P(StatusItemContract, LeavesTheBarWhenItIsDestroyed)
+{
+    driver->settleMenuBar();
+    const QPointF at = middle();
+    int outside = 0;
+    platform.application.addGlobalMonitor(kLeftMouseDownMask, [&](const Event &) { ++outside; });
+    item.reset();
+    driver->settleMenuBar();
+    driver->click(at);
+    EXPECT_EQ(outside, 1);
+}
+
+INSTANTIATE_TEST_SUITE_P(On, StatusItemContract, implementations(), implementationName);
+
+} // namespace
+} // namespace brimshade::contract

@@ -1,0 +1,148 @@
+#include "Implementations.h"
+
+using namespace brimshade::platform;
+using namespace Qt::StringLiterals;
+
+namespace brimshade::contract {
+namespace {
+
+class WindowContract : public Contract { };
+
+TEST_P(WindowContract, IsShownMadeKeyAndOrderedOutButNotDestroyed)
+{
+    const auto window = makeWindow(QRectF(50, 60, 300, 200));
+    EXPECT_FALSE(window->isVisible());
+    EXPECT_EQ(window->frame(), QRectF(50, 60, 300, 200));
+    window->orderFrontRegardless();
+    EXPECT_TRUE(window->isVisible());
+    EXPECT_FALSE(window->isKeyWindow());
+    window->makeKeyAndOrderFront();
+    EXPECT_TRUE(window->isKeyWindow());
+    EXPECT_TRUE(window->occlusionStateVisible());
+    ASSERT_TRUE(window->screen());
+    EXPECT_EQ(window->screen()->frame, platform.screens.screens().at(0).frame);
+    window->close();
+    EXPECT_FALSE(window->isVisible());
+    EXPECT_FALSE(window->isKeyWindow());
+    EXPECT_FALSE(window->occlusionStateVisible());
+    window->setFrame(QRectF(80, 90, 100, 100));
+    window->makeKeyAndOrderFront();
+    EXPECT_EQ(window->frame(), QRectF(80, 90, 100, 100));
+    EXPECT_TRUE(window->isKeyWindow());
+}
+
+TEST_P(WindowContract, HasTheKeysOnlyWhenItCanAndLosesThemToOthers)
+{
+    const auto first = makeWindow(QRectF(50, 60, 300, 200)), second = makeWindow(QRectF(400, 60, 300, 200));
+    const auto never = makeWindow(QRectF(50, 400, 300, 200), false);
+    first->makeKeyAndOrderFront();
+    never->makeKeyAndOrderFront();
+    EXPECT_TRUE(never->isVisible());
+    EXPECT_FALSE(never->isKeyWindow());
+    EXPECT_TRUE(first->isKeyWindow());
+    second->makeKeyAndOrderFront();
+    EXPECT_FALSE(first->isKeyWindow());
+    driver->click(toDisplay({100, 100}));
+    EXPECT_TRUE(first->isKeyWindow()) << "a click takes the keys there";
+    driver->click(toDisplay({100, 500}));
+    EXPECT_TRUE(first->isKeyWindow());
+    driver->click(emptySpot());
+    EXPECT_FALSE(first->isKeyWindow()) << "another application has them";
+}
+
+TEST_P(WindowContract, MonitorsSeeOtherApplicationsEventsOrThisOnesByKind)
+{
+    QStringList heard;
+    const auto global = platform.application.addGlobalMonitor(
+        kLeftMouseDownMask | kRightMouseDownMask, [&](const Event &event) { heard << u"g%1"_s.arg(event.type); });
+    const auto local = platform.application.addLocalMonitor(kKeyDownMask, [&](const Event &event) {
+        heard << u"l%1"_s.arg(event.keyCode);
+        EXPECT_EQ(platform.application.currentEventType(), keyDown);
+        return std::optional<Event>();
+    });
+    ASSERT_NE(global, 0u);
+    ASSERT_NE(local, 0u);
+    const auto window = makeWindow(QRectF(50, 60, 300, 200));
+    window->makeKeyAndOrderFront();
+    driver->key(53, 0);
+    driver->click(toDisplay({100, 100}));
+    driver->click(toDisplay({100, 100}), true);
+    EXPECT_EQ(heard, QStringList(u"l53"_s));
+    driver->click(emptySpot());
+    driver->click(emptySpot(), true);
+    driver->key(12, 0); // goes elsewhere
+    EXPECT_EQ(heard.mid(1), QStringList({u"g1"_s, u"g3"_s}));
+    platform.application.removeMonitor(global);
+    driver->click(emptySpot());
+    EXPECT_EQ(heard.size(), 3);
+    EXPECT_FALSE(platform.application.currentEventType());
+}
+
+TEST_P(WindowContract, HotkeysComeBeforeWindowsAndMayBeTakenOnce)
+{
+    int presses = 0, keys = 0;
+    platform.hotkeyCenter.installEventHandler([&] { ++presses; });
+    platform.application.addLocalMonitor(kKeyDownMask, [&](const Event &event) {
+        ++keys;
+        return std::optional(event);
+    });
+    const auto window = makeWindow(QRectF(50, 60, 300, 200));
+    window->makeKeyAndOrderFront();
+    const auto ref = platform.hotkeyCenter.registerEventHotKey(45, kCarbonOption | kCarbonCommand, {0x42524d53, 1});
+    ASSERT_TRUE(ref);
+    EXPECT_NE(*ref, 0u);
+    EXPECT_FALSE(platform.hotkeyCenter.registerEventHotKey(45, kCarbonOption | kCarbonCommand, {0x42524d53, 2}));
+    driver->key(45, kOptionFlag | kCommandFlag);
+    EXPECT_EQ(presses, 1);
+    EXPECT_EQ(keys, 0);
+    platform.hotkeyCenter.unregisterEventHotKey(*ref);
+    driver->key(45, kOptionFlag | kCommandFlag);
+    EXPECT_EQ(presses, 1);
+    EXPECT_EQ(keys, 1);
+}
+
+TEST_P(WindowContract, DescribesScreensConsistentlyAndAnnouncesAnotherArrangement)
+{
+    const auto screens = platform.screens.screens();
+    ASSERT_FALSE(screens.empty());
+    EXPECT_EQ(screens[0].frame.topLeft(), QPointF(0, 0)) << "the primary one is the origin";
+    for (const Screen &screen : screens) {
+        EXPECT_TRUE(screen.frame.contains(screen.visibleFrame));
+        EXPECT_EQ(screen.auxiliaryTopLeftArea.has_value(), screen.auxiliaryTopRightArea.has_value());
+        if (screen.auxiliaryTopLeftArea) {
+            EXPECT_LE(maxX(*screen.auxiliaryTopLeftArea), minX(*screen.auxiliaryTopRightArea));
+            EXPECT_EQ(maxY(*screen.auxiliaryTopLeftArea), maxY(screen.frame));
+            EXPECT_GT(screen.safeAreaTop, 0);
+        }
+    }
+    int told = 0;
+    std::vector<Screen> whenTold;
+    platform.notificationCenter.addObserver(QLatin1StringView(kNSApplicationDidChangeScreenParametersNotification),
+                                            nullptr, [&] {
+                                                ++told;
+                                                whenTold = platform.screens.screens();
+                                            });
+    driver->changeScreens();
+    driver->runDue();
+    EXPECT_EQ(told, 1);
+    EXPECT_NE(whenTold, screens) << "it is in force when it is announced";
+}
+
+TEST_P(WindowContract, PointerIsWhereEventsAndWarpsPutIt)
+{
+    const QPointF spot = emptySpot();
+    driver->movePointer(spot);
+    EXPECT_EQ(platform.eventServices.pointerLocation(), spot);
+    EXPECT_EQ(toDisplay(platform.application.mouseLocation()), spot);
+    onWorker([&] {
+        platform.eventServices.post({kCGEventMouseMoved, spot + QPointF(10, 0)});
+        EXPECT_EQ(platform.eventServices.pointerLocation(), spot + QPointF(10, 0));
+        platform.eventServices.warpMouseCursorPosition(spot);
+    });
+    EXPECT_EQ(platform.eventServices.pointerLocation(), spot);
+}
+
+INSTANTIATE_TEST_SUITE_P(On, WindowContract, implementations(), implementationName);
+
+} // namespace
+} // namespace brimshade::contract
