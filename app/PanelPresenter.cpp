@@ -13,6 +13,8 @@
 #include "platform/Platform.h"
 #include "platform/StatusBar.h"
 
+#include <QLocale>
+
 using namespace Qt::StringLiterals;
 
 namespace brimshade::app {
@@ -31,7 +33,8 @@ constexpr double kZoneMargin = 8;
 
 QString describe(const QRectF &r)
 {
-    return u"{{%1, %2}, {%3, %4}}"_s.arg(r.x()).arg(r.y()).arg(r.width()).arg(r.height());
+    const auto number = [](double value) { return QString::number(value, 'g', QLocale::FloatingPointShortest); };
+    return u"{{%1, %2}, {%3, %4}}"_s.arg(number(r.x()), number(r.y()), number(r.width()), number(r.height()));
 }
 
 } // namespace

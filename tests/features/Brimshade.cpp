@@ -1,0 +1,232 @@
+#include "Brimshade.h"
+
+#include "desktop/core/Inspection.h"
+#include "desktop/core/MenuBar.h"
+#include "desktop/core/MenuHost.h"
+#include "desktop/services/LogWriter.h"
+#include "platform/LoginItems.h"
+#include "platform/UserDefaults.h"
+#include "windows/flow/OnboardingFlow.h"
+
+#include <algorithm>
+
+namespace brimshade::features {
+
+namespace {
+
+class Block : public platform::ImageSource {
+public:
+    void draw(QPainter &painter, const QRectF &rect) const override { painter.fillRect(rect, Qt::black); }
+    QImage bitmap() const override { return {}; }
+};
+
+} // namespace
+
+platform::Image Brimshade::Symbols::symbolImage(const QString &, const QString &,
+                                                const platform::SymbolConfiguration &configuration)
+{
+    return {std::make_shared<Block>(), {configuration.pointSize, configuration.pointSize}, true};
+}
+
+Brimshade::Brimshade(const desktop::DesktopDescription &description)
+    : m_desktop(std::make_unique<desktop::Desktop>(desktop::Desktop::Services{m_dispatch, m_symbols, nullptr, nullptr},
+                                                   description)),
+      m_delegate(std::make_shared<app::AppDelegate>(m_desktop->platform()))
+{
+    m_delegate->applicationDidFinishLaunching();
+    wait(1); // the status item stands where it will stay
+}
+
+Brimshade::~Brimshade()
+{
+    vanish();
+    m_dispatch.stop();
+}
+
+void Brimshade::movePointer(QPointF to)
+{
+    m_desktop->input().pointerMoved(to, 0);
+    m_dispatch.runDue();
+}
+
+void Brimshade::click(QPointF at, desktop::MouseButton button)
+{
+    movePointer(at);
+    m_desktop->input().pressed(button, 0);
+    m_desktop->input().released(button, 0);
+    m_dispatch.runDue();
+}
+
+void Brimshade::clickStatusItem()
+{
+    click(symbol(), desktop::MouseButton::left);
+}
+
+void Brimshade::rightClickStatusItem()
+{
+    click(symbol(), desktop::MouseButton::right);
+}
+
+void Brimshade::clickElsewhere()
+{
+    click(kEmptySpot, desktop::MouseButton::left);
+}
+
+void Brimshade::open()
+{
+    clickStatusItem();
+    ASSERT_TRUE(delegate().shown());
+    ASSERT_TRUE(model().isOpen());
+}
+
+void Brimshade::press(int keyCode, const QString &characters, std::uint64_t flags)
+{
+    m_desktop->input().keyDown({platform::keyDown, flags, static_cast<std::uint16_t>(keyCode), characters});
+    m_dispatch.runDue();
+}
+
+void Brimshade::type(const QString &text)
+{
+    for (const QChar character : text)
+        press(0, character);
+}
+
+void Brimshade::pressShortcut()
+{
+    press(49, u" "_s, platform::kControlFlag | platform::kOptionFlag);
+}
+
+void Brimshade::chooseFromMenu(const QString &title)
+{
+    ASSERT_TRUE(m_desktop->menus().choose(title)) << title.toStdString();
+    m_dispatch.runDue();
+}
+
+void Brimshade::hide(const QString &name)
+{
+    model().setDividerEnabled(true);
+    model().onSetHidden(item(name), true);
+    m_dispatch.runDue();
+}
+
+void Brimshade::show(const QString &name)
+{
+    model().setDividerEnabled(true);
+    model().onSetHidden(item(name), false);
+    m_dispatch.runDue();
+}
+
+void Brimshade::finishSetup(const QHash<QString, bool> &hiddenByName)
+{
+    m_delegate->showOnboarding();
+    m_dispatch.runDue();
+    const auto &view = std::get<platform::HostedView>(m_desktop->windows().named(u"setup"_s)->content());
+    auto *flow = view.properties.value(u"flow"_s).value<windows::OnboardingFlow *>();
+    for (const auto &[name, hidden] : hiddenByName.asKeyValueRange()) {
+        if (flow->effectiveChoice(item(name)) != hidden)
+            flow->toggle(item(name).id);
+    }
+    while (flow->action() != windows::OnboardingFlow::Finish)
+        flow->act();
+    flow->act();
+    m_dispatch.runDue();
+}
+
+void Brimshade::vanish()
+{
+    m_delegate.reset();
+}
+
+const menubar::MenuExtra &Brimshade::item(const QString &name)
+{
+    const auto &extras = model().extras();
+    const auto found = std::ranges::find(extras, name, &menubar::MenuExtra::name);
+    if (found == extras.end())
+        qFatal("no item is named %s", qPrintable(name));
+    return *found;
+}
+
+bool Brimshade::isOnScreen(const QString &window) const
+{
+    return frameOf(window).has_value();
+}
+
+bool Brimshade::hasKeys(const QString &window) const
+{
+    const desktop::DesktopWindow *found = m_desktop->windows().named(window);
+    return found && found->isKeyWindow();
+}
+
+std::optional<QRectF> Brimshade::frameOf(const QString &window) const
+{
+    const desktop::DesktopWindow *found = m_desktop->windows().named(window);
+    return found && found->isVisible() ? std::optional(found->frame()) : std::nullopt;
+}
+
+int Brimshade::windowCount(const QString &name) const
+{
+    return std::ranges::count(m_desktop->windows().windows(), name,
+                              [](const desktop::DesktopWindow *window) { return window->attributes().name; });
+}
+
+QRectF Brimshade::statusItem() const
+{
+    const auto items = m_desktop->menuBar().items();
+    const auto own = std::ranges::find(items, true, &desktop::BarItem::isOwn);
+    return own == items.end() ? QRectF() : own->frame;
+}
+
+QPointF Brimshade::symbol() const
+{
+    const QRectF item = statusItem();
+    return {platform::maxX(item) - 14, platform::midY(item)};
+}
+
+QStringList Brimshade::bar() const
+{
+    QStringList names;
+    for (const desktop::BarItem &item : m_desktop->menuBar().items()) {
+        if (item.isOwn)
+            names.append(u"|"_s);
+        else if (!item.identifier.startsWith("com.example"_L1))
+            names.append(item.identifier.section(u'.', 0, 0));
+    }
+    return names;
+}
+
+QStringList Brimshade::hiddenItems()
+{
+    m_delegate->refresh();
+    m_dispatch.runDue();
+    QStringList names;
+    for (const menubar::MenuExtra &extra : model().extras()) {
+        if (extra.isHidden)
+            names.append(extra.name);
+    }
+    return names;
+}
+
+QStringList Brimshade::log()
+{
+    QStringList lines;
+    for (const desktop::LogEntry &entry : m_desktop->log().take())
+        lines.append((entry.level == platform::LogLevel::error ? u"error: "_s : u"info: "_s) + entry.text);
+    return lines;
+}
+
+int Brimshade::dragCount()
+{
+    return std::ranges::count_if(m_desktop->inspection().takeEvents(), [](const desktop::SyntheticEvent &posted) {
+        return posted.event.type == platform::kCGEventLeftMouseDown;
+    });
+}
+
+QStringList Brimshade::pressedItems()
+{
+    QStringList identifiers;
+    for (const desktop::PerformedAction &action : m_desktop->inspection().takeActions())
+        identifiers.append(action.identifier);
+    return identifiers;
+}
+
+} // namespace brimshade::features

@@ -1,0 +1,85 @@
+#pragma once
+#include "Descriptions.h"
+#include "app/AppDelegate.h"
+#include "controls/Divider.h"
+#include "desktop/core/Desktop.h"
+#include "desktop/core/InputRouter.h"
+#include "desktop/core/WindowStack.h"
+#include "desktop/time/VirtualDispatch.h"
+#include "menubar/MenuExtra.h"
+#include "model/NotchModel.h"
+#include "platform/Application.h"
+#include "platform/Symbol.h"
+
+#include <QStringList>
+#include <gtest/gtest.h>
+
+inline void PrintTo(const QString &text, std::ostream *out)
+{
+    *out << '"' << text.toStdString() << '"';
+}
+
+namespace brimshade::features {
+
+using namespace Qt::StringLiterals;
+
+inline constexpr QPointF kEmptySpot(100, 800); // of the display, top-left origin: no window of the program is there
+inline constexpr QPointF kOnNotch(756, 10);
+
+// One running Brimshade and the hands and eyes of the person before it. What the views would call is called on
+// the model, as they do. Positions have their origin at the top left.
+class Brimshade {
+public:
+    explicit Brimshade(const desktop::DesktopDescription &description = notchedDesktop());
+    ~Brimshade();
+
+    void wait(double seconds) { m_dispatch.advance(seconds); }
+    void movePointer(QPointF to);
+    void click(QPointF at, desktop::MouseButton button);
+    void clickStatusItem();
+    void rightClickStatusItem();
+    void clickElsewhere();
+    void open(); // with a click, until the views are open and the list is there
+    void press(int keyCode, const QString &characters = {}, std::uint64_t flags = 0);
+    void type(const QString &text);
+    void pressShortcut(); // ⌃⌥Space
+    void chooseFromMenu(const QString &title);
+    // As a tile's menu does.
+    void hide(const QString &name);
+    void show(const QString &name);
+    void finishSetup(const QHash<QString, bool> &hiddenByName);
+    void vanish(); // the coordinator goes, whatever is under way
+
+    model::NotchModel &model() { return m_delegate->model(); }
+    app::AppDelegate &delegate() { return *m_delegate; }
+    desktop::Desktop &desktop() { return *m_desktop; }
+    const controls::Divider &divider() { return *m_delegate->divider(); }
+    const menubar::MenuExtra &item(const QString &name); // of the last scan
+
+    bool isOnScreen(const QString &window) const;
+    bool hasKeys(const QString &window) const;
+    std::optional<QRectF> frameOf(const QString &window) const; // screen space; absent while it is not on screen
+    int windowCount(const QString &name) const;
+    QRectF statusItem() const;
+    QStringList bar() const; // left to right, without the system's items; Brimshade's own is "|"
+    QStringList hiddenItems(); // as a fresh scan lists them
+    int dragCount(); // since last asked
+    QStringList pressedItems(); // since last asked
+    QStringList log(); // since last asked
+
+private:
+    QPointF symbol() const; // at the right end of the status item, where one clicks it
+
+    class Symbols : public platform::Symbols {
+    public:
+        platform::Image symbolImage(const QString &name, const QString &description,
+                                    const platform::SymbolConfiguration &configuration) override;
+    };
+
+    desktop::VirtualDispatch m_dispatch;
+    Symbols m_symbols;
+    std::unique_ptr<desktop::Desktop> m_desktop;
+    std::shared_ptr<app::AppDelegate> m_delegate;
+};
+
+} // namespace brimshade::features

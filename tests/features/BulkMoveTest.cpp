@@ -1,0 +1,108 @@
+#include "Brimshade.h"
+#include "platform/UserDefaults.h"
+
+namespace brimshade::features {
+
+namespace {
+
+constexpr double kLong = 200; // more than any bulk move of these desktops takes
+
+} // namespace
+
+TEST(BulkMove, OpensThePanelWhenNothingIsToMove)
+{
+    Brimshade brimshade;
+    brimshade.finishSetup({});
+    EXPECT_TRUE(brimshade.delegate().shown());
+    EXPECT_FALSE(brimshade.isOnScreen(u"setup"_s));
+    EXPECT_TRUE(brimshade.desktop().platform().userDefaults.boolForKey(u"onboardingDone"_s));
+    brimshade.wait(kLong);
+    EXPECT_EQ(brimshade.dragCount(), 0);
+    EXPECT_FALSE(brimshade.model().dividerEnabled());
+}
+
+TEST(BulkMove, BringsEveryItemWhereItWasChosenToBeAndThenOpensThePanel)
+{
+    Brimshade brimshade;
+    brimshade.finishSetup({{u"Relay"_s, true}, {u"Quill"_s, true}});
+    EXPECT_TRUE(brimshade.model().dividerEnabled());
+    EXPECT_EQ(brimshade.model().movingID(), u"onboarding"_s);
+    brimshade.clickStatusItem();
+    EXPECT_FALSE(brimshade.delegate().shown());
+    brimshade.wait(kLong);
+    // Everything left of the icon is tucked away by the divider alone: Vault has to be brought back.
+    EXPECT_EQ(brimshade.model().movingID(), QString());
+    EXPECT_EQ(brimshade.bar(), QStringList({u"quill"_s, u"relay"_s, u"|"_s, u"vault"_s}));
+    EXPECT_TRUE(brimshade.delegate().shown());
+    EXPECT_EQ(brimshade.model().message(), QString());
+    EXPECT_EQ(brimshade.hiddenItems(), QStringList({u"Quill"_s, u"Relay"_s}));
+}
+
+TEST(BulkMove, WaitsBeforeItBeginsAndBetweenItems)
+{
+    Brimshade brimshade(dividedDesktop());
+    brimshade.finishSetup({{u"Relay"_s, false}, {u"Quill"_s, false}});
+    brimshade.wait(1.2 + 0.45 + 0.039); // the drag's first pause
+    EXPECT_EQ(brimshade.dragCount(), 0);
+    brimshade.wait(0.001);
+    EXPECT_EQ(brimshade.dragCount(), 1);
+    brimshade.wait(1.45 + 0.4 + 0.8 + 0.45 + 0.039);
+    EXPECT_EQ(brimshade.dragCount(), 0);
+    brimshade.wait(0.001);
+    EXPECT_EQ(brimshade.dragCount(), 1);
+}
+
+TEST(BulkMove, ShowingAloneDoesNotSwitchTheDividerOn)
+{
+    auto desktop = notchedDesktop();
+    desktop.applications.push_back(application(820, u"Wide"_s, 300)); // reaches behind the notch
+    desktop.applications.push_back(application(821, u"Lost"_s, 200));
+    Brimshade brimshade(desktop);
+    brimshade.finishSetup({{u"Lost"_s, false}});
+    EXPECT_EQ(brimshade.model().movingID(), u"onboarding"_s);
+    EXPECT_FALSE(brimshade.model().dividerEnabled());
+    brimshade.wait(kLong);
+    EXPECT_FALSE(brimshade.model().dividerEnabled());
+    EXPECT_EQ(brimshade.bar().last(), u"lost"_s);
+}
+
+TEST(BulkMove, GathersWhatFailedInOrderOfTheMessages)
+{
+    Brimshade brimshade(dividedDesktop());
+    brimshade.desktop().setMovesAccepted(false);
+    brimshade.finishSetup({{u"Vault"_s, false}, {u"Relay"_s, false}});
+    brimshade.wait(kLong);
+    const QString sentence = u": macOS didn't accept the move. Try again, or Cmd-drag it across the divider."_s;
+    EXPECT_EQ(brimshade.model().message(), u"Some items didn't move. Relay"_s + sentence + u" Vault"_s + sentence);
+    EXPECT_EQ(brimshade.dragCount(), 2); // none is tried twice
+    EXPECT_TRUE(brimshade.hasKeys(u"settings"_s));
+    EXPECT_FALSE(brimshade.delegate().shown());
+}
+
+TEST(BulkMove, EndsAtOnceWhenTheBarIsNotShowing)
+{
+    Brimshade brimshade(dividedDesktop());
+    brimshade.desktop().setMenuBarShowing(false);
+    brimshade.finishSetup({{u"Vault"_s, false}, {u"Relay"_s, false}});
+    brimshade.wait(1.2 + 0.45);
+    EXPECT_EQ(brimshade.model().movingID(), QString());
+    EXPECT_EQ(brimshade.model().message().count(u"the menu bar isn't showing"_s), 1);
+}
+
+// An item of another row counts as moved, yet the next scan finds it as it was.
+TEST(BulkMove, GivesUpOnAnItemThatMovesAreWithoutEffectOn)
+{
+    auto desktop = notchedDesktop();
+    auto other = application(830, u"Other"_s);
+    other.extras->at(0).frameKind = desktop::ExtraDescription::Frame::fixed;
+    other.extras->at(0).frame = {100, 400, 30, 37};
+    desktop.applications.push_back(other);
+    Brimshade brimshade(desktop);
+    brimshade.finishSetup({{u"Other"_s, true}, {u"Relay"_s, true}, {u"Vault"_s, true}, {u"Quill"_s, true}});
+    brimshade.wait(kLong);
+    EXPECT_EQ(brimshade.dragCount(), 2 * 6);
+    EXPECT_EQ(brimshade.model().movingID(), QString());
+    EXPECT_TRUE(brimshade.delegate().shown());
+}
+
+} // namespace brimshade::features

@@ -1,0 +1,73 @@
+#include "Brimshade.h"
+#include "desktop/core/Inspection.h"
+#include "platform/StatusBar.h"
+#include "platform/UserDefaults.h"
+
+namespace brimshade::features {
+
+namespace {
+
+const QString kPosition = u"NSStatusItem Preferred Position BrimshadeButton"_s;
+
+desktop::DesktopDescription firstLaunch()
+{
+    desktop::DesktopDescription desktop = notchedDesktop();
+    desktop.defaults.clear();
+    return desktop;
+}
+
+} // namespace
+
+TEST(Launch, ScansNothingAndOpensNothingOnceSetUp)
+{
+    Brimshade brimshade;
+    brimshade.wait(60);
+    EXPECT_EQ(brimshade.desktop().inspection().requestCount(), 0u);
+    EXPECT_FALSE(brimshade.model().scanned());
+    EXPECT_TRUE(brimshade.desktop().windows().onScreen().empty());
+    EXPECT_EQ(brimshade.desktop().inspection().promptCount(), 0);
+    EXPECT_EQ(brimshade.statusItem(), QRectF(1304, 0, 28, 37));
+}
+
+TEST(Launch, FirstOneStoresItsPlaceAndShowsTheSetupWindow)
+{
+    Brimshade brimshade(firstLaunch());
+    const platform::UserDefaults &defaults = brimshade.desktop().platform().userDefaults;
+    EXPECT_EQ(defaults.objectForKey(kPosition), QVariant(5));
+    EXPECT_FALSE(defaults.objectForKey(u"onboardingDone"_s).isValid());
+    EXPECT_TRUE(brimshade.hasKeys(u"setup"_s));
+    EXPECT_TRUE(brimshade.model().scanned());
+    EXPECT_EQ(brimshade.desktop().inspection().promptCount(), 0);
+}
+
+TEST(Launch, KeepsThePlaceTheUserChose)
+{
+    desktop::DesktopDescription desktop = notchedDesktop();
+    desktop.defaults.insert(kPosition, 240.0); // left of the margin, the system's items, Relay and Vault
+    Brimshade brimshade(desktop);
+    EXPECT_EQ(brimshade.bar(), QStringList({u"quill"_s, u"|"_s, u"vault"_s, u"relay"_s}));
+    EXPECT_EQ(brimshade.desktop().platform().userDefaults.objectForKey(kPosition).toDouble(), 240);
+}
+
+TEST(Launch, AsksOnceForAMissingPermission)
+{
+    desktop::DesktopDescription desktop = notchedDesktop();
+    desktop.trusted = false;
+    Brimshade brimshade(desktop);
+    EXPECT_EQ(brimshade.desktop().inspection().promptCount(), 1);
+    EXPECT_FALSE(brimshade.isOnScreen(u"setup"_s));
+    brimshade.wait(60);
+    EXPECT_EQ(brimshade.desktop().inspection().promptCount(), 1);
+}
+
+TEST(Launch, FirstOneWithoutPermissionLeavesAskingToTheSetupFlow)
+{
+    desktop::DesktopDescription desktop = firstLaunch();
+    desktop.trusted = false;
+    Brimshade brimshade(desktop);
+    EXPECT_EQ(brimshade.desktop().inspection().promptCount(), 0);
+    EXPECT_FALSE(brimshade.model().trusted());
+    EXPECT_FALSE(brimshade.model().scanned());
+}
+
+} // namespace brimshade::features
