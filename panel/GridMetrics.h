@@ -19,7 +19,7 @@ inline constexpr double kRowPitch = kTileHeight + kTileSpacing;
 inline std::pair<int, int> tilesInView(double top, double bottom, int columns, int count)
 {
     const int rows = (count + columns - 1) / columns;
-    const auto rowAt = [&](double y) { return int(std::clamp(std::floor(y / kRowPitch), -1.0, double(rows))); };
+    const auto rowAt = [&](double y) { return int(std::clamp(std::floor(y / kRowPitch), -9.0, rows + 9.0)); };
     const int first = std::clamp(rowAt(top) - 1, 0, rows);
     const int end = std::clamp(rowAt(bottom) + 2, first, rows);
     return {std::min(first * columns, count), std::min(end * columns, count)};

@@ -104,13 +104,24 @@ Item {
         }
     }
     RoundedShape {
+        objectName: "fade" // more below
+        visible: root.overflows
+        opacity: Math.min(1, (root.geometry.contentHeight - root.geometry.viewportHeight - scroll.value) / 20)
+        y: root.height - height
+        width: parent.width
+        height: 28
+        gradient: RoundedShape.Vertical
+        color: Qt.rgba(0, 0, 0, 0)
+        endColor: "black"
+    }
+    RoundedShape {
         objectName: "scroller"
         visible: root.overflows
         anchors.right: parent.right
-        anchors.rightMargin: -3
-        y: scroll.value / root.geometry.contentHeight * root.height
+        anchors.rightMargin: -4
+        y: scroll.value / (root.geometry.contentHeight - root.geometry.viewportHeight) * (root.height - height)
         width: 3
-        height: Math.round(root.height * root.height / root.geometry.contentHeight)
+        height: Math.max(28, Math.round(root.height * root.height / root.geometry.contentHeight))
         radius: 1.5
         color: Qt.rgba(1, 1, 1, 0.22)
     }

@@ -1,1 +1,111 @@
+#include "panel/PanelState.h"
 #include "PanelScene.h"
+#include "panel/FooterText.h"
+
+#include <QSignalSpy>
+#include <gtest/gtest.h>
+
+namespace brimshade::panel {
+namespace {
+
+using namespace Qt::StringLiterals;
+
+class PanelStateTest : public testing::Test {
+protected:
+    PanelStateTest()
+    {
+        state.setSource(&fixture.model);
+        footer.setState(&state);
+    }
+
+    ModelFixture fixture;
+    model::NotchModel &model = fixture.model;
+    PanelState state;
+    FooterText footer;
+};
+
+TEST_F(PanelStateTest, ShowsTheFirstCaseThatApplies)
+{
+    const QString noItems = u"No menu bar items found. If you just allowed Accessibility, quit and reopen Brimshade."_s;
+    const QString allFits = u"Nothing is hidden. Everything fits in your menu bar."_s;
+    const struct {
+        bool trusted, scanned;
+        int hidden, visible;
+        bool showVisible;
+        QString query;
+        PanelState::Body body;
+        QString sentence;
+    } cases[] = {
+        {false, true, 3, 2, true, {}, PanelState::Permission, {}},
+        {false, false, 0, 0, true, {}, PanelState::Permission, {}},
+        {true, false, 0, 0, true, {}, PanelState::Waiting, {}},
+        {true, true, 0, 0, true, {}, PanelState::NoItems, noItems},
+        {true, true, 3, 2, true, {}, PanelState::Tiles, {}},
+        {true, false, 3, 2, true, {}, PanelState::Tiles, {}},
+        {true, true, 0, 2, false, {}, PanelState::Tiles, allFits},
+        {true, true, 3, 2, true, u"zz \"<b>"_s, PanelState::Tiles, u"No matches for “zz \"<b>”"_s},
+        {true, true, 0, 2, false, u" "_s, PanelState::Tiles, {}},
+    };
+    for (const auto &c : cases) {
+        model.setTrusted(c.trusted);
+        model.setScanned(c.scanned);
+        model.setExtras(makeExtras(c.hidden, c.visible));
+        model.setShowVisible(c.showVisible);
+        model.setQuery(c.query);
+        SCOPED_TRACE(testing::Message() << c.hidden << '+' << c.visible << " \"" << qPrintable(c.query) << '"');
+        EXPECT_EQ(state.body(), c.body);
+        EXPECT_EQ(state.sentence(), c.sentence);
+        model.setIsOpen(true);
+        EXPECT_EQ(state.hasHeader(), c.body == PanelState::Tiles);
+        model.setIsOpen(false);
+        EXPECT_FALSE(state.hasHeader());
+    }
+}
+
+TEST_F(PanelStateTest, ThePointersTileWinsOverTheSelectedOne)
+{
+    const QString hint = u"Type to search  ·  ↩ to open  ·  right-click to hide or show  ·  esc to close"_s;
+    model.setExtras(makeExtras(3, 0));
+    const QString a = model.extras()[0].id;
+    const QString b = model.extras()[1].id;
+    const struct {
+        QString hovered, selected, highlighted, focus;
+    } cases[] = {
+        {{}, {}, {}, {}},
+        {a, {}, a, a},
+        {{}, b, b, b},
+        {a, b, a, a},
+        {u"gone"_s, b, u"gone"_s, {}},
+        {{}, u"gone"_s, u"gone"_s, {}},
+    };
+    for (const auto &c : cases) {
+        model.setHoveredID(c.hovered);
+        model.setSelectedID(c.selected);
+        SCOPED_TRACE(qPrintable(c.hovered + u'/' + c.selected));
+        EXPECT_EQ(state.highlightedID(), c.highlighted);
+        EXPECT_EQ(state.focusID(), c.focus);
+        EXPECT_EQ(state.focusText(), c.focus.isEmpty() ? hint : model.extraWithID(c.focus)->detail);
+    }
+}
+
+TEST_F(PanelStateTest, OnlyAnotherItemIsAnotherLine)
+{
+    QSignalSpy replaced(&footer, &FooterText::replaced);
+    model::ExtraList extras = makeExtras(2, 0);
+    model.setExtras(extras);
+    EXPECT_TRUE(footer.isHint());
+    model.setHoveredID(extras[0].id);
+    EXPECT_EQ(replaced.count(), 1);
+    EXPECT_EQ(footer.text(), extras[0].detail);
+    EXPECT_TRUE(footer.leavingIsHint());
+    extras[0].detail = u"Changed"_s;
+    model.setExtras(extras);
+    EXPECT_EQ(footer.text(), u"Changed"_s);
+    EXPECT_EQ(replaced.count(), 1);
+    model.setHoveredID(extras[1].id);
+    EXPECT_EQ(replaced.count(), 2);
+    EXPECT_EQ(footer.leavingText(), u"Changed"_s);
+}
+
+} // namespace
+} // namespace brimshade::panel

@@ -1,1 +1,172 @@
 #include "PanelScene.h"
+#include "ui/Spring.h"
+
+#include <QAccessible>
+#include <QAccessibleInterface>
+#include <functional>
+#include <gtest/gtest.h>
+
+namespace brimshade::panel {
+namespace {
+
+using namespace Qt::StringLiterals;
+
+double sprung(double from, double to, ui::SpringParameters spring, double seconds)
+{
+    return to + ui::springAt(spring, {from - to, 0}, seconds).position;
+}
+
+TEST(Panel, GrowsOutOfTheNotchAndShrinksBackOnItsSprings)
+{
+    PanelScene panel(3, 2); // 488 × 288 on a notch of 200 × 32
+    EXPECT_EQ(panel.frame(u"notchTab"_s), QRectF(394, 0, 212, 32));
+    EXPECT_FALSE(panel.scene.find(u"interior"_s)->isVisible());
+    panel.model.setIsOpen(true);
+    for (const int at : {50, 100, 200, 400}) {
+        panel.scene.advance(at - (at == 50 ? 0 : at == 100 ? 50 : at / 2));
+        EXPECT_NEAR(panel.frame(u"notchTab"_s).width(), sprung(212, 488, {0.46, 0.74}, at / 1000.0), 1) << at;
+        EXPECT_NEAR(panel.frame(u"notchTab"_s).height(), sprung(32, 288, {0.46, 0.74}, at / 1000.0), 0.51) << at;
+    }
+    panel.finishMotion();
+    EXPECT_EQ(panel.frame(u"notchTab"_s), QRectF(256, 0, 488, 288));
+    panel.model.setIsOpen(false);
+    panel.scene.advance(80);
+    EXPECT_NEAR(panel.frame(u"notchTab"_s).height(), sprung(288, 32, {0.32, 0.92}, 0.08), 0.51);
+}
+
+TEST(Panel, FollowsItsSizeOnAnotherSpring)
+{
+    PanelScene panel(3, 2);
+    panel.open();
+    panel.model.setQuery(u"zzz"_s);
+    panel.scene.advance(120);
+    EXPECT_NEAR(panel.frame(u"notchTab"_s).height(), sprung(288, 166, {0.4, 0.85}, 0.12), 0.51);
+}
+
+TEST(Panel, TheHeaderComesLateAndGoesAtOnce)
+{
+    PanelScene panel;
+    const QQuickItem *header = panel.scene.find(u"header"_s);
+    panel.model.setIsOpen(true);
+    panel.scene.advance(120);
+    EXPECT_EQ(header->opacity(), 0);
+    panel.scene.advance(150);
+    EXPECT_NEAR(header->opacity(), 0.68, 0.03); // ease-out at half time
+    panel.scene.advance(150);
+    EXPECT_EQ(header->opacity(), 1);
+    panel.model.setIsOpen(false);
+    panel.scene.advance(80);
+    EXPECT_EQ(header->opacity(), 0);
+}
+
+TEST(Panel, StandsWhereItsNumbersSay)
+{
+    PanelScene panel(3, 2);
+    panel.open();
+    EXPECT_EQ(panel.frame(u"content"_s).left(), 256 + 14 + 22);
+    EXPECT_EQ(panel.frame(u"header"_s), QRectF(292, 0, 416, 32));
+    EXPECT_EQ(panel.frame(u"hiddenSection"_s).topLeft(), QPointF(292, 32 + 10));
+    EXPECT_EQ(panel.frame(u"visibleSection"_s).topLeft(), QPointF(292, 42 + 98 + 14));
+    EXPECT_EQ(panel.frame(u"footer"_s), QRectF(292, 266, 416, 18));
+    EXPECT_EQ(panel.scene.frameOf(panel.tile(u"Lantern"_s)), QRectF(292 + 74, 42 + 24, 64, 74));
+    EXPECT_EQ(panel.scene.find(u"hiddenCount"_s)->property("text"), u"3 hidden"_s);
+    EXPECT_EQ(panel.scene.find(u"itemCount"_s)->property("text"), u"5 items"_s);
+}
+
+TEST(Panel, AClickBesideTheTabClosesItAndOneOnItDoesNot)
+{
+    PanelScene panel;
+    panel.open();
+    panel.scene.click({500, 150 + 100}); // black, between tiles and footer
+    panel.scene.click({280, 60});
+    EXPECT_TRUE(panel.system.done.isEmpty()) << panel.system.done.join(u';').toStdString();
+    panel.scene.click({100, 100});
+    panel.scene.click({257, 200}); // beside the body, under the flare
+    panel.scene.click({500, 700});
+    EXPECT_EQ(panel.system.done, QStringList({u"dismiss"_s, u"dismiss"_s, u"dismiss"_s}));
+    panel.system.done.clear();
+    panel.scene.click(panel.frame(u"settingsButton"_s).center());
+    EXPECT_EQ(panel.system.done, QStringList{u"settings"_s});
+}
+
+TEST(Panel, TheCardAsksForThePermissionAndIsAllThereIs)
+{
+    PanelScene panel(0, 0);
+    panel.model.setTrusted(false);
+    panel.open();
+    EXPECT_EQ(panel.frame(u"notchTab"_s).height(), 200);
+    EXPECT_EQ(panel.scene.find(u"header"_s)->opacity(), 0);
+    EXPECT_FALSE(panel.scene.find(u"sections"_s)->isVisible());
+    EXPECT_FALSE(panel.scene.find(u"footer"_s)->isVisible());
+    panel.scene.click(panel.frame(u"openAccessibilitySettings"_s).center());
+    EXPECT_EQ(panel.system.done,
+              QStringList({u"prompt"_s,
+                           u"open x-apple.systempreferences:com.apple.preference.security?"
+                           u"Privacy_Accessibility"_s}));
+    panel.model.setTrusted(true);
+    panel.finishMotion();
+    EXPECT_FALSE(panel.scene.find(u"permissionCard"_s)->isVisible());
+}
+
+TEST(Panel, NothingRunsOnceItRestsOpenOrClosed)
+{
+    PanelScene panel(12, 9);
+    EXPECT_EQ(panel.scene.framesAskedFor(2000), 0) << "before the first opening";
+    panel.model.setIsOpen(true);
+    EXPECT_GT(panel.scene.framesAskedFor(2500), 10);
+    EXPECT_EQ(panel.scene.framesAskedFor(2000), 0) << "open";
+    panel.model.setIsOpen(false);
+    panel.finishMotion();
+    EXPECT_EQ(panel.scene.framesAskedFor(2000), 0) << "closed";
+    panel.model.setExtras(makeExtras(2, 20));
+    panel.scene.settle();
+    EXPECT_EQ(panel.scene.framesAskedFor(2000), 0) << "a scan while closed moves nothing";
+}
+
+// What assistive programs are told, in order: "Button Relay (Relay is what this is)".
+QStringList spoken(QQuickWindow *window)
+{
+    QStringList result;
+    const std::function<void(QAccessibleInterface *)> visit = [&](QAccessibleInterface *element) {
+        if (!element || element->state().invisible)
+            return;
+        if (element->role() == QAccessible::StaticText)
+            result << element->text(QAccessible::Name);
+        if (element->role() == QAccessible::Button)
+            result << u"[%1] %2"_s.arg(element->text(QAccessible::Name), element->text(QAccessible::Description));
+        for (int i = 0; i < element->childCount(); ++i)
+            visit(element->child(i));
+    };
+    QAccessibleInterface *root = QAccessible::queryAccessibleInterface(window); // itself off screen
+    for (int i = 0; i < root->childCount(); ++i)
+        visit(root->child(i));
+    return result;
+}
+
+TEST(Panel, SaysEveryTextOnceAndEveryTileAsAButton)
+{
+    QAccessible::setActive(true);
+    PanelScene panel(2, 1);
+    EXPECT_EQ(spoken(panel.scene.window()), QStringList()) << "closed";
+    panel.open();
+    const QStringList tilesOpen{u"2 hidden"_s,
+                                u"3 items"_s,
+                                u"[Settings] "_s,
+                                u"BEHIND THE NOTCH"_s,
+                                u"[Relay] Relay is what this is"_s,
+                                u"[Lantern] Lantern is what this is"_s,
+                                u"IN THE MENU BAR"_s,
+                                u"[Papercut] Papercut is what this is"_s,
+                                u"Type to search  ·  ↩ to open  ·  right-click to hide or show  ·  esc to close"_s};
+    EXPECT_EQ(spoken(panel.scene.window()), tilesOpen);
+    panel.model.setQuery(u"zz"_s);
+    panel.finishMotion();
+    const QStringList said = spoken(panel.scene.window());
+    EXPECT_TRUE(said.contains(u"zz"_s));
+    EXPECT_TRUE(said.contains(u"No matches for “zz”"_s));
+    EXPECT_FALSE(said.contains(u"2 hidden"_s));
+    EXPECT_FALSE(said.contains(u"BEHIND THE NOTCH"_s));
+}
+
+} // namespace
+} // namespace brimshade::panel

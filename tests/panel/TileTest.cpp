@@ -1,1 +1,141 @@
 #include "PanelScene.h"
+#include "ui/Spring.h"
+
+#include <gtest/gtest.h>
+
+namespace brimshade::panel {
+namespace {
+
+using namespace Qt::StringLiterals;
+
+TEST(Tile, CascadesInReadingOrderAndLeavesAllTogether)
+{
+    PanelScene panel(6, 5);
+    panel.model.setIsOpen(true);
+    panel.scene.advance(268);
+    const auto opacity = [&](int index) { return panel.tile(panel.tileNames()[index])->opacity(); };
+    EXPECT_EQ(opacity(9), 0) << "the tenth starts 0.268 s after the change";
+    const double moving = 0.268 - 0.07 - 3 * 0.022;
+    EXPECT_NEAR(opacity(3), 1 + ui::springAt({0.5, 0.7}, {-1, 0}, moving).position, 1e-6);
+    panel.scene.advance(16);
+    EXPECT_GT(opacity(9), 0);
+    EXPECT_EQ(opacity(10), 0);
+    panel.finishMotion();
+    panel.model.setIsOpen(false);
+    panel.scene.advance(50);
+    for (int i = 0; i < 11; ++i)
+        EXPECT_NEAR(opacity(i), 1 - 0.315, 0.01) << "ease-in at half time, tile " << i;
+    panel.scene.advance(50);
+    EXPECT_EQ(opacity(0), 0);
+}
+
+TEST(Tile, ComesInFromAboveAtHalfItsSize)
+{
+    PanelScene panel(4, 0);
+    const QRectF closed = panel.scene.frameOf(panel.tile(u"Relay"_s));
+    panel.open();
+    const QRectF open = panel.scene.frameOf(panel.tile(u"Relay"_s));
+    EXPECT_EQ(open.size(), QSizeF(64, 74));
+    EXPECT_EQ(closed.size(), QSizeF(32, 37));
+    EXPECT_EQ(closed.center().x(), open.center().x()) << "about its top centre";
+    EXPECT_EQ(closed.top(), open.top() - 14);
+}
+
+TEST(Tile, OnlyTheTileInFocusIsHighlighted)
+{
+    PanelScene panel(4, 3);
+    panel.open();
+    const auto highlighted = [&] {
+        QStringList names;
+        for (const QString &name : panel.tileNames()) {
+            if (panel.tile(name)->property("highlighted").toBool())
+                names << name;
+        }
+        return names;
+    };
+    const auto centre = [&](const QString &name) { return panel.scene.frameOf(panel.tile(name)).center(); };
+    EXPECT_EQ(highlighted(), QStringList());
+    panel.model.moveSelection(1);
+    panel.model.moveSelection(1);
+    EXPECT_EQ(highlighted(), QStringList{u"Lantern"_s});
+    panel.scene.movePointer(centre(u"Relay"_s));
+    EXPECT_EQ(highlighted(), QStringList{u"Relay"_s});
+    EXPECT_EQ(panel.scene.find(u"footer"_s)->property("text"), u"Relay is what this is"_s);
+    panel.scene.movePointer(centre(u"Moss"_s));
+    EXPECT_EQ(highlighted(), QStringList{u"Moss"_s});
+    panel.model.moveSelection(1); // the keyboard takes over
+    EXPECT_EQ(highlighted(), QStringList{u"Papercut"_s});
+    panel.scene.movePointer({20, 700});
+    EXPECT_EQ(panel.model.hoveredID(), QString());
+}
+
+TEST(Tile, IsLitAndGrowsUnderThePointer)
+{
+    PanelScene panel(1, 2, 2);
+    panel.model.setExtras({makeExtra(u"Hidden"_s, true), makeExtra(u"Shown"_s, false)});
+    panel.open();
+    const auto face = [&](const QString &name) {
+        return panel.scene.frameOf(panel.tile(name)->findChild<QQuickItem *>(u"face"_s));
+    };
+    // Between the icon and the face's edge.
+    const auto fill = [&](const QString &name) { return panel.pixel(face(name).topLeft() + QPointF(27, 4)).red(); };
+    EXPECT_NEAR(fill(u"Hidden"_s), 255 * 0.06, 2);
+    EXPECT_NEAR(fill(u"Shown"_s), 255 * 0.035, 2);
+    const QPointF marker = face(u"Hidden"_s).center() + QPointF(19, -19);
+    EXPECT_EQ(panel.pixel(marker), QColor(255, 158, 51));
+    EXPECT_LT(panel.pixel(face(u"Shown"_s).center() + QPointF(19, -19)).red(), 20);
+    EXPECT_EQ(face(u"Hidden"_s).size(), QSizeF(54, 54));
+    panel.model.setHoveredID(u"hidden"_s);
+    panel.finishMotion();
+    EXPECT_NEAR(face(u"Hidden"_s).width(), 54 * 1.07, 1e-6);
+    EXPECT_GT(fill(u"Hidden"_s), 255 * 0.11);
+    const QQuickItem *name = panel.tile(u"Hidden"_s)->findChild<QQuickItem *>(u"name"_s);
+    EXPECT_NEAR(name->property("color").value<QColor>().alphaF(), 0.95, 0.01);
+}
+
+TEST(Tile, OpensOnAClickAndShowsItsMenuOnARightClick)
+{
+    PanelScene panel(2, 8);
+    panel.open();
+    const auto centre = [&](const QString &name) { return panel.scene.frameOf(panel.tile(name)).center(); };
+    panel.scene.click(centre(u"Relay"_s));
+    panel.scene.click(panel.scene.frameOf(panel.tile(u"Relay"_s)).topLeft() + QPointF(1, 1)); // a transparent part
+    panel.scene.click(centre(u"Relay"_s), Qt::RightButton);
+    panel.scene.click(centre(u"Papercut"_s), Qt::RightButton);
+    panel.scene.click(centre(panel.tileNames().last()), Qt::RightButton); // pinned
+    EXPECT_EQ(panel.system.done,
+              QStringList({u"select Relay"_s, u"select Relay"_s, u"menu Open,Show in Menu Bar"_s,
+                           u"menu Open,Hide from Menu Bar"_s, u"menu Open,-Hide from Menu Bar"_s}));
+}
+
+TEST(Tile, KeepsItsIdentityThroughSearchesAndScans)
+{
+    PanelScene panel(8, 6);
+    panel.open();
+    QQuickItem *pebble = panel.tile(u"Pebble"_s);
+    const QPointF before = panel.scene.frameOf(pebble).topLeft();
+    panel.model.setQuery(u"peb"_s);
+    panel.scene.settle();
+    EXPECT_EQ(panel.tile(u"Pebble"_s), pebble);
+    EXPECT_EQ(panel.tileNames(), QStringList{u"Pebble"_s});
+    panel.finishMotion();
+    EXPECT_NE(panel.scene.frameOf(pebble).topLeft(), before);
+    panel.model.setQuery({});
+    panel.model.setExtras(makeExtras(8, 6));
+    panel.finishMotion();
+    EXPECT_EQ(panel.tile(u"Pebble"_s), pebble);
+    EXPECT_EQ(panel.scene.frameOf(pebble).topLeft(), before);
+}
+
+TEST(Tile, CutsALongNameToOneLine)
+{
+    PanelScene panel(8, 0);
+    panel.open();
+    const QQuickItem *name = panel.tile(u"Northwind Calendar"_s)->findChild<QQuickItem *>(u"name"_s);
+    EXPECT_TRUE(name->property("truncated").toBool());
+    EXPECT_EQ(name->property("lineCount"), 1);
+    EXPECT_LE(name->property("contentWidth").toDouble(), 64);
+}
+
+} // namespace
+} // namespace brimshade::panel

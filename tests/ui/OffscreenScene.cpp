@@ -76,6 +76,16 @@ QImage OffscreenScene::picture()
     return m_image.copy();
 }
 
+void OffscreenScene::renderFrame(int milliseconds)
+{
+    m_clock.step(milliseconds);
+    m_control->polishItems();
+    m_control->beginFrame();
+    m_control->sync();
+    m_control->render();
+    m_control->endFrame();
+}
+
 void OffscreenScene::settle()
 {
     // Polishing may ask for more polishing, and queued signals for more events: two rounds reach the end.
@@ -94,6 +104,19 @@ void OffscreenScene::advance(int milliseconds)
         m_control->polishItems();
     }
     settle();
+}
+
+int OffscreenScene::framesAskedFor(int milliseconds)
+{
+    picture();
+    int count = 0;
+    const auto ask = [&count] { ++count; };
+    const auto rendering = QObject::connect(m_control.get(), &QQuickRenderControl::renderRequested, ask);
+    const auto changing = QObject::connect(m_control.get(), &QQuickRenderControl::sceneChanged, ask);
+    advance(milliseconds);
+    QObject::disconnect(rendering);
+    QObject::disconnect(changing);
+    return count;
 }
 
 QRectF OffscreenScene::frameOf(const QQuickItem *item) const

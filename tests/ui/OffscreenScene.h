@@ -30,7 +30,9 @@ public:
     // Opaque. Only what changed since the last one is drawn anew, as in a real window.
     QImage picture();
     void settle(); // bindings, polish and delegates are done
+    void renderFrame(int milliseconds); // one frame of that length, as a window makes it
     void advance(int milliseconds); // frames of 16 ms, nothing rendered
+    int framesAskedFor(int milliseconds); // how often the scene wanted to be drawn while that time passed
     QRectF frameOf(const QQuickItem *item) const; // in the scene, transforms applied
     void movePointer(QPointF to);
     void click(QPointF at, Qt::MouseButton button = Qt::LeftButton);
