@@ -4,6 +4,7 @@
 #include "desktop/core/MenuHost.h"
 #include "desktop/scene/SceneHost.h"
 
+#include <QJsonArray>
 #include <algorithm>
 
 using namespace Qt::StringLiterals;
