@@ -123,12 +123,22 @@ TEST(Panel, NothingRunsOnceItRestsOpenOrClosed)
     EXPECT_EQ(panel.scene.framesAskedFor(2000), 0) << "a scan while closed moves nothing";
 }
 
+// The window itself is never shown here, so the elements' own states do not say it.
+bool isSeen(const QQuickItem *item)
+{
+    double opacity = 1;
+    for (const QQuickItem *i = item; i; i = i->parentItem())
+        opacity *= i->opacity();
+    return item->isVisible() && opacity > 0.01;
+}
+
 // What assistive programs are told, in order: "Button Relay (Relay is what this is)".
 QStringList spoken(QQuickWindow *window)
 {
     QStringList result;
     const std::function<void(QAccessibleInterface *)> visit = [&](QAccessibleInterface *element) {
-        if (!element || element->state().invisible)
+        const auto *item = element ? qobject_cast<QQuickItem *>(element->object()) : nullptr;
+        if (!item || !isSeen(item))
             return;
         if (element->role() == QAccessible::StaticText)
             result << element->text(QAccessible::Name);
