@@ -196,6 +196,11 @@ QQuickItem *SceneHost::contentOf(const DesktopWindow *window) const
     return d->windows->contentOf(window);
 }
 
+bool SceneHost::isAnimating() const
+{
+    return d->animations && d->animations->isRunning();
+}
+
 QPointF SceneHost::toDisplay(QPointF scene) const
 {
     return d->space->mapFromScene(scene);

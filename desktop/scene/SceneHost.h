@@ -44,6 +44,7 @@ public:
     // Of one of the program's windows, by its attributes' name; nothing when it is not on screen.
     std::optional<QImage> picture(const QString &windowName);
     QQuickItem *contentOf(const DesktopWindow *window) const; // the view's root item; null for a native view
+    bool isAnimating() const; // under a virtual clock: whether frames are asked of it
     QPointF toDisplay(QPointF scene) const; // from the window's coordinates, that is of quickWindow()
 
     void movePointer(QPointF display, std::uint64_t modifierFlags = 0);

@@ -64,9 +64,9 @@ bool SceneInput::takeMove(const QMouseEvent &event)
 {
     m_hand = event.position();
     const QPointF to = toDisplay(event.position());
-    const Target target = m_router.pointerMoved(to, modifierFlagsFor(event.modifiers()));
+    m_router.pointerMoved(to, modifierFlagsFor(event.modifiers()));
     m_state.handMoved();
-    if (target == Target::menu) {
+    if (m_menu.isOpen()) { // also while the button that opened it is held
         m_menu.pointerMoved(to);
         return true; // what is under the menu stays as it is
     }
@@ -94,7 +94,7 @@ bool SceneInput::takeRelease(const QMouseEvent &event)
     if (!button)
         return true;
     const Target target = m_router.released(*button, modifierFlagsFor(event.modifiers()));
-    if (target == Target::menu)
+    if (m_menu.isOpen())
         m_menu.released(toDisplay(event.position()));
     return !isForViews(target);
 }

@@ -1,6 +1,7 @@
 #pragma once
 #include "desktop/core/InputRouter.h"
 
+#include <QEvent>
 #include <QObject>
 #include <QPointF>
 #include <optional>

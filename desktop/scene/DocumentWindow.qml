@@ -1,5 +1,6 @@
 pragma ComponentBehavior: Bound
 import QtQuick
+import Brimshade.Desktop
 import Brimshade.Ui
 
 // Another application's window, so that the screen looks lived in. A decoration: it takes no input.

@@ -1,5 +1,6 @@
 pragma ComponentBehavior: Bound
 import QtQuick
+import Brimshade.Desktop
 import Brimshade.Ui
 
 // The system's page on which the permission is granted.

@@ -10,11 +10,11 @@ Item {
     required property string what
     required property var image
     required property bool isLeaving
-    required property real right
-    required property real top
+    required property real rightEdge
+    required property real topEdge
 
     objectName: "banner"
-    x: root.right - width * shown.value + (12 + 40) * (1 - shown.value)
+    x: root.rightEdge - width * shown.value + (12 + 40) * (1 - shown.value)
     y: row.value
     width: 320
     height: 68
@@ -33,7 +33,7 @@ Item {
     }
     SpringValue {
         id: row
-        target: root.top
+        target: root.topEdge
         response: 0.4
         damping: 0.9
     }

@@ -1,5 +1,6 @@
 pragma ComponentBehavior: Bound
 import QtQuick
+import Brimshade.Desktop
 
 // One of the program's windows: what the system draws around its content.
 FocusScope {

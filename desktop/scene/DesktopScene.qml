@@ -1,5 +1,6 @@
 pragma ComponentBehavior: Bound
 import QtQuick
+import Brimshade.Desktop
 
 // The whole desktop. The order of what lies over what is the z of the children of `space`; the program's windows join
 // them at their window levels, the bar is at level 24.
@@ -45,8 +46,8 @@ FocusScope {
                 required property int index
 
                 z: 100
-                right: root.desktop.bar.frame.right - 12
-                top: root.desktop.bar.frame.bottom + 10 + index * 80
+                rightEdge: root.desktop.bar.frame.right - 12
+                topEdge: root.desktop.bar.frame.bottom + 10 + index * 80
             }
         }
         AccessibilityPage {

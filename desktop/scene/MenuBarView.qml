@@ -1,5 +1,6 @@
 pragma ComponentBehavior: Bound
 import QtQuick
+import Brimshade.Desktop
 import Brimshade.Ui
 
 // The menu bar of the screen that has the status items, and that screen's notch.

@@ -1,5 +1,6 @@
 pragma ComponentBehavior: Bound
 import QtQuick
+import Brimshade.Desktop
 
 // What a screen shows behind everything: the wallpaper, and on the primary screen the other programs' quiet presence.
 Item {

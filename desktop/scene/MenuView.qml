@@ -1,5 +1,6 @@
 pragma ComponentBehavior: Bound
 import QtQuick
+import Brimshade.Desktop
 import Brimshade.Ui
 
 // One open list of the menu. Pointer and keys are the menu controller's; long lists make only the rows that show.

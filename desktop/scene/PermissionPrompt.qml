@@ -1,5 +1,6 @@
 pragma ComponentBehavior: Bound
 import QtQuick
+import Brimshade.Desktop
 import Brimshade.Ui
 
 // The system asks whether the program may control this computer.

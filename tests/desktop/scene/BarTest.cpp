@@ -1,0 +1,73 @@
+#include "SceneContext.h"
+#include "desktop/core/MenuBar.h"
+#include "desktop/scene/BarModel.h"
+#include "desktop/scene/WallClock.h"
+
+#include <gtest/gtest.h>
+
+using namespace Qt::StringLiterals;
+
+namespace brimshade::desktop {
+namespace {
+
+TEST(WallClock, TellsAsMuchAsThereIsRoomForAndWakesOnTheMinute)
+{
+    VirtualDispatch dispatch;
+    const QDateTime start(QDate(2026, 9, 3), QTime(23, 58, 30));
+    WallClock clock(dispatch, [&] { return start.addMSecs(qint64(dispatch.now() * 1000)); });
+    EXPECT_EQ(clock.text(400), u"Thu Sep 3  23:58"_s);
+    EXPECT_EQ(clock.text(80), u"Thu 23:58"_s);
+    EXPECT_EQ(clock.text(1), u"23:58"_s);
+    int changes = 0;
+    QObject::connect(&clock, &WallClock::changed, &clock, [&] { ++changes; });
+    dispatch.advance(29.9);
+    EXPECT_EQ(changes, 0);
+    dispatch.advance(0.1);
+    EXPECT_EQ(changes, 1);
+    EXPECT_EQ(clock.text(400), u"Thu Sep 3  23:59"_s);
+    dispatch.advance(60);
+    EXPECT_EQ(changes, 2);
+    EXPECT_EQ(clock.text(400), u"Fri Sep 4  00:00"_s);
+}
+
+TEST(Bar, ShowsTheItemsThatAreDrawnWhereTheyAre)
+{
+    DesktopDescription description = SceneContext::smallDesktop();
+    description.screens[0].notch = {400, 700};
+    auto &extras = *description.applications[0].extras;
+    extras.assign(12, extras[0]);
+    for (int i = 0; i < 12; ++i) {
+        extras[i].identifier = u"relay.%1"_s.arg(i);
+        extras[i].width = 40;
+    }
+    SceneContext context(description);
+    const auto shown = [&] {
+        QList<QRectF> frames;
+        for (const QQuickItem *item : context.findAll(u"barItem"_s))
+            frames << item->mapRectToScene(QRectF(0, 0, item->width(), item->height()));
+        return frames;
+    };
+    const auto drawn = [&] {
+        QList<QRectF> frames;
+        for (const BarItem &item : context.desktop().menuBar().items()) {
+            if (item.drawn)
+                frames << item.frame;
+        }
+        return frames;
+    };
+    EXPECT_EQ(shown(), drawn());
+    EXPECT_EQ(shown().size(), 7) << "(992 - 700) / 40";
+    ApplicationSpec changed;
+    changed.description = description.applications[0];
+    changed.description.extras->at(0).width = 90;
+    context.desktop().change(812, changed);
+    context.advance(0.2);
+    EXPECT_EQ(shown(), drawn());
+    EXPECT_EQ(shown().last().width(), 90);
+    context.desktop().setMenuBarShowing(false);
+    context.advance(0.2);
+    EXPECT_TRUE(shown().isEmpty());
+}
+
+} // namespace
+} // namespace brimshade::desktop

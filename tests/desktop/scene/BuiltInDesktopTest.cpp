@@ -1,0 +1,61 @@
+#include "SceneContext.h"
+#include "desktop/builtin/BuiltInDesktop.h"
+#include "desktop/core/MenuBar.h"
+#include "platform/Workspace.h"
+
+#include <QImageReader>
+#include <gtest/gtest.h>
+
+using namespace Qt::StringLiterals;
+
+namespace brimshade::desktop {
+namespace {
+
+TEST(BuiltInDesktop, HasItemsInTheBarBehindTheNotchAndOffScreen)
+{
+    SceneContext context(builtInDesktop());
+    int drawn = 0;
+    int behind = 0;
+    int offScreen = 0;
+    for (const BarItem &item : context.desktop().menuBar().items()) {
+        drawn += item.drawn;
+        offScreen += item.frame.right() <= 0;
+        behind += !item.drawn && item.frame.right() > 0;
+        EXPECT_FALSE(item.symbol.isEmpty() && item.image.isNull() && !item.identifier.endsWith(u".clock"_s))
+            << "nothing to draw for " << item.identifier.toStdString();
+    }
+    EXPECT_GE(drawn, 10);
+    EXPECT_GE(behind, 5);
+    EXPECT_GE(offScreen, 1);
+    EXPECT_LE(offScreen, 2);
+}
+
+TEST(BuiltInDesktop, HasReadablePicturesAndMenusThatSayWhatWasChosen)
+{
+    QStringList icons;
+    for (const ApplicationDescription &application : builtInDesktop().applications) {
+        if (!application.icon)
+            continue;
+        QImageReader reader(*application.icon);
+        EXPECT_TRUE(reader.canRead()) << application.icon->toStdString();
+        icons << *application.icon;
+        for (const ExtraDescription &extra : application.extras.value_or(std::vector<ExtraDescription>())) {
+            EXPECT_GE(extra.menu.size(), 4) << application.name->toStdString();
+            EXPECT_LE(extra.menu.size(), 8) << application.name->toStdString();
+        }
+    }
+    icons.removeDuplicates();
+    EXPECT_GE(icons.size(), 12);
+
+    SceneContext context(builtInDesktop());
+    const auto items = context.desktop().menuBar().items();
+    context.click(items.back().frame.center());
+    ASSERT_TRUE(context.desktop().menus().choose(u"Show Calendar"_s));
+    context.settle();
+    const auto banners = context.findAll(u"banner"_s);
+    ASSERT_EQ(banners.size(), 1);
+    EXPECT_TRUE(banners.first()->property("what").toString().contains(u"Show Calendar"_s));
+}
+
+} // namespace
+} // namespace brimshade::desktop

@@ -1,0 +1,143 @@
+#include "SceneContext.h"
+#include "desktop/core/MenuBar.h"
+
+#include <gtest/gtest.h>
+
+using namespace Qt::StringLiterals;
+
+namespace brimshade::desktop {
+namespace {
+
+const QRectF kFrame(300, 200, 200, 200); // of the probe: area a, area b right of it
+const QPointF kInA(350, 250);
+const QPointF kInB(450, 250);
+
+QPointF barItemAt(SceneContext &context)
+{
+    return context.desktop().menuBar().items().front().frame.center();
+}
+
+TEST(Input, ReachesTheViewUnderThePointerOnly)
+{
+    SceneContext context;
+    const auto low = context.probe(u"low"_s, kFrame);
+    platform::WindowAttributes higher;
+    higher.level = platform::kStatusWindowLevel;
+    const auto high = context.probe(u"high"_s, kFrame.translated(150, 0), higher);
+    context.recorder().take();
+    context.click(kInA);
+    EXPECT_EQ(context.recorder().take(), QStringList({u"enter a"_s, u"press a"_s, u"release a"_s}));
+    context.click(kInB + QPointF(40, 0)); // b of the lower window lies under a of the higher one
+    EXPECT_EQ(context.recorder().take(),
+              QStringList({u"leave a"_s, u"enter a"_s, u"press a"_s, u"release a"_s}));
+    EXPECT_TRUE(high->isKeyWindow());
+    context.click(kInA, MouseButton::right);
+    const QStringList right = context.recorder().take();
+    EXPECT_TRUE(right.contains(u"press a right"_s)) << right.join(u", "_s).toStdString();
+    EXPECT_TRUE(low->isKeyWindow());
+    context.click({200, 600});
+    EXPECT_FALSE(low->isKeyWindow());
+}
+
+TEST(Input, StaysWithTheViewThatWasPressedUntilTheRelease)
+{
+    SceneContext context;
+    const auto window = context.probe(u"probe"_s, kFrame);
+    context.move(kInA);
+    context.recorder().take();
+    context.scene().press(MouseButton::left);
+    context.move({700, 600});
+    context.scene().release(MouseButton::left);
+    context.settle();
+    EXPECT_TRUE(context.recorder().take().contains(u"release a"_s));
+    // What begins outside of any window never reaches one.
+    context.scene().press(MouseButton::left);
+    context.move(kInB);
+    context.scene().release(MouseButton::left);
+    context.settle();
+    const QStringList notes = context.recorder().take();
+    EXPECT_FALSE(notes.contains(u"press b"_s) || notes.contains(u"release b"_s));
+}
+
+TEST(Input, TellsHoverInTheOrderInWhichThePointerGoes)
+{
+    SceneContext context;
+    const auto window = context.probe(u"probe"_s, kFrame);
+    context.recorder().take();
+    for (const QPointF &to : {kInA, kInA + QPointF(10, 10), kInB, QPointF(800, 600)})
+        context.move(to);
+    QStringList notes = context.recorder().take();
+    EXPECT_EQ(notes.size(), 4);
+    EXPECT_EQ(notes.first(), u"enter a"_s);
+    EXPECT_EQ(notes.last(), u"leave b"_s);
+    std::sort(notes.begin(), notes.end());
+    EXPECT_EQ(notes, QStringList({u"enter a"_s, u"enter b"_s, u"leave a"_s, u"leave b"_s}));
+}
+
+TEST(Input, OpensAMenuOfTheBarAndKeepsTheClickFromTheViews)
+{
+    SceneContext context;
+    // A window that covers the bar does not keep its items from a click elsewhere on it.
+    const auto window = context.probe(u"probe"_s, kFrame);
+    context.recorder().take();
+    context.click(barItemAt(context));
+    ASSERT_TRUE(context.desktop().menus().openMenu());
+    EXPECT_EQ(context.recorder().take(), QStringList());
+    EXPECT_TRUE(window->isKeyWindow()) << "the bar takes no keys";
+
+    // The next click outside only dismisses it; the view gets neither it nor hover until then.
+    context.move(kInA);
+    EXPECT_EQ(context.recorder().take(), QStringList());
+    context.scene().press(MouseButton::left);
+    context.settle();
+    EXPECT_FALSE(context.desktop().menus().openMenu());
+    context.scene().release(MouseButton::left);
+    context.settle();
+    EXPECT_EQ(context.recorder().take(), QStringList({u"enter a"_s})) << "what the pointer is over is known again";
+}
+
+TEST(Input, GivesKeysToTheKeyWindowAsTheyStand)
+{
+    SceneContext context;
+    const auto first = context.probe(u"first"_s, kFrame);
+    const auto second = context.probe(u"second"_s, kFrame.translated(0, 250));
+    context.recorder().take();
+    context.key(45, u"ñ"_s);
+    EXPECT_EQ(context.recorder().take(), QStringList({u"key %1 ñ"_s.arg(int(Qt::Key_N))}));
+    second->orderOut();
+    context.settle();
+    context.desktop().windows().makeKey(nullptr);
+    context.key(0, u"a"_s);
+    EXPECT_EQ(context.recorder().take(), QStringList()) << "another application has the keys";
+    first->makeKeyAndOrderFront();
+    context.key(0, u"a"_s);
+    EXPECT_EQ(context.recorder().take().size(), 1);
+}
+
+TEST(Input, PassesCodeAndCharactersToMonitorsUnchanged)
+{
+    SceneContext context;
+    const auto window = context.probe(u"probe"_s, kFrame);
+    context.recorder().take();
+    std::vector<platform::Event> seen;
+    bool swallows = true;
+    auto &application = context.desktop().platform().application;
+    const auto token = application.addLocalMonitor(
+        platform::kKeyDownMask, [&](const platform::Event &event) -> std::optional<platform::Event> {
+            seen.push_back(event);
+            return swallows ? std::nullopt : std::optional(event);
+        });
+    context.key(200, u"é"_s, platform::kControlFlag | platform::kShiftFlag);
+    ASSERT_EQ(seen.size(), 1u);
+    EXPECT_EQ(seen[0].keyCode, 200);
+    EXPECT_EQ(seen[0].characters, u"é"_s);
+    EXPECT_EQ(seen[0].modifierFlags, platform::kControlFlag | platform::kShiftFlag);
+    EXPECT_EQ(context.recorder().take(), QStringList());
+    swallows = false;
+    context.key(36, u"\r"_s);
+    EXPECT_EQ(context.recorder().take().size(), 1);
+    application.removeMonitor(token);
+}
+
+} // namespace
+} // namespace brimshade::desktop

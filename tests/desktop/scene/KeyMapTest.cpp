@@ -1,0 +1,81 @@
+#include "desktop/scene/KeyMap.h"
+
+#include <gtest/gtest.h>
+
+using namespace Qt::StringLiterals;
+
+namespace brimshade::desktop {
+namespace {
+
+std::optional<platform::Event> typed(int key, Qt::KeyboardModifiers modifiers, const QString &text)
+{
+    return keyDownFor(QKeyEvent(QEvent::KeyPress, key, modifiers, text));
+}
+
+TEST(KeyMap, GivesEveryKeyItsVirtualCode)
+{
+    const struct {
+        int key;
+        Qt::KeyboardModifiers modifiers;
+        QString text;
+        std::uint16_t code;
+        std::uint64_t flags;
+    } cases[] = {
+        {Qt::Key_Escape, {}, u"\x1b"_s, 53, 0},
+        {Qt::Key_Return, {}, u"\r"_s, 36, 0},
+        {Qt::Key_Enter, Qt::KeypadModifier, u"\r"_s, 76, 0},
+        {Qt::Key_Backspace, {}, u"\b"_s, 51, 0},
+        {Qt::Key_Delete, {}, u"\x7f"_s, 117, 0},
+        {Qt::Key_Left, {}, {}, 123, 0},
+        {Qt::Key_Right, {}, {}, 124, 0},
+        {Qt::Key_Down, {}, {}, 125, 0},
+        {Qt::Key_Up, {}, {}, 126, 0},
+        {Qt::Key_Tab, {}, u"\t"_s, 48, 0},
+        {Qt::Key_Backtab, Qt::ShiftModifier, {}, 48, platform::kShiftFlag},
+        {Qt::Key_A, Qt::ShiftModifier, u"A"_s, 0, platform::kShiftFlag},
+        {Qt::Key_N, Qt::AltModifier | Qt::MetaModifier, u"n"_s, 45, platform::kOptionFlag | platform::kCommandFlag},
+        {Qt::Key_Space, Qt::ControlModifier | Qt::AltModifier, u" "_s, 49,
+         platform::kControlFlag | platform::kOptionFlag},
+        {Qt::Key_M, Qt::ControlModifier, u"\r"_s, 46, platform::kControlFlag},
+        {Qt::Key_5, {}, u"5"_s, 23, 0},
+        {Qt::Key_5, Qt::KeypadModifier, u"5"_s, 87, 0},
+        {Qt::Key_Exclam, Qt::ShiftModifier, u"!"_s, 18, platform::kShiftFlag},
+        {Qt::Key_Odiaeresis, {}, u"ö"_s, 0x7f, 0},
+    };
+    for (const auto &each : cases) {
+        SCOPED_TRACE(each.key);
+        const auto event = typed(each.key, each.modifiers, each.text);
+        ASSERT_TRUE(event);
+        EXPECT_EQ(event->keyCode, each.code);
+        EXPECT_EQ(event->modifierFlags, each.flags);
+        EXPECT_EQ(event->characters, each.text);
+    }
+}
+
+TEST(KeyMap, HasNoKeyDownForAModifierOrAKeyThatTypesNothing)
+{
+    for (const int key : {Qt::Key_Shift, Qt::Key_Control, Qt::Key_Alt, Qt::Key_Meta, Qt::Key_Super_L, Qt::Key_CapsLock,
+                          Qt::Key_AltGr, Qt::Key_VolumeUp, Qt::Key_Print})
+        EXPECT_FALSE(typed(key, {}, {})) << key;
+}
+
+TEST(KeyMap, AnswersTheSameKeyForACodeAsItGaveTheCodeFor)
+{
+    int known = 0;
+    for (std::uint16_t code = 0; code < 128; ++code) {
+        const Qt::Key key = keyFor(code);
+        if (key == Qt::Key_unknown)
+            continue;
+        ++known;
+        const bool isKeypad = keyCodeFor(key, true) == code;
+        EXPECT_EQ(keyCodeFor(key, isKeypad), code);
+    }
+    EXPECT_GT(known, 90);
+    const std::uint64_t all =
+        platform::kShiftFlag | platform::kControlFlag | platform::kOptionFlag | platform::kCommandFlag;
+    for (std::uint64_t flags = 0; flags <= all; flags += platform::kShiftFlag)
+        EXPECT_EQ(modifierFlagsFor(modifiersFor(flags)), flags);
+}
+
+} // namespace
+} // namespace brimshade::desktop
