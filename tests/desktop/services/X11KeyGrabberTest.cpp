@@ -120,10 +120,10 @@ TEST_F(X11KeyGrabberTest, FollowsTheKeyboardMapping)
     EXPECT_TRUE(grabber->grab(kOptionCommandN));
     EXPECT_TRUE(grabber->grab(kControlOptionSpace));
     swapKeys('n', 'm');
-    // The answer to a request of ours comes after the notice: the grab below has seen the new mapping.
+    press({}); // the notice has come
+    EXPECT_THAT(press({u"super+alt+n"_s}), ElementsAre(kOptionCommandN));
+    EXPECT_THAT(press({u"super+alt+m"_s}), ElementsAre());
     EXPECT_TRUE(grabber->grab(kControlOptionCommandM));
-    press({});
-    EXPECT_THAT(press({u"super+alt+n"_s, u"super+alt+m"_s}), ElementsAre(kOptionCommandN));
     EXPECT_THAT(press({u"super+alt+ctrl+m"_s}), ElementsAre(kControlOptionCommandM));
 }
 
