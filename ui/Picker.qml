@@ -3,17 +3,19 @@ import QtQuick
 import QtQuick.Templates as T
 import Brimshade.Ui
 
-// A pop-up button: shows one of its titles and opens a list of them over itself. Its text is its name to assistive
-// programs; it is not drawn.
-T.AbstractButton {
+// A pop-up button: shows one of its titles and opens a list of them over itself. The list is an item of the view it
+// belongs to, not a popup of the toolkit, which would lie outside the view. Its text is its name to assistive programs;
+// it is not drawn.
+T.ComboBox {
     id: control
 
     required property list<string> titles
-    required property int currentIndex
+    required property int index
+    required property string text
     // What the list lies over and stays inside: the view's root.
     required property Item surface
     property string help // said after the chosen title
-    readonly property string currentTitle: control.titles[control.currentIndex] ?? ""
+    readonly property string currentTitle: control.titles[control.index] ?? ""
     property bool opened: false
     property bool openedByKeyboard: false
 
@@ -32,14 +34,21 @@ T.AbstractButton {
     implicitWidth: 150
     implicitHeight: 24
     opacity: control.enabled ? 1 : 0.4
-    onClicked: control.open()
+    popup: null
     onVisibleChanged: control.opened = false
+    Keys.onSpacePressed: control.open()
     Keys.onUpPressed: control.open()
     Keys.onDownPressed: control.open()
 
     Accessible.role: Accessible.ComboBox
     Accessible.name: control.text
     Accessible.description: control.help === "" ? control.currentTitle : control.currentTitle + ". " + control.help
+    Accessible.onPressAction: control.open()
+
+    MouseArea {
+        anchors.fill: parent
+        onClicked: control.open()
+    }
 
     contentItem: StyledText {
         leftPadding: 9
@@ -98,7 +107,7 @@ T.AbstractButton {
             z: 50
             title: control.text
             titles: control.titles
-            currentIndex: control.currentIndex
+            currentIndex: control.index
             button: control
             onChosen: index => {
                 control.close();

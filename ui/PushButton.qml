@@ -26,6 +26,7 @@ T.Button {
 
     Accessible.role: Accessible.Button
     Accessible.name: control.text
+    Accessible.onPressAction: control.clicked()
 
     contentItem: StyledText {
         text: control.text

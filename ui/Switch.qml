@@ -27,6 +27,9 @@ T.Switch {
     Accessible.name: control.text
     Accessible.checkable: true
     Accessible.checked: control.checked
+    Accessible.readOnly: !control.enabled
+    Accessible.onPressAction: control.valueRequested(!control.value)
+    Accessible.onToggleAction: control.valueRequested(!control.value)
 
     SpringValue {
         id: slide

@@ -30,6 +30,7 @@ T.AbstractButton {
     Accessible.role: Accessible.Button
     Accessible.name: control.name
     Accessible.description: control.help
+    Accessible.onPressAction: control.clicked()
 
     PressStyle {
         id: press

@@ -57,7 +57,7 @@ Item {
             visible: root.detail !== ""
             text: root.detail
             size: 10
-            color: root.palette.placeholderText
+            color: Qt.alpha(root.palette.windowText, 0.5)
             maximumLineCount: 1
             elide: Text.ElideRight
         }
@@ -67,23 +67,32 @@ Item {
         anchors.right: parent.right
         anchors.rightMargin: 12
         anchors.verticalCenter: parent.verticalCenter
-        width: childrenRect.width
-        height: childrenRect.height
+        width: toggle.visible ? toggle.width : pinned.visible ? pinned.width : spinner.width
+        height: parent.height
 
         Spinner {
+            id: spinner
             objectName: "itemSpinner"
+            anchors.right: parent.right
+            anchors.verticalCenter: parent.verticalCenter
             visible: root.control === ItemRows.Moving
             color: root.palette.windowText
         }
         StyledText {
+            id: pinned
             objectName: "itemPinned"
+            anchors.right: parent.right
+            anchors.verticalCenter: parent.verticalCenter
             visible: root.control === ItemRows.Pinned
             text: qsTr("Pinned by macOS")
             size: 10
-            color: root.palette.placeholderText
+            color: Qt.alpha(root.palette.windowText, 0.5)
         }
         Switch {
+            id: toggle
             objectName: "itemSwitch"
+            anchors.right: parent.right
+            anchors.verticalCenter: parent.verticalCenter
             visible: root.control === ItemRows.Movable
             text: qsTr("Visible")
             small: true

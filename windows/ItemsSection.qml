@@ -41,7 +41,7 @@ SettingsSection {
             objectName: "noItemsText"
             width: root.width - 24
             text: root.model.trusted ? qsTr("Reading your menu bar…") : qsTr("Allow Accessibility access to manage your menu bar.")
-            color: root.palette.placeholderText
+            color: Qt.alpha(root.palette.windowText, 0.5)
             wrapMode: Text.WordWrap
         }
     }

@@ -30,7 +30,7 @@ SettingsSection {
             objectName: "shortcutPicker"
             text: qsTr("Keyboard shortcut")
             titles: shortcut.titles
-            currentIndex: shortcut.index
+            index: shortcut.index
             surface: root.surface
             onChosen: index => shortcut.choose(index)
 

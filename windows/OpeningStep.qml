@@ -54,7 +54,7 @@ Item {
                     text: qsTr("Keyboard shortcut")
                     help: qsTr("Open from anywhere")
                     titles: shortcut.titles
-                    currentIndex: shortcut.index
+                    index: shortcut.index
                     surface: root.surface
                     onChosen: index => shortcut.choose(index)
                 }

@@ -12,6 +12,7 @@ T.AbstractButton {
     implicitHeight: implicitContentHeight
     Accessible.role: Accessible.Button
     Accessible.name: control.text
+    Accessible.onPressAction: control.clicked()
 
     PressStyle {
         id: press

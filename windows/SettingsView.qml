@@ -17,7 +17,6 @@ FocusScope {
         window: "#f2f2f4"
         base: "white"
         windowText: Qt.rgba(0, 0, 0, 0.85)
-        placeholderText: Qt.rgba(0, 0, 0, 0.5)
         button: "white"
         buttonText: Qt.rgba(0, 0, 0, 0.85)
         highlight: "#007aff"

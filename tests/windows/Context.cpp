@@ -1,7 +1,9 @@
 #include "Context.h"
+#include "i18n/Translation.h"
 
-#include <QAccessible>
+#include <QGuiApplication>
 #include <QKeyEvent>
+#include <QTranslator>
 #include <QtQml/qqmlextensionplugin.h>
 
 Q_IMPORT_QML_PLUGIN(Brimshade_PanelPlugin)
@@ -75,6 +77,16 @@ ExtraList someExtras()
     return extras;
 }
 
+Language::Language(const QLocale &locale)
+{
+    i18n::installTranslation(*qApp, locale);
+}
+
+Language::~Language()
+{
+    qDeleteAll(qApp->findChildren<QTranslator *>());
+}
+
 Context::Context()
 {
     model.onRefresh = [this] { ++scans; };
@@ -128,6 +140,16 @@ ui::OffscreenScene &Context::show(const QByteArray &view, QSize size, double sca
     m_scene->root()->forceActiveFocus();
     m_scene->advance(100);
     return *m_scene;
+}
+
+QList<QQuickItem *> Context::visibleItems() const
+{
+    QList<QQuickItem *> items{m_scene->root()};
+    for (qsizetype i = 0; i < items.size(); ++i)
+        for (QQuickItem *child : items[i]->childItems())
+            if (child->isVisible() && child->opacity() > 0)
+                items << child;
+    return items;
 }
 
 void Context::click(const QString &objectName)

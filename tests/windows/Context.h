@@ -5,9 +5,17 @@
 #include "model/PermissionRequest.h"
 #include "windows/flow/OnboardingFlow.h"
 
+#include <QLocale>
 #include <optional>
 
 namespace brimshade::windows {
+
+// The program's texts in a language, as long as it lives.
+class Language {
+public:
+    explicit Language(const QLocale &locale);
+    ~Language();
+};
 
 // A model with its flow and, once asked for, one of the two windows, offscreen.
 class Context {
@@ -37,6 +45,7 @@ public:
 
     QQuickItem *item(const QString &objectName) { return m_scene->find(objectName); }
     QVariant property(const QString &objectName, const char *name) { return item(objectName)->property(name); }
+    QList<QQuickItem *> visibleItems() const; // parents before their children
     void click(const QString &objectName);
     void key(int key, Qt::KeyboardModifiers modifiers = Qt::NoModifier, const QString &text = {});
     QString focused() const; // the object name of the item with the keyboard

@@ -9,15 +9,23 @@ namespace {
 using namespace Qt::StringLiterals;
 
 // For people to look at: build/<name>/pictures/windows.
-void keep(Context &context, const QString &name)
-{
-    QDir().mkpath(u"pictures/windows"_s);
-    context.scene().picture().save(u"pictures/windows/"_s + name + u".png"_s);
-}
-
-TEST(Pictures, Setup)
-{
+class Pictures : public testing::TestWithParam<const char *> {
+protected:
+    const Language language{QLocale(QString::fromLatin1(GetParam()))};
     Context context;
+
+    void keep(const QString &name)
+    {
+        const QString folder = u"pictures/windows/"_s + QString::fromLatin1(GetParam());
+        QDir().mkpath(folder);
+        EXPECT_TRUE(context.scene().picture().save(folder + u"/"_s + name + u".png"_s));
+    }
+};
+
+INSTANTIATE_TEST_SUITE_P(Languages, Pictures, testing::Values("en", "de"));
+
+TEST_P(Pictures, Setup)
+{
     context.model.setTrusted(false);
     for (const double scale : {1.0, 2.0}) {
         const QString at = u"@%1x"_s.arg(scale);
@@ -25,49 +33,47 @@ TEST(Pictures, Setup)
         context.showSetup(scale).advance(1800);
         for (int step = 0; step < 5; ++step) {
             context.goTo(step);
-            keep(context, u"setup-%1%2"_s.arg(step).arg(at));
+            keep(u"setup-%1%2"_s.arg(step).arg(at));
         }
         context.goTo(2);
         context.flow.toggle(u"relay"_s);
         context.goTo(4);
-        keep(context, u"setup-4-pending"_s + at);
+        keep(u"setup-4-pending"_s + at);
         context.flow.toggle(u"relay"_s);
         context.model.setTrusted(true);
         context.goTo(1);
-        keep(context, u"setup-1-granted"_s + at);
+        keep(u"setup-1-granted"_s + at);
         context.model.setTrusted(false);
         context.setExtras({});
         context.goTo(2);
-        keep(context, u"setup-2-empty"_s + at);
+        keep(u"setup-2-empty"_s + at);
         context.goTo(0);
     }
 }
 
-TEST(Pictures, Settings)
+TEST_P(Pictures, Settings)
 {
-    Context context;
     for (const double scale : {1.0, 2.0}) {
         const QString at = u"@%1x"_s.arg(scale);
         context.setExtras(someExtras());
         context.showSettings(scale);
-        keep(context, u"settings-top"_s + at);
+        keep(u"settings-top"_s + at);
         context.model.setMovingID(u"relay"_s);
         context.model.setMessage(
             u"Relay: macOS didn't accept the move. Try again, or Cmd-drag it across the divider."_s);
         context.scene().advance(500);
-        keep(context, u"settings-message"_s + at);
+        keep(u"settings-message"_s + at);
         context.model.setMovingID({});
         context.click(u"shortcutPicker"_s);
-        keep(context, u"settings-picker"_s + at);
+        keep(u"settings-picker"_s + at);
         context.key(Qt::Key_Escape);
         context.model.setMessage({});
-        context.key(Qt::Key_Tab);
         for (int i = 0; i < 3; ++i)
             context.key(Qt::Key_Tab);
-        keep(context, u"settings-bottom"_s + at);
+        keep(u"settings-bottom"_s + at);
         context.setExtras({});
         context.scene().advance(500);
-        keep(context, u"settings-empty"_s + at);
+        keep(u"settings-empty"_s + at);
     }
 }
 

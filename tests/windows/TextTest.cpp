@@ -1,0 +1,135 @@
+#include "Context.h"
+
+#include <gtest/gtest.h>
+
+namespace brimshade::windows {
+namespace {
+
+using namespace Qt::StringLiterals;
+
+// Every text that can be read in either window has room, in every language: it is not elided, does not reach out of
+// the window and does not lie over another one. Names of items may be elided.
+class Texts : public testing::TestWithParam<const char *> {
+protected:
+    const Language language{QLocale(QString::fromLatin1(GetParam()))};
+    Context context;
+
+    struct Shown {
+        QString text;
+        QRectF frame; // what is drawn, in the window
+    };
+
+    static bool isItemName(const QQuickItem *item)
+    {
+        return QStringList{u"itemName"_s, u"itemDetail"_s, u"choiceName"_s}.contains(item->objectName());
+    }
+
+    QList<Shown> shown()
+    {
+        QList<Shown> texts;
+        for (const QQuickItem *item : context.visibleItems()) {
+            if (!item->inherits("QQuickText") || item->property("text").toString().isEmpty())
+                continue;
+            const QSizeF content(item->property("contentWidth").toDouble(), item->property("contentHeight").toDouble());
+            const QString text = item->property("text").toString();
+            EXPECT_TRUE(isItemName(item) || !item->property("truncated").toBool()) << qPrintable(text);
+            EXPECT_LE(content.width(), item->width() + 0.5) << qPrintable(text);
+            EXPECT_LE(content.height(), item->height() + 0.5) << qPrintable(text);
+            texts << Shown{text, context.scene().frameOf(item)};
+        }
+        return texts;
+    }
+
+    void expectRoom(const QString &where)
+    {
+        const QList<Shown> texts = shown();
+        EXPECT_GE(texts.size(), 3) << qPrintable(where);
+        const double width = context.scene().root()->width();
+        for (const Shown &text : texts) {
+            EXPECT_GE(text.frame.left(), 0) << qPrintable(where + u": "_s + text.text);
+            EXPECT_LE(text.frame.right(), width) << qPrintable(where + u": "_s + text.text);
+            for (const Shown &other : texts)
+                EXPECT_TRUE(&text == &other || !text.frame.adjusted(1, 1, -1, -1).intersects(other.frame))
+                    << qPrintable(where + u": "_s + text.text + u" / "_s + other.text);
+        }
+    }
+};
+
+INSTANTIATE_TEST_SUITE_P(Languages, Texts, testing::Values("en", "de"));
+
+TEST_P(Texts, HaveRoomInTheSetup)
+{
+    context.model.setTrusted(false);
+    context.showSetup();
+    for (const bool trusted : {false, true}) {
+        context.model.setTrusted(trusted);
+        for (int step = 0; step < 5; ++step) {
+            context.setExtras({});
+            context.goTo(step);
+            expectRoom(u"step %1, no items"_s.arg(step));
+            context.setExtras(someExtras());
+            context.flow.toggle(u"relay"_s);
+            context.scene().advance(500);
+            expectRoom(u"step %1"_s.arg(step));
+        }
+        context.goTo(0);
+    }
+}
+
+TEST_P(Texts, HaveRoomInTheSettings)
+{
+    context.model.setMessage(u"Relay: macOS didn't accept the move. Try again, or Cmd-drag it across the divider."_s);
+    context.showSettings();
+    expectRoom(u"reading"_s);
+    context.model.setTrusted(false);
+    context.scene().advance(100);
+    expectRoom(u"untrusted"_s);
+    context.setExtras(someExtras());
+    expectRoom(u"items"_s);
+    context.model.setMovingID(u"relay"_s);
+    context.scene().advance(100);
+    expectRoom(u"moving"_s);
+    context.model.setMovingID({});
+    context.click(u"shortcutPicker"_s);
+    ASSERT_TRUE(context.item(u"shortcutPickerList"_s));
+}
+
+TEST(PendingLabel, CountsInTheLanguageOfTheUser)
+{
+    struct Case {
+        const char *language;
+        int pending;
+        QString text;
+    };
+    const Case cases[]{
+        {"en", 1,
+         u"Finishing moves 1 item for you. Your pointer will jump for a few seconds, so hands off the mouse."_s},
+        {"en", 2,
+         u"Finishing moves 2 items for you. Your pointer will jump for a few seconds, so hands off the mouse."_s},
+        {"ja", 1,
+         u"Finishing moves 1 item for you. Your pointer will jump for a few seconds, so hands off the mouse."_s},
+        {"de", 1,
+         u"Zum Abschluss wird 1 Objekt für dich verschoben. Der Zeiger springt dabei einige Sekunden lang, also Hände "
+         u"weg von der Maus."_s},
+        {"de_AT", 2,
+         u"Zum Abschluss werden 2 Objekte für dich verschoben. Der Zeiger springt dabei einige Sekunden lang, also "
+         u"Hände weg von der Maus."_s},
+    };
+    for (const Case &each : cases) {
+        const Language language{QLocale(QString::fromLatin1(each.language))};
+        Context context;
+        context.setExtras(someExtras());
+        context.showSetup();
+        context.goTo(4);
+        EXPECT_FALSE(context.item(u"pendingLabel"_s)->isVisible());
+        context.flow.toggle(u"relay"_s);
+        if (each.pending == 2)
+            context.flow.toggle(u"ledger"_s);
+        context.scene().settle();
+        EXPECT_TRUE(context.item(u"pendingLabel"_s)->isVisible());
+        EXPECT_EQ(context.property(u"pendingLabel"_s, "text"), each.text) << each.language;
+    }
+}
+
+} // namespace
+} // namespace brimshade::windows
