@@ -69,8 +69,8 @@ void BannerModel::remove(int number)
 
 int BannerModel::rowOf(int number) const
 {
-    const auto found = std::find_if(m_banners.begin(), m_banners.end(),
-                                    [&](const Banner &banner) { return banner.number == number; });
+    const auto found =
+        std::find_if(m_banners.begin(), m_banners.end(), [&](const Banner &banner) { return banner.number == number; });
     return found == m_banners.end() ? -1 : int(found - m_banners.begin());
 }
 

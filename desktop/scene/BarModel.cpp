@@ -89,9 +89,15 @@ QVariant BarModel::data(const QModelIndex &index, int role) const
 
 QHash<int, QByteArray> BarModel::roleNames() const
 {
-    return {{FrameRole, "frame"},     {NameRole, "name"},   {DescriptionRole, "description"},
-            {TextRole, "text"},       {SymbolRole, "symbol"}, {ImageRole, "image"},
-            {ImageSizeRole, "imageSize"}, {HighlightedRole, "isHighlighted"}, {ToolTipRole, "toolTip"}};
+    return {{FrameRole, "frame"},
+            {NameRole, "name"},
+            {DescriptionRole, "description"},
+            {TextRole, "text"},
+            {SymbolRole, "symbol"},
+            {ImageRole, "image"},
+            {ImageSizeRole, "imageSize"},
+            {HighlightedRole, "isHighlighted"},
+            {ToolTipRole, "toolTip"}};
 }
 
 } // namespace brimshade::desktop

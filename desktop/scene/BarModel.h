@@ -22,8 +22,17 @@ class BarModel : public QAbstractListModel {
 
 public:
     // Text is what is drawn as such, of the clock; name is what the item is called.
-    enum Role { FrameRole = Qt::UserRole + 1, NameRole, DescriptionRole, TextRole, SymbolRole, ImageRole, ImageSizeRole,
-                HighlightedRole, ToolTipRole };
+    enum Role {
+        FrameRole = Qt::UserRole + 1,
+        NameRole,
+        DescriptionRole,
+        TextRole,
+        SymbolRole,
+        ImageRole,
+        ImageSizeRole,
+        HighlightedRole,
+        ToolTipRole
+    };
 
     BarModel(const MenuBar &bar, const WallClock &clock);
 

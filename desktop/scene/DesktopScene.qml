@@ -13,6 +13,7 @@ FocusScope {
     width: root.desktop.bounds.width
     height: root.desktop.bounds.height
     clip: true
+    focus: true
 
     Item {
         id: displays

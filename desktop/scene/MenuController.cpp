@@ -84,9 +84,14 @@ void MenuController::truncate(int depth)
 {
     if (int(m_levels.size()) <= depth)
         return;
+    std::vector<std::unique_ptr<MenuLevel>> gone;
     beginRemoveRows({}, depth, int(m_levels.size()) - 1);
+    std::move(m_levels.begin() + depth, m_levels.end(), std::back_inserter(gone));
     m_levels.resize(depth);
     endRemoveRows();
+    // The views of a list, and then of its rows, go in later turns of the event loop; the list must outlive them.
+    for (auto &level : gone)
+        QMetaObject::invokeMethod(level.release(), &QObject::deleteLater, Qt::QueuedConnection);
 }
 
 void MenuController::openSubmenu(int depth)

@@ -75,12 +75,11 @@ QSizeF menuSize(const std::vector<MenuEntry> &entries)
 QRectF placeMenu(const QRectF &anchor, const QSizeF &size, const QRectF &screen)
 {
     const double lowest = screen.bottom() - kScreenMargin;
-    const double x = clampedStart(anchor.x(), size.width(), screen.left() + kScreenMargin,
-                                  screen.right() - kScreenMargin);
+    const double x =
+        clampedStart(anchor.x(), size.width(), screen.left() + kScreenMargin, screen.right() - kScreenMargin);
     // A menu of the bar keeps clear of it and scrolls; a menu at a point goes up until it fits.
-    const double y = anchor.isEmpty()
-        ? clampedStart(anchor.y(), size.height(), screen.top() + kScreenMargin, lowest)
-        : std::max(anchor.bottom(), screen.top());
+    const double y = anchor.isEmpty() ? clampedStart(anchor.y(), size.height(), screen.top() + kScreenMargin, lowest)
+                                      : std::max(anchor.bottom(), screen.top());
     return {x, y, size.width(), std::min(size.height(), lowest - y)};
 }
 

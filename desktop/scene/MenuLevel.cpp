@@ -138,8 +138,10 @@ QVariant MenuLevel::data(const QModelIndex &index, int role) const
 
 QHash<int, QByteArray> MenuLevel::roleNames() const
 {
-    return {{TitleRole, "title"}, {SeparatorRole, "isSeparator"}, {EnabledRole, "isEnabled"}, {ToggleRole, "toggle"},
-            {OnRole, "isOn"},     {IconRole, "image"},            {ShortcutRole, "shortcut"}, {SubmenuRole, "hasSubmenu"}};
+    return {{TitleRole, "title"},       {SeparatorRole, "isSeparator"},
+            {EnabledRole, "isEnabled"}, {ToggleRole, "toggle"},
+            {OnRole, "isOn"},           {IconRole, "image"},
+            {ShortcutRole, "shortcut"}, {SubmenuRole, "hasSubmenu"}};
 }
 
 } // namespace brimshade::desktop

@@ -21,8 +21,16 @@ class MenuLevel : public QAbstractListModel {
     Q_PROPERTY(int current READ current NOTIFY currentChanged)
 
 public:
-    enum Role { TitleRole = Qt::UserRole + 1, SeparatorRole, EnabledRole, ToggleRole, OnRole, IconRole, ShortcutRole,
-                SubmenuRole };
+    enum Role {
+        TitleRole = Qt::UserRole + 1,
+        SeparatorRole,
+        EnabledRole,
+        ToggleRole,
+        OnRole,
+        IconRole,
+        ShortcutRole,
+        SubmenuRole
+    };
 
     // owner: the id of the entry that opens this list; 0 for the menu itself.
     explicit MenuLevel(int owner) : m_owner(owner) { }

@@ -24,7 +24,7 @@ Item {
     height: root.isSeparator ? 11 : 22
 
     Accessible.role: root.isSeparator ? Accessible.Separator : Accessible.MenuItem
-    Accessible.name: root.title
+    Accessible.name: root.isSeparator ? "" : root.title
     Accessible.description: root.shortcut
     Accessible.checkable: root.toggle !== 0
     Accessible.checked: root.isOn
@@ -75,6 +75,7 @@ Item {
         opacity: root.isEnabled ? 1 : 0.4
     }
     StyledText {
+        visible: !root.isSeparator
         x: root.textColumn + 5
         width: root.width - x - (shortcutText.visible ? shortcutText.width + 24 : 14)
         anchors.verticalCenter: parent.verticalCenter

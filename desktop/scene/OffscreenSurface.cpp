@@ -1,8 +1,9 @@
 #include "OffscreenSurface.h"
 
-#include <QLoggingCategory>
-#include <QQuickRenderTarget>
+#include <QCoreApplication>
+#include <QFocusEvent>
 #include <QQuickItem>
+#include <QQuickRenderTarget>
 
 namespace brimshade::desktop {
 
@@ -11,7 +12,8 @@ namespace {
 // The software renderer has no use for what it says it did not find.
 void initializeQuietly(QQuickRenderControl &control)
 {
-    const QtMessageHandler before = qInstallMessageHandler([](QtMsgType, const QMessageLogContext &, const QString &) {});
+    const QtMessageHandler before =
+        qInstallMessageHandler([](QtMsgType, const QMessageLogContext &, const QString &) {});
     control.initialize();
     qInstallMessageHandler(before);
 }
@@ -22,6 +24,9 @@ OffscreenSurface::OffscreenSurface()
     : m_control(std::make_unique<QQuickRenderControl>()), m_window(std::make_unique<QQuickWindow>(m_control.get()))
 {
     m_window->setColor(Qt::transparent);
+    // No window system ever makes it the active window, without which no item gets a key.
+    QFocusEvent focus(QEvent::FocusIn, Qt::ActiveWindowFocusReason);
+    QCoreApplication::sendEvent(m_window.get(), &focus);
 }
 
 OffscreenSurface::~OffscreenSurface()

@@ -23,7 +23,8 @@ void PointerArrow::draw(QPainter &painter, double) const
         arrow.lineTo(corner);
     arrow.closeSubpath();
     for (const double width : {4.5, 3.5, 2.5}) // a soft edge below
-        painter.strokePath(arrow.translated(0, 1), QPen(QColor(0, 0, 0, 26), width, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+        painter.strokePath(arrow.translated(0, 1),
+                           QPen(QColor(0, 0, 0, 26), width, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
     painter.strokePath(arrow, QPen(Qt::white, 2.4, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
     painter.fillPath(arrow, Qt::black);
 }

@@ -23,8 +23,7 @@ class VirtualDispatch;
 // whatever the size of the window that shows it. Destroy it before the Desktop; it drops the windows' contents.
 //
 // The input methods send Qt's own events to the window, so that a script and a hand take one path.
-class SceneHost : public QObject
-{
+class SceneHost : public QObject {
     Q_OBJECT
 public:
     // Without a window on any screen. Needs the software renderer (QT_QUICK_BACKEND=software before the application

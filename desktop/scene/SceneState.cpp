@@ -68,7 +68,8 @@ QVariantList SceneState::dockImages() const
     constexpr qsizetype most = 12;
     QVariantList images;
     for (const platform::RunningApplication &each : m_desktop.platform().workspace.runningApplications()) {
-        const bool isProgram = each.bundlePath && each.bundlePath->startsWith(QStringLiteral("/Applications/"));
+        const bool isProgram = each.bundlePath && each.bundlePath->startsWith(QStringLiteral("/Applications/"))
+            && !each.bundlePath->contains(QStringLiteral(".app/")); // a helper of one has its icon, too
         if (isProgram && !each.icon.isNull() && images.size() < most)
             images.append(QVariant::fromValue(each.icon));
     }

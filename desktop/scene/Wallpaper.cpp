@@ -152,7 +152,8 @@ void paintRipples(QPainter &painter, const QSizeF &size)
         const double near = far * far; // dense at the horizon
         const bool isLit = i % 3 != 0;
         const double spread = (isLit ? 0.022 + 0.10 * near : 0.9) * size.width();
-        const double x = (isLit ? kSun.x() : 0.5) * size.width() + (random.generateDouble() + random.generateDouble() - 1) * spread;
+        const double x =
+            (isLit ? kSun.x() : 0.5) * size.width() + (random.generateDouble() + random.generateDouble() - 1) * spread;
         const double length = (0.006 + 0.035 * near) * size.width() * (0.4 + random.generateDouble());
         const double thickness = 0.6 + 2.2 * near;
         const int alpha = int((isLit ? 130 * (1 - near) : 26) * (0.4 + 0.6 * random.generateDouble()));
@@ -166,8 +167,9 @@ void paintShore(QPainter &painter, const QSizeF &size)
 {
     QPainterPath shore(QPointF(0, size.height()));
     const auto line = [&](double x) {
-        return size.height() * (0.93 - 0.075 * std::pow(std::abs(x - 0.56) * 1.9, 1.7)
-                                - 0.006 * std::sin(17 * x) - 0.003 * std::sin(41 * x));
+        return size.height()
+            * (0.93 - 0.075 * std::pow(std::abs(x - 0.56) * 1.9, 1.7) - 0.006 * std::sin(17 * x)
+               - 0.003 * std::sin(41 * x));
     };
     for (double x = 0; x <= size.width() + 2; x += 2)
         shore.lineTo(x, line(x / size.width()));

@@ -76,8 +76,8 @@ void WindowHosts::Host::makeContent(QQmlEngine &engine, QQuickItem &holder)
         }
         return;
     }
-    m_native = std::make_unique<NativeViewItem>(std::get<std::shared_ptr<platform::NativeView>>(m_window.content()),
-                                                nullptr);
+    m_native =
+        std::make_unique<NativeViewItem>(std::get<std::shared_ptr<platform::NativeView>>(m_window.content()), nullptr);
     fit(*m_native, holder);
 }
 

@@ -1,5 +1,5 @@
-#include "SceneContext.h"
 #include "desktop/builtin/BuiltInDesktop.h"
+#include "SceneContext.h"
 #include "desktop/core/MenuBar.h"
 #include "platform/Workspace.h"
 

@@ -28,8 +28,7 @@ TEST(Input, ReachesTheViewUnderThePointerOnly)
     context.click(kInA);
     EXPECT_EQ(context.recorder().take(), QStringList({u"enter a"_s, u"press a"_s, u"release a"_s}));
     context.click(kInB + QPointF(40, 0)); // b of the lower window lies under a of the higher one
-    EXPECT_EQ(context.recorder().take(),
-              QStringList({u"leave a"_s, u"enter a"_s, u"press a"_s, u"release a"_s}));
+    EXPECT_EQ(context.recorder().take(), QStringList({u"enter a"_s, u"leave a"_s, u"press a"_s, u"release a"_s}));
     EXPECT_TRUE(high->isKeyWindow());
     context.click(kInA, MouseButton::right);
     const QStringList right = context.recorder().take();
@@ -122,11 +121,11 @@ TEST(Input, PassesCodeAndCharactersToMonitorsUnchanged)
     std::vector<platform::Event> seen;
     bool swallows = true;
     auto &application = context.desktop().platform().application;
-    const auto token = application.addLocalMonitor(
-        platform::kKeyDownMask, [&](const platform::Event &event) -> std::optional<platform::Event> {
-            seen.push_back(event);
-            return swallows ? std::nullopt : std::optional(event);
-        });
+    const auto token = application.addLocalMonitor(platform::kKeyDownMask,
+                                                   [&](const platform::Event &event) -> std::optional<platform::Event> {
+                                                       seen.push_back(event);
+                                                       return swallows ? std::nullopt : std::optional(event);
+                                                   });
     context.key(200, u"é"_s, platform::kControlFlag | platform::kShiftFlag);
     ASSERT_EQ(seen.size(), 1u);
     EXPECT_EQ(seen[0].keyCode, 200);

@@ -83,8 +83,9 @@ std::unique_ptr<platform::Window> SceneContext::probe(const QString &name, const
     attributes.name = name;
     attributes.contentRect = platform::flipped(frame, kHeight);
     auto window = m_desktop->windows().createWindow(
-        attributes, platform::HostedView{u"Brimshade.Probes"_s, u"ProbeView"_s,
-                                         {{u"recorder"_s, QVariant::fromValue<QObject *>(&m_recorder)}}});
+        attributes,
+        platform::HostedView{
+            u"Brimshade.Probes"_s, u"ProbeView"_s, {{u"recorder"_s, QVariant::fromValue<QObject *>(&m_recorder)}}});
     window->makeKeyAndOrderFront();
     settle();
     return window;
