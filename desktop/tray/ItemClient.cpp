@@ -49,10 +49,12 @@ void ItemClient::take(ParsedItem parsed)
 {
     if (!parsed.complaints.isEmpty())
         say(parsed.complaints.first());
-    if (m_item == parsed.item)
+    // Some programs draw a new picture into the file that they named before.
+    auto image = m_icons.itemImage(parsed.item);
+    if (m_item == parsed.item && m_image.bitmap() == image.bitmap())
         return;
     m_item = std::move(parsed.item);
-    m_image = m_icons.itemImage(*m_item);
+    m_image = std::move(image);
     updateMenu();
     Q_EMIT changed();
 }

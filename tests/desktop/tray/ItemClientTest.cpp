@@ -6,6 +6,7 @@
 #include <QDBusObjectPath>
 #include <QRegularExpression>
 #include <QSignalSpy>
+#include <QTemporaryDir>
 
 namespace brimshade::desktop::tray {
 
@@ -99,6 +100,24 @@ TEST_F(ItemClientTest, ABurstOfSignalsIsOneReadAndNoChangeIsNone)
     m_program.signalItem(u"NewStatus"_s);
     waitUntil([&] { return !changes.isEmpty(); });
     EXPECT_EQ(client().item()->status, TrayItem::Status::passive);
+}
+
+TEST_F(ItemClientTest, APictureDrawnIntoTheSameFileIsANewOne)
+{
+    QTemporaryDir folder;
+    const auto file = folder.filePath(u"icon.png"_s);
+    const auto draw = [&](Qt::GlobalColor color) {
+        QImage image(8, 8, QImage::Format_ARGB32);
+        image.fill(color);
+        ASSERT_TRUE(image.save(file));
+    };
+    draw(Qt::red);
+    m_program.properties = {{u"IconName"_s, file}};
+    QSignalSpy changes(&client(), &ItemClient::changed);
+    draw(Qt::blue);
+    m_program.signalItem(u"NewIcon"_s);
+    waitUntil([&] { return !changes.isEmpty(); });
+    EXPECT_EQ(client().image().bitmap().pixelColor(0, 0), QColor(Qt::blue));
 }
 
 TEST_F(ItemClientTest, APressReachesTheProgramTheWayItUnderstands)
