@@ -28,7 +28,10 @@ WorkspaceService::WorkspaceService(SharedState &state, int ownPid)
 void WorkspaceService::publishOwn()
 {
     const RunningApplication own{m_ownPid, kBundleIdentifier, std::nullopt, u"Brimshade"_s, m_genericIcon};
-    m_state.write([&](DisplayState &state) { state.applications.push_back(own); });
+    m_state.write([&](DisplayState &state) {
+        state.applications.push_back(own);
+        state.processes[m_ownPid].responsiveness = std::make_shared<Responsiveness>();
+    });
 }
 
 std::vector<RunningApplication> WorkspaceService::runningApplications() const

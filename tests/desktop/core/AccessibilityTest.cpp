@@ -68,6 +68,8 @@ TEST_F(AccessibilityTest, ReadsTheTreeAsListedAndNamesWhatIsMissing)
     const auto item = World::item(11, 0);
     const std::tuple<const char *, AXUIElement, QString, AXError> cases[] = {
         {"no extras menu bar", accessibility().createApplication(21), u"AXExtrasMenuBar"_s, kAXErrorNoValue},
+        {"this program's own", accessibility().createApplication(desktop.ownPid()), u"AXExtrasMenuBar"_s,
+         kAXErrorNoValue},
         {"an empty one", bar(22), u"AXChildren"_s, kAXErrorSuccess},
         {"unreadable", odd[2], u"AXPosition"_s, kAXErrorNoValue},
         {"unreadable", odd[2], u"AXSize"_s, kAXErrorNoValue},
