@@ -1,0 +1,26 @@
+// What nearly every source includes anyway, parsed once a library. Sources still include what they use.
+#include <QColor>
+#include <QHash>
+#include <QImage>
+#include <QJsonArray>
+#include <QJsonObject>
+#include <QObject>
+#include <QPainter>
+#include <QString>
+#include <QStringList>
+#include <QVariant>
+#include <algorithm>
+#include <condition_variable>
+#include <expected>
+#include <functional>
+#include <map>
+#include <memory>
+#include <mutex>
+#include <optional>
+#include <thread>
+#include <variant>
+#include <vector>
+#if __has_include(<QQuickItem>)
+#include <QQmlEngine>
+#include <QQuickItem>
+#endif
