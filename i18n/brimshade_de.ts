@@ -122,7 +122,7 @@
     </message>
     <message>
         <source>Lit items stay in the menu bar. Dimmed ones are tucked into the notch, one click away.</source>
-        <translation>Helle Objekte bleiben in der Menüleiste. Gedimmte werden in der Notch verstaut, nur einen Klick entfernt.</translation>
+        <translation>Helle Objekte bleiben in der Menüleiste. Gedimmte sind in der Notch, einen Klick entfernt.</translation>
     </message>
     <message>
         <source>Reading your menu bar…</source>
@@ -167,7 +167,7 @@
     </message>
     <message>
         <source>The icon right of the notch always works. Add a shortcut or a hover if you like.</source>
-        <translation>Das Symbol rechts der Notch funktioniert immer. Wenn du magst, kommt ein Kurzbefehl oder das Zeigen hinzu.</translation>
+        <translation>Das Symbol rechts der Notch geht immer. Ein Kurzbefehl oder Zeigen kommt auf Wunsch dazu.</translation>
     </message>
     <message>
         <source>Hover the notch</source>

@@ -6,6 +6,8 @@ import QtQuick
 QtObject {
     readonly property string family: "Inter"
 
+    readonly property real windowRadius: 11
+
     readonly property color orange: "#ff9f0a"
     readonly property color pink: "#ff375f"
     readonly property color green: "#30d158"

@@ -2,14 +2,16 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import Brimshade.Ui
 
-// Black with a warm glow from the top and a violet one from the lower right.
-Rectangle {
+// As round as the window: black with a warm glow from the top and a violet one from the lower right.
+RoundedShape {
     id: root
 
+    radius: Theme.windowRadius
     color: "black"
 
     RoundedShape {
         anchors.fill: parent
+        radius: root.radius
         gradient: RoundedShape.Radial
         center: Qt.point(0.5, 0.05)
         startRadius: 10
@@ -19,6 +21,7 @@ Rectangle {
     }
     RoundedShape {
         anchors.fill: parent
+        radius: root.radius
         gradient: RoundedShape.Radial
         center: Qt.point(0.9, 1)
         startRadius: 10

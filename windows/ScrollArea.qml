@@ -50,6 +50,7 @@ Flickable {
         visible: root.contentHeight > root.height
         width: 10
         padding: 2
+        bottomPadding: 8
         minimumSize: 0.08
         contentItem: Rectangle {
             radius: 3

@@ -29,8 +29,9 @@ FocusScope {
         id: actions
         model: root.model
     }
-    Rectangle {
+    RoundedShape {
         anchors.fill: parent
+        radius: Theme.windowRadius
         color: root.palette.window
     }
     ScrollArea {

@@ -1,0 +1,178 @@
+#!/usr/bin/env python3
+"""The program as an assistive program sees it: a client of the AT-SPI bus, on a display, a window manager and a
+message bus of their own, reads the settings window, flips a switch, picks a shortcut and presses a tile.
+Usage: atspi_test.py BRIMSHADE"""
+import json
+import os
+import pathlib
+import subprocess
+import sys
+import unittest
+
+sys.path.insert(0, str(pathlib.Path(__file__).resolve().parent.parent / "programs"))
+from session import Session  # noqa: E402
+
+DESKTOP = {
+    "screens": [{"name": "Built-in Display", "frame": [0, 0, 1280, 800], "menuBarHeight": 37, "notch": [540, 740]}],
+    "applications": [
+        {"pid": 401, "name": "Control Center", "bundleIdentifier": "com.apple.MenuBarAgent",
+         "extras": [{"identifier": "com.example.menuextra.clock", "description": "Clock", "width": 90}]},
+        {"pid": 812, "name": "Relay", "bundleIdentifier": "app.relay", "bundlePath": "/Applications/Relay.app",
+         "icon": "#3b82f6", "extras": [{"title": "Relay", "identifier": "relay.main", "menu": ["Open Relay", "Quit"]}]},
+    ],
+    "displayNames": {"/Applications/Relay.app": "Relay"},
+    "defaults": {"onboardingDone": True},
+}
+PATIENCE = 40  # tries, 0.25 s of the program's time each
+
+
+class Program:
+    """The program in a window, in real time, which also answers script commands: that is how the test learns what its
+    requests did, and how it lets time pass."""
+
+    def __init__(self, session, binary):
+        session.write("desktop.json", json.dumps(DESKTOP))
+        self._process = session.start(
+            binary, "--window", "--script", "-", "--desktop", str(session.home / "desktop.json"),
+            stdin=subprocess.PIPE, stdout=subprocess.PIPE, text=True)
+
+    def do(self, command, **arguments):
+        self._process.stdin.write(json.dumps({"do": command, **arguments}) + "\n")
+        self._process.stdin.flush()
+        answer = json.loads(self._process.stdout.readline())
+        assert answer["ok"], answer
+        return answer
+
+    def until(self, what, meant):
+        for _ in range(PATIENCE):
+            found = what()
+            if found:
+                return found
+            self.do("advance", seconds=0.25)
+        raise AssertionError(f"never came: {meant}")
+
+    def model(self, field):
+        return self.do("state")["model"][field]
+
+    def status_item(self):
+        x, y, width, height = self.do("state")["statusItem"]["frame"]
+        return [x + width / 2, y + height / 2]
+
+
+class Client:
+    """Reads and presses what the accessibility bus shows of one application."""
+
+    def __init__(self, program):
+        import pyatspi
+        self._pyatspi = pyatspi
+        self._application = program.until(self._find_application, "the application on the accessibility bus")
+
+    def _find_application(self):
+        desktop = self._pyatspi.Registry.getDesktop(0)
+        return next((each for each in desktop if each and "brimshade" in each.name.lower()), None)
+
+    def elements(self):
+        """(role, name) → element of everything that shows, in reading order."""
+        found = []
+
+        def visit(element):
+            if element is None:
+                return
+            states = element.getState()
+            if element.name and states.contains(self._pyatspi.STATE_SHOWING):
+                found.append(element)
+            for child in element:
+                visit(child)
+
+        visit(self._application)
+        return found
+
+    def names(self):
+        return [(element.getRoleName(), element.name) for element in self.elements()]
+
+    def find(self, role, name):
+        return next((e for e in self.elements() if e.getRoleName() == role and e.name == name), None)
+
+    def is_checked(self, element):
+        return element.getState().contains(self._pyatspi.STATE_CHECKED)
+
+    @staticmethod
+    def _press_action(element):
+        actions = element.get_action_iface()
+        names = [actions.get_action_name(i) for i in range(actions.get_n_actions())] if actions else []
+        return names.index("Press") if "Press" in names else None
+
+    def find_pressable(self, role, name):
+        return next((e for e in self.elements() if e.getRoleName() == role and e.name == name
+                     and self._press_action(e) is not None), None)
+
+    def press(self, element):
+        index = self._press_action(element)
+        assert index is not None, f"{element} cannot be pressed"
+        assert element.get_action_iface().do_action(index)
+
+
+class AccessibilityBus(unittest.TestCase):
+    @classmethod
+    def setUpClass(cls):
+        cls.session = Session()
+        cls.session.environment.pop("NO_AT_BRIDGE", None)
+        cls.session.environment["QT_LINUX_ACCESSIBILITY_ALWAYS_ON"] = "1"
+        os.environ.clear()
+        os.environ.update(cls.session.environment)
+        cls.session.start("openbox")
+        cls.program = Program(cls.session, BINARY)
+        cls.client = Client(cls.program)
+
+    @classmethod
+    def tearDownClass(cls):
+        cls.session.close()
+
+    def wait_for(self, role, name):
+        return self.program.until(lambda: self.client.find(role, name), f"{role} {name}")
+
+    def open_settings(self):
+        self.program.do("menu", at=self.program.status_item())
+        self.program.do("choose", title="Settings…")
+        self.wait_for("heading", "Opening")
+
+    def test_1_lists_the_settings_in_reading_order(self):
+        self.open_settings()
+        self.wait_for("check box", "Visible")
+        names = self.client.names()
+        expected = [
+            ("heading", "Menu bar items"), ("check box", "Tuck away items left of Brimshade"), ("label", "Relay"),
+            ("check box", "Visible"), ("label", "Clock"), ("label", "Pinned by macOS"), ("heading", "Opening"),
+            ("check box", "Open when the pointer rests on the notch"), ("combo box", "Keyboard shortcut"),
+            ("heading", "Panel"), ("check box", "Also show items already in the menu bar"),
+        ]
+        start = names.index(expected[0])
+        listed = [each for each in names[start:] if each in expected]
+        self.assertEqual(listed[:len(expected)], expected, names)
+
+    def test_2_flips_a_switch(self):
+        switch = self.wait_for("check box", "Open when the pointer rests on the notch")
+        self.assertFalse(self.client.is_checked(switch))
+        self.client.press(switch)
+        self.program.until(lambda: self.program.model("hoverToOpen"), "the setting")
+        self.program.until(lambda: self.client.is_checked(switch), "the switch's new state")
+
+    def test_3_picks_a_shortcut(self):
+        picker = self.wait_for("combo box", "Keyboard shortcut")
+        self.client.press(picker)
+        self.client.press(self.wait_for("list item", "⌃⌥Space"))
+        self.program.until(lambda: self.program.model("shortcut") == "controlOptionSpace", "the shortcut")
+        self.program.until(lambda: "⌃⌥Space" in picker.description, "the picker's new value")
+
+    def test_4_presses_a_tile(self):
+        self.program.do("click", at=self.program.status_item())
+        self.program.until(lambda: self.program.do("state")["shown"], "the panel")
+        # The item in the menu bar has the same name; it is part of the desktop and takes no action.
+        tile = self.program.until(lambda: self.client.find_pressable("push button", "Relay"), "the tile")
+        self.client.press(tile)
+        self.program.until(lambda: "Open Relay" in (self.program.do("state")["menu"] or []), "Relay's menu")
+
+
+if __name__ == "__main__":
+    BINARY = sys.argv.pop(1)
+    unittest.main(verbosity=2)
