@@ -1,11 +1,8 @@
 // What nearly every source includes anyway, parsed once a library. Sources still include what they use.
-#include <QColor>
 #include <QHash>
-#include <QImage>
 #include <QJsonArray>
 #include <QJsonObject>
 #include <QObject>
-#include <QPainter>
 #include <QString>
 #include <QStringList>
 #include <QVariant>
@@ -20,6 +17,11 @@
 #include <thread>
 #include <variant>
 #include <vector>
+#if __has_include(<QPainter>)
+#include <QColor>
+#include <QImage>
+#include <QPainter>
+#endif
 #if __has_include(<QQuickItem>)
 #include <QQmlEngine>
 #include <QQuickItem>
