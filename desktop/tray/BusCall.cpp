@@ -39,7 +39,7 @@ bool BusError::isTimeout() const
         || name == u"org.freedesktop.DBus.Error.TimedOut";
 }
 
-void callAsync(QDBusConnection bus, const BusAddress &to, const QString &method, const QVariantList &arguments,
+void callAsync(const QDBusConnection &bus, const BusAddress &to, const QString &method, const QVariantList &arguments,
                QObject *context, ReplyHandler handler)
 {
     const auto call = bus.asyncCall(makeCall(to, method, arguments), kTimeLimitMilliseconds);
@@ -51,7 +51,7 @@ void callAsync(QDBusConnection bus, const BusAddress &to, const QString &method,
                      });
 }
 
-void notify(QDBusConnection bus, const BusAddress &to, const QString &method, const QVariantList &arguments)
+void notify(const QDBusConnection &bus, const BusAddress &to, const QString &method, const QVariantList &arguments)
 {
     bus.send(makeCall(to, method, arguments));
 }

@@ -27,11 +27,11 @@ struct BusAddress {
 
 // Calls and returns at once; the handler runs later on the main thread, at most two seconds later, and never after
 // the context is gone. No service is started by a call.
-void callAsync(QDBusConnection bus, const BusAddress &to, const QString &method, const QVariantList &arguments,
+void callAsync(const QDBusConnection &bus, const BusAddress &to, const QString &method, const QVariantList &arguments,
                QObject *context, ReplyHandler handler);
 
 // Calls without asking for an answer: what the callee makes of it is its own affair.
-void notify(QDBusConnection bus, const BusAddress &to, const QString &method, const QVariantList &arguments);
+void notify(const QDBusConnection &bus, const BusAddress &to, const QString &method, const QVariantList &arguments);
 
 // The bus daemon itself.
 BusAddress busDaemon();

@@ -31,7 +31,7 @@ QString localized(const QMap<QString, QString> &values, const QString &key, cons
 {
     const auto language = locale.section(u'_', 0, 0);
     for (const auto &suffix : {locale, language}) {
-        const auto value = values.value(QStringLiteral("%1[%2]").arg(key, suffix));
+        auto value = values.value(QStringLiteral("%1[%2]").arg(key, suffix));
         if (!value.isEmpty())
             return value;
     }
@@ -43,7 +43,7 @@ QString executableOf(const QString &exec)
 {
     for (auto word : exec.split(u' ', Qt::SkipEmptyParts)) {
         word.remove(u'"');
-        const auto name = word.section(u'/', -1);
+        auto name = word.section(u'/', -1);
         if (name != u"env" && !word.contains(u'='))
             return name;
     }

@@ -103,7 +103,7 @@ QString fileInFolders(const QStringList &folders, const QString &name)
 {
     for (const auto &folder : folders) {
         for (const auto *suffix : {".svg", ".png", ".svgz", ".xpm"}) {
-            const auto path = folder + u'/' + name + QString::fromLatin1(suffix);
+            auto path = folder + u'/' + name + QString::fromLatin1(suffix);
             if (QFileInfo::exists(path))
                 return path;
         }
@@ -144,7 +144,7 @@ QImage IconFinder::findPicture(const QString &name, const QString &themePath) co
         return readPicture(name);
     if (name.isEmpty() || name.contains(u'/'))
         return {};
-    if (const auto picture = readPicture(fileInFolder(themePath, name)); !picture.isNull())
+    if (auto picture = readPicture(fileInFolder(themePath, name)); !picture.isNull())
         return picture;
     if (const auto icon = QIcon::fromTheme(name); !icon.isNull())
         return icon.pixmap(QSize(kPixels, kPixels), 1.0).toImage();

@@ -14,7 +14,7 @@ FakeProgram::FakeProgram(const QDBusConnection &connection, const QString &itemP
 
 QStringList FakeProgram::takeEvents()
 {
-    const auto events = m_calls.filter(QStringLiteral("Event "));
+    auto events = m_calls.filter(QStringLiteral("Event "));
     m_calls.clear();
     return events;
 }

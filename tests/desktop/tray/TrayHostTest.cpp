@@ -91,12 +91,11 @@ protected:
     void press(int index)
     {
         auto &accessibility = m_desktop.platform().accessibility;
-        const auto bar = std::get<platform::AXUIElement>(
-            *accessibility.copyAttributeValue(accessibility.createApplication(hostedPid()), u"AXExtrasMenuBar"_s));
-        const auto children =
-            std::get<std::vector<platform::AXUIElement>>(*accessibility.copyAttributeValue(bar, u"AXChildren"_s));
-        EXPECT_EQ(accessibility.performAction(children.at(static_cast<std::size_t>(index)), u"AXPress"_s),
-                  platform::kAXErrorSuccess);
+        const auto bar =
+            accessibility.copyAttributeValue(accessibility.createApplication(hostedPid()), u"AXExtrasMenuBar"_s);
+        const auto items = accessibility.copyAttributeValue(std::get<platform::AXUIElement>(*bar), u"AXChildren"_s);
+        const auto &item = std::get<std::vector<platform::AXUIElement>>(*items).at(static_cast<std::size_t>(index));
+        EXPECT_EQ(accessibility.performAction(item, u"AXPress"_s), platform::kAXErrorSuccess);
     }
 
     NoSymbols m_symbols;
