@@ -61,7 +61,7 @@ QImage readPicture(const QString &path)
         return {};
     if (reader.format().startsWith("svg") || size.width() > kSize || size.height() > kSize)
         reader.setScaledSize(size.scaled(kSize, kSize, Qt::KeepAspectRatio));
-    const QImage picture = reader.read();
+    QImage picture = reader.read();
     if (picture.isNull() || picture.width() == picture.height())
         return picture;
     const int side = std::max(picture.width(), picture.height());
@@ -102,7 +102,7 @@ platform::Image makeIcon(const ApplicationDescription &application)
 {
     if (!application.icon)
         return {};
-    const auto image = imageOf(pictureOf(*application.icon, application));
+    auto image = imageOf(pictureOf(*application.icon, application));
     if (!image.isNull())
         return image;
     qWarning().noquote() << u"application %1: no picture is to be had from \"%2\""_s.arg(application.pid)

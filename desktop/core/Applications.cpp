@@ -164,7 +164,7 @@ BarEntryPointer Applications::makeEntry(const Hosted &hosted, const DescribedExt
         m_menuBar.remove(std::exchange(before, nullptr));
     if (description.frameKind == ExtraDescription::Frame::unreadable)
         return nullptr;
-    const auto entry = before ? before : std::make_shared<BarEntry>();
+    auto entry = before ? before : std::make_shared<BarEntry>();
     entry->pid = application.pid;
     entry->place = place;
     entry->width = description.width;

@@ -35,7 +35,7 @@ void fill(Element &element, const ExtraDescription &extra)
 // The parent's present children, each to be taken once.
 class Remaining {
 public:
-    explicit Remaining(std::vector<platform::AXUIElement> children)
+    explicit Remaining(const std::vector<platform::AXUIElement> &children)
     {
         for (const auto &child : children) {
             const auto element = std::static_pointer_cast<Element>(child);
@@ -47,7 +47,7 @@ public:
         const auto found = m_byKey.find(key);
         if (found == m_byKey.end() || found->second.empty())
             return nullptr;
-        const auto element = found->second.front();
+        auto element = found->second.front();
         found->second.pop_front();
         return element;
     }
