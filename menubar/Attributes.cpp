@@ -13,44 +13,38 @@ const QString kPosition = u"AXPosition"_s;
 const QString kSize = u"AXSize"_s;
 
 template <typename T>
-std::optional<T> attribute(Accessibility &accessibility, const AXUIElement &element, const QString &name)
+T attribute(Accessibility &accessibility, const AXUIElement &element, const QString &name, T otherwise = {})
 {
     auto value = accessibility.copyAttributeValue(element, name);
-    if (value)
-        if (T *wanted = std::get_if<T>(&*value))
-            return std::move(*wanted);
-    return std::nullopt;
+    T *wanted = value ? std::get_if<T>(&*value) : nullptr;
+    return wanted ? std::move(*wanted) : otherwise;
 }
 
 } // namespace
 
-std::optional<QString> stringAttribute(Accessibility &accessibility, const AXUIElement &element, const QString &name)
+QString stringAttribute(Accessibility &accessibility, const AXUIElement &element, const QString &name)
 {
     return attribute<QString>(accessibility, element, name);
 }
 
 AXUIElement elementAttribute(Accessibility &accessibility, const AXUIElement &element, const QString &name)
 {
-    return attribute<AXUIElement>(accessibility, element, name).value_or(nullptr);
+    return attribute<AXUIElement>(accessibility, element, name);
 }
 
 std::vector<AXUIElement> elementsAttribute(Accessibility &accessibility, const AXUIElement &element,
                                            const QString &name)
 {
-    auto elements = attribute<std::vector<AXUIElement>>(accessibility, element, name);
-    return elements ? std::move(*elements) : std::vector<AXUIElement>();
+    return attribute<std::vector<AXUIElement>>(accessibility, element, name);
 }
 
 QRectF frameOf(Accessibility &accessibility, const AXUIElement &element)
 {
-    QRectF frame;
-    if (const auto position = attribute<QPointF>(accessibility, element, kPosition))
-        if (std::isfinite(position->x()) && std::isfinite(position->y()))
-            frame.moveTopLeft(*position);
-    if (const auto size = attribute<QSizeF>(accessibility, element, kSize))
-        if (std::isfinite(size->width()) && std::isfinite(size->height()))
-            frame.setSize(*size);
-    return frame;
+    const auto finite = [](double a, double b) { return std::isfinite(a) && std::isfinite(b); };
+    const auto position = attribute<QPointF>(accessibility, element, kPosition);
+    const auto size = attribute<QSizeF>(accessibility, element, kSize, {0, 0});
+    return {finite(position.x(), position.y()) ? position : QPointF(),
+            finite(size.width(), size.height()) ? size : QSizeF(0, 0)};
 }
 
 AXUIElement extrasMenuBar(Accessibility &accessibility, int processIdentifier, double messagingTimeout)

@@ -2,19 +2,19 @@
 #include "platform/Accessibility.h"
 
 #include <QRectF>
-#include <optional>
 #include <vector>
 
-// Reads of Accessibility attributes: absent when the call fails or the value is of another kind. Any thread.
+// Reads of Accessibility attributes. An attribute whose call fails or whose value is of another kind reads as empty,
+// null or 0: no reader tells those apart. Any thread.
 namespace brimshade::menubar {
 
 using platform::Accessibility;
 using platform::AXUIElement;
 
-std::optional<QString> stringAttribute(Accessibility &accessibility, const AXUIElement &element, const QString &name);
-AXUIElement elementAttribute(Accessibility &accessibility, const AXUIElement &element, const QString &name); // or null
+QString stringAttribute(Accessibility &accessibility, const AXUIElement &element, const QString &name);
+AXUIElement elementAttribute(Accessibility &accessibility, const AXUIElement &element, const QString &name);
 std::vector<AXUIElement> elementsAttribute(Accessibility &accessibility, const AXUIElement &element,
-                                           const QString &name); // or empty
+                                           const QString &name);
 
 // Display space. A part that cannot be read, or is not finite, is 0.
 QRectF frameOf(Accessibility &accessibility, const AXUIElement &element);

@@ -1,6 +1,5 @@
 #include "Labels.h"
-#include "MenuBarAccess.h"
-#include "platform/Workspace.h"
+#include "Owner.h"
 
 namespace brimshade::menubar {
 
@@ -17,33 +16,32 @@ QColor tintOf(const platform::Image &image)
 
 } // namespace
 
-QString MenuBarAccess::appName(const platform::RunningApplication &application) const
+QString MenuBarAccess::appName(const Owner &owner) const
 {
-    if (application.bundlePath && isInsideBundle(*application.bundlePath))
-        return withoutBundleSuffix(m_workspace.displayNameAtPath(outerBundlePath(*application.bundlePath)));
-    return application.localizedName.value_or(u"App"_s);
+    if (owner.outerBundle)
+        return withoutBundleSuffix(m_workspace.displayNameAtPath(*owner.outerBundle));
+    return owner.application.localizedName.value_or(u"App"_s);
 }
 
-platform::Image MenuBarAccess::appIcon(const platform::RunningApplication &application)
+MenuBarAccess::Icon MenuBarAccess::appIcon(const Owner &owner)
 {
-    return iconOf(application).image;
-}
-
-MenuBarAccess::Icon MenuBarAccess::iconOf(const platform::RunningApplication &application)
-{
-    if (application.bundlePath)
-        return cachedIcon(outerBundlePath(*application.bundlePath));
-    return {application.icon, tintOf(application.icon)};
+    if (owner.isSystemAgent)
+        return {{}, tintWithoutIcon()};
+    if (const auto &path = owner.application.bundlePath)
+        return cachedIcon(owner.outerBundle.value_or(*path));
+    const platform::Image &image = owner.application.icon;
+    return {image, tintOf(image)};
 }
 
 // Pictures never change, so the colour is as good as the picture it came from.
 const MenuBarAccess::Icon &MenuBarAccess::cachedIcon(const QString &bundlePath)
 {
-    const auto found = m_icons.find(bundlePath);
-    if (found != m_icons.end())
-        return found->second;
-    const platform::Image image = m_workspace.iconForFile(bundlePath).resized(kIconSize);
-    return m_icons.emplace(bundlePath, Icon{image, tintOf(image)}).first->second;
+    auto found = m_icons.constFind(bundlePath);
+    if (found == m_icons.constEnd()) {
+        const platform::Image image = m_workspace.iconForFile(bundlePath).resized(kIconSize);
+        found = m_icons.insert(bundlePath, {image, tintOf(image)});
+    }
+    return *found;
 }
 
 } // namespace brimshade::menubar

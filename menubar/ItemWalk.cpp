@@ -9,6 +9,9 @@ using namespace Qt::StringLiterals;
 
 const QString kChildren = u"AXChildren"_s;
 const QString kRole = u"AXRole"_s;
+const QString kItemRole = u"AXMenuBarItem"_s;
+const QString kGroupRole = u"AXGroup"_s;
+const QString kButtonRole = u"AXButton"_s;
 
 // Far beyond any real menu bar: ends the walk of a tree that leads back into itself.
 constexpr int kDeepestGroup = 1000;
@@ -20,19 +23,19 @@ struct Walk {
 
     void visitChildren(const AXUIElement &element, int depth)
     {
-        for (const AXUIElement &child : elementsAttribute(accessibility, element, kChildren))
+        for (AXUIElement &child : elementsAttribute(accessibility, element, kChildren))
             if (child)
-                visit(child, depth);
+                visit(std::move(child), depth);
     }
 
-    void visit(const AXUIElement &child, int depth)
+    void visit(AXUIElement child, int depth)
     {
-        const std::optional<QString> role = stringAttribute(accessibility, child, kRole);
-        if (role == u"AXMenuBarItem"_s)
-            items.push_back(child);
-        else if (role == u"AXGroup"_s && depth < kDeepestGroup)
+        const QString role = stringAttribute(accessibility, child, kRole);
+        if (role == kItemRole)
+            items.push_back(std::move(child));
+        else if (role == kGroupRole && depth < kDeepestGroup)
             visitChildren(child, depth + 1);
-        else if (role == u"AXButton"_s)
+        else if (role == kButtonRole)
             buttonEdge = platform::maxX(frameOf(accessibility, child));
     }
 };
@@ -50,7 +53,7 @@ std::vector<AXUIElement> collectItems(Accessibility &accessibility, const AXUIEl
 std::optional<QRectF> firstButtonFrame(Accessibility &accessibility, const AXUIElement &menuBar)
 {
     for (const AXUIElement &child : elementsAttribute(accessibility, menuBar, kChildren))
-        if (child && stringAttribute(accessibility, child, kRole) == u"AXButton"_s)
+        if (child && stringAttribute(accessibility, child, kRole) == kButtonRole)
             return frameOf(accessibility, child);
     return std::nullopt;
 }

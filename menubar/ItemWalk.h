@@ -1,6 +1,8 @@
 #pragma once
 #include "Attributes.h"
 
+#include <optional>
+
 namespace brimshade::menubar {
 
 // The items of one extras menu bar, depth first. Groups are walked through; the right edge of each plain button met

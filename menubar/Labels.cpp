@@ -41,15 +41,10 @@ constexpr std::array kSymbols = std::to_array<SymbolRow>({
 
 } // namespace
 
-bool isInsideBundle(const QString &path)
+std::optional<QString> outerBundle(const QString &path)
 {
-    return path.contains(".app/"_L1);
-}
-
-QString outerBundlePath(const QString &path)
-{
-    const qsizetype marker = path.indexOf(".app/"_L1);
-    return marker < 0 ? path : path.first(marker + 4);
+    const qsizetype marker = path.indexOf(u".app/"_s);
+    return marker < 0 ? std::nullopt : std::optional(path.first(marker + 4));
 }
 
 QString withoutBundleSuffix(QString displayName)

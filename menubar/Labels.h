@@ -3,13 +3,13 @@
 
 #include <QColor>
 #include <QString>
+#include <optional>
 
 // What an item is called and looks like in the panel. Pure functions, any thread.
 namespace brimshade::menubar {
 
-bool isInsideBundle(const QString &path);
-// Of "/Applications/A.app/Contents/B.app": "/Applications/A.app". Any other path unchanged.
-QString outerBundlePath(const QString &path);
+// Of "/Applications/A.app/Contents/B.app": "/Applications/A.app". Absent for a path that lies in no bundle.
+std::optional<QString> outerBundle(const QString &path);
 // "Relay.app" → "Relay"
 QString withoutBundleSuffix(QString displayName);
 

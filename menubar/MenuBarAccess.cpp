@@ -1,10 +1,11 @@
 #include "MenuBarAccess.h"
 #include "ItemWalk.h"
 #include "Labels.h"
+#include "Owner.h"
 #include "Text.h"
 #include "platform/Platform.h"
-#include "platform/Workspace.h"
 
+#include <QStringBuilder>
 #include <algorithm>
 
 namespace brimshade::menubar {
@@ -28,23 +29,29 @@ bool isSystemAgent(const platform::RunningApplication &application)
 
 QString detailText(const QString &title, const QString &description, const QString &appName)
 {
-    for (const QString &text : {title, description})
-        if (const QStringView trimmed = trimmedBlanks(text); !trimmed.isEmpty())
-            return trimmed.size() == text.size() ? text : trimmed.toString();
+    for (const QString *text : {&title, &description})
+        if (const QStringView trimmed = trimmedBlanks(*text); !trimmed.isEmpty())
+            return trimmed.size() == text->size() ? *text : trimmed.toString();
     return appName;
 }
 
-bool isLeftOf(const MenuExtra &a, const MenuExtra &b)
+ExtraList leftToRight(ExtraList extras)
 {
-    return a.frame.x() != b.frame.x() ? a.frame.x() < b.frame.x() : isOrderedBefore(a.name, b.name);
+    std::vector<MenuExtra *> order; // records are large: only pointers are sorted
+    order.reserve(extras.size());
+    for (MenuExtra &extra : extras)
+        order.push_back(&extra);
+    std::ranges::stable_sort(order, [](const MenuExtra *a, const MenuExtra *b) {
+        return a->frame.x() != b->frame.x() ? a->frame.x() < b->frame.x() : isOrderedBefore(a->name, b->name);
+    });
+    ExtraList sorted;
+    sorted.reserve(extras.size());
+    for (MenuExtra *extra : order)
+        sorted.push_back(std::move(*extra));
+    return sorted;
 }
 
 } // namespace
-
-struct MenuBarAccess::Owner {
-    const platform::RunningApplication &application;
-    bool isSystemAgent;
-};
 
 MenuBarAccess::MenuBarAccess(const platform::Platform &platform)
     : m_accessibility(platform.accessibility), m_dispatch(platform.dispatch), m_log(platform.log),
@@ -56,57 +63,57 @@ MenuBarAccess::~MenuBarAccess() = default;
 
 ExtraList MenuBarAccess::scan(const platform::Screen &screen, std::optional<QRectF> dividerFrame)
 {
+    const int ownProcess = m_workspace.processIdentifier();
+    const std::optional<QString> ownBundle = m_workspace.bundleIdentifier();
     HidingEdges edges{notchExtent(screen), platform::minX(screen.frame), std::nullopt, dividerFrame};
     ExtraList extras;
     for (const platform::RunningApplication &application : m_workspace.runningApplications()) {
-        if (isThisProgram(application))
-            continue;
-        const AXUIElement menuBar = extrasMenuBar(m_accessibility, application.processIdentifier, kScanTimeout);
-        if (!menuBar)
-            continue;
-        const Owner owner{application, isSystemAgent(application)};
-        for (int position = 0; const AXUIElement &item : collectItems(m_accessibility, menuBar, edges.buttonEdge))
-            extras.push_back(read(owner, item, position++));
+        // By the bundle identifier too: a second instance of this program is not listed either.
+        if (application.processIdentifier != ownProcess && application.bundleIdentifier != ownBundle)
+            readApplication(application, extras, edges.buttonEdge);
     }
     // Only now is the last button known.
     for (MenuExtra &extra : extras)
         extra.isHidden = isHiddenItem(extra.frame, edges);
-    std::ranges::stable_sort(extras, isLeftOf);
-    return extras;
+    return leftToRight(std::move(extras));
 }
 
-// By its process, and by its bundle identifier so that a second instance is not listed either.
-bool MenuBarAccess::isThisProgram(const platform::RunningApplication &application) const
+void MenuBarAccess::readApplication(const platform::RunningApplication &application, ExtraList &extras,
+                                    std::optional<double> &buttonEdge)
 {
-    return application.processIdentifier == m_workspace.processIdentifier()
-        || application.bundleIdentifier == m_workspace.bundleIdentifier();
+    const AXUIElement menuBar = extrasMenuBar(m_accessibility, application.processIdentifier, kScanTimeout);
+    std::vector<AXUIElement> items;
+    if (menuBar)
+        items = collectItems(m_accessibility, menuBar, buttonEdge);
+    if (items.empty())
+        return;
+    const auto &path = application.bundlePath;
+    const Owner owner{application, isSystemAgent(application), QString::number(application.processIdentifier) + u'-',
+                      path ? outerBundle(*path) : std::nullopt};
+    const Icon icon = appIcon(owner);
+    for (int position = 0; AXUIElement & item : items) {
+        MenuExtra &extra = extras.emplace_back();
+        extra.icon = icon.image;
+        extra.tint = icon.tint;
+        readItem(owner, std::move(item), position++, extra);
+    }
 }
 
-MenuExtra MenuBarAccess::read(const Owner &owner, const AXUIElement &item, int position)
+void MenuBarAccess::readItem(const Owner &owner, AXUIElement item, int position, MenuExtra &extra) const
 {
-    const QString title = stringAttribute(m_accessibility, item, kTitle).value_or(QString());
-    const QString description = stringAttribute(m_accessibility, item, kDescription).value_or(QString());
-    const QString identifier = stringAttribute(m_accessibility, item, kIdentifier).value_or(QString());
-    const QString name = appName(owner.application);
-
-    MenuExtra extra;
-    extra.id =
-        QString::number(owner.application.processIdentifier) + u'-' + QString::number(position) + u'-' + identifier;
-    extra.detail = detailText(title, description, name);
+    const QString title = stringAttribute(m_accessibility, item, kTitle);
+    const QString description = stringAttribute(m_accessibility, item, kDescription);
+    const QString identifier = stringAttribute(m_accessibility, item, kIdentifier);
+    extra.id = owner.idPrefix % QString::number(position) % u'-' % identifier;
+    extra.name = appName(owner);
+    extra.detail = detailText(title, description, extra.name);
     if (owner.isSystemAgent) {
         extra.name = description.isEmpty() ? u"System"_s : description;
         extra.symbol = symbolName(identifier);
-        extra.tint = tintWithoutIcon();
-    } else {
-        extra.name = name;
-        const Icon icon = iconOf(owner.application);
-        extra.icon = icon.image;
-        extra.tint = icon.tint;
     }
     extra.frame = frameOf(m_accessibility, item);
     extra.canMove = canMoveItem(owner.isSystemAgent, identifier);
-    extra.element = item;
-    return extra;
+    extra.element = std::move(item);
 }
 
 QRectF MenuBarAccess::frame(const AXUIElement &element) const

@@ -3,7 +3,7 @@
 #include "NotchGeometry.h"
 #include "platform/Accessibility.h"
 
-#include <map>
+#include <QHash>
 #include <optional>
 
 namespace brimshade::platform {
@@ -17,8 +17,8 @@ class Workspace;
 namespace brimshade::menubar {
 
 // What the program reads of, and does to, other applications' menu bar items. Each call blocks its thread for what
-// the applications take to answer. scan and appIcon belong to the scan queue, where calls never overlap:
-// they share a cache without a lock. The rest may be called on any thread.
+// the applications take to answer. scan belongs to the scan queue, where calls never overlap: its
+// cache has no lock. The rest may be called on any thread.
 class MenuBarAccess {
 public:
     // The platform's services outlive this object.
@@ -40,9 +40,6 @@ public:
     void activate(const MenuExtra &extra) const;
     void press(const platform::AXUIElement &element, const MenuExtra &extra) const;
 
-    QString appName(const platform::RunningApplication &application) const;
-    platform::Image appIcon(const platform::RunningApplication &application);
-
 private:
     struct Icon {
         platform::Image image;
@@ -51,16 +48,18 @@ private:
 
     struct Owner;
 
-    bool isThisProgram(const platform::RunningApplication &application) const;
-    MenuExtra read(const Owner &owner, const platform::AXUIElement &item, int position);
+    void readApplication(const platform::RunningApplication &application, ExtraList &extras,
+                         std::optional<double> &buttonEdge);
+    void readItem(const Owner &owner, platform::AXUIElement item, int position, MenuExtra &extra) const;
+    QString appName(const Owner &owner) const;
+    Icon appIcon(const Owner &owner);
     const Icon &cachedIcon(const QString &bundlePath);
-    Icon iconOf(const platform::RunningApplication &application);
 
     platform::Accessibility &m_accessibility;
     platform::Dispatch &m_dispatch;
     platform::Log &m_log;
     platform::Workspace &m_workspace;
-    std::map<QString, Icon> m_icons; // by outer bundle path; never emptied
+    QHash<QString, Icon> m_icons; // by outer bundle path; never emptied
 };
 
 } // namespace brimshade::menubar

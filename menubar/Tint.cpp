@@ -19,13 +19,16 @@ struct Rgb {
 std::array<double, 4> averagePixel(const QImage &bitmap)
 {
     const QImage pixels = bitmap.convertToFormat(QImage::Format_RGBA8888_Premultiplied);
+    const int width = pixels.width();
+    const int height = pixels.height();
     std::array<quint64, 4> sums{};
-    for (int y = 0; y < pixels.height(); ++y) {
-        const uchar *line = pixels.constScanLine(y);
-        for (int i = 0; i < 4 * pixels.width(); ++i)
-            sums[i % 4] += line[i];
+    for (int y = 0; y < height; ++y) {
+        const uchar *pixel = pixels.constScanLine(y);
+        for (int x = 0; x < width; ++x, pixel += 4)
+            for (int component = 0; component < 4; ++component)
+                sums[component] += pixel[component];
     }
-    const quint64 count = quint64(pixels.width()) * pixels.height();
+    const quint64 count = quint64(width) * height;
     std::array<double, 4> average{};
     std::ranges::transform(sums, average.begin(), [&](quint64 sum) { return double((sum + count / 2) / count) / 255; });
     return average;

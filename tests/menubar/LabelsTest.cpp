@@ -10,16 +10,16 @@ using namespace Qt::StringLiterals;
 
 TEST(Bundle, IsTheOutermostApplicationOfAPath)
 {
-    const std::pair<QString, QString> cases[] = {
+    const std::pair<QString, std::optional<QString>> cases[] = {
         {u"/Applications/Outer.app/Contents/Library/LoginItems/Inner.app"_s, u"/Applications/Outer.app"_s},
         {u"/Applications/Outer.app/"_s, u"/Applications/Outer.app"_s},
-        {u"/Applications/Relay.app"_s, u"/Applications/Relay.app"_s},
+        {u"/Applications/Relay.app"_s, {}},
         {u"/Applications/Outer.APP/Inner.app/x"_s, u"/Applications/Outer.APP/Inner.app"_s},
-        {u"/usr/bin/tool"_s, u"/usr/bin/tool"_s},
-        {QString(), QString()},
+        {u"/usr/bin/tool"_s, {}},
+        {QString(), {}},
     };
     for (const auto &[path, bundle] : cases)
-        EXPECT_EQ(outerBundlePath(path), bundle) << qPrintable(path);
+        EXPECT_EQ(outerBundle(path), bundle) << qPrintable(path);
     EXPECT_EQ(withoutBundleSuffix(u"My.app Tool.app"_s), u"My Tool"_s);
 }
 

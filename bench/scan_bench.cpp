@@ -1,0 +1,206 @@
+// A scan of a full menu bar. The reference is the bare attribute reads that a scan cannot do without, in the same order
+// and with nothing made of them. Of applications that hang, a scan's time is theirs alone: a quarter of a second each.
+#include "Paired.h"
+#include "desktop/core/Desktop.h"
+#include "desktop/time/RealDispatch.h"
+#include "desktop/time/VirtualDispatch.h"
+#include "menubar/MenuBarAccess.h"
+#include "platform/Accessibility.h"
+#include "platform/Dispatch.h"
+#include "platform/Screens.h"
+#include "platform/Symbol.h"
+#include "platform/Workspace.h"
+
+#include <QGuiApplication>
+#include <thread>
+
+using namespace Qt::StringLiterals;
+using namespace brimshade;
+
+namespace {
+
+constexpr int kApplications = 60;
+constexpr int kItemsEach = 2;
+
+class NoSymbols : public platform::Symbols {
+    platform::Image symbolImage(const QString &, const QString &, const platform::SymbolConfiguration &) override
+    {
+        return {};
+    }
+};
+
+desktop::ApplicationDescription application(int number)
+{
+    desktop::ApplicationDescription application;
+    application.pid = 1000 + number;
+    application.name = u"Application %1"_s.arg(number);
+    application.bundleIdentifier = u"app.number%1"_s.arg(number);
+    application.bundlePath = u"/Applications/Application%1.app"_s.arg(number);
+    application.icon = u"#3b82f6"_s;
+    application.extras.emplace();
+    for (int i = 0; i < kItemsEach; ++i) {
+        desktop::ExtraDescription extra;
+        extra.role = u"AXMenuBarItem"_s;
+        extra.title = u"Status %1"_s.arg(i);
+        extra.description = u"Item of the application"_s;
+        extra.identifier = u"app.number%1.item%2"_s.arg(number).arg(i);
+        application.extras->push_back(extra);
+    }
+    return application;
+}
+
+desktop::DesktopDescription fullBar(int hanging)
+{
+    desktop::DesktopDescription description;
+    description.screens = {{u"Built-in Display"_s, QRectF(0, 0, 1512, 982), 37, 37, std::pair(663.0, 849.0)}};
+    for (int i = 0; i < kApplications; ++i) {
+        description.applications.push_back(application(i));
+        description.applications.back().hangs = i < hanging;
+    }
+    return description;
+}
+
+// The reads of a scan, as a scan makes them, and nothing else.
+class BareReads {
+public:
+    explicit BareReads(const platform::Platform &platform) : m_platform(platform) { }
+
+    int run()
+    {
+        m_answers = 0;
+        for (const auto &application : m_platform.workspace.runningApplications()) {
+            if (application.processIdentifier == m_platform.workspace.processIdentifier())
+                continue;
+            const auto element = m_platform.accessibility.createApplication(application.processIdentifier);
+            m_platform.accessibility.setMessagingTimeout(element, 0.25);
+            if (const auto bar = read(element, m_extrasMenuBar))
+                readItems(std::get<platform::AXUIElement>(*bar));
+        }
+        return m_answers;
+    }
+
+private:
+    std::expected<platform::AXAttributeValue, platform::AXError> read(const platform::AXUIElement &element,
+                                                                      const QString &attribute)
+    {
+        auto value = m_platform.accessibility.copyAttributeValue(element, attribute);
+        m_answers += value.has_value();
+        return value;
+    }
+
+    void readItems(const platform::AXUIElement &bar)
+    {
+        const auto children = read(bar, m_children);
+        if (!children)
+            return;
+        const auto &items = std::get<std::vector<platform::AXUIElement>>(*children);
+        for (const auto &item : items)
+            benchmark::DoNotOptimize(read(item, m_role));
+        for (const auto &item : items)
+            for (const QString &attribute : m_attributes)
+                benchmark::DoNotOptimize(read(item, attribute));
+    }
+
+    const platform::Platform m_platform;
+    const QString m_extrasMenuBar = u"AXExtrasMenuBar"_s;
+    const QString m_children = u"AXChildren"_s;
+    const QString m_role = u"AXRole"_s;
+    const QStringList m_attributes{u"AXTitle"_s, u"AXDescription"_s, u"AXIdentifier"_s, u"AXPosition"_s, u"AXSize"_s};
+    int m_answers = 0;
+};
+
+void check(benchmark::State &state, std::size_t found, std::size_t expected)
+{
+    if (found != expected)
+        state.SkipWithError("the scan did not find every item");
+}
+
+// latency is what each read takes besides, in seconds: none shows the scan's own work, a tenth of a millisecond how it
+// stands beside reads that cross to another process.
+void scan(benchmark::State &state, double latency)
+{
+    desktop::RealDispatch dispatch;
+    NoSymbols symbols;
+    desktop::DesktopDescription description = fullBar(0);
+    for (auto &application : description.applications)
+        application.latency = latency;
+    desktop::Desktop desktop({dispatch, symbols, nullptr, nullptr}, description);
+    const platform::Platform platform = desktop.platform();
+    menubar::MenuBarAccess access(platform);
+    BareReads reads(platform);
+    const platform::Screen screen = platform.screens.screens().front();
+    // The main thread never waits for an answer.
+    std::jthread([&] {
+        check(state, access.scan(screen, std::nullopt).size(), kApplications * kItemsEach); // and fills the icon cache
+        bench::runPaired(
+            state, [&](int) { benchmark::DoNotOptimize(access.scan(screen, std::nullopt)); },
+            [&](int) { benchmark::DoNotOptimize(reads.run()); });
+    }).join();
+}
+BENCHMARK_CAPTURE(scan, memory, 0)->UseManualTime()->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(scan, process, 0.0001)->UseManualTime()->Iterations(5)->Unit(benchmark::kMillisecond);
+
+constexpr int kHanging = 8;
+constexpr double kHangingSeconds = kHanging * 0.25;
+
+// Runs a scan of a bar with hanging applications off the main thread; turn gives the main thread and the clock their
+// turn until it is done. Answers the seconds of the dispatch's own clock.
+template <typename Turn> double scanHanging(benchmark::State &state, platform::Dispatch &dispatch, const Turn &turn)
+{
+    NoSymbols symbols;
+    desktop::Desktop desktop({dispatch, symbols, nullptr, nullptr}, fullBar(kHanging));
+    const platform::Platform platform = desktop.platform();
+    menubar::MenuBarAccess access(platform);
+    const platform::Screen screen = platform.screens.screens().front();
+    const auto queue = dispatch.makeSerialQueue(u"brimshade.scan"_s, platform::QualityOfService::userInitiated);
+    bool isDone = false;
+    std::size_t found = 0;
+    double seconds = 0;
+    queue->async([&] {
+        const double start = dispatch.now();
+        found = access.scan(screen, std::nullopt).size();
+        seconds = dispatch.now() - start;
+        dispatch.mainAsync([&] { isDone = true; });
+    });
+    while (!isDone)
+        turn();
+    check(state, found, (kApplications - kHanging) * kItemsEach);
+    return seconds;
+}
+
+void report(benchmark::State &state, double seconds)
+{
+    state.SetIterationTime(seconds);
+    state.counters["reference_ms"] = kHangingSeconds * 1000;
+    state.counters["ratio"] = seconds / kHangingSeconds;
+}
+
+void scanHangingVirtualTime(benchmark::State &state)
+{
+    for ([[maybe_unused]] auto _ : state) {
+        desktop::VirtualDispatch dispatch;
+        report(state, scanHanging(state, dispatch, [&] { dispatch.advance(0.25); }));
+    }
+}
+BENCHMARK(scanHangingVirtualTime)->UseManualTime()->Iterations(3)->Unit(benchmark::kMillisecond);
+
+void scanHangingRealTime(benchmark::State &state)
+{
+    for ([[maybe_unused]] auto _ : state) {
+        desktop::RealDispatch dispatch;
+        report(state,
+               scanHanging(state, dispatch, [&] { QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents); }));
+    }
+}
+BENCHMARK(scanHangingRealTime)->UseManualTime()->Iterations(1)->Unit(benchmark::kMillisecond);
+
+} // namespace
+
+int main(int argc, char **argv)
+{
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    QGuiApplication application(argc, argv);
+    benchmark::Initialize(&argc, argv);
+    benchmark::RunSpecifiedBenchmarks();
+    return 0;
+}
