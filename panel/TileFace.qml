@@ -11,6 +11,7 @@ Item {
     required property color tint
     required property bool isHidden
     required property bool hovered
+    required property bool scaled // by whatever it is part of
 
     readonly property real highlight: motion.value
     readonly property real shown: Math.max(0, Math.min(1, root.highlight)) // springs overshoot, light does not
@@ -18,6 +19,8 @@ Item {
     function between(rest: real, highlighted: real): real {
         return rest + (highlighted - rest) * root.shown;
     }
+
+    readonly property bool resampled: root.scaled || root.scale !== 1
 
     width: 54
     height: 54
@@ -32,6 +35,7 @@ Item {
 
     RoundedShape {
         objectName: "background"
+        smooth: root.resampled
         anchors.fill: parent
         radius: 16
         color: "white"
@@ -51,6 +55,7 @@ Item {
     }
     RoundedShape {
         objectName: "border"
+        smooth: root.resampled
         anchors.fill: parent
         radius: 16
         strokeColor: "white"
@@ -68,6 +73,7 @@ Item {
     ImageView {
         id: picture
         objectName: "icon"
+        smooth: root.resampled
         anchors.centerIn: parent
         width: 36
         height: 36
@@ -75,6 +81,7 @@ Item {
     }
     SymbolIcon {
         objectName: "symbol"
+        smooth: root.resampled
         anchors.centerIn: parent
         visible: picture.isNull
         name: root.symbol
@@ -84,6 +91,7 @@ Item {
     }
     RoundedShape {
         objectName: "marker"
+        smooth: root.resampled
         anchors.centerIn: parent
         anchors.horizontalCenterOffset: 19
         anchors.verticalCenterOffset: -19

@@ -38,13 +38,13 @@ QSGNode *DrawnItem::updatePaintNode(QSGNode *node, UpdatePaintNodeData *)
         return nullptr;
     }
     key += bytesOf(rect, window()->effectiveDevicePixelRatio());
-    if (image && key == m_shownKey)
-        return image;
     if (!image) {
         image = window()->createImageNode();
         image->setOwnsTexture(true);
-        image->setFiltering(QSGTexture::Linear);
     }
+    image->setFiltering(smooth() ? QSGTexture::Linear : QSGTexture::Nearest);
+    if (key == m_shownKey)
+        return image;
     image->setTexture(window()->createTextureFromImage(picture(rect, key), QQuickWindow::TextureCanUseAtlas));
     image->setRect(rect);
     m_shownKey = key;

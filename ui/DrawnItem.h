@@ -10,7 +10,8 @@
 namespace brimshade::ui {
 
 // An item that shows one picture, drawn once for its content, size and device pixel ratio and shared with every equal
-// item of the window. Moving, scaling and fading it never draws again.
+// item of the window. Moving, scaling and fading it never draws again. What is never shown scaled says `smooth: false`:
+// it is then copied and not resampled.
 class DrawnItem : public QQuickItem {
     Q_OBJECT
     QML_ANONYMOUS

@@ -9,9 +9,6 @@ namespace brimshade::ui {
 
 namespace {
 
-// What may be left of the way when a motion ends: a tenth of a point of a panel's width.
-constexpr double kSettledShare = 2e-4;
-
 double eased(SpringValue::Curve curve, double progress)
 {
     QEasingCurve easing(QEasingCurve::BezierSpline);
@@ -116,7 +113,7 @@ bool SpringValue::advanceSpring(double seconds)
 {
     m_now = springAt(m_motion.spring, m_start, seconds);
     const double way = std::max(std::abs(m_start.position), 1e-3);
-    return springIsSettled(m_motion.spring, m_now, kSettledShare * way);
+    return springIsSettled(m_motion.spring, m_now, m_precision * way);
 }
 
 bool SpringValue::advanceEase(double seconds)

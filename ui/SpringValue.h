@@ -18,6 +18,8 @@ class SpringValue : public QObject, public QQmlParserStatus {
     QML_ELEMENT
     Q_PROPERTY(double target READ target WRITE setTarget NOTIFY targetChanged)
     Q_PROPERTY(double value READ value NOTIFY valueChanged)
+    // What may be left of the way when a spring is said to rest. The default is a tenth of a point of a panel's width.
+    Q_PROPERTY(double precision MEMBER m_precision NOTIFY parametersChanged)
     // False: changes of target jump, as for what nobody sees.
     Q_PROPERTY(bool animated MEMBER m_isAnimated NOTIFY parametersChanged)
     Q_PROPERTY(bool running READ isRunning NOTIFY runningChanged)
@@ -95,6 +97,7 @@ private:
     SpringState m_now;
     double m_target = 0;
     double m_value = 0;
+    double m_precision = 2e-4;
     bool m_isComplete = false;
     bool m_isAnimated = true;
     Clock m_clock{*this};
