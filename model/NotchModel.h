@@ -6,7 +6,6 @@
 
 #include <QObject>
 #include <QSizeF>
-#include <QStringList>
 #include <functional>
 
 namespace brimshade::platform {
@@ -39,8 +38,6 @@ class NotchModel : public QObject {
     Q_PROPERTY(brimshade::model::Shortcut shortcut READ shortcut WRITE setShortcut NOTIFY shortcutChanged)
     Q_PROPERTY(bool dividerEnabled READ dividerEnabled WRITE setDividerEnabled NOTIFY dividerEnabledChanged)
     Q_PROPERTY(bool launchAtLogin READ launchAtLogin WRITE setLaunchAtLogin NOTIFY launchAtLoginChanged)
-    // Titles in the order of allShortcuts: the index of one is its shortcut's value.
-    Q_PROPERTY(QStringList shortcutTitles READ shortcutTitles CONSTANT)
     Q_PROPERTY(int itemCount READ itemCount NOTIFY extrasChanged)
     Q_PROPERTY(int hiddenCount READ hiddenCount NOTIFY extrasChanged)
     Q_PROPERTY(int hiddenMatchCount READ hiddenMatchCount NOTIFY matchesChanged)
@@ -71,7 +68,6 @@ public:
     Shortcut shortcut() const;
     bool dividerEnabled() const;
     bool launchAtLogin() const;
-    QStringList shortcutTitles() const;
 
     void setIsOpen(bool isOpen);
     void setExtras(ExtraList extras);

@@ -64,14 +64,6 @@ bool NotchModel::launchAtLogin() const
     return m_launchAtLogin;
 }
 
-QStringList NotchModel::shortcutTitles() const
-{
-    QStringList titles;
-    for (const Shortcut shortcut : allShortcuts)
-        titles.append(displayTitle(shortcut));
-    return titles;
-}
-
 void NotchModel::setShowVisible(bool on)
 {
     Q_EMIT objectWillChange();
