@@ -47,7 +47,7 @@ Item {
         anchors.fill: parent
         radius: 17
         isActive: false
-        color: Qt.rgba(0.95, 0.945, 0.96, 0.95)
+        color: "#f3f1f5"
     }
     ImageView {
         x: 14

@@ -22,7 +22,7 @@ Item {
     WindowPlate {
         anchors.fill: parent
         radius: 7
-        color: Qt.rgba(0.955, 0.95, 0.965, 0.97)
+        color: "#f4f2f6"
     }
     ListView {
         id: list
