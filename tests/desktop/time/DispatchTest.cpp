@@ -47,12 +47,16 @@ TYPED_TEST_SUITE(DispatchTest, Implementations);
 
 TYPED_TEST(DispatchTest, WorkRunsByDueTimeThenByQueueing)
 {
+    // Each is due after the ones before it however slowly they are queued, but for the first.
     auto &order = this->order;
-    this->dispatch->mainAfter(0.003, [&] { this->done = true; });
-    this->dispatch->mainAfter(0.002, [&] { order.push_back(4); });
-    this->dispatch->mainAfter(0.001, [&] { order.push_back(3); });
+    this->dispatch->mainAfter(86400, [&] { order.push_back(5); });
     this->dispatch->mainAsync([&] { order.push_back(1); });
     this->dispatch->mainAfter(-1, [&] { order.push_back(2); });
+    this->dispatch->mainAfter(0.001, [&] { order.push_back(3); });
+    this->dispatch->mainAfter(0.002, [&] {
+        order.push_back(4);
+        this->done = true;
+    });
     EXPECT_THAT(order, ElementsAre()); // never before a later turn
     this->run(this->done);
     EXPECT_THAT(order, ElementsAre(1, 2, 3, 4));
