@@ -4,6 +4,7 @@
 
 #include <QCoreApplication>
 #include <QEvent>
+#include <limits>
 
 namespace brimshade::desktop {
 
@@ -77,10 +78,9 @@ void VirtualDispatch::advance(double seconds)
 
 bool VirtualDispatch::stepTo(Nanoseconds end)
 {
-    const std::optional<Nanoseconds> due = m_events.nextDue();
-    const std::optional<Nanoseconds> frame =
-        m_framesWanted && m_framesWanted() ? std::optional(frameAfter(m_now)) : std::nullopt;
-    const Nanoseconds stop = std::min(due.value_or(end + 1), frame.value_or(end + 1));
+    constexpr Nanoseconds never = std::numeric_limits<Nanoseconds>::max();
+    const Nanoseconds frame = m_framesWanted && m_framesWanted() ? frameAfter(m_now) : never;
+    const Nanoseconds stop = std::min(m_events.nextDue().value_or(never), frame);
     m_now = std::max(m_now.load(), std::min(stop, end)); // work may have moved it on itself
     if (stop > end)
         return false;
