@@ -4,7 +4,7 @@
 namespace brimshade::desktop {
 
 // The pointer's arrow; its tip is the item's origin.
-class PointerArrow : public ui::DrawnItem {
+class PointerArrow : public brimshade::ui::DrawnItem {
     Q_OBJECT
     QML_ELEMENT
 

@@ -8,10 +8,11 @@
 #include "desktop/core/WindowStack.h"
 #include "desktop/time/VirtualDispatch.h"
 
-#include <QCoreApplication>
+#include <QGuiApplication>
 #include <QQmlComponent>
 #include <QQmlEngine>
 #include <QQuickItem>
+#include <QScreen>
 #include <algorithm>
 
 using namespace Qt::StringLiterals;
@@ -19,6 +20,8 @@ using namespace Qt::StringLiterals;
 namespace brimshade::desktop {
 
 namespace {
+
+constexpr double kLargestShare = 0.94; // of the session's screen
 
 WallClock::Now clockOf(VirtualDispatch *clock)
 {
@@ -32,7 +35,11 @@ std::unique_ptr<QQuickWindow> sessionWindow(QSize desktop)
     auto window = std::make_unique<QQuickWindow>();
     window->setTitle(u"Brimshade"_s);
     window->setColor(Qt::black);
-    window->resize(desktop);
+    // As large as it is where the session's screen has room for it, else as large as fits beside a window manager.
+    const QScreen *screen = QGuiApplication::primaryScreen();
+    const QSize room = screen ? screen->availableGeometry().size() : desktop;
+    const bool hasRoom = desktop.width() <= room.width() && desktop.height() <= room.height();
+    window->resize(hasRoom ? desktop : desktop.scaled(room * kLargestShare, Qt::KeepAspectRatio));
     window->setMinimumSize({640, 400});
     return window;
 }

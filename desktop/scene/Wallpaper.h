@@ -4,7 +4,7 @@
 namespace brimshade::desktop {
 
 // The picture behind everything: dusk over a lake between hills. Drawn by code for the item's size.
-class Wallpaper : public ui::DrawnItem {
+class Wallpaper : public brimshade::ui::DrawnItem {
     Q_OBJECT
     QML_ELEMENT
 
