@@ -11,8 +11,8 @@ T.AbstractButton {
     property color color: "white"
 
     objectName: "settingsButton"
-    implicitWidth: symbol.implicitWidth
-    implicitHeight: symbol.implicitHeight
+    implicitWidth: implicitContentWidth
+    implicitHeight: implicitContentHeight
     activeFocusOnTab: true
     Accessible.role: Accessible.Button
     Accessible.name: qsTr("Settings")
@@ -21,7 +21,6 @@ T.AbstractButton {
     Keys.onReturnPressed: root.clicked()
 
     contentItem: SymbolIcon {
-        id: symbol
         name: "gearshape.fill"
         pointSize: 11
         weight: SymbolIcon.Semibold

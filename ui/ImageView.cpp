@@ -19,8 +19,9 @@ ImageView::ImageView(QQuickItem *parent) : DrawnItem(parent)
     connect(this, &ImageView::lookChanged, this, &QQuickItem::update);
 }
 
-void ImageView::setImage(const platform::Image &image)
+void ImageView::setImage(const QVariant &value)
 {
+    const auto image = value.value<platform::Image>();
     if (m_image.isSameObject(image) && m_image.size() == image.size())
         return;
     m_image = image;

@@ -3,15 +3,18 @@
 #include "platform/Image.h"
 
 #include <QColor>
+#include <QVariant>
 
 namespace brimshade::ui {
 
 // A platform image stretched to the item, scaled with high quality once; with `glowRadius`, its blurred silhouette in
 // glowColor instead, which reaches beyond the item by three radii.
-class ImageView : public DrawnItem {
+// The base is spelled in full: the registrar of QML types finds it by its spelling.
+class ImageView : public brimshade::ui::DrawnItem {
     Q_OBJECT
     QML_NAMED_ELEMENT(ImageView)
-    Q_PROPERTY(brimshade::platform::Image image READ image WRITE setImage NOTIFY imageChanged)
+    // A platform::Image; anything else shows nothing.
+    Q_PROPERTY(QVariant image READ image WRITE setImage NOTIFY imageChanged)
     Q_PROPERTY(bool isNull READ isNull NOTIFY imageChanged)
     // For a template image: what its mask is filled with.
     Q_PROPERTY(QColor templateColor MEMBER m_templateColor NOTIFY lookChanged)
@@ -21,8 +24,8 @@ class ImageView : public DrawnItem {
 public:
     explicit ImageView(QQuickItem *parent = nullptr);
 
-    platform::Image image() const { return m_image; }
-    void setImage(const platform::Image &image);
+    QVariant image() const { return QVariant::fromValue(m_image); }
+    void setImage(const QVariant &image);
     bool isNull() const { return m_image.isNull(); }
 
 Q_SIGNALS:

@@ -8,7 +8,8 @@ namespace brimshade::ui {
 
 // A rounded rectangle with a plain or gradient fill and a stroke inside its edge. To fade or highlight it, change
 // opacity rather than a colour: a colour is a new picture.
-class RoundedShape : public DrawnItem {
+// The base is spelled in full: the registrar of QML types finds it by its spelling.
+class RoundedShape : public brimshade::ui::DrawnItem {
     Q_OBJECT
     QML_NAMED_ELEMENT(RoundedShape)
     Q_PROPERTY(double radius MEMBER m_radius NOTIFY changed)

@@ -17,7 +17,7 @@ Item {
     Item {
         id: wheel
         objectName: "spinnerWheel"
-        property int phase: 0
+        property int phase
 
         anchors.centerIn: parent
         width: 16

@@ -7,7 +7,8 @@
 namespace brimshade::ui {
 
 // A system symbol in a square of about the size of text of that point size. An unknown name shows nothing.
-class SymbolIcon : public DrawnItem {
+// The base is spelled in full: the registrar of QML types finds it by its spelling.
+class SymbolIcon : public brimshade::ui::DrawnItem {
     Q_OBJECT
     QML_NAMED_ELEMENT(SymbolIcon)
     Q_PROPERTY(QString name MEMBER m_name NOTIFY changed)
