@@ -48,7 +48,7 @@ Item {
         Row {
             anchors.verticalCenter: parent.verticalCenter
             visible: root.model.query !== ""
-            spacing: 0.5
+            spacing: 1.5
 
             StyledText {
                 objectName: "query"

@@ -117,8 +117,7 @@ Item {
     RoundedShape {
         objectName: "scroller"
         visible: root.overflows
-        anchors.right: parent.right
-        anchors.rightMargin: -4
+        anchors.right: parent.right // in the free space beside the last column's faces
         y: scroll.value / (root.geometry.contentHeight - root.geometry.viewportHeight) * (root.height - height)
         width: 3
         height: Math.max(28, Math.round(root.height * root.height / root.geometry.contentHeight))
