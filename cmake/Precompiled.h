@@ -1,3 +1,4 @@
+#pragma once
 // What nearly every source includes anyway, parsed once a library. Sources still include what they use.
 #include <QHash>
 #include <QJsonArray>
