@@ -5,7 +5,10 @@
 #include <QTranslator>
 
 // Outside any namespace, as the resource's own function is.
-static void initTranslations() { Q_INIT_RESOURCE(brimshade_translations); }
+static void initTranslations()
+{
+    Q_INIT_RESOURCE(brimshade_translations);
+}
 
 namespace brimshade::i18n {
 

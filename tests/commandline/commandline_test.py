@@ -1,5 +1,6 @@
 """The program from outside: its command line, bad files, bad scripts, exit statuses and messages."""
 import json
+import os
 import pathlib
 import subprocess
 import sys
@@ -10,8 +11,13 @@ PROGRAM = sys.argv.pop(1)
 SCREEN = {"name": "Built-in Display", "frame": [0, 0, 1512, 982], "menuBarHeight": 37, "notch": [663, 849]}
 
 
-def brimshade(*arguments, script="", **options):
-    return subprocess.run([PROGRAM, *arguments], input=script, capture_output=True, text=True, timeout=120, **options)
+RUNTIME = tempfile.TemporaryDirectory()  # without one of its own Qt says so on standard error
+ENVIRONMENT = {**os.environ, "XDG_RUNTIME_DIR": RUNTIME.name}
+
+
+def brimshade(*arguments, script=""):
+    return subprocess.run([PROGRAM, *arguments], input=script, capture_output=True, text=True, timeout=120,
+                          env=ENVIRONMENT)
 
 
 def play(*commands, arguments=()):
@@ -68,6 +74,7 @@ class DesktopFile(Files):
             (json.dumps({"screens": []}), "screens"),
             (json.dumps({"screens": [{**SCREEN, "notch": [849, 663]}]}), "screens[0].notch"),
             (json.dumps({"screens": [SCREEN], "applications": [{"name": "x"}]}), "applications[0].pid"),
+            (json.dumps({"screens": [SCREEN], "applications": [{**app, "icon": "#zzzzzz"}]}), "applications[0].icon"),
             (json.dumps({"screens": [SCREEN], "applications": [app, app]}), "applications[1].pid"),
             (json.dumps({"screens": [SCREEN], "applications": [{"pid": 5, "extras": [{"width": "x"}]}]}),
              "applications[0].extras[0].width: expected a number"),
@@ -83,11 +90,11 @@ class DesktopFile(Files):
         huge = self.file("huge.svg", '<svg xmlns="http://www.w3.org/2000/svg" width="1e9" height="1e9"><rect/></svg>')
         apps = [{"pid": 10 + n, "name": f"App {n}", "icon": icon, "bundlePath": f"/Applications/App{n}.app",
                  "extras": [{"identifier": str(n)}]}
-                for n, icon in enumerate([broken, huge, "/nowhere.png", "no-such-theme-icon", "#zzzzzz", ""])]
+                for n, icon in enumerate([broken, huge, "/nowhere.png", "no-such-theme-icon"])]
         done, answers = play({"do": "click", "at": [1, 1]}, {"do": "state"},
                              arguments=["--desktop", self.desktop(applications=apps)])
         self.assertEqual(done.returncode, 0, done.stderr)
-        self.assertEqual(sum(item["pid"] >= 10 and item["pid"] < 16 for item in answers[1]["menuBar"]), 6)
+        self.assertEqual(sum(10 <= item["pid"] < 14 for item in answers[1]["menuBar"]), 4)
 
 
 class Script(Files):
@@ -114,7 +121,7 @@ class Script(Files):
             ({"do": "press-element", "name": "No such thing"}, "0 interactive"),
             ({"do": "quit", "pid": 99999}, "99999"),
             ({"do": "launch", "application": {"pid": 1, "shape": "round"}}, "application.shape"),
-            ({"do": "screens", "screens": []}, "screens"),
+            ({"do": "screens", "screens": [{"name": "x"}]}, "screens[0].frame"),
             ({"do": "loginItem", "status": 7}, "status"),
             ({"do": "picture", "file": str(pathlib.Path(self.folder.name) / "p.png"), "of": "setup"}, "setup"),
             ({"do": "picture", "file": "/proc/none/p.png"}, "file"),
