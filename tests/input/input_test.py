@@ -14,7 +14,7 @@ PATIENCE = 100  # looks, 0.1 s of the program's time apart, before a thing that 
 
 APPLICATIONS = [
     {"pid": 700, "name": "Menu Agent", "bundleIdentifier": "com.apple.MenuBarAgent",
-     "extras": [{"identifier": "x.clock", "description": "Clock", "width": 130}]},
+     "extras": [{"identifier": "x.clock", "description": "Clock", "width": 90}]},
     *[{"pid": 800 + n, "name": name, "bundlePath": f"/Applications/{name}.app", "icon": "#3b82f6",
        "extras": [{"identifier": f"{name}.main", "title": name, "menu": [f"Open {name}", "-", f"Quit {name}"]}]}
       for n, name in enumerate(["Relay", "Harbor", "Quill", "Kiln", "Relish"])]]
@@ -34,7 +34,12 @@ class Display:
             self.environment = {**os.environ, "DISPLAY": ":" + numbers.readline().strip(), "QT_QUICK_BACKEND": "software",
                                 "QT_QPA_PLATFORM": "xcb"}
         self.environment.pop("WAYLAND_DISPLAY", None)
-        self.manager = subprocess.Popen(["openbox"], env=self.environment, stderr=subprocess.DEVNULL)
+        with tempfile.TemporaryDirectory() as folder:
+            ready = os.path.join(folder, "ready")
+            os.mkfifo(ready)  # opening it waits for the window manager to write
+            self.manager = subprocess.Popen(["openbox", "--startup", f"sh -c 'echo > {ready}'"], env=self.environment,
+                                            stderr=subprocess.DEVNULL)
+            pathlib.Path(ready).read_text()
 
     def close(self):
         for process in (self.manager, self.server):
@@ -62,7 +67,7 @@ class RealInput(unittest.TestCase):
         self.addCleanup(self.end)
         self.do("advance", seconds=0.1)
         self.window = self.display.xdotool("search", "--sync", "--onlyvisible", "--pid", self.program.pid).split()[-1]
-        self.display.xdotool("windowactivate", "--sync", self.window)
+        self.display.xdotool("windowactivate", self.window)
         self.until("the icon stands in the bar", lambda s: s["statusItem"] and s["statusItem"]["drawn"])
         self.measure()
 
@@ -85,6 +90,15 @@ class RealInput(unittest.TestCase):
                 return state
             self.do("advance", seconds=0.1)
         self.fail(f"{what}: not so in {state}")
+
+    def tile(self, name):
+        """The tile of that name once it has come in."""
+        for _ in range(PATIENCE):
+            for element in self.do("find", text=name)["elements"]:
+                if element["role"] == "Button" and element["window"] == "panel" and element["opacity"] > 0.9:
+                    return element
+            self.do("advance", seconds=0.1)
+        self.fail(f"no tile {name}")
 
     def measure(self):
         """How the display's points lie in the window: two places of the pointer tell."""
@@ -138,9 +152,7 @@ class RealInput(unittest.TestCase):
 
     def test_a_click_on_a_tile_opens_it_and_a_click_outside_closes(self):
         self.open_panel()
-        tiles = self.do("find", text="Quill")["elements"]
-        tile = next(element for element in tiles if element["role"] == "Button" and element["window"] == "panel")
-        self.click(tile["frame"])
+        self.click(self.tile("Quill")["frame"])
         self.until("its menu opens", lambda s: s["menu"] == ["Open Quill", "-", "Quit Quill"])
         self.press_key("Escape")
         self.until("the menu is gone", lambda s: s["menu"] is None)
@@ -160,8 +172,7 @@ class RealInput(unittest.TestCase):
         self.open_panel()
         extra = next(e for e in self.do("state")["model"]["extras"] if e["name"] == "Relay")
         self.assertFalse(extra["isHidden"])
-        tile = next(element for element in self.do("find", text="Relay")["elements"] if element["role"] == "Button")
-        self.click(tile["frame"], button=3)
+        self.click(self.tile("Relay")["frame"], button=3)
         self.until("the tile's menu is open", lambda s: s["menu"] == ["Open", "Hide from Menu Bar"])
         self.press_key("Down", "Down", "Return")
         self.until("the move begins", lambda s: s["model"]["movingID"] == extra["id"])
