@@ -119,6 +119,7 @@ void Session::Parts::buildDesktop(SessionOptions &options)
     if (!options.defaults)
         options.defaults = std::make_unique<desktop::MemoryDefaults>();
     defaults = options.defaults.get();
+    defaults->fill(options.description.defaults);
     desktop = std::make_unique<desktop::Desktop>(
         desktop::Desktop::Services{.dispatch = dispatch(),
                                    .symbols = symbols,

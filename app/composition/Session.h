@@ -25,8 +25,9 @@ struct SessionOptions {
     double scale = 1; // pixels a point, for pictures of a script
 };
 
-// One whole Brimshade on one whole desktop: built, launched and taken down in the right order. Any number
-// may live in a process, one after the other or side by side. Main thread; needs a QGuiApplication.
+// One whole Brimshade on one whole desktop: built, launched and taken down in the right order. Any number may live in
+// a process one after the other; two in virtual time not side by side, as a thread has one animation clock. Main
+// thread; needs a QGuiApplication.
 class Session {
 public:
     explicit Session(SessionOptions options);
