@@ -9,6 +9,7 @@ Item {
 
     required property list<var> icons
     property bool open: false
+    property real waited: 0 // of the present wait, 0 to 1
     readonly property list<color> tints: [Theme.orange, Theme.purple, Theme.cyan, Theme.pink, Theme.green]
 
     implicitWidth: 360
@@ -18,13 +19,22 @@ Item {
         loops: Animation.Infinite
         running: root.visible
 
-        PauseAnimation {
+        // Not PauseAnimation: the toolkit times a lone pause by the wall, not by the animations' clock.
+        NumberAnimation {
+            target: root
+            property: "waited"
+            from: 0
+            to: 1
             duration: 600
         }
         ScriptAction {
             script: root.open = true
         }
-        PauseAnimation {
+        NumberAnimation {
+            target: root
+            property: "waited"
+            from: 0
+            to: 1
             duration: 3200
         }
         ScriptAction {
