@@ -12,6 +12,10 @@ Item {
     property real waited: 0 // of the present wait, 0 to 1
     readonly property list<color> tints: [Theme.orange, Theme.purple, Theme.cyan, Theme.pink, Theme.green]
 
+    function setOpen(open: bool) {
+        root.open = open;
+    }
+
     implicitWidth: 360
     implicitHeight: 170
 
@@ -28,7 +32,7 @@ Item {
             duration: 600
         }
         ScriptAction {
-            script: root.open = true
+            script: root.setOpen(true)
         }
         NumberAnimation {
             target: root
@@ -38,7 +42,7 @@ Item {
             duration: 3200
         }
         ScriptAction {
-            script: root.open = false
+            script: root.setOpen(false)
         }
     }
     SpringValue {

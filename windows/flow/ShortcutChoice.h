@@ -10,7 +10,7 @@ namespace brimshade::windows {
 class ShortcutChoice : public QObject {
     Q_OBJECT
     Q_PROPERTY(brimshade::model::NotchModel *model READ model WRITE setModel NOTIFY modelChanged REQUIRED)
-    Q_PROPERTY(QStringList titles READ titles CONSTANT)
+    Q_PROPERTY(QList<QString> titles READ titles CONSTANT)
     Q_PROPERTY(int index READ index NOTIFY indexChanged)
 
 public:
