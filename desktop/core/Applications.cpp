@@ -100,7 +100,7 @@ bool Applications::quit(int pid)
     return true;
 }
 
-// Brings the bar and Accessibility in line with what the application says it is; both for a new application and for a changed one.
+// Brings the bar and Accessibility in line with what the application says it is, whether new or changed.
 void Applications::host(Hosted &hosted)
 {
     if (hosted.icon.isNull())
