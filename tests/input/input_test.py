@@ -58,23 +58,35 @@ class RealInput(unittest.TestCase):
         cls.addClassCleanup(cls.display.close)
 
     def setUp(self):
+        self.start(DESKTOP)
+
+    def start(self, description):
         folder = tempfile.TemporaryDirectory()
         self.addCleanup(folder.cleanup)
         desktop = pathlib.Path(folder.name) / "desktop.json"
-        desktop.write_text(json.dumps(DESKTOP))
+        desktop.write_text(json.dumps(description))
         self.program = subprocess.Popen([PROGRAM, "--script", "-", "--window", "--desktop", str(desktop)],
                                         env=self.display.environment, stdin=subprocess.PIPE, stdout=subprocess.PIPE, text=True)
-        self.addCleanup(self.end)
+        self.addCleanup(self.end, self.program)
         self.do("advance", seconds=0.1)
         self.window = self.display.xdotool("search", "--sync", "--onlyvisible", "--pid", self.program.pid).split()[-1]
         self.display.xdotool("windowactivate", self.window)
         self.until("the icon stands in the bar", lambda s: s["statusItem"] and s["statusItem"]["drawn"])
-        self.measure()
 
-    def end(self):
-        self.program.stdin.close()
-        self.program.wait()
-        self.program.stdout.close()
+    def end(self, program):
+        if program.stdin.closed:
+            return
+        program.stdin.close()
+        program.wait()
+        program.stdout.close()
+
+    def focus_another_program(self):
+        other = subprocess.Popen(["xev", "-geometry", "200x100+20+750"], env=self.display.environment,
+                                 stdout=subprocess.DEVNULL)
+        self.addCleanup(other.wait)
+        self.addCleanup(other.terminate)
+        window = self.display.xdotool("search", "--sync", "--onlyvisible", "--name", "Event Tester").split()[-1]
+        self.display.xdotool("windowactivate", "--sync", window)
 
     def do(self, command, **fields):
         self.program.stdin.write(json.dumps({"do": command, **fields}) + "\n")
@@ -100,19 +112,15 @@ class RealInput(unittest.TestCase):
             self.do("advance", seconds=0.1)
         self.fail(f"no tile {name}")
 
-    def measure(self):
-        """How the display's points lie in the window: two places of the pointer tell."""
-        self.places = None
-        at = []
-        for x, y in ((400, 300), (900, 700)):
-            self.display.xdotool("mousemove", "--window", self.window, x, y)
-            before = at[-1] if at else None
-            at.append(self.until("the pointer follows", lambda s: s["pointer"] != before)["pointer"])
-        scale = (900 - 400) / (at[1][0] - at[0][0])
-        self.places = lambda x, y: (round(400 + (x - at[0][0]) * scale), round(300 + (y - at[0][1]) * scale))
-
     def point(self, x, y):
-        self.display.xdotool("mousemove", "--window", self.window, *self.places(x, y))
+        """Moves the hand's pointer to a point of the display, which lies centred and scaled in the window."""
+        lines = self.display.xdotool("getwindowgeometry", "--shell", self.window).splitlines()
+        window = {key: int(value) for key, value in (line.split("=") for line in lines)}
+        width, height = DESKTOP["screens"][0]["frame"][2:]
+        scale = min(window["WIDTH"] / width, window["HEIGHT"] / height)
+        left, top = (window["WIDTH"] - width * scale) / 2, (window["HEIGHT"] - height * scale) / 2
+        self.display.xdotool("mousemove", "--window", self.window, round(left + x * scale), round(top + y * scale))
+        self.until("the pointer follows", lambda s: abs(s["pointer"][0] - x) < 2 and abs(s["pointer"][1] - y) < 2)
 
     def click(self, frame, button=1):
         self.point(frame[0] + frame[2] / 2, frame[1] + frame[3] / 2)
@@ -167,6 +175,21 @@ class RealInput(unittest.TestCase):
         state = self.until("the menu is open", lambda s: s["menu"])
         self.assertEqual(state["menu"], ["Settings…", "Setup Guide…", "Refresh", "-", "Quit Brimshade"])
         self.assertTrue(state["shown"])
+
+    def test_the_shortcut_toggles_the_panel_from_another_focused_program(self):
+        self.end(self.program)
+        self.start({**DESKTOP, "defaults": {"onboardingDone": True, "shortcut": "controlOptionSpace"}})
+        self.focus_another_program()
+        self.press_key("ctrl+alt+space")
+        self.until("the panel is shown", lambda s: s["shown"])
+        self.press_key("ctrl+alt+space")
+        self.until("and closed again", lambda s: not s["shown"])
+
+    def test_without_a_shortcut_the_keys_go_to_the_focused_program(self):
+        self.focus_another_program()
+        self.press_key("ctrl+alt+space")
+        self.do("advance", seconds=0.5)
+        self.assertFalse(self.do("state")["shown"])
 
     def test_hiding_from_a_tiles_menu_moves_the_item_behind_the_notch(self):
         self.open_panel()
