@@ -14,7 +14,7 @@ SETTLE = 5  # seconds for start-up: launch, first frames, the divider's measurem
 
 def main(program, seconds=60.0):
     with private_display() as environment:
-        ours = subprocess.Popen([program, "--no-tray", "--defaults", "/dev/null"], env=environment)
+        ours = subprocess.Popen([program, "--script", "-", "--window"], stdin=subprocess.PIPE, env=environment)
         reference = subprocess.Popen(["cat"], stdin=subprocess.PIPE)
         time.sleep(SETTLE)
         before = [(wakeups(p.pid), cpu_seconds(p.pid)) for p in (ours, reference)]

@@ -2,6 +2,7 @@
 #include "AtomicFile.h"
 
 #include <QFile>
+#include <QFileInfo>
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QStandardPaths>
@@ -115,6 +116,10 @@ FileDefaults::Content FileDefaults::read(const QString &path, const Report &repo
     QFile file(path);
     if (!file.exists())
         return {};
+    if (!QFileInfo(path).isFile()) { // a device or a folder is not ours to move away
+        say(u"settings are not saved: this is no file"_s);
+        return {.values = {}, .mayWrite = false};
+    }
     if (!file.open(QIODevice::ReadOnly)) {
         say(u"settings cannot be read and are not saved: %1"_s.arg(file.errorString()));
         return {.values = {}, .mayWrite = false};
