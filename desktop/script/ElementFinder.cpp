@@ -62,7 +62,7 @@ QString roleName(QAccessible::Role role)
     return QString::fromLatin1(QMetaEnum::fromType<QAccessible::Role>().valueToKey(role));
 }
 
-FoundElement describe(QAccessibleInterface &element, const Exposure &exposure)
+FoundElement describe(QAccessibleInterface &element, const QQuickItem &item, const Exposure &exposure)
 {
     const QAccessible::State state = element.state();
     FoundElement found;
@@ -71,7 +71,7 @@ FoundElement describe(QAccessibleInterface &element, const Exposure &exposure)
     found.name = element.text(QAccessible::Name);
     found.description = element.text(QAccessible::Description);
     found.frame = exposure.frame;
-    found.isEnabled = !state.disabled;
+    found.isEnabled = item.isEnabled(); // Qt 6.4 tells no disabled state of Quick items
     found.isCheckable = state.checkable;
     found.isChecked = state.checked;
     found.isInteractive = isInteractive(element.role());
@@ -90,7 +90,7 @@ void collect(QAccessibleInterface *element, const QRectF &viewport, std::vector<
         if (exposure.opacity <= kFaintest)
             return;
         if (!exposure.frame.isEmpty())
-            into.push_back(describe(*element, exposure));
+            into.push_back(describe(*element, *item, exposure));
     }
     for (int i = 0; i < element->childCount(); ++i)
         collect(element->child(i), viewport, into);
