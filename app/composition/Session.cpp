@@ -76,7 +76,6 @@ public:
     std::unique_ptr<desktop::RealDispatch> realTime;
     std::unique_ptr<desktop::VirtualDispatch> virtualTime;
     ui::SymbolService symbols;
-    desktop::MemoryDefaults *defaults = nullptr; // the desktop's
     std::unique_ptr<desktop::Desktop> desktop;
     std::unique_ptr<desktop::SceneHost> scene;
     std::shared_ptr<AppDelegate> delegate;
@@ -109,6 +108,7 @@ Session::Parts::Parts(SessionOptions options)
     if (options.hostsTray)
         hostTray();
     buildScript();
+    desktop->platform().application.setActivationPolicyAccessory();
     delegate->applicationDidFinishLaunching();
     if (!options.hasWindow)
         clock->settle();
@@ -116,10 +116,6 @@ Session::Parts::Parts(SessionOptions options)
 
 void Session::Parts::buildDesktop(SessionOptions &options)
 {
-    if (!options.defaults)
-        options.defaults = std::make_unique<desktop::MemoryDefaults>();
-    defaults = options.defaults.get();
-    defaults->fill(options.description.defaults);
     desktop = std::make_unique<desktop::Desktop>(
         desktop::Desktop::Services{.dispatch = dispatch(),
                                    .symbols = symbols,
@@ -143,8 +139,8 @@ void Session::Parts::buildScript()
         clock = std::make_unique<VirtualClock>(*virtualTime, *scene);
     else
         clock = std::make_unique<RealClock>(*realTime, *scene);
-    script = std::make_unique<desktop::ScriptRunner>(*desktop, *scene, *clock, *defaults,
-                                                     [this] { return stateReport(*delegate); });
+    script =
+        std::make_unique<desktop::ScriptRunner>(*desktop, *scene, *clock, [this] { return stateReport(*delegate); });
 }
 
 void Session::Parts::hostTray()

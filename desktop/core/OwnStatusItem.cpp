@@ -35,8 +35,11 @@ OwnStatusItem::OwnStatusItem(StatusBarService &bar, double length)
 {
     m_entry->pid = bar.m_parts.pid;
     m_entry->place = BarEntry::Place::own;
-    takeWidth();
-    bar.m_parts.menuBar.add(m_entry);
+    // It has a place as soon as it exists, so that there is one to measure and to click.
+    bar.m_parts.menuBar.settleNow([&] {
+        takeWidth();
+        bar.m_parts.menuBar.add(m_entry);
+    });
 }
 
 OwnStatusItem::~OwnStatusItem()
@@ -76,7 +79,7 @@ void OwnStatusItem::setAutosaveName(const QString &name)
     bool isNumber = false;
     const double points = m_bar->m_parts.defaults.objectForKey(placeKey()).toDouble(&isNumber);
     if (isNumber && std::isfinite(points))
-        m_bar->m_parts.menuBar.placeOwn(m_entry, points);
+        m_bar->m_parts.menuBar.settleNow([&] { m_bar->m_parts.menuBar.placeOwn(m_entry, points); });
 }
 
 void OwnStatusItem::storePlace()
