@@ -14,10 +14,13 @@
 
 #include <QEventLoop>
 #include <QGuiApplication>
+#include <QQuickWindow>
 #include <QTimer>
 #include <cstdio>
 
 namespace brimshade::app {
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -123,14 +126,17 @@ void Session::Parts::buildDesktop(SessionOptions &options)
                                    .loginItems = options.isScripted ? std::unique_ptr<platform::LoginItems>()
                                                                     : std::make_unique<desktop::AutostartLoginItem>()},
         options.description);
-    if (options.hasWindow) // the shortcut works while another program of the session has the keys
-        desktop->hotkeys().setGrabber(desktop::X11KeyGrabber::create());
 }
 
 void Session::Parts::buildScene(const SessionOptions &options)
 {
     scene = options.hasWindow ? desktop::SceneHost::window(*desktop)
                               : desktop::SceneHost::offscreen(*desktop, virtualTime.get(), options.scale);
+    if (options.hasWindow && QGuiApplication::platformName() == "xcb"_L1) {
+        // The shortcut works while another program of the session has the keys.
+        const auto window = static_cast<std::uint32_t>(scene->quickWindow()->winId());
+        desktop->hotkeys().setGrabber(desktop::X11KeyGrabber::create(window));
+    }
 }
 
 void Session::Parts::buildScript()

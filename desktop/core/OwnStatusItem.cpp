@@ -155,13 +155,15 @@ void OwnStatusItem::send(NSEventType type)
     action();
 }
 
+// An item that finds no room any more has left its screen, as one that shows on another screen has.
 void OwnStatusItem::barSettled()
 {
     const auto screen = m_window.screen();
-    if (!screen)
+    if (!screen || !m_bar->m_parts.menuBar.isShowing())
         return;
     const auto before = std::exchange(m_screen, screen->localizedName);
-    if (before && before != m_screen)
+    const bool wasDrawn = std::exchange(m_isDrawn, m_bar->m_parts.menuBar.isDrawn(*m_entry));
+    if ((before && before != m_screen) || (wasDrawn && !m_isDrawn))
         m_bar->m_parts.notifications.post(kNSWindowDidChangeScreenNotification, static_cast<Window *>(&m_window));
 }
 

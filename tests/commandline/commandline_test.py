@@ -174,6 +174,27 @@ class Script(Files):
         self.assertEqual(set(opened["log"][0]), {"level", "text"})
         self.assertEqual((first["panel"]["onScreen"], opened["panel"]["onScreen"]), (False, True))
 
+    def test_each_setting_survives_a_restart(self):
+        store = str(pathlib.Path(self.folder.name) / "settings.json")
+        desktop = self.desktop(defaults={"onboardingDone": True})
+        arguments = ["--desktop", desktop, "--defaults", store]
+        menu = [{"do": "advance", "seconds": 1}, {"do": "menu", "at": [1490, 18]}, {"do": "choose", "title": "Settings…"},
+                {"do": "advance", "seconds": 1}]
+        switches = ["Open when the pointer rests on the notch", "Also show items already in the menu bar",
+                    "Tuck away items left of Brimshade"]
+        changes = [{"do": "press-element", "name": name, "role": "CheckBox"} for name in switches]
+        pick = [{"do": "press-element", "name": "Keyboard shortcut", "role": "ComboBox"}, {"do": "advance", "seconds": 1},
+                {"do": "press-element", "name": "⌃⌥Space"}]
+        first, answers = play(*menu, *changes, *pick, {"do": "state"}, arguments=arguments)
+        self.assertEqual([a for a in answers if not a["ok"]], [], first.stderr)
+        again, restarted = play({"do": "advance", "seconds": 1}, {"do": "state"}, arguments=arguments)
+        for state in (answers[-1], restarted[-1]):
+            model = state["model"]
+            self.assertEqual((model["hoverToOpen"], model["showVisible"], model["dividerEnabled"], model["shortcut"]),
+                             (True, False, True, "controlOptionSpace"))
+            self.assertIsNotNone(state["strip"])
+            self.assertIsNotNone(state["hotkey"])
+
     def test_settings_are_kept_in_the_defaults_file_and_a_damaged_one_is_set_aside(self):
         store = pathlib.Path(self.folder.name) / "settings.json"
         first, _ = play({"do": "state"}, arguments=["--defaults", str(store)])

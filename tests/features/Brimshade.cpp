@@ -57,6 +57,16 @@ void Brimshade::click(QPointF at, desktop::MouseButton button)
     m_dispatch.runDue();
 }
 
+void Brimshade::drag(QPointF from, QPointF to, std::uint64_t modifierFlags)
+{
+    desktop::InputRouter &input = m_desktop->input();
+    input.pointerMoved(from, modifierFlags);
+    input.pressed(desktop::MouseButton::left, modifierFlags);
+    input.pointerMoved(to, modifierFlags);
+    input.released(desktop::MouseButton::left, modifierFlags);
+    wait(1);
+}
+
 void Brimshade::clickStatusItem()
 {
     click(symbol(), desktop::MouseButton::left);

@@ -36,6 +36,7 @@ public:
     void wait(double seconds) { m_dispatch.advance(seconds); }
     void movePointer(QPointF to);
     void click(QPointF at, desktop::MouseButton button);
+    void drag(QPointF from, QPointF to, std::uint64_t modifierFlags);
     void clickStatusItem();
     void rightClickStatusItem();
     void clickElsewhere();
