@@ -1,4 +1,4 @@
-// One move of an item across the divider, hidden and shown in turn, from the request to the model's all-clear, in real
+// One move of an item across the divider, shown and hidden in turn, from the request to the model's all-clear, in real
 // time and with a window that draws every jump of the pointer. The reference sleeps the move's prescribed pauses, one
 // by one, as nothing can be faster.
 #include "Paired.h"
@@ -95,7 +95,7 @@ private:
     menubar::MenuExtra itemOfLastTurn()
     {
         for (const menubar::MenuExtra &extra : m_model.extras())
-            if (m_id == extra.id || (m_id.isEmpty() && extra.canMove && !extra.isHidden)) {
+            if (m_id == extra.id || (m_id.isEmpty() && extra.canMove)) {
                 m_id = extra.id;
                 return extra;
             }

@@ -12,7 +12,7 @@ namespace brimshade::platform {
 class ImageSource {
 public:
     virtual ~ImageSource() = default;
-    virtual void draw(QPainter &painter, const QRectF &rect) const = 0;
+    virtual void draw(QPainter &painter, const QRectF &rect) const = 0; // rect: in points
     virtual QImage bitmap() const = 0; // the image's best bitmap; null when it cannot be rendered
 };
 

@@ -58,7 +58,8 @@ QImage ImageView::scaledImage(double scale) const
     drawn.fill(Qt::transparent);
     QPainter painter(&drawn);
     painter.setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform);
-    m_image.draw(painter, QRectF(QPointF(), QSizeF(pixels)));
+    painter.scale(pixels.width() / width(), pixels.height() / height()); // what is drawn has sizes in points
+    m_image.draw(painter, boundingRect());
     return drawn;
 }
 

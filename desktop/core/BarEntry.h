@@ -21,6 +21,7 @@ struct BarEntry {
     QString identifier, title, description, symbol, toolTip;
     platform::Image image;
     bool isPressed = false;
+    double dragOffset = 0; // points to the right of its frame, while a hand has it and until the bar settles after that
 };
 using BarEntryPointer = std::shared_ptr<BarEntry>;
 

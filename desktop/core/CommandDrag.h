@@ -17,12 +17,13 @@ public:
     bool begin(QPointF at, std::uint64_t modifierFlags);
     bool isActive() const { return m_entry != nullptr; }
     const BarEntryPointer &entry() const { return m_entry; }
-    void dragged() { m_wasDragged = true; }
+    void dragged(QPointF to);
     bool end(QPointF at, std::uint64_t modifierFlags); // true when the order changed
 
 private:
     MenuBar &m_bar;
     BarEntryPointer m_entry;
+    QPointF m_from;
     bool m_wasDragged = false;
 };
 

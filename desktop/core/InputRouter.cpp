@@ -83,7 +83,7 @@ Target InputRouter::moved(QPointF to)
         if (!press)
             continue;
         if (m_d->drag.isActive())
-            m_d->drag.dragged();
+            m_d->drag.dragged(to);
         return press->target;
     }
     m_d->tracking.pointerMoved(to);

@@ -71,7 +71,7 @@ std::vector<BarItem> MenuBar::items() const
             const BarEntry &e = *entry;
             items.push_back({e.pid, e.identifier, e.title, e.description, e.symbol, e.image, e.toolTip, *e.frame,
                              isDrawn(e), e.place == BarEntry::Place::own,
-                             e.isPressed || (isMenuOpen && m_d->menus.anchor() == *e.frame)});
+                             e.isPressed || (isMenuOpen && m_d->menus.anchor() == *e.frame), e.dragOffset});
         }
     }
     std::ranges::stable_sort(items, {}, [](const BarItem &item) { return minX(item.frame); });
@@ -196,6 +196,7 @@ void MenuBar::apply(const Layout &layout)
     m_d->state.write([&](DisplayState &) {
         for (const auto &[entry, frame] : layout) {
             entry->frame = frame;
+            entry->dragOffset = 0;
             if (entry->element)
                 entry->element->frame = frame;
         }

@@ -32,6 +32,7 @@ struct BarItem {
     bool drawn = false; // also: takes clicks
     bool isOwn = false; // this program's own status item
     bool isHighlighted = false; // its menu is open or it is pressed
+    double dragOffset = 0; // points to the right of its frame, where a hand holds it
 };
 
 // The bar with status items. Main thread; display space. A change of an item, of a width or of the order is laid out

@@ -15,9 +15,12 @@ Item {
     required property var image
     required property size imageSize
     required property bool isHighlighted
+    required property real dragOffset
 
     objectName: "barItem"
-    x: root.frame.x - root.origin
+    x: root.frame.x - root.origin + root.dragOffset
+    z: root.dragOffset !== 0 ? 1 : 0
+    opacity: root.dragOffset !== 0 ? 0.75 : 1
     width: root.frame.width
     height: root.frame.height
 

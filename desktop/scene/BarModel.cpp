@@ -37,7 +37,7 @@ BarModel::BarModel(const MenuBar &bar, const WallClock &clock) : m_bar(bar), m_c
 void BarModel::refresh()
 {
     std::vector<BarItem> items = m_bar.items();
-    std::erase_if(items, [](const BarItem &item) { return !item.drawn; });
+    std::erase_if(items, [](const BarItem &item) { return !item.drawn && item.dragOffset == 0; });
     if (items.size() == m_items.size()) {
         m_items = std::move(items);
         if (!m_items.empty())
@@ -82,6 +82,8 @@ QVariant BarModel::data(const QModelIndex &index, int role) const
         return item.isHighlighted;
     case ToolTipRole:
         return item.toolTip;
+    case DragOffsetRole:
+        return item.dragOffset;
     default:
         return {};
     }
@@ -97,7 +99,8 @@ QHash<int, QByteArray> BarModel::roleNames() const
             {ImageRole, "image"},
             {ImageSizeRole, "imageSize"},
             {HighlightedRole, "isHighlighted"},
-            {ToolTipRole, "toolTip"}};
+            {ToolTipRole, "toolTip"},
+            {DragOffsetRole, "dragOffset"}};
 }
 
 } // namespace brimshade::desktop

@@ -8,7 +8,7 @@ namespace brimshade::desktop {
 
 class WallClock;
 
-// The bar with status items as the views show it: the items that are drawn, left to right. Display space.
+// The bar with status items as the views show it: the items that are drawn or dragged, left to right. Display space.
 class BarModel : public QAbstractListModel {
     Q_OBJECT
     QML_ELEMENT
@@ -31,7 +31,8 @@ public:
         ImageRole,
         ImageSizeRole,
         HighlightedRole,
-        ToolTipRole
+        ToolTipRole,
+        DragOffsetRole
     };
 
     BarModel(const MenuBar &bar, const WallClock &clock);
