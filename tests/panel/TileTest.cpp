@@ -29,6 +29,26 @@ TEST(Tile, CascadesInReadingOrderAndLeavesAllTogether)
     EXPECT_EQ(opacity(0), 0);
 }
 
+TEST(Tile, IsSeenOnItsWayInAndInTheFirstFrameOfItsWayOut)
+{
+    for (const double scale : {1.0, 2.0}) {
+        PanelScene panel(4, 0, scale);
+        const auto light = [&] {
+            const QQuickItem *face = panel.tile(u"Relay"_s)->findChild<QQuickItem *>(u"face"_s);
+            return panel.pixel(panel.scene.frameOf(face).center()).lightness();
+        };
+        panel.scene.picture();
+        panel.model.setIsOpen(true);
+        panel.scene.advance(320);
+        EXPECT_GT(light(), 80) << "on its way in at scale " << scale;
+        panel.finishMotion();
+        panel.scene.picture();
+        panel.model.setIsOpen(false);
+        panel.scene.advance(16);
+        EXPECT_GT(light(), 80) << "on its way out at scale " << scale;
+    }
+}
+
 TEST(Tile, ComesInFromAboveAtHalfItsSize)
 {
     PanelScene panel(4, 0);
