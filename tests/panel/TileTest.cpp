@@ -99,8 +99,8 @@ TEST(Tile, IsLitAndGrowsUnderThePointer)
     };
     // Between the icon and the face's edge.
     const auto fill = [&](const QString &name) { return panel.pixel(face(name).topLeft() + QPointF(27, 4)).red(); };
-    EXPECT_NEAR(fill(u"Hidden"_s), 255 * 0.06, 2);
-    EXPECT_NEAR(fill(u"Shown"_s), 255 * 0.035, 2);
+    EXPECT_NEAR(fill(u"Hidden"_s), 255 * 0.06, 0.5);
+    EXPECT_NEAR(fill(u"Shown"_s), 255 * 0.035, 0.5);
     const QPointF marker = face(u"Hidden"_s).center() + QPointF(19, -19);
     EXPECT_EQ(panel.pixel(marker), QColor(255, 158, 51));
     EXPECT_LT(panel.pixel(face(u"Shown"_s).center() + QPointF(19, -19)).red(), 20);
