@@ -145,6 +145,8 @@ TEST_F(Keyboard, ChoosesItemsAndOptionsInTheSetup)
     EXPECT_EQ(context.model.shortcut(), Shortcut::optionCommandN);
     EXPECT_EQ(context.flow.step(), 3) << "Return went to the open list";
     EXPECT_EQ(context.focused(), u"setupShortcutPicker"_s);
+    context.key(Qt::Key_Return);
+    EXPECT_EQ(context.flow.step(), 4) << "and from the closed picker to the primary button";
 }
 
 } // namespace
