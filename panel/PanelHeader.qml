@@ -14,6 +14,7 @@ Item {
     readonly property color dim: Qt.rgba(1, 1, 1, 0.45)
     readonly property real sideWidth: (root.width - root.model.notch.width - 24) / 2
 
+    enabled: root.panelState.hasHeader
     opacity: fade.value
 
     SpringValue {
