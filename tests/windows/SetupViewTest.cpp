@@ -107,6 +107,21 @@ TEST_F(SetupView, TilesGrowUnderThePointerUnlessPinnedAndExplainThemselves)
     EXPECT_EQ(tip(), QString());
 }
 
+TEST_F(SetupView, ATipIsTrueOrGone)
+{
+    context.setExtras(someExtras());
+    context.showSetup();
+    context.goTo(2);
+    const QQuickItem *relay = context.scene().findAll(u"choiceTile"_s)[1];
+    pointAt(relay);
+    ASSERT_EQ(tip(), u"In the menu bar. Click to tuck it away."_s);
+    context.flow.toggle(u"relay"_s);
+    context.scene().settle();
+    EXPECT_EQ(tip(), u"Tucked into the notch. Click to keep it in the menu bar."_s);
+    context.scene().click(context.scene().frameOf(relay).center());
+    EXPECT_EQ(tip(), QString());
+}
+
 TEST_F(SetupView, AClickTogglesWhatCanMove)
 {
     context.setExtras(someExtras());
