@@ -387,7 +387,7 @@ Brimshade öffnet die Notch und zeigt sie alle.</translation>
     </message>
     <message>
         <source>Type to search  ·  ↩ to open  ·  right-click to hide or show  ·  esc to close</source>
-        <translation>Tippen: suchen  ·  ↩: öffnen  ·  Rechtsklick: aus- oder einblenden  ·  esc: schließen</translation>
+        <translation>Tippen sucht  ·  ↩ öffnet  ·  Rechtsklick blendet aus oder ein  ·  esc schließt</translation>
     </message>
 </context>
 <context>
