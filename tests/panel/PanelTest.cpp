@@ -125,6 +125,36 @@ TEST(Panel, NothingRunsOnceItRestsOpenOrClosed)
     EXPECT_EQ(panel.scene.framesAskedFor(2000), 0) << "a scan while closed moves nothing";
 }
 
+TEST(Panel, TheGearsTipWaitsOnTheScenesClock)
+{
+    PanelScene panel;
+    panel.open();
+    const QQuickItem *tip = panel.scene.find(u"helpTip"_s);
+    panel.scene.movePointer(panel.frame(u"settingsButton"_s).center());
+    panel.scene.advance(690);
+    EXPECT_FALSE(tip->isVisible());
+    panel.scene.advance(20);
+    EXPECT_TRUE(tip->isVisible());
+    EXPECT_EQ(panel.scene.framesAskedFor(1000), 0) << "shown";
+    panel.scene.movePointer({500, 200});
+    EXPECT_FALSE(tip->isVisible());
+    EXPECT_EQ(panel.scene.framesAskedFor(1000), 0) << "hidden";
+}
+
+TEST(Panel, ALongOrBrokenQueryKeepsTheWordsAroundIt)
+{
+    PanelScene panel(3, 0);
+    panel.open();
+    panel.model.setQuery(u"a\tb "_s);
+    EXPECT_EQ(panel.scene.find(u"query"_s)->property("text"), u"a\u00a0b\u00a0"_s);
+    panel.model.setQuery(u"something that nobody ever gave any item on the menu bar as its name"_s);
+    panel.finishMotion();
+    const QQuickItem *sentence = panel.scene.find(u"noMatches"_s);
+    const QString text = sentence->property("text").toString();
+    EXPECT_TRUE(text.startsWith(u"No matches for “something"_s) && text.endsWith(u"…”"_s)) << qPrintable(text);
+    EXPECT_LE(sentence->implicitWidth(), sentence->width());
+}
+
 // The window itself is never shown here, so the elements' own states do not say it.
 bool isSeen(const QQuickItem *item)
 {
