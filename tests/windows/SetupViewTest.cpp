@@ -168,10 +168,12 @@ TEST_F(SetupView, GridHasFiveColumnsAndScrolls)
     EXPECT_EQ(frame(5).left(), frame(0).left());
     EXPECT_EQ(frame(5).top() - frame(0).bottom(), 14);
     EXPECT_NEAR(frame(0).left() + frame(4).right(), 640, 0.5) << "centred";
+    EXPECT_TRUE(context.item(u"fade"_s)->isVisible()) << "more below";
     context.key(Qt::Key_Backtab, Qt::ShiftModifier); // primary button
     context.key(Qt::Key_Backtab, Qt::ShiftModifier);
     context.key(Qt::Key_Backtab, Qt::ShiftModifier); // the last tile
     EXPECT_LE(frame(42).bottom(), context.scene().frameOf(context.item(u"choiceCounts"_s)).top());
+    EXPECT_FALSE(context.item(u"fade"_s)->isVisible());
 }
 
 } // namespace
