@@ -186,7 +186,7 @@
     </message>
     <message>
         <source>The icon right of the notch always works. Add a shortcut or a hover if you like.</source>
-        <translation>Das Symbol rechts der Notch geht immer. Ein Kurzbefehl oder Zeigen kommt auf Wunsch dazu.</translation>
+        <translation>Das Symbol rechts der Notch geht immer. Kurzbefehl und Zeigen sind ein Zusatz.</translation>
     </message>
     <message>
         <source>Hover the notch</source>
@@ -355,7 +355,7 @@ Nichts verlässt deinen Mac.</translation>
     <name>WelcomeStep</name>
     <message>
         <source>Your whole menu bar, one click away</source>
-        <translation>Deine ganze Menüleiste, einen Klick entfernt</translation>
+        <translation>Deine Menüleiste, einen Klick entfernt</translation>
     </message>
     <message>
         <source>The notch hides menu bar items when there&apos;s no room.
