@@ -139,6 +139,12 @@ TEST(Panel, TheGearsTipWaitsOnTheScenesClock)
     panel.scene.movePointer({500, 200});
     EXPECT_FALSE(tip->isVisible());
     EXPECT_EQ(panel.scene.framesAskedFor(1000), 0) << "hidden";
+    panel.scene.movePointer(panel.frame(u"settingsButton"_s).center());
+    panel.scene.advance(710);
+    ASSERT_TRUE(tip->isVisible());
+    panel.model.setIsOpen(false);
+    panel.finishMotion();
+    EXPECT_FALSE(tip->isVisible()) << "goes with the panel";
 }
 
 TEST(Panel, ALongOrBrokenQueryKeepsTheWordsAroundIt)
