@@ -27,7 +27,7 @@ StyledText {
     TextMetrics {
         id: shownQuery
         font: root.font
-        text: root.query
+        text: root.query.replace(/[^\S ]/g, " ") // a tab would be as wide as a column
         elide: Qt.ElideRight
         elideWidth: Math.max(0, root.width - around.advanceWidth - 2)
     }

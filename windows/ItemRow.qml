@@ -72,10 +72,8 @@ Item {
         height: parent.height
 
         Spinner {
-            id: spinner
             objectName: "itemSpinner"
-            anchors.right: parent.right
-            anchors.verticalCenter: parent.verticalCenter
+            anchors.centerIn: toggle
             visible: root.moving
             color: root.palette.windowText
         }

@@ -153,6 +153,7 @@ TEST(Panel, ALongOrBrokenQueryKeepsTheWordsAroundIt)
     panel.open();
     panel.model.setQuery(u"a\tb "_s);
     EXPECT_EQ(panel.scene.find(u"query"_s)->property("text"), u"a\u00a0b\u00a0"_s);
+    EXPECT_EQ(panel.scene.find(u"noMatches"_s)->property("text"), u"No matches for “a b ”"_s);
     panel.model.setQuery(u"something that nobody ever gave any item on the menu bar as its name"_s);
     panel.finishMotion();
     const QQuickItem *sentence = panel.scene.find(u"noMatches"_s);
