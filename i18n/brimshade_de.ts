@@ -186,7 +186,7 @@
     </message>
     <message>
         <source>The icon right of the notch always works. Add a shortcut or a hover if you like.</source>
-        <translation>Das Symbol rechts der Notch geht immer. Ein Kurzbefehl oder Zeigen kommt auf Wunsch dazu.</translation>
+        <translation>Das Symbol rechts der Notch geht immer. Kurzbefehl und Zeigen sind ein Zusatz.</translation>
     </message>
     <message>
         <source>Hover the notch</source>
@@ -355,7 +355,7 @@ Nichts verlässt deinen Mac.</translation>
     <name>WelcomeStep</name>
     <message>
         <source>Your whole menu bar, one click away</source>
-        <translation>Deine ganze Menüleiste, einen Klick entfernt</translation>
+        <translation>Deine Menüleiste, einen Klick entfernt</translation>
     </message>
     <message>
         <source>The notch hides menu bar items when there&apos;s no room.
@@ -387,7 +387,7 @@ Brimshade öffnet die Notch und zeigt sie alle.</translation>
     </message>
     <message>
         <source>Type to search  ·  ↩ to open  ·  right-click to hide or show  ·  esc to close</source>
-        <translation>Tippen: suchen  ·  ↩: öffnen  ·  Rechtsklick: aus- oder einblenden  ·  esc: schließen</translation>
+        <translation>Tippen sucht  ·  ↩ öffnet  ·  Rechtsklick blendet aus oder ein  ·  esc schließt</translation>
     </message>
 </context>
 <context>

@@ -13,20 +13,18 @@ T.AbstractButton {
     objectName: "settingsButton"
     implicitWidth: implicitContentWidth
     implicitHeight: implicitContentHeight
-    activeFocusOnTab: true
+    hoverEnabled: true
+    focusPolicy: Qt.NoFocus // the panel's keys belong to the search
     Accessible.role: Accessible.Button
     Accessible.name: qsTr("Settings")
 
     onHoveredChanged: root.hovered ? root.helpTip.show(root, qsTr("Settings")) : root.helpTip.hide(root)
-    Keys.onReturnPressed: root.clicked()
+    onPressed: root.helpTip.hide(root)
 
     contentItem: SymbolIcon {
         name: "gearshape.fill"
         pointSize: 11
         weight: SymbolIcon.Semibold
         color: root.down ? Qt.rgba(1, 1, 1, 0.3) : root.hovered ? Qt.rgba(1, 1, 1, 0.8) : root.color
-    }
-    background: FocusRing {
-        visible: root.visualFocus
     }
 }

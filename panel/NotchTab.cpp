@@ -10,9 +10,16 @@ namespace brimshade::panel {
 
 namespace {
 
-// Content is padded by 22 points and ends 4 above the lower edge, where the largest corner is 13.4 points deep.
-constexpr double kSideInset = 18;
-constexpr double kBottomInset = 4;
+constexpr double kContentInset = 14 + 22; // of the content from the open tab's frame: the flare and the padding
+constexpr double kContentBottom = 4; // what lies between it and the open tab's lower edge
+constexpr double kHalfPixel = 0.5; // points: how far the shape on whole pixels may be from the exact one
+
+// How far above the lower edge a lower corner of that radius begins, at a distance from the body's side.
+double cornerHeight(double radius, double distance)
+{
+    const double along = std::sqrt(std::clamp(distance / std::max(radius, 1e-6), 0.0, 1.0));
+    return radius * (1 - along) * (1 - along);
+}
 
 } // namespace
 
@@ -46,10 +53,16 @@ void NotchTab::place()
     Q_EMIT interiorChanged();
 }
 
+// The body between its straight sides. Content that is laid out for a wider tab would stick out of its lower corners:
+// it loses a little at the sides, which are long, and more below, where little is to be seen while the tab grows.
 QRectF NotchTab::interior() const
 {
-    const double inset = m_shape.top + kSideInset;
-    return {x() + inset, 0, std::max(0.0, width() - 2 * inset), std::max(0.0, height() - kBottomInset)};
+    const double radius = m_shape.effectiveBottom(size());
+    const double content = width() / 2 - m_shape.top - (m_openSize.width() / 2 - kContentInset); // from the side
+    const double nearest = std::max(content, radius / 8 + kHalfPixel);
+    const double inset = m_shape.top + (nearest > content ? nearest : 0);
+    const double below = std::max(kContentBottom, cornerHeight(radius + kHalfPixel, nearest - kHalfPixel));
+    return {x() + inset, 0, std::max(0.0, width() - 2 * inset), std::max(0.0, height() - below)};
 }
 
 bool NotchTab::contains(const QPointF &point) const

@@ -14,6 +14,7 @@ Item {
     readonly property color dim: Qt.rgba(1, 1, 1, 0.45)
     readonly property real sideWidth: (root.width - root.model.notch.width - 24) / 2
 
+    enabled: root.panelState.hasHeader
     opacity: fade.value
 
     SpringValue {
@@ -53,7 +54,7 @@ Item {
             StyledText {
                 objectName: "query"
                 width: Math.min(implicitWidth, root.sideWidth - leadingIcon.width - caret.width - 6)
-                text: root.model.query.replace(/ /g, "\u00a0") // so that blanks at the end have their width
+                text: root.model.query.replace(/\s/g, "\u00a0") // so that blanks at the end have their width, and tabs no more
                 size: 11
                 font.weight: Font.DemiBold
                 color: "white"

@@ -42,6 +42,11 @@ bool PanelState::hasHeader() const
 
 QString PanelState::sentence() const
 {
+    return sentenceNaming(m_source ? m_source->query() : QString());
+}
+
+QString PanelState::sentenceNaming(const QString &query) const
+{
     switch (body()) {
     case Permission:
     case Waiting:
@@ -55,7 +60,7 @@ QString PanelState::sentence() const
         return {};
     if (m_source->query().isEmpty())
         return tr("Nothing is hidden. Everything fits in your menu bar.");
-    return tr("No matches for “%1”").arg(m_source->query());
+    return tr("No matches for “%1”").arg(query);
 }
 
 QString PanelState::highlightedID() const

@@ -31,6 +31,7 @@ public:
     Body body() const;
     bool hasHeader() const;
     QString sentence() const;
+    Q_INVOKABLE QString sentenceNaming(const QString &query) const; // the same, with less of the query
     QString highlightedID() const;
     QString focusID() const;
     QString focusText() const;

@@ -88,19 +88,13 @@ Item {
                 damping: 0.85
             }
         }
-        StyledText {
+        NoMatches {
             objectName: "noMatches"
             y: root.geometry.hiddenSectionY
             width: parent.width
             height: 74
-            visible: text !== "" && root.panelState.body === PanelState.Tiles
-            text: root.panelState.sentence
-            size: 12
-            font.weight: Font.Medium
-            color: Qt.rgba(1, 1, 1, 0.5)
-            elide: Text.ElideRight
-            horizontalAlignment: Text.AlignHCenter
-            verticalAlignment: Text.AlignVCenter
+            query: root.model.query
+            panelState: root.panelState
         }
     }
     RoundedShape {

@@ -34,11 +34,6 @@ Item {
         Translate { y: -14 * (1 - entrance.value) }
     ]
 
-    // On its way in or out it is one picture: its text would be drawn anew for every size.
-    layer.enabled: entrance.running && entrance.value > 0
-    layer.smooth: true
-    layer.sourceRect: Qt.rect(-4, -4, root.width + 8, root.height + 8)
-
     Accessible.role: Accessible.Button
     Accessible.name: root.name
     Accessible.description: root.detail

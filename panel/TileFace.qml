@@ -2,7 +2,8 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import Brimshade.Ui
 
-// A rounded square with the item's icon or symbol. Every change of look is an opacity: the pictures stay.
+// A rounded square with the item's icon or symbol. Every change of look is an opacity: the pictures stay. What is to be
+// seen at rest has its alpha in its colour, which is finer than an item's opacity.
 Item {
     id: root
 
@@ -16,11 +17,13 @@ Item {
     readonly property real highlight: motion.value
     readonly property real shown: Math.max(0, Math.min(1, root.highlight)) // springs overshoot, light does not
 
-    function between(rest: real, highlighted: real): real {
-        return rest + (highlighted - rest) * root.shown;
-    }
-
     readonly property bool resampled: root.scaled || root.scale !== 1
+    readonly property real restFill: root.isHidden ? 0.06 : 0.035
+
+    // The white that makes one of opacity `rest` that of opacity `highlighted`.
+    function added(rest: real, highlighted: real): color {
+        return Qt.rgba(1, 1, 1, (highlighted - rest) / (1 - rest));
+    }
 
     width: 54
     height: 54
@@ -38,8 +41,14 @@ Item {
         smooth: root.resampled
         anchors.fill: parent
         radius: 16
-        color: "white"
-        opacity: root.between(root.isHidden ? 0.06 : 0.035, 0.11)
+        color: Qt.rgba(1, 1, 1, root.restFill)
+    }
+    RoundedShape {
+        anchors.fill: parent
+        visible: root.shown > 0
+        opacity: root.shown
+        radius: 16
+        color: root.added(root.restFill, 0.11)
     }
     RoundedShape {
         objectName: "glow"
@@ -58,9 +67,16 @@ Item {
         smooth: root.resampled
         anchors.fill: parent
         radius: 16
-        strokeColor: "white"
+        strokeColor: Qt.rgba(1, 1, 1, 0.06)
         strokeWidth: 0.5
-        opacity: root.between(0.06, 0.18)
+    }
+    RoundedShape {
+        anchors.fill: parent
+        visible: root.shown > 0
+        opacity: root.shown
+        radius: 16
+        strokeColor: root.added(0.06, 0.18)
+        strokeWidth: 0.5
     }
     ImageView {
         anchors.fill: picture
@@ -87,7 +103,7 @@ Item {
         name: root.symbol
         pointSize: 19
         weight: SymbolIcon.Semibold
-        opacity: root.between(0.85, 1)
+        opacity: 0.85 + 0.15 * root.shown
     }
     RoundedShape {
         objectName: "marker"

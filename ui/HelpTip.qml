@@ -3,13 +3,14 @@ import QtQuick
 import Brimshade.Ui
 
 // The one tooltip of a view, above everything in its parent, which it stays inside. The item under the pointer calls
-// show() and, when the pointer leaves it, hide(). Assistive programs get the text as the item's own description.
+// show() and, when the pointer leaves it or presses it, hide(); follow() when its text changes. Assistive programs get the text as the item's own description.
 Item {
     id: root
 
     property Item target: null
     property string text
     property bool shown: false
+    property real waited: 0 // of the time until it is shown, 0 to 1
 
     function show(target: Item, text: string) {
         root.shown = root.shown && root.target === target;
@@ -27,6 +28,14 @@ Item {
         root.target = null;
     }
 
+    function follow(target: Item, text: string) {
+        if (root.target !== target)
+            return;
+        root.text = text;
+        if (root.shown)
+            root.place();
+    }
+
     function place() {
         const below = root.target.mapToItem(root, root.target.width / 2, root.target.height + 6);
         const fits = below.y + bubble.height <= root.height;
@@ -39,10 +48,15 @@ Item {
     anchors.fill: parent
     z: 100
 
-    Timer {
+    // Not a Timer, which goes by the wall and not by the animations' clock.
+    NumberAnimation {
         id: delay
-        interval: 700
-        onTriggered: root.place()
+        target: root
+        property: "waited"
+        from: 0
+        to: 1
+        duration: 700
+        onFinished: root.place()
     }
 
     Item {

@@ -4,18 +4,31 @@
 #include <QSGImageNode>
 #include <QSGTexture>
 #include <algorithm>
+#include <cmath>
 
 namespace brimshade::ui {
 
 namespace {
 
-// The eight outer cells of the rectangle's three by three. share: how much of each corner is shown, across and down.
-std::array<QRectF, 8> cells(const QRectF &rect, const QMarginsF &border, QSizeF share)
+QMarginsF shared(const QMarginsF &border, QSizeF share)
 {
-    const double left = rect.left() + border.left() * share.width();
-    const double right = rect.right() - border.right() * share.width();
-    const double top = rect.top() + border.top() * share.height();
-    const double bottom = rect.bottom() - border.bottom() * share.height();
+    return {border.left() * share.width(), border.top() * share.height(), border.right() * share.width(),
+            border.bottom() * share.height()};
+}
+
+QMarginsF onPixels(const QMarginsF &border, double scale)
+{
+    const auto snapped = [scale](double length) { return std::round(length * scale) / scale; };
+    return {snapped(border.left()), snapped(border.top()), snapped(border.right()), snapped(border.bottom())};
+}
+
+// The eight outer cells of the rectangle's three by three, of which the border's corners do not overlap.
+std::array<QRectF, 8> cells(const QRectF &rect, const QMarginsF &border)
+{
+    const double left = rect.left() + border.left();
+    const double right = std::max(left, rect.right() - border.right());
+    const double top = rect.top() + border.top();
+    const double bottom = std::max(top, rect.bottom() - border.bottom());
     const auto cell = [](double x, double y, double toX, double toY) { return QRectF(x, y, toX - x, toY - y); };
     return {cell(rect.left(), rect.top(), left, top),   cell(left, rect.top(), right, top),
             cell(right, rect.top(), rect.right(), top), cell(rect.left(), top, left, bottom),
@@ -23,10 +36,10 @@ std::array<QRectF, 8> cells(const QRectF &rect, const QMarginsF &border, QSizeF 
             cell(left, bottom, right, rect.bottom()),   cell(right, bottom, rect.right(), rect.bottom())};
 }
 
-// The middle of each source edge, for whatever share: one pixel is enough to stretch.
-std::array<QRectF, 8> sources(const QRectF &picture, const QMarginsF &border, QSizeF share)
+// The middle of each source edge: one pixel is enough to stretch.
+std::array<QRectF, 8> sources(const QRectF &picture, const QMarginsF &border)
 {
-    std::array<QRectF, 8> result = cells(picture, border, share);
+    std::array<QRectF, 8> result = cells(picture, border);
     const double x = picture.center().x();
     const double y = picture.center().y();
     for (const std::size_t edge : {std::size_t(1), std::size_t(6)})
@@ -57,12 +70,12 @@ void NinePatchNode::setPicture(QQuickWindow *window, const QImage &picture, cons
     m_pictureBorder = border;
 }
 
-void NinePatchNode::setTarget(const QRectF &target, const QMarginsF &border)
+void NinePatchNode::setTarget(const QRectF &target, const QMarginsF &border, double scale)
 {
     const QSizeF share(std::min(1.0, target.width() / std::max(1e-6, border.left() + border.right())),
                        std::min(1.0, target.height() / std::max(1e-6, border.top() + border.bottom())));
-    const auto from = sources(m_picture, m_pictureBorder, share);
-    const auto to = cells(target, border, share);
+    const auto from = sources(m_picture, shared(m_pictureBorder, share));
+    const auto to = cells(target, onPixels(shared(border, share), scale));
     for (std::size_t i = 0; i < m_pieces.size(); ++i) {
         if (!m_pieces[i])
             continue;

@@ -21,8 +21,9 @@ public:
 
     // border: what of the picture are corners, in pixels.
     void setPicture(QQuickWindow *window, const QImage &picture, const QMarginsF &border);
-    // The corners are `border` points large; of those that would overlap the outer parts are shown.
-    void setTarget(const QRectF &target, const QMarginsF &border);
+    // The corners are `border` points large; of those that would overlap the outer parts are shown. scale: device
+    // pixels a point. The pieces meet on whole pixels where the target's edges lie on them.
+    void setTarget(const QRectF &target, const QMarginsF &border, double scale);
 
 private:
     static constexpr int kPieces = 8;

@@ -36,6 +36,7 @@ T.ComboBox {
     opacity: control.enabled ? 1 : 0.4
     popup: null
     onVisibleChanged: control.opened = false
+    Keys.forwardTo: [control.surface] // first: Return may be meant for the view, and the toolkit's combo box keeps it
     Keys.onSpacePressed: control.open()
     Keys.onUpPressed: control.open()
     Keys.onDownPressed: control.open()

@@ -46,9 +46,20 @@ QSGNode *Shadow::updatePaintNode(QSGNode *node, UpdatePaintNodeData *)
         patch->setPicture(window(), picture(key, scale), QMarginsF(pixels, pixels, pixels, pixels));
         m_shownKey = key;
     }
-    const double r = reach();
-    patch->setTarget(boundingRect().adjusted(-r, -r, r, r), QMarginsF(border(), border(), border(), border()));
+    patch->setTarget(target(scale), QMarginsF(border(), border(), border(), border()), scale);
     return patch;
+}
+
+// What it covers, its edges on device pixels.
+QRectF Shadow::target(double scale) const
+{
+    const double r = reach();
+    const QRectF scene = mapRectToScene(boundingRect().adjusted(-r, -r, r, r));
+    const QPointF origin = mapToScene({0, 0});
+    const auto snapped = [scale](double place) { return std::round(place * scale) / scale; };
+    const QPointF topLeft(snapped(scene.left()), snapped(scene.top()));
+    const QPointF bottomRight(snapped(scene.right()), snapped(scene.bottom()));
+    return {topLeft - origin, bottomRight - origin};
 }
 
 QImage Shadow::picture(const QByteArray &key, double scale) const

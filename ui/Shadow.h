@@ -32,6 +32,7 @@ protected:
 private:
     double reach() const; // beyond the item
     double border() const; // of the picture: everything a corner bends
+    QRectF target(double scale) const;
     QImage picture(const QByteArray &key, double scale) const;
 
     double m_radius = 0;

@@ -16,7 +16,6 @@ T.Switch {
     implicitWidth: control.small ? 32 : 38
     implicitHeight: control.small ? 18 : 22
     checked: control.value
-    opacity: control.enabled ? 1 : 0.4
     onToggled: {
         const wanted = control.checked;
         control.checked = Qt.binding(() => control.value);
@@ -42,18 +41,24 @@ T.Switch {
         width: control.width
         height: control.height
 
-        RoundedShape {
+        // Alone is dimmed: it would show through the knob.
+        Item {
             anchors.fill: parent
-            radius: height / 2
-            continuous: false
-            color: control.palette.dark
-        }
-        RoundedShape {
-            anchors.fill: parent
-            radius: height / 2
-            continuous: false
-            color: control.palette.highlight
-            opacity: slide.value
+            opacity: control.enabled ? 1 : 0.4
+
+            RoundedShape {
+                anchors.fill: parent
+                radius: height / 2
+                continuous: false
+                color: control.palette.dark
+            }
+            RoundedShape {
+                anchors.fill: parent
+                radius: height / 2
+                continuous: false
+                color: control.palette.highlight
+                opacity: slide.value
+            }
         }
         Shadow {
             anchors.fill: knob
@@ -71,7 +76,7 @@ T.Switch {
             height: parent.height - 4
             radius: height / 2
             continuous: false
-            color: control.down ? "#f0f0f0" : "#ffffff"
+            color: !control.enabled ? "#ececee" : control.down ? "#f0f0f0" : "#ffffff"
         }
         FocusRing {
             visible: control.visualFocus

@@ -24,6 +24,8 @@ T.AbstractButton {
     hoverEnabled: true
     scale: press.value * grow.value
     onClicked: control.toggleRequested()
+    onPressed: control.tip.hide(control)
+    onHelpChanged: control.tip.follow(control, control.help)
     onHoveredChanged: control.hovered ? control.tip.show(control, control.help) : control.tip.hide(control)
     Component.onDestruction: control.tip?.hide(control)
 
@@ -60,11 +62,7 @@ T.AbstractButton {
             canMove: control.canMove
             hidden: control.hidden
             lit: lit.value
-
-            FocusRing {
-                visible: control.visualFocus
-                cornerRadius: 18
-            }
+            ringed: control.visualFocus
         }
         StyledText {
             objectName: "choiceName"

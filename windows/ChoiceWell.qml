@@ -10,6 +10,7 @@ Item {
     required property string symbol
     required property bool canMove
     required property bool hidden
+    required property bool ringed // has the keyboard
     required property real lit // 1 stays, 0 tucked away; a spring, so a little beyond either
     readonly property real share: Math.max(0, Math.min(root.lit, 1))
 
@@ -48,17 +49,23 @@ Item {
         weight: SymbolIcon.Semibold
         opacity: picture.opacity
     }
+    FocusRing {
+        visible: root.ringed
+        cornerRadius: 18
+        continuous: true
+    }
     Rectangle {
         objectName: "choiceBadge"
         x: parent.width - width + 2
         y: -2
-        width: badge.width
+        width: Math.max(badge.width, badge.height) + 4
         height: width
         radius: width / 2
         color: "black"
 
         SymbolIcon {
             id: badge
+            anchors.centerIn: parent
             name: !root.canMove ? "lock.fill" : root.hidden ? "eye.slash.fill" : "checkmark.circle.fill"
             pointSize: 13
             weight: SymbolIcon.Bold

@@ -57,7 +57,7 @@ Item {
         anchors.topMargin: 10
         anchors.bottomMargin: -10
         radius: body.corner
-        blur: 15
+        blur: 30
         color: Qt.alpha(Theme.orange, 0.35)
         opacity: Math.max(0, Math.min(unfold.value, 1))
     }

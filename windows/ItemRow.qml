@@ -15,6 +15,7 @@ Item {
     required property int control
     required property bool switchEnabled
     required property bool inMenuBar
+    readonly property bool moving: root.control === ItemRows.Moving
 
     signal moveRequested(bool toMenuBar)
 
@@ -67,15 +68,13 @@ Item {
         anchors.right: parent.right
         anchors.rightMargin: 12
         anchors.verticalCenter: parent.verticalCenter
-        width: toggle.visible ? toggle.width : pinned.visible ? pinned.width : spinner.width
+        width: toggle.visible ? toggle.width : pinned.width
         height: parent.height
 
         Spinner {
-            id: spinner
             objectName: "itemSpinner"
-            anchors.right: parent.right
-            anchors.verticalCenter: parent.verticalCenter
-            visible: root.control === ItemRows.Moving
+            anchors.centerIn: toggle
+            visible: root.moving
             color: root.palette.windowText
         }
         StyledText {
@@ -88,16 +87,24 @@ Item {
             size: 10
             color: Qt.alpha(root.palette.windowText, 0.5)
         }
+        FocusRing {
+            anchors.fill: toggle
+            visible: root.moving && toggle.visualFocus
+            cornerRadius: toggle.height / 2
+        }
+        // Stays under the spinner, unseen, so that the keyboard stays in the row.
         Switch {
             id: toggle
             objectName: "itemSwitch"
             anchors.right: parent.right
             anchors.verticalCenter: parent.verticalCenter
-            visible: root.control === ItemRows.Movable
+            visible: root.control !== ItemRows.Pinned
+            opacity: root.moving ? 0 : 1
             text: qsTr("Visible")
             small: true
             enabled: root.switchEnabled
             value: root.inMenuBar
+            Accessible.ignored: root.moving
             Accessible.description: root.name
             onValueRequested: value => root.moveRequested(value)
         }

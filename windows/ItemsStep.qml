@@ -10,6 +10,8 @@ Item {
     required property NotchModel model
     required property OnboardingFlow flow
     required property HelpTip tip
+    required property size view
+    required property point place // of the step in the view
 
     anchors.fill: parent
 
@@ -66,6 +68,18 @@ Item {
                 }
             }
         }
+    }
+    SetupBackdrop {
+        objectName: "fade" // more below
+        anchors.left: scroll.left
+        anchors.right: scroll.right
+        anchors.bottom: scroll.bottom
+        height: 28
+        visible: scroll.visible && opacity > 0
+        opacity: Math.max(0, Math.min((scroll.contentHeight - scroll.height - scroll.contentY) / 20, 1))
+        whole: root.view
+        origin: Qt.point(root.place.x + x, root.place.y + y)
+        fadesIn: true
     }
     StyledText {
         id: counts

@@ -36,8 +36,10 @@ FocusScope {
         property: "active"
         value: root.visible
     }
-    OnboardingBackground {
+    SetupBackdrop {
         anchors.fill: parent
+        whole: Qt.size(width, height)
+        radius: Theme.windowRadius
     }
     Item {
         id: content
@@ -77,6 +79,8 @@ FocusScope {
                     model: root.model
                     flow: root.flow
                     tip: helpTip
+                    view: Qt.size(root.width, root.height)
+                    place: Qt.point(content.anchors.leftMargin, content.anchors.topMargin)
                 }
             }
             StepSlide {

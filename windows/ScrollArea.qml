@@ -1,9 +1,10 @@
 pragma ComponentBehavior: Bound
 import QtQuick
 import QtQuick.Templates as T
+import Brimshade.Ui
 
 // Scrolls its content with the wheel and to whatever in it gets the keyboard. It cannot be dragged: a press in it is
-// for what lies there.
+// for what lies there. Its bar lies over the content and shows while it scrolls or has the pointer on it.
 Flickable {
     id: root
 
@@ -38,6 +39,15 @@ Flickable {
             root.reveal(root.focused);
     }
     onContentHeightChanged: root.scrollTo(root.contentY)
+    onContentYChanged: trace.run(1, 0)
+
+    // 1 while it scrolls, then a while longer, then gone.
+    SpringValue {
+        id: trace
+        curve: SpringValue.EaseInOut
+        delay: 0.7
+        duration: 0.25
+    }
 
     WheelHandler {
         acceptedDevices: PointerDevice.Mouse | PointerDevice.TouchPad
@@ -48,6 +58,7 @@ Flickable {
         id: bar
         policy: root.contentHeight > root.height ? T.ScrollBar.AlwaysOn : T.ScrollBar.AlwaysOff
         visible: root.contentHeight > root.height
+        hoverEnabled: true
         width: 10
         padding: 2
         bottomPadding: 8
@@ -55,7 +66,7 @@ Flickable {
         contentItem: Rectangle {
             radius: 3
             color: bar.palette.windowText
-            opacity: bar.pressed || bar.hovered ? 0.5 : 0.25
+            opacity: bar.pressed || bar.hovered ? 0.5 : 0.35 * trace.value
         }
     }
 }

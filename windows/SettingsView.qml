@@ -34,6 +34,15 @@ FocusScope {
         radius: Theme.windowRadius
         color: root.palette.window
     }
+    // Under the title bar, once something has gone behind it.
+    Rectangle {
+        objectName: "scrolledEdge"
+        z: 1
+        width: parent.width
+        height: 0.5
+        visible: scroll.contentY > 0
+        color: root.palette.mid
+    }
     ScrollArea {
         id: scroll
         objectName: "settingsScroll"

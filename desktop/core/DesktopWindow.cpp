@@ -3,7 +3,7 @@
 #include "SharedState.h"
 #include "WindowStack.h"
 
-#include <algorithm>
+#include <cmath>
 
 using namespace brimshade::platform;
 
@@ -83,7 +83,7 @@ void DesktopWindow::center()
     m_isCentred = !m_isVisible;
 }
 
-// On its screen, with twice as much room below it as above.
+// On its screen and on whole points, with twice as much room below it as above.
 QRectF DesktopWindow::centred(QSizeF size) const
 {
     auto on = screen();
@@ -92,7 +92,9 @@ QRectF DesktopWindow::centred(QSizeF size) const
             return state.screens.empty() ? std::nullopt : std::optional(state.screens.front());
         });
     const QRectF area = on ? on->visibleFrame : QRectF(m_frame.topLeft(), size);
-    return {{midX(area) - size.width() / 2, minY(area) + (area.height() - size.height()) * 2 / 3}, size};
+    return {
+        {std::round(midX(area) - size.width() / 2), std::round(minY(area) + (area.height() - size.height()) * 2 / 3)},
+        size};
 }
 
 std::optional<Screen> DesktopWindow::screen() const

@@ -20,7 +20,7 @@ FocusScope {
     visible: root.hosted.isVisible
 
     Accessible.role: root.hosted.isPanel ? Accessible.Dialog : Accessible.Window
-    Accessible.name: root.hosted.title
+    Accessible.name: root.hosted.title === "" ? Application.displayName : root.hosted.title
 
     WindowPlate {
         visible: root.hosted.isTitled && root.hosted.isOpaque

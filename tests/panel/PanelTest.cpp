@@ -98,6 +98,8 @@ TEST(Panel, TheCardAsksForThePermissionAndIsAllThereIs)
     EXPECT_EQ(panel.scene.find(u"header"_s)->opacity(), 0);
     EXPECT_FALSE(panel.scene.find(u"sections"_s)->isVisible());
     EXPECT_FALSE(panel.scene.find(u"footer"_s)->isVisible());
+    panel.scene.click(panel.frame(u"settingsButton"_s).center());
+    EXPECT_TRUE(panel.system.done.isEmpty()) << "the header cannot be seen";
     panel.scene.click(panel.frame(u"openAccessibilitySettings"_s).center());
     EXPECT_EQ(panel.system.done,
               QStringList({u"prompt"_s,
@@ -121,6 +123,43 @@ TEST(Panel, NothingRunsOnceItRestsOpenOrClosed)
     panel.model.setExtras(makeExtras(2, 20));
     panel.scene.settle();
     EXPECT_EQ(panel.scene.framesAskedFor(2000), 0) << "a scan while closed moves nothing";
+}
+
+TEST(Panel, TheGearsTipWaitsOnTheScenesClock)
+{
+    PanelScene panel;
+    panel.open();
+    const QQuickItem *tip = panel.scene.find(u"helpTip"_s);
+    panel.scene.movePointer(panel.frame(u"settingsButton"_s).center());
+    panel.scene.advance(690);
+    EXPECT_FALSE(tip->isVisible());
+    panel.scene.advance(20);
+    EXPECT_TRUE(tip->isVisible());
+    EXPECT_EQ(panel.scene.framesAskedFor(1000), 0) << "shown";
+    panel.scene.movePointer({500, 200});
+    EXPECT_FALSE(tip->isVisible());
+    EXPECT_EQ(panel.scene.framesAskedFor(1000), 0) << "hidden";
+    panel.scene.movePointer(panel.frame(u"settingsButton"_s).center());
+    panel.scene.advance(710);
+    ASSERT_TRUE(tip->isVisible());
+    panel.model.setIsOpen(false);
+    panel.finishMotion();
+    EXPECT_FALSE(tip->isVisible()) << "goes with the panel";
+}
+
+TEST(Panel, ALongOrBrokenQueryKeepsTheWordsAroundIt)
+{
+    PanelScene panel(3, 0);
+    panel.open();
+    panel.model.setQuery(u"a\tb "_s);
+    EXPECT_EQ(panel.scene.find(u"query"_s)->property("text"), u"a\u00a0b\u00a0"_s);
+    EXPECT_EQ(panel.scene.find(u"noMatches"_s)->property("text"), u"No matches for “a b ”"_s);
+    panel.model.setQuery(u"something that nobody ever gave any item on the menu bar as its name"_s);
+    panel.finishMotion();
+    const QQuickItem *sentence = panel.scene.find(u"noMatches"_s);
+    const QString text = sentence->property("text").toString();
+    EXPECT_TRUE(text.startsWith(u"No matches for “something"_s) && text.endsWith(u"…”"_s)) << qPrintable(text);
+    EXPECT_LE(sentence->implicitWidth(), sentence->width());
 }
 
 // The window itself is never shown here, so the elements' own states do not say it.

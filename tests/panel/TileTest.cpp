@@ -29,6 +29,26 @@ TEST(Tile, CascadesInReadingOrderAndLeavesAllTogether)
     EXPECT_EQ(opacity(0), 0);
 }
 
+TEST(Tile, IsSeenOnItsWayInAndInTheFirstFrameOfItsWayOut)
+{
+    for (const double scale : {1.0, 2.0}) {
+        PanelScene panel(4, 0, scale);
+        const auto light = [&] {
+            const QQuickItem *face = panel.tile(u"Relay"_s)->findChild<QQuickItem *>(u"face"_s);
+            return panel.pixel(panel.scene.frameOf(face).center()).lightness();
+        };
+        panel.scene.picture();
+        panel.model.setIsOpen(true);
+        panel.scene.advance(320);
+        EXPECT_GT(light(), 80) << "on its way in at scale " << scale;
+        panel.finishMotion();
+        panel.scene.picture();
+        panel.model.setIsOpen(false);
+        panel.scene.advance(16);
+        EXPECT_GT(light(), 80) << "on its way out at scale " << scale;
+    }
+}
+
 TEST(Tile, ComesInFromAboveAtHalfItsSize)
 {
     PanelScene panel(4, 0);
@@ -79,8 +99,8 @@ TEST(Tile, IsLitAndGrowsUnderThePointer)
     };
     // Between the icon and the face's edge.
     const auto fill = [&](const QString &name) { return panel.pixel(face(name).topLeft() + QPointF(27, 4)).red(); };
-    EXPECT_NEAR(fill(u"Hidden"_s), 255 * 0.06, 2);
-    EXPECT_NEAR(fill(u"Shown"_s), 255 * 0.035, 2);
+    EXPECT_NEAR(fill(u"Hidden"_s), 255 * 0.06, 0.5);
+    EXPECT_NEAR(fill(u"Shown"_s), 255 * 0.035, 0.5);
     const QPointF marker = face(u"Hidden"_s).center() + QPointF(19, -19);
     EXPECT_EQ(panel.pixel(marker), QColor(255, 158, 51));
     EXPECT_LT(panel.pixel(face(u"Shown"_s).center() + QPointF(19, -19)).red(), 20);

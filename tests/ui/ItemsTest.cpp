@@ -89,6 +89,33 @@ TEST(Items, ShapesShadowsAndTextOnOneSheet)
     }
 }
 
+// The pieces that a shadow is drawn in meet wherever it stands and however large it is.
+TEST(Items, AShadowHasNoSeams)
+{
+    for (const double scale : {1.0, 2.0}) {
+        OffscreenScene scene({300, 160}, scale);
+        QQuickItem *root = scene.load(R"(
+            import QtQuick
+            import Brimshade.Ui
+            Item {
+                property real off
+                Shadow { x: 60.3 + parent.off; y: 60; width: 150 - 1.9 * parent.off; height: 30 + 3.1 * parent.off
+                         radius: 12; blur: 15; color: "white" }
+            })");
+        ASSERT_TRUE(root);
+        int steepest = 0;
+        for (int step = 0; step < 14; ++step) {
+            root->setProperty("off", step * 0.37);
+            const QImage picture = scene.picture();
+            for (const int y : {int(30 * scale), int(50 * scale)}) {
+                for (int x = 1; x < picture.width(); ++x)
+                    steepest = std::max(steepest, std::abs(qRed(picture.pixel(x, y)) - qRed(picture.pixel(x - 1, y))));
+            }
+        }
+        EXPECT_LE(steepest, 4) << "scale " << scale;
+    }
+}
+
 TEST(Items, TextIsAsLargeAsItSays)
 {
     OffscreenScene scene({200, 100}, 1);

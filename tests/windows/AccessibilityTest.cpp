@@ -42,6 +42,13 @@ protected:
         collect(QAccessible::queryAccessibleInterface(context.scene().window()), found);
         return found;
     }
+    static int switchesOffered(const QAccessibleInterface *element)
+    {
+        int count = element->role() == QAccessible::CheckBox;
+        for (int i = 0; i < element->childCount(); ++i)
+            count += switchesOffered(element->child(i));
+        return count;
+    }
     // "CheckBox Launch at login" and what else there is to know.
     QStringList told()
     {
@@ -82,6 +89,8 @@ TEST_F(Accessibility, TellsTheSettingsInReadingOrder)
     context.model.setMessage(u"Relay: no."_s);
     context.model.setShortcut(model::Shortcut::optionCommandN);
     context.showSettings();
+    EXPECT_EQ(switchesOffered(QAccessible::queryAccessibleInterface(context.scene().window())), 7)
+        << "seen or not, and without the one under the spinner";
     EXPECT_EQ(
         joined(told()),
         joined({

@@ -72,6 +72,30 @@ TEST_F(Keyboard, FlipsSwitches)
     EXPECT_EQ(context.model.message(), u"Couldn't change Launch at Login: not allowed"_s);
 }
 
+TEST_F(Keyboard, StaysWithTheItemThatItMoves)
+{
+    menubar::ExtraList extras = someExtras();
+    context.setExtras(extras);
+    context.showSettings();
+    walk(Qt::Key_Tab, 2);
+    const QQuickItem *ledger = context.scene().window()->activeFocusItem();
+    context.key(Qt::Key_Space);
+    context.model.setMovingID(u"ledger"_s);
+    context.scene().advance(500);
+    EXPECT_EQ(context.scene().window()->activeFocusItem(), ledger);
+    context.key(Qt::Key_Space);
+    EXPECT_EQ(context.moves, QStringList{u"ledger show"_s}) << "once, while it moves";
+    extras[0].isHidden = false;
+    std::swap(extras[0], extras[1]);
+    context.setExtras(extras);
+    context.model.setMovingID({});
+    context.scene().advance(500);
+    EXPECT_EQ(context.scene().window()->activeFocusItem(), ledger);
+    EXPECT_TRUE(focusIsShown());
+    context.key(Qt::Key_Space);
+    EXPECT_EQ(context.moves.last(), u"ledger hide"_s);
+}
+
 TEST_F(Keyboard, PicksAShortcut)
 {
     struct Case {
@@ -145,6 +169,8 @@ TEST_F(Keyboard, ChoosesItemsAndOptionsInTheSetup)
     EXPECT_EQ(context.model.shortcut(), Shortcut::optionCommandN);
     EXPECT_EQ(context.flow.step(), 3) << "Return went to the open list";
     EXPECT_EQ(context.focused(), u"setupShortcutPicker"_s);
+    context.key(Qt::Key_Return);
+    EXPECT_EQ(context.flow.step(), 4) << "and from the closed picker to the primary button";
 }
 
 } // namespace

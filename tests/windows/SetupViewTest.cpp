@@ -107,6 +107,21 @@ TEST_F(SetupView, TilesGrowUnderThePointerUnlessPinnedAndExplainThemselves)
     EXPECT_EQ(tip(), QString());
 }
 
+TEST_F(SetupView, ATipIsTrueOrGone)
+{
+    context.setExtras(someExtras());
+    context.showSetup();
+    context.goTo(2);
+    const QQuickItem *relay = context.scene().findAll(u"choiceTile"_s)[1];
+    pointAt(relay);
+    ASSERT_EQ(tip(), u"In the menu bar. Click to tuck it away."_s);
+    context.flow.toggle(u"relay"_s);
+    context.scene().settle();
+    EXPECT_EQ(tip(), u"Tucked into the notch. Click to keep it in the menu bar."_s);
+    context.scene().click(context.scene().frameOf(relay).center());
+    EXPECT_EQ(tip(), QString());
+}
+
 TEST_F(SetupView, AClickTogglesWhatCanMove)
 {
     context.setExtras(someExtras());
@@ -153,10 +168,12 @@ TEST_F(SetupView, GridHasFiveColumnsAndScrolls)
     EXPECT_EQ(frame(5).left(), frame(0).left());
     EXPECT_EQ(frame(5).top() - frame(0).bottom(), 14);
     EXPECT_NEAR(frame(0).left() + frame(4).right(), 640, 0.5) << "centred";
+    EXPECT_TRUE(context.item(u"fade"_s)->isVisible()) << "more below";
     context.key(Qt::Key_Backtab, Qt::ShiftModifier); // primary button
     context.key(Qt::Key_Backtab, Qt::ShiftModifier);
     context.key(Qt::Key_Backtab, Qt::ShiftModifier); // the last tile
     EXPECT_LE(frame(42).bottom(), context.scene().frameOf(context.item(u"choiceCounts"_s)).top());
+    EXPECT_FALSE(context.item(u"fade"_s)->isVisible());
 }
 
 } // namespace

@@ -16,7 +16,7 @@ QVariant ItemRows::data(const QModelIndex &index, int role) const
     case ControlRole:
         return control(extra);
     case SwitchEnabledRole:
-        return !m_model || m_model->movingID().isEmpty();
+        return !m_model || m_model->movingID().isEmpty() || control(extra) == Moving;
     case InMenuBarRole:
         return !extra.isHidden;
     default:
@@ -51,11 +51,11 @@ void ItemRows::setModel(NotchModel *model)
     Q_EMIT modelChanged();
 }
 
-// The divider first: an item can only be hidden across the widened icon.
+// One at a time. The divider first: an item can only be hidden across the widened icon.
 void ItemRows::setInMenuBar(const QString &id, bool inMenuBar)
 {
     const MenuExtra *found = find(id);
-    if (!found || !m_model)
+    if (!found || !m_model || !m_model->movingID().isEmpty())
         return;
     const MenuExtra extra = *found; // applying the setting may change the rows
     m_model->setDividerEnabled(true);
