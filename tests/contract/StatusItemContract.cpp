@@ -1,7 +1,5 @@
 #include "Implementations.h"
 
-#include <QImage>
-
 using namespace brimshade::platform;
 using namespace Qt::StringLiterals;
 
@@ -36,19 +34,6 @@ TEST_P(StatusItemContract, IsAsLongAsItSaysOnceTheBarHasSettled)
     EXPECT_EQ(maxX(window->frame()), right) << "it grows to the left";
     item->setLength(kSquareStatusItemLength);
     EXPECT_EQ(item->length(), kSquareStatusItemLength);
-}
-
-TEST_P(StatusItemContract, KeepsItsImage)
-{
-    EXPECT_TRUE(item->button()->image().isNull());
-    class Nothing : public ImageSource {
-        void draw(QPainter &, const QRectF &) const override { }
-        QImage bitmap() const override { return {}; }
-    };
-    const Image image(std::make_shared<Nothing>(), QSizeF(20, 16), true);
-    item->button()->setImage(image);
-    EXPECT_TRUE(item->button()->image().isSameObject(image));
-    EXPECT_EQ(item->button()->image().size(), QSizeF(20, 16));
 }
 
 TEST_P(StatusItemContract, SendsItsActionOnTheEventsOfTheMask)

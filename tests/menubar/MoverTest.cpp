@@ -90,19 +90,6 @@ MenuBarMover::Result failure(MenuBarMover::Failure reason)
     return std::unexpected(reason);
 }
 
-TEST(Mover, HidesAnItemAndShowsItAgain)
-{
-    MoverContext bar;
-    ASSERT_EQ(bar.order(), (QStringList{u"far"_s, u"near"_s, u"|"_s, u"right"_s, u"x.clock"_s}));
-    EXPECT_EQ(bar.move(u"right"_s, true), MenuBarMover::Result());
-    EXPECT_EQ(bar.order(), (QStringList{u"far"_s, u"near"_s, u"right"_s, u"|"_s, u"x.clock"_s}));
-    EXPECT_EQ(bar.move(u"far"_s, false), MenuBarMover::Result());
-    EXPECT_EQ(bar.order(), (QStringList{u"near"_s, u"right"_s, u"|"_s, u"far"_s, u"x.clock"_s}));
-    bar.dispatch.runDue();
-    EXPECT_EQ(bar.divider->reanchorings, 2);
-    EXPECT_EQ(bar.desktop.input().pointer(), kPointer);
-}
-
 // The bar takes a drag for what it is only when it comes like a hand's.
 TEST(Mover, DragsAsAHandWould)
 {
@@ -130,16 +117,6 @@ TEST(Mover, DragsAsAHandWould)
     for (int i = 1; i <= 40; ++i)
         expect(1 + i, platform::kCGEventLeftMouseDragged, from + (to - from) * i / 40, 1, 0.39 + (i - 1) * 0.02);
     expect(42, platform::kCGEventLeftMouseUp, to, 1, 0.39 + 40 * 0.02 + 0.3);
-}
-
-TEST(Mover, LeavesAnItemThatIsWhereItShouldBe)
-{
-    MoverContext bar;
-    EXPECT_EQ(bar.move(u"near"_s, true), MenuBarMover::Result());
-    EXPECT_EQ(bar.move(u"right"_s, false), MenuBarMover::Result());
-    bar.dispatch.advance(1);
-    EXPECT_EQ(bar.divider->collapses + bar.divider->reanchorings, 0);
-    EXPECT_TRUE(bar.desktop.inspection().takeEvents().empty());
 }
 
 TEST(Mover, SaysWhyAMoveFailedAndLetsTheDividerGrowAgain)

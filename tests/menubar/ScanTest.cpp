@@ -70,34 +70,6 @@ TEST(Scan, HidesByTheLastButtonMetOverAllApplications)
     EXPECT_EQ(hiddenAmong({two, one, none}), (QStringList{u"1-0-left"_s, u"2-0-right"_s}));
 }
 
-TEST(Scan, HidesBehindTheNotchAndLeftOfTheDivider)
-{
-    MenuBarContext bar(
-        notchedDesktop({application(1, u"One"_s,
-                                    {itemAt(u"behind"_s, {700, 0, 30, 37}), itemAt(u"tucked"_s, {900, 0, 30, 37}),
-                                     itemAt(u"shown"_s, {1100, 0, 30, 37})})}));
-    const auto hidden = [](const ExtraList &extras) {
-        std::vector<bool> flags;
-        for (const MenuExtra &extra : extras)
-            flags.push_back(extra.isHidden);
-        return flags;
-    };
-    EXPECT_EQ(hidden(bar.scan()), (std::vector{true, false, false}));
-    EXPECT_EQ(hidden(bar.scan(QRectF(1000, 0, 28, 37))), (std::vector{true, true, false}));
-    EXPECT_EQ(hidden(bar.scan(QRectF())), (std::vector{true, false, false}));
-}
-
-TEST(Scan, ListsItemsWhoseFrameCannotBeReadAsHidden)
-{
-    ExtraDescription unreadable = item(u"x"_s);
-    unreadable.frameKind = ExtraDescription::Frame::unreadable;
-    MenuBarContext bar(notchedDesktop({application(1, u"One"_s, {unreadable})}));
-    const ExtraList extras = bar.scan();
-    ASSERT_EQ(extras.size(), 1);
-    EXPECT_TRUE(extras[0].isHidden);
-    EXPECT_TRUE(isZero(extras[0].frame));
-}
-
 TEST(Scan, LabelsItemsOfOrdinaryApplications)
 {
     struct {

@@ -47,15 +47,6 @@ TEST(Layout, LeavesRoomForTheSentenceWhenNothingMatches)
     EXPECT_EQ(context.model().panelSize(), QSizeF(488, 134 + 32));
 }
 
-TEST(Layout, MeasuresGridsByRowsOfTheWiderSection)
-{
-    ModelContext context;
-    context.model().setExtras(items(6, 0));
-    const std::pair<int, double> cases[] = {{-1, 0}, {0, 0}, {1, 98}, {6, 98}, {7, 182}, {13, 266}};
-    for (const auto &[tiles, height] : cases)
-        EXPECT_EQ(context.model().gridHeight(tiles), height) << tiles;
-}
-
 TEST(Layout, AnnouncesTheSizeOnceForEachChangeOfWhatItDependsOn)
 {
     ModelContext context;

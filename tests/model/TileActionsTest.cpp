@@ -49,17 +49,6 @@ TEST(Tile, OffersToOpenAndToMoveItsItem)
     }
 }
 
-TEST(Tile, CannotMoveAPinnedItem)
-{
-    TileContext context;
-    MenuExtra clock = item(u"clock"_s);
-    clock.canMove = false;
-    context.model().setExtras({clock});
-    context.actions.showMenu(u"clock"_s);
-    EXPECT_TRUE(context.menus.menu.items.at(0).isEnabled);
-    EXPECT_FALSE(context.menus.menu.items.at(1).isEnabled);
-}
-
 TEST(Tile, AnOpenMenuOutlivesItsItemAndTheModel)
 {
     TileContext context;

@@ -40,28 +40,6 @@ TEST(NotchShape, RunsFromEdgeToEdgeThroughTheGivenPoints)
     EXPECT_EQ(ends[8], expected[0]);
 }
 
-TEST(NotchShape, FlaresOutwardAboveAndRoundsInwardBelow)
-{
-    const QPainterPath path = kOpenShape.path(QRectF(0, 0, 488, 200));
-    const struct {
-        QPointF point;
-        bool inside;
-    } cases[] = {
-        {{5, 0.5}, true},
-        {{5, 6}, false},
-        {{483, 0.5}, true},
-        {{483, 6}, false},
-        {{13, 100}, false},
-        {{15, 100}, true},
-        // At a quadratic corner's middle the curve is a quarter of the radius from either side.
-        {{14 + 8.5, 200 - 8.5}, true},
-
-        {{14 + 7.5, 200 - 7.5}, false},
-    };
-    for (const auto &expected : cases)
-        EXPECT_EQ(path.contains(expected.point), expected.inside) << expected.point.x() << ',' << expected.point.y();
-}
-
 TEST(NotchShape, BothRadiiMoveTogether)
 {
     const NotchShape half = NotchShape::between(kClosedShape, kOpenShape, 0.5);

@@ -37,22 +37,6 @@ protected:
     NotchTabAt2() : NotchTabTest(2) { }
 };
 
-TEST_F(NotchTabTest, ClosedItIsBlackAndNothingElse)
-{
-    EXPECT_EQ(scene.frameOf(tab), QRectF(394, 0, 212, 32));
-    const struct {
-        double x, y;
-        bool isBlack;
-    } probes[] = {
-        {500, 0.5, true},    {500, 31.5, true}, {500, 32.5, false},  {400.5, 16, true},
-        {399.5, 16, false},  {599.5, 16, true}, {600.5, 16, false},  {396, 5.5, false},
-        {603.5, 5.5, false}, {401, 31, false},  {403.5, 28.5, true}, {392, 1, false},
-    };
-    for (const auto &probe : probes)
-        EXPECT_EQ(pixel(probe.x, probe.y), probe.isBlack ? QColor(Qt::black) : ui::kBackground)
-            << probe.x << ',' << probe.y;
-}
-
 TEST_F(NotchTabAt2, OpenItHasALineThatFadesInFromTheTop)
 {
     setOpenness(1);

@@ -42,15 +42,6 @@ TEST_F(PanelGeometryTest, StacksTheSectionsAndTheFooter)
     }
 }
 
-TEST_F(PanelGeometryTest, ASentenceStandsWhereSectionsWould)
-{
-    fixture.model.setExtras(makeExtras(3, 2));
-    fixture.model.setQuery(u"zzz"_s);
-    EXPECT_EQ(geometry.contentHeight(), 84);
-    EXPECT_EQ(geometry.footerY(), 98);
-    EXPECT_EQ(geometry.openSize().height(), 134 + 32);
-}
-
 TEST_F(PanelGeometryTest, ScrollsOnlyWhatDoesNotFit)
 {
     fixture.model.setExtras(makeExtras(400, 2));

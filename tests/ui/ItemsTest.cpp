@@ -1,7 +1,5 @@
 #include "OffscreenScene.h"
-#include "ui/SymbolTable.h"
 
-#include <QDir>
 #include <QtQml/qqmlextensionplugin.h>
 #include <gtest/gtest.h>
 
@@ -11,48 +9,6 @@ namespace brimshade::ui {
 namespace {
 
 using namespace Qt::StringLiterals;
-
-// For people to look at: build/<name>/pictures.
-void keep(const QImage &picture, const QString &name)
-{
-    QDir().mkpath(u"pictures"_s);
-    picture.save(u"pictures/"_s + name + u".png"_s);
-}
-
-TEST(Items, SymbolsAreDrawnInTheirColourAtEveryScale)
-{
-    for (const double scale : {1.0, 2.0}) {
-        OffscreenScene scene({640, 320}, scale);
-        ASSERT_TRUE(scene.load(R"(
-            import QtQuick
-            import Brimshade.Ui
-            Item {
-                required property list<string> names
-                Grid {
-                    columns: 10; spacing: 8
-                    Repeater {
-                        model: parent.parent.names
-                        SymbolIcon { required property string modelData; name: modelData; pointSize: 36
-                                     weight: SymbolIcon.Semibold; color: "white" }
-                    }
-                }
-                Row {
-                    y: 260; spacing: 10
-                    Repeater {
-                        model: parent.parent.names
-                        SymbolIcon { required property string modelData; name: modelData; pointSize: 11
-                                     weight: SymbolIcon.Semibold; color: "white" }
-                    }
-                }
-                SymbolIcon { objectName: "seal"; x: 580; y: 200; pointSize: 36; name: "checkmark.seal.fill"; color: "#30d158" }
-            })",
-                               {{u"names"_s, symbolNames()}}));
-        const QImage picture = scene.picture();
-        keep(picture, u"symbols@%1"_s.arg(scale));
-        const QPointF seal = scene.frameOf(scene.find(u"seal"_s)).center() + QPointF(0, 11);
-        EXPECT_EQ(picture.pixelColor((seal * scale).toPoint()), QColor(0x30, 0xd1, 0x58));
-    }
-}
 
 TEST(Items, ShapesShadowsAndTextOnOneSheet)
 {
@@ -75,7 +31,6 @@ TEST(Items, ShapesShadowsAndTextOnOneSheet)
                 Spinner { x: 220; y: 160; color: "white" }
             })"));
         const QImage picture = scene.picture();
-        keep(picture, u"shapes@%1"_s.arg(scale));
         const auto at = [&](double x, double y) { return picture.pixelColor((QPointF(x, y) * scale).toPoint()); };
         EXPECT_EQ(at(100, 80), QColor(Qt::white));
         EXPECT_EQ(at(100, 42), QColor(Qt::red)) << "the stroke is inside the edge";

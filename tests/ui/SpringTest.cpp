@@ -49,17 +49,6 @@ TEST(Spring, FollowsItsEquationOfMotion)
     }
 }
 
-TEST(Spring, IsTheSameInOneStepAndInMany)
-{
-    const SpringParameters spring{0.46, 0.74};
-    SpringState state{-1, 4};
-    for (int i = 0; i < 30; ++i)
-        state = springAt(spring, state, 0.01);
-    const SpringState once = springAt(spring, {-1, 4}, 0.3);
-    EXPECT_NEAR(state.position, once.position, 1e-12);
-    EXPECT_NEAR(state.velocity, once.velocity, 1e-10);
-}
-
 TEST(Spring, SettledMeansThatItNeverLeavesAgain)
 {
     const SpringParameters spring{0.5, 0.3};

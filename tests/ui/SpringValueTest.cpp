@@ -60,14 +60,6 @@ TEST_F(SpringValueTest, TakesTheParametersThatComeWithTheTargetInEitherOrder)
     EXPECT_NEAR(seconds(20), 1 + springAt({0.2, 0.8}, {-1, 0}, 0.06).position, 1e-9);
 }
 
-TEST_F(SpringValueTest, StaysUntilItsDelayIsOver)
-{
-    value.setDelay(0.268);
-    value.setTarget(1);
-    EXPECT_EQ(seconds(268), 0);
-    EXPECT_GT(seconds(20), 0);
-}
-
 TEST_F(SpringValueTest, EasesFromWhereItIsInItsDuration)
 {
     const struct {

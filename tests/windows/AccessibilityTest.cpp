@@ -62,17 +62,6 @@ protected:
         return lines;
     }
     static std::string joined(const QStringList &lines) { return lines.join(u'\n').toStdString(); }
-    bool press(const QString &name, QAccessible::Role role)
-    {
-        for (QAccessibleInterface *element : elements()) {
-            if (element->text(QAccessible::Name) != name || element->role() != role || !element->actionInterface())
-                continue;
-            element->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
-            context.scene().advance(800);
-            return true;
-        }
-        return false;
-    }
 };
 
 TEST_F(Accessibility, TellsTheSettingsInReadingOrder)
@@ -159,27 +148,6 @@ TEST_F(Accessibility, TellsEachStepOfTheSetupAndNothingOfTheOthers)
             context.flow.toggle(u"relay"_s);
         EXPECT_EQ(joined(told()), joined(steps[step])) << step;
     }
-}
-
-TEST_F(Accessibility, ActsOnPress)
-{
-    context.setExtras(someExtras());
-    context.showSettings();
-    EXPECT_TRUE(press(u"Open when the pointer rests on the notch"_s, QAccessible::CheckBox));
-    EXPECT_TRUE(context.model.hoverToOpen());
-    EXPECT_TRUE(told().contains(u"CheckBox Open when the pointer rests on the notch on"_s));
-    EXPECT_TRUE(press(u"Keyboard shortcut"_s, QAccessible::ComboBox));
-    EXPECT_TRUE(press(u"⌃⌥Space"_s, QAccessible::ListItem));
-    EXPECT_EQ(context.model.shortcut(), model::Shortcut::controlOptionSpace);
-    EXPECT_TRUE(told().contains(u"ComboBox Keyboard shortcut (⌃⌥Space)"_s));
-    EXPECT_TRUE(press(u"Run Setup Again…"_s, QAccessible::Button));
-    EXPECT_EQ(context.setups, 1);
-
-    context.showSetup();
-    EXPECT_TRUE(press(u"Get started"_s, QAccessible::Button));
-    EXPECT_TRUE(press(u"Continue"_s, QAccessible::Button));
-    EXPECT_TRUE(press(u"Relay"_s, QAccessible::Button));
-    EXPECT_TRUE(context.flow.choices().value(u"relay"_s));
 }
 
 // Nobody would hear of a switch that changes without an event.

@@ -125,14 +125,6 @@ TEST_F(Flow, RunsNoTimerWhileItsViewIsOffScreen)
     EXPECT_TRUE(dispatch.isIdle());
 }
 
-TEST_F(Flow, AsksForThePermissionThenOpensItsPage)
-{
-    flow->openAccessibilitySettings();
-    EXPECT_EQ(accessibility.prompts, 1);
-    EXPECT_EQ(workspace.openedURLs,
-              QStringList{u"x-apple.systempreferences:com.apple.preference.security?Privacy_Accessibility"_s});
-}
-
 TEST_F(Flow, SeedsChoicesAtTheStartAndForEveryNewItem)
 {
     model.setExtras({extra(u"relay"_s, false), extra(u"ledger"_s, true)});

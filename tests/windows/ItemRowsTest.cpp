@@ -1,7 +1,6 @@
 #include "windows/flow/ItemRows.h"
 #include "Fakes.h"
 #include "model/NotchModel.h"
-#include "windows/flow/ShortcutChoice.h"
 
 #include <gtest/gtest.h>
 
@@ -99,22 +98,6 @@ TEST_F(Rows, AskForTheItemTheyShowedEvenIfItVanishesMeanwhile)
     model.onSettingsChanged = [this] { model.setExtras({}); };
     rows.setInMenuBar(u"relay"_s, false);
     EXPECT_EQ(log, QStringList{u"relay hide"_s});
-}
-
-TEST_F(Rows, ShortcutsAreChosenByIndex)
-{
-    ShortcutChoice choice;
-    choice.setModel(&model);
-    EXPECT_EQ(choice.titles(), (QStringList{u"None"_s, u"⌥⌘N"_s, u"⌃⌥Space"_s, u"⌃⌥⌘M"_s}));
-    EXPECT_EQ(choice.index(), 0);
-    choice.choose(2);
-    EXPECT_EQ(model.shortcut(), model::Shortcut::controlOptionSpace);
-    EXPECT_EQ(choice.index(), 2);
-    choice.choose(4);
-    choice.choose(-1);
-    EXPECT_EQ(choice.index(), 2);
-    choice.choose(0);
-    EXPECT_EQ(defaults.stringForKey(u"shortcut"_s), u"none"_s);
 }
 
 } // namespace

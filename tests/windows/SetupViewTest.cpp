@@ -107,35 +107,6 @@ TEST_F(SetupView, TilesGrowUnderThePointerUnlessPinnedAndExplainThemselves)
     EXPECT_EQ(tip(), QString());
 }
 
-TEST_F(SetupView, AClickTogglesWhatCanMove)
-{
-    context.setExtras(someExtras());
-    context.showSetup();
-    context.goTo(2);
-    const auto tiles = context.scene().findAll(u"choiceTile"_s);
-    for (const int tile : {1, 3}) {
-        context.scene().click(context.scene().frameOf(tiles[tile]).center());
-        context.scene().advance(800);
-    }
-    EXPECT_TRUE(context.flow.choices().value(u"relay"_s));
-    EXPECT_FALSE(context.flow.choices().value(u"clock"_s));
-    EXPECT_EQ(context.property(u"choiceCounts"_s, "text"), u"2 in the menu bar  ·  2 in the notch"_s);
-}
-
-TEST_F(SetupView, ReopensWhereTheUserLeftIt)
-{
-    context.setExtras(someExtras());
-    context.showSetup();
-    context.goTo(2);
-    context.flow.toggle(u"relay"_s);
-    context.scene().root()->setVisible(false);
-    context.scene().advance(500);
-    context.scene().root()->setVisible(true);
-    context.scene().advance(500);
-    EXPECT_EQ(context.scene().findAll(u"choiceTile"_s).size(), 4);
-    EXPECT_EQ(context.property(u"choiceCounts"_s, "text"), u"2 in the menu bar  ·  2 in the notch"_s);
-}
-
 // More items than the window is high: the grid scrolls, five in a row.
 TEST_F(SetupView, GridHasFiveColumnsAndScrolls)
 {

@@ -90,26 +90,6 @@ TEST_F(BarTest, ShowsEachLayoutATenthOfASecondAfterItsChange)
     EXPECT_EQ(windowFrame(*own).width(), 37);
 }
 
-TEST_F(BarTest, TucksAwayWhatAWideItemPushesBehindTheNotchAndOffScreen)
-{
-    const auto own = createOwn();
-    own->setLength(493); // up to 879, as right of the notch as a divider goes
-    settle();
-    const auto drawn = [this] {
-        QStringList drawn;
-        for (const BarItem &item : desktop.menuBar().items())
-            drawn << (item.drawn ? item.identifier : u"-"_s);
-        return drawn;
-    };
-    EXPECT_EQ(drawn(), QStringList({u"-"_s, u"-"_s, u"a.one"_s, u"BrimshadeButton"_s, u"com.example.clock"_s}));
-    EXPECT_EQ(axFrame(item(12, 0)), QRectF(819, 0, 30, 37)) << "behind the notch is still a place";
-    own->setLength(720);
-    settle();
-    EXPECT_EQ(axFrame(item(11, 0)), QRectF(-30, 0, 30, 37));
-    EXPECT_EQ(axFrame(item(12, 1)), QRectF(-90, 0, 30, 37));
-    EXPECT_FALSE(own->button()->window()->occlusionStateVisible()) << "covered by the notch";
-}
-
 TEST_F(BarTest, PutsItsOwnItemWhereTheSettingsSayAndStoresOnlyADragOfIt)
 {
     platform.userDefaults.setInteger(199, kPlaceKey);
@@ -186,21 +166,6 @@ TEST_F(BarTest, RearrangesByCommandDragsAndByNothingElse)
         test.drag(c.from, c.to, c.downFlags, c.upFlags, c.drags);
         EXPECT_EQ(test.barOrder().join(u' ').toStdString(), c.after.toStdString()) << c.name;
     }
-}
-
-TEST_F(BarTest, MovesAnItemFromBehindTheNotchAndNoneFromOffScreen)
-{
-    const auto own = createOwn();
-    own->setLength(493);
-    settle();
-    ASSERT_EQ(axFrame(item(12, 0)).x(), 819);
-    drag({834, 18}, {1400, 18}, kCGEventFlagMaskCommand, kCGEventFlagMaskCommand);
-    EXPECT_EQ(axFrame(item(12, 0)).x(), 1342) << "right of the own item, left of the clock";
-    own->setLength(720);
-    settle();
-    const QStringList before = barOrder();
-    drag({axFrame(item(12, 1)).center()}, {1300, 18}, kCGEventFlagMaskCommand, kCGEventFlagMaskCommand);
-    EXPECT_EQ(barOrder(), before);
 }
 
 TEST_F(BarTest, FollowsTheScreensAndTellsWhenTheOwnItemChangesItsScreen)

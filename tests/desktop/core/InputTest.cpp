@@ -91,57 +91,6 @@ TEST_F(InputTest, RunsTheItemsActionOnlyForAReleaseInsideOfAPressInside)
     EXPECT_EQ(takeHeard(), u"local 1, local 2, action 2"_s) << "Control makes no right button";
 }
 
-TEST_F(InputTest, OpensMenusOfItemsAndHandsAllInputToAnOpenOne)
-{
-    click(kFirstItem);
-    ASSERT_EQ(desktop.menus().titles(), QStringList({u"Open"_s, u"-"_s, u"Quit"_s}));
-    takeHeard();
-    moveTo(kWall);
-    EXPECT_EQ(desktop.input().pressed(MouseButton::left, 0), Target::menu);
-    EXPECT_EQ(desktop.input().released(MouseButton::left, 0), Target::menu);
-    EXPECT_FALSE(key(53));
-    EXPECT_EQ(takeHeard(), QString());
-    desktop.menus().dismiss();
-
-    bool isGone = false;
-    own->setMenu(Menu{{{.title = u"Refresh"_s, .keyEquivalent = {}, .action = {}}}});
-    click(kOwnItem);
-    EXPECT_EQ(desktop.menus().titles(), QStringList(u"Refresh"_s)) << "an attached menu opens instead of the action";
-    EXPECT_FALSE(takeHeard().contains(u"action"_s));
-    desktop.menus().dismiss();
-    own->button()->performClick([&] { isGone = true; });
-    EXPECT_EQ(desktop.menus().anchor(), barFrame(QString()));
-    EXPECT_FALSE(isGone);
-    desktop.menus().dismiss();
-    EXPECT_TRUE(isGone);
-}
-
-TEST_F(InputTest, GivesKeysToHotkeysThenToTheKeyWindowElseToAnotherApplication)
-{
-    int hotkeys = 0;
-    platform.hotkeyCenter.installEventHandler([&] { ++hotkeys; });
-    ASSERT_TRUE(platform.hotkeyCenter.registerEventHotKey(45, kCarbonOption | kCarbonCommand, {}));
-    EXPECT_FALSE(key(45, kOptionFlag | kCommandFlag));
-    EXPECT_FALSE(key(45, kOptionFlag));
-    EXPECT_EQ(hotkeys, 1);
-    EXPECT_EQ(takeHeard(), u"global 10"_s) << "no window has the keys";
-    desktop.setTrusted(false);
-    key(45);
-    EXPECT_EQ(takeHeard(), QString());
-
-    const auto window = openWindow(u"w"_s, QRectF(0, 0, 100, 100));
-    EXPECT_TRUE(key(45));
-    EXPECT_FALSE(key(45, kOptionFlag | kCommandFlag)) << "a hotkey goes before any window";
-    EXPECT_EQ(takeHeard(), u"local 10"_s);
-
-    const auto swallow = platform.application.addLocalMonitor(
-        kKeyDownMask, [](const Event &event) { return event.keyCode == 53 ? std::nullopt : std::optional(event); });
-    EXPECT_FALSE(key(53));
-    EXPECT_TRUE(key(45));
-    platform.application.removeMonitor(swallow);
-    EXPECT_TRUE(key(53));
-}
-
 TEST_F(InputTest, DoesNotTellAMonitorThatWasRemovedMeanwhile)
 {
     MonitorToken second = 0;
@@ -179,25 +128,6 @@ TEST_F(InputTest, ThePermissionsWindowsStandAboveOursAndAreAnotherApplications)
     EXPECT_EQ(desktop.input().released(MouseButton::left, 0), Target::systemWindow);
     EXPECT_EQ(takeHeard(), u"global 1, global 2"_s);
     EXPECT_FALSE(window->isKeyWindow());
-}
-
-TEST_F(InputTest, KeepsPostedEventsInOrderAndThePointerWhereItWasLastPut)
-{
-    QPointF seen;
-    onWorker([&] {
-        platform.eventServices.post({kCGEventLeftMouseDown, kOwnItem, 0, 1});
-        platform.eventServices.post({kCGEventLeftMouseUp, kOwnItem, 0, 1});
-        seen = *platform.eventServices.pointerLocation();
-        platform.eventServices.warpMouseCursorPosition({5, 5});
-    });
-    EXPECT_EQ(seen, kOwnItem) << "at once";
-    EXPECT_EQ(takeHeard(), u"local 1, local 2, action 2"_s);
-    EXPECT_EQ(platform.application.mouseLocation(), QPointF(5, 982 - 5)) << "effects do not move a warped pointer back";
-    const auto events = desktop.inspection().takeEvents();
-    ASSERT_EQ(events.size(), 2u);
-    EXPECT_EQ(events[1].event.type, kCGEventLeftMouseUp);
-    EXPECT_EQ(events[1].event.clickState, 1);
-    EXPECT_DOUBLE_EQ(events[1].time, 0.1);
 }
 
 } // namespace

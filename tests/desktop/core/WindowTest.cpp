@@ -78,21 +78,6 @@ TEST_F(WindowTest, StacksByLevelThenByOrderAndPassesTheKeysOn)
     EXPECT_EQ(key(), u"-"_s) << "a panel that does not activate gives the keys back to the active application";
 }
 
-TEST_F(WindowTest, NeverMakesAWindowKeyThatCannotBe)
-{
-    WindowAttributes attributes;
-    attributes.contentRect = QRectF(0, 0, 10, 10);
-    attributes.canBecomeKey = false;
-    const auto strip = platform.windows.createWindow(attributes, HostedView());
-    strip->makeKeyAndOrderFront();
-    EXPECT_EQ(key(), u"-"_s);
-    click({5, 977});
-    EXPECT_FALSE(strip->isKeyWindow());
-    const auto hidden = create(u"hidden"_s);
-    desktop.windows().makeKey(desktop.windows().named(u"hidden"_s));
-    EXPECT_FALSE(hidden->isKeyWindow());
-}
-
 TEST_F(WindowTest, SizesItselfByItsContentAndStaysBelowTheMenuBar)
 {
     auto window = create(u"settings"_s, kNormalWindowLevel, kStyleTitled | kStyleClosable);

@@ -52,28 +52,5 @@ TEST(Animations, AskForNoFrameOnceTheyEnded)
     EXPECT_NEAR(view->property("mark").toDouble(), 50, 0.34);
 }
 
-TEST(Animations, BringABannerAndTakeItAwayInThreeSeconds)
-{
-    SceneContext context;
-    Q_EMIT context.desktop().notified(u"Relay"_s, u"Open Relay"_s);
-    context.settle();
-    ASSERT_EQ(context.findAll(u"banner"_s).size(), 1);
-    const QQuickItem *banner = context.findAll(u"banner"_s).first();
-    EXPECT_GT(banner->x(), 1000) << "it comes from beyond the right edge";
-    context.advance(1.5);
-    EXPECT_NEAR(banner->x() + banner->width(), 988, 1);
-    EXPECT_FALSE(context.scene().isAnimating());
-    context.advance(1.4999);
-    EXPECT_EQ(context.findAll(u"banner"_s).size(), 1);
-    context.advance(0.0001);
-    EXPECT_TRUE(context.findAll(u"banner"_s).isEmpty());
-    for (int i = 0; i < 5; ++i)
-        Q_EMIT context.desktop().notified(u"Relay"_s, u"Message %1"_s.arg(i));
-    context.settle();
-    EXPECT_EQ(context.findAll(u"banner"_s).size(), 3) << "no more than three";
-    context.advance(3);
-    EXPECT_TRUE(context.findAll(u"banner"_s).isEmpty());
-}
-
 } // namespace
 } // namespace brimshade::desktop

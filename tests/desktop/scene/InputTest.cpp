@@ -58,21 +58,6 @@ TEST(Input, StaysWithTheViewThatWasPressedUntilTheRelease)
     EXPECT_FALSE(notes.contains(u"press b"_s) || notes.contains(u"release b"_s));
 }
 
-TEST(Input, TellsHoverInTheOrderInWhichThePointerGoes)
-{
-    SceneContext context;
-    const auto window = context.probe(u"probe"_s, kFrame);
-    context.recorder().take();
-    for (const QPointF &to : {kInA, kInA + QPointF(10, 10), kInB, QPointF(800, 600)})
-        context.move(to);
-    QStringList notes = context.recorder().take();
-    EXPECT_EQ(notes.size(), 4);
-    EXPECT_EQ(notes.first(), u"enter a"_s);
-    EXPECT_EQ(notes.last(), u"leave b"_s);
-    std::sort(notes.begin(), notes.end());
-    EXPECT_EQ(notes, QStringList({u"enter a"_s, u"enter b"_s, u"leave a"_s, u"leave b"_s}));
-}
-
 TEST(Input, OpensAMenuOfTheBarAndKeepsTheClickFromTheViews)
 {
     SceneContext context;
@@ -111,31 +96,6 @@ TEST(Input, GivesKeysToTheKeyWindowAsTheyStand)
     first->makeKeyAndOrderFront();
     context.key(0, u"a"_s);
     EXPECT_EQ(context.recorder().take().size(), 1);
-}
-
-TEST(Input, PassesCodeAndCharactersToMonitorsUnchanged)
-{
-    SceneContext context;
-    const auto window = context.probe(u"probe"_s, kFrame);
-    context.recorder().take();
-    std::vector<platform::Event> seen;
-    bool swallows = true;
-    auto &application = context.desktop().platform().application;
-    const auto token = application.addLocalMonitor(platform::kKeyDownMask,
-                                                   [&](const platform::Event &event) -> std::optional<platform::Event> {
-                                                       seen.push_back(event);
-                                                       return swallows ? std::nullopt : std::optional(event);
-                                                   });
-    context.key(200, u"é"_s, platform::kControlFlag | platform::kShiftFlag);
-    ASSERT_EQ(seen.size(), 1u);
-    EXPECT_EQ(seen[0].keyCode, 200);
-    EXPECT_EQ(seen[0].characters, u"é"_s);
-    EXPECT_EQ(seen[0].modifierFlags, platform::kControlFlag | platform::kShiftFlag);
-    EXPECT_EQ(context.recorder().take(), QStringList());
-    swallows = false;
-    context.key(36, u"\r"_s);
-    EXPECT_EQ(context.recorder().take().size(), 1);
-    application.removeMonitor(token);
 }
 
 } // namespace

@@ -34,18 +34,6 @@ TEST(MenuGeometry, KeepsMenusOnTheScreen)
     EXPECT_EQ(placeSubmenu({840, 650, 150, 22}, {150, 80}, kScreen), QRectF(693, 614, 150, 80)) << "left, and up";
 }
 
-TEST(MenuGeometry, MakesRoomForWhatTheEntriesShow)
-{
-    std::vector<MenuEntry> entries{entry(1, u"Open"_s), separator(2), entry(3, u"A rather longer title"_s)};
-    const QSizeF plain = menuSize(entries);
-    EXPECT_EQ(plain.height(), 2 * kMenuPadding + 2 * kMenuRowHeight + kMenuSeparatorHeight);
-    EXPECT_EQ(menuColumns(entries).text, menuColumns(entries).icon);
-    entries[0].toggle = MenuEntry::Toggle::checkmark;
-    EXPECT_GT(menuSize(entries).width(), plain.width());
-    entries[2].shortcut = u"⌘Q"_s;
-    EXPECT_GT(menuColumns(entries).shortcut, 0);
-}
-
 class MenuTest : public testing::Test {
 protected:
     // Apple, —, Banana (off), Cherry ▸ (Morello, Sour), Date

@@ -60,18 +60,6 @@ TEST_F(VirtualDispatchTest, TheClockShowsTheDueTimeWhileWorkRuns)
     EXPECT_EQ(dispatch.now(), 2);
 }
 
-TEST_F(VirtualDispatchTest, ATimerTicksAtWholeIntervalsUntilItIsInvalidated)
-{
-    auto timer = dispatch.scheduleRepeating(0.25, [this] { note("tick"); });
-    dispatch.advance(0.249);
-    EXPECT_THAT(log, ElementsAre());
-    dispatch.advance(0.501);
-    EXPECT_THAT(log, ElementsAre("tick 0.250", "tick 0.500", "tick 0.750"));
-    timer->invalidate();
-    dispatch.advance(10);
-    EXPECT_EQ(log.size(), 3U);
-}
-
 TEST_F(VirtualDispatchTest, SleepersTakeTurnsByTheClock)
 {
     // Two queues and the main one, always in the same course.
@@ -94,17 +82,6 @@ TEST_F(VirtualDispatchTest, SleepersTakeTurnsByTheClock)
     EXPECT_THAT(log,
                 ElementsAre("fast 0.200", "main 0.400", "slow 0.400", "fast 0.400", "fast 0.600", "sync 0.600",
                             "fast 0.600", "slow 0.800", "slow 1.200", "sync 1.200", "slow 1.200"));
-}
-
-TEST_F(VirtualDispatchTest, NothingRunsUntilItIsTold)
-{
-    bool ran = false;
-    dispatch.globalAsync(QualityOfService::userInitiated, [&] { ran = true; });
-    std::thread([&] { dispatch.mainAsync([this] { note("from another thread"); }); }).join();
-    EXPECT_FALSE(ran);
-    dispatch.runDue();
-    EXPECT_TRUE(ran);
-    EXPECT_THAT(log, ElementsAre("from another thread 0.000"));
 }
 
 TEST_F(VirtualDispatchTest, AtMostEightGlobalPiecesAreUnderWay)
