@@ -1,7 +1,6 @@
 #include "app/KeyHandler.h"
 #include "model/NotchModel.h"
-#include "platform/LoginItems.h"
-#include "platform/UserDefaults.h"
+#include "support/FakeSystem.h"
 
 #include <gtest/gtest.h>
 
@@ -11,28 +10,10 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-class NoDefaults : public platform::UserDefaults {
-public:
-    QVariant objectForKey(const QString &) const override { return {}; }
-    bool boolForKey(const QString &) const override { return false; }
-    QString stringForKey(const QString &) const override { return {}; }
-    void setBool(bool, const QString &) override { }
-    void setInteger(qlonglong, const QString &) override { }
-    void setObject(const QString &, const QString &) override { }
-};
-
-class NoLoginItems : public platform::LoginItems {
-public:
-    platform::LoginItemStatus status() const override { return platform::LoginItemStatus::notFound; }
-    std::expected<void, QString> registerMainApp() override { return {}; }
-    std::expected<void, QString> unregisterMainApp() override { return {}; }
-};
-
 class Keys : public testing::Test {
 protected:
-    NoDefaults defaults;
-    NoLoginItems loginItems;
-    model::NotchModel model{defaults, loginItems};
+    FakeSystem system;
+    model::NotchModel model{system.defaults, system.loginItems};
     int closings = 0;
     KeyHandler keys{model, [this] { ++closings; }};
 

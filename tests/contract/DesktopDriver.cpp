@@ -1,9 +1,10 @@
-#include "DesktopDriver.h"
+#include "Driver.h"
 #include "desktop/core/Desktop.h"
 #include "desktop/core/InputRouter.h"
 #include "desktop/core/MenuHost.h"
 #include "desktop/time/VirtualDispatch.h"
-#include "platform/Symbol.h"
+#include "support/Descriptions.h"
+#include "support/FakeSystem.h"
 
 using namespace brimshade::desktop;
 using namespace brimshade::platform;
@@ -12,18 +13,6 @@ using namespace Qt::StringLiterals;
 namespace brimshade::contract {
 
 namespace {
-
-class NoSymbols : public Symbols {
-public:
-    Image symbolImage(const QString &, const QString &, const SymbolConfiguration &) override { return {}; }
-};
-
-DesktopDescription notchedDesktop()
-{
-    DesktopDescription description;
-    description.screens = {{u"Built-in Display"_s, QRectF(0, 0, 1512, 982), 37, 37, std::pair(663., 849.)}};
-    return description;
-}
 
 class DesktopDriver : public Driver {
 public:
@@ -43,10 +32,7 @@ public:
     }
     void key(std::uint16_t code, std::uint64_t modifierFlags) override
     {
-        Event event;
-        event.keyCode = code;
-        event.modifierFlags = modifierFlags;
-        m_desktop.input().keyDown(event);
+        m_desktop.input().keyDown({keyDown, modifierFlags, code, {}});
     }
     QStringList openMenu() override { return m_desktop.menus().titles(); }
     void choose(const QString &title) override { m_desktop.menus().choose(title); }
@@ -54,17 +40,10 @@ public:
 
     int launch(const std::vector<ItemOfAnother> &items) override
     {
-        ApplicationDescription application;
-        application.pid = ++m_latestPid;
-        application.name = u"Another"_s;
-        application.extras.emplace();
+        ApplicationDescription application = brimshade::application(++m_latestPid, u"Another"_s, {});
         for (const ItemOfAnother &item : items) {
-            ExtraDescription extra;
-            extra.role = u"AXMenuBarItem"_s;
-            extra.identifier = item.identifier;
-            extra.actions = item.actions;
-            extra.menu = item.menu;
-            application.extras->push_back(extra);
+            application.extras->push_back(extra(item.identifier, 30, item.menu));
+            application.extras->back().actions = item.actions;
         }
         m_launched[application.pid] = application;
         m_desktop.launch({.description = application});
@@ -77,13 +56,12 @@ public:
         m_desktop.change(pid, {.description = m_launched[pid]});
     }
     void setTrusted(bool trusted) override { m_desktop.setTrusted(trusted); }
-    void changeScreens() override { m_desktop.setScreens({{u"External"_s, QRectF(0, 0, 1920, 1080), 24, 0, {}}}); }
+    void changeScreens() override { m_desktop.setScreens({plainScreen({0, 0, 1920, 1080})}); }
 
 private:
     VirtualDispatch m_dispatch;
-    NoSymbols m_symbols;
-    Desktop m_desktop{{.dispatch = m_dispatch, .symbols = m_symbols, .defaults = nullptr, .loginItems = nullptr},
-                      notchedDesktop()};
+    FakeSymbols m_symbols;
+    Desktop m_desktop{{m_dispatch, m_symbols, nullptr, nullptr}, notchedDesktop({})};
     std::map<int, ApplicationDescription> m_launched;
     int m_latestPid = 100;
 };

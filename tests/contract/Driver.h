@@ -70,4 +70,18 @@ protected:
     platform::Platform platform = driver->platform();
 };
 
+std::unique_ptr<Driver> makeDesktopDriver(); // the virtual desktop, in virtual time
+
+// Every implementation of the platform that can be driven here.
+inline auto implementations()
+{
+    return testing::Values(DriverFactory(makeDesktopDriver));
+}
+
+inline std::string implementationName(const testing::TestParamInfo<DriverFactory> &implementation)
+{
+    static constexpr const char *kNames[] = {"Desktop"};
+    return kNames[implementation.index];
+}
+
 } // namespace brimshade::contract

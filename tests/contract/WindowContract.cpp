@@ -1,4 +1,4 @@
-#include "Implementations.h"
+#include "Driver.h"
 
 using namespace brimshade::platform;
 using namespace Qt::StringLiterals;

@@ -1,32 +1,12 @@
 #include "Brimshade.h"
 
-#include "desktop/core/Inspection.h"
 #include "desktop/core/MenuBar.h"
-#include "desktop/core/MenuHost.h"
 #include "desktop/services/LogWriter.h"
-#include "platform/LoginItems.h"
-#include "platform/UserDefaults.h"
 #include "windows/flow/OnboardingFlow.h"
 
 #include <algorithm>
 
 namespace brimshade::features {
-
-namespace {
-
-class Block : public platform::ImageSource {
-public:
-    void draw(QPainter &painter, const QRectF &rect) const override { painter.fillRect(rect, Qt::black); }
-    QImage bitmap() const override { return {}; }
-};
-
-} // namespace
-
-platform::Image Brimshade::Symbols::symbolImage(const QString &, const QString &,
-                                                const platform::SymbolConfiguration &configuration)
-{
-    return {std::make_shared<Block>(), {configuration.pointSize, configuration.pointSize}, true};
-}
 
 Brimshade::Brimshade(const desktop::DesktopDescription &description)
     : m_desktop(std::make_unique<desktop::Desktop>(desktop::Desktop::Services{m_dispatch, m_symbols, nullptr, nullptr},
@@ -57,21 +37,6 @@ void Brimshade::click(QPointF at, desktop::MouseButton button)
     m_dispatch.runDue();
 }
 
-void Brimshade::clickStatusItem()
-{
-    click(symbol(), desktop::MouseButton::left);
-}
-
-void Brimshade::rightClickStatusItem()
-{
-    click(symbol(), desktop::MouseButton::right);
-}
-
-void Brimshade::clickElsewhere()
-{
-    click(kEmptySpot, desktop::MouseButton::left);
-}
-
 void Brimshade::open()
 {
     clickStatusItem();
@@ -91,28 +56,16 @@ void Brimshade::type(const QString &text)
         press(0, character);
 }
 
-void Brimshade::pressShortcut()
+void Brimshade::move(const QString &name, bool hide)
 {
-    press(49, u" "_s, platform::kControlFlag | platform::kOptionFlag);
+    model().setDividerEnabled(true);
+    model().onSetHidden(item(name), hide);
+    m_dispatch.runDue();
 }
 
 void Brimshade::chooseFromMenu(const QString &title)
 {
     ASSERT_TRUE(m_desktop->menus().choose(title)) << title.toStdString();
-    m_dispatch.runDue();
-}
-
-void Brimshade::hide(const QString &name)
-{
-    model().setDividerEnabled(true);
-    model().onSetHidden(item(name), true);
-    m_dispatch.runDue();
-}
-
-void Brimshade::show(const QString &name)
-{
-    model().setDividerEnabled(true);
-    model().onSetHidden(item(name), false);
     m_dispatch.runDue();
 }
 
@@ -132,11 +85,6 @@ void Brimshade::finishSetup(const QHash<QString, bool> &hiddenByName)
     m_dispatch.runDue();
 }
 
-void Brimshade::vanish()
-{
-    m_delegate.reset();
-}
-
 const menubar::MenuExtra &Brimshade::item(const QString &name)
 {
     const auto &extras = model().extras();
@@ -144,11 +92,6 @@ const menubar::MenuExtra &Brimshade::item(const QString &name)
     if (found == extras.end())
         qFatal("no item is named %s", qPrintable(name));
     return *found;
-}
-
-bool Brimshade::isOnScreen(const QString &window) const
-{
-    return frameOf(window).has_value();
 }
 
 bool Brimshade::hasKeys(const QString &window) const
@@ -182,7 +125,7 @@ QPointF Brimshade::symbol() const
     return {platform::maxX(item) - 14, platform::midY(item)};
 }
 
-QStringList Brimshade::bar() const
+QString Brimshade::bar() const
 {
     QStringList names;
     for (const desktop::BarItem &item : m_desktop->menuBar().items()) {
@@ -191,10 +134,10 @@ QStringList Brimshade::bar() const
         else if (!item.identifier.startsWith("com.example"_L1))
             names.append(item.identifier.section(u'.', 0, 0));
     }
-    return names;
+    return names.join(u' ');
 }
 
-QStringList Brimshade::hiddenItems()
+QString Brimshade::hiddenItems()
 {
     m_delegate->refresh();
     m_dispatch.runDue();
@@ -203,7 +146,7 @@ QStringList Brimshade::hiddenItems()
         if (extra.isHidden)
             names.append(extra.name);
     }
-    return names;
+    return names.join(u' ');
 }
 
 QStringList Brimshade::log()

@@ -4,12 +4,14 @@
 #include "controls/Divider.h"
 #include "desktop/core/Desktop.h"
 #include "desktop/core/InputRouter.h"
+#include "desktop/core/Inspection.h"
+#include "desktop/core/MenuHost.h"
 #include "desktop/core/WindowStack.h"
 #include "desktop/time/VirtualDispatch.h"
 #include "menubar/MenuExtra.h"
 #include "model/NotchModel.h"
 #include "platform/Application.h"
-#include "platform/Symbol.h"
+#include "support/FakeSystem.h"
 
 #include <QStringList>
 #include <gtest/gtest.h>
@@ -36,19 +38,19 @@ public:
     void wait(double seconds) { m_dispatch.advance(seconds); }
     void movePointer(QPointF to);
     void click(QPointF at, desktop::MouseButton button);
-    void clickStatusItem();
-    void rightClickStatusItem();
-    void clickElsewhere();
+    void clickStatusItem() { click(symbol(), desktop::MouseButton::left); }
+    void rightClickStatusItem() { click(symbol(), desktop::MouseButton::right); }
+    void clickElsewhere() { click(kEmptySpot, desktop::MouseButton::left); }
     void open(); // with a click, until the views are open and the list is there
     void press(int keyCode, const QString &characters = {}, std::uint64_t flags = 0);
     void type(const QString &text);
-    void pressShortcut(); // ⌃⌥Space
+    void pressShortcut() { press(49, u" "_s, platform::kControlFlag | platform::kOptionFlag); } // ⌃⌥Space
     void chooseFromMenu(const QString &title);
-    // As a tile's menu does.
-    void hide(const QString &name);
-    void show(const QString &name);
+    void move(const QString &name, bool hide); // as a tile's menu does
+    void hide(const QString &name) { move(name, true); }
+    void show(const QString &name) { move(name, false); }
     void finishSetup(const QHash<QString, bool> &hiddenByName);
-    void vanish(); // the coordinator goes, whatever is under way
+    void vanish() { m_delegate.reset(); } // the coordinator goes, whatever is under way
 
     model::NotchModel &model() { return m_delegate->model(); }
     app::AppDelegate &delegate() { return *m_delegate; }
@@ -56,13 +58,13 @@ public:
     const controls::Divider &divider() { return *m_delegate->divider(); }
     const menubar::MenuExtra &item(const QString &name); // of the last scan
 
-    bool isOnScreen(const QString &window) const;
+    bool isOnScreen(const QString &window) const { return frameOf(window).has_value(); }
     bool hasKeys(const QString &window) const;
     std::optional<QRectF> frameOf(const QString &window) const; // screen space; absent while it is not on screen
     int windowCount(const QString &name) const;
     QRectF statusItem() const;
-    QStringList bar() const; // left to right, without the system's items; Brimshade's own is "|"
-    QStringList hiddenItems(); // as a fresh scan lists them
+    QString bar() const; // left to right, without the system's items; Brimshade's own is "|"
+    QString hiddenItems(); // as a fresh scan lists them
     int dragCount(); // since last asked
     QStringList pressedItems(); // since last asked
     QStringList log(); // since last asked
@@ -70,14 +72,8 @@ public:
 private:
     QPointF symbol() const; // at the right end of the status item, where one clicks it
 
-    class Symbols : public platform::Symbols {
-    public:
-        platform::Image symbolImage(const QString &name, const QString &description,
-                                    const platform::SymbolConfiguration &configuration) override;
-    };
-
     desktop::VirtualDispatch m_dispatch;
-    Symbols m_symbols;
+    FakeSymbols m_symbols;
     std::unique_ptr<desktop::Desktop> m_desktop;
     std::shared_ptr<app::AppDelegate> m_delegate;
 };

@@ -1,5 +1,4 @@
 #include "Brimshade.h"
-#include "platform/UserDefaults.h"
 
 namespace brimshade::features {
 
@@ -32,10 +31,10 @@ TEST(BulkMove, BringsEveryItemWhereItWasChosenToBeAndThenOpensThePanel)
     brimshade.wait(kLong);
     // Everything left of the icon is tucked away by the divider alone: Vault has to be brought back.
     EXPECT_EQ(brimshade.model().movingID(), QString());
-    EXPECT_EQ(brimshade.bar(), QStringList({u"quill"_s, u"relay"_s, u"|"_s, u"vault"_s}));
+    EXPECT_EQ(brimshade.bar(), u"quill relay | vault"_s);
     EXPECT_TRUE(brimshade.delegate().shown());
     EXPECT_EQ(brimshade.model().message(), QString());
-    EXPECT_EQ(brimshade.hiddenItems(), QStringList({u"Quill"_s, u"Relay"_s}));
+    EXPECT_EQ(brimshade.hiddenItems(), u"Quill Relay"_s);
 }
 
 TEST(BulkMove, WaitsBeforeItBeginsAndBetweenItems)
@@ -63,7 +62,7 @@ TEST(BulkMove, ShowingAloneDoesNotSwitchTheDividerOn)
     EXPECT_FALSE(brimshade.model().dividerEnabled());
     brimshade.wait(kLong);
     EXPECT_FALSE(brimshade.model().dividerEnabled());
-    EXPECT_EQ(brimshade.bar().last(), u"lost"_s);
+    EXPECT_TRUE(brimshade.bar().endsWith(u" lost"_s));
 }
 
 TEST(BulkMove, GathersWhatFailedInOrderOfTheMessages)

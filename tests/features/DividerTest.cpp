@@ -32,7 +32,7 @@ TEST(Divider, ReachesFromItsPlaceToTheNotch)
     Brimshade brimshade(dividedDesktop());
     EXPECT_EQ(brimshade.statusItem(), QRectF(879, 0, 453, 37));
     EXPECT_EQ(brimshade.divider().anchor(), 1332);
-    EXPECT_EQ(brimshade.hiddenItems(), QStringList({u"Quill"_s, u"Vault"_s, u"Relay"_s}));
+    EXPECT_EQ(brimshade.hiddenItems(), u"Quill Vault Relay"_s);
 }
 
 TEST(Divider, GrowsAsFarAsRoomAndReserveAllow)
@@ -54,7 +54,7 @@ TEST(Divider, GrowsAsFarAsRoomAndReserveAllow)
 TEST(Divider, StaysSmallWithoutANotch)
 {
     auto desktop = dividedDesktop();
-    desktop.screens = {plainScreen(u"Desk"_s, {0, 0, 1512, 982})};
+    desktop.screens = {plainScreen({0, 0, 1512, 982}, u"Desk"_s)};
     Brimshade brimshade(desktop);
     EXPECT_EQ(brimshade.statusItem().width(), 28);
     brimshade.desktop().setScreens({notchedScreen()});
@@ -113,7 +113,7 @@ TEST(Divider, IsLeftAloneByScansAndByOtherSettings)
 TEST(Divider, GivesWayInFiveSteps)
 {
     auto desktop = dividedDesktop();
-    desktop.applications[0] = withButton(systemAgent(), {1400, 0, 20, 37});
+    desktop.applications[0] = agentWithButton({1400, 0, 20, 37});
     Brimshade brimshade(desktop);
     brimshade.desktop().setScreens({notchedScreen()}); // begins anew
     brimshade.wait(0);
@@ -139,7 +139,7 @@ TEST(Divider, GivesWayOnlyToAButtonOfItsRowAtItsRightEdge)
          }) {
         SCOPED_TRACE(name);
         auto desktop = dividedDesktop();
-        desktop.applications[0] = withButton(systemAgent(), button);
+        desktop.applications[0] = agentWithButton(button);
         Brimshade brimshade(desktop); // looked once, at 0.7
         EXPECT_EQ(brimshade.divider().slack(), slack);
     }
@@ -148,7 +148,7 @@ TEST(Divider, GivesWayOnlyToAButtonOfItsRowAtItsRightEdge)
 TEST(Divider, GivesNoWayOnceItHasCollapsed)
 {
     auto desktop = dividedDesktop();
-    desktop.applications[0] = withButton(systemAgent(), {1400, 0, 20, 37});
+    desktop.applications[0] = agentWithButton({1400, 0, 20, 37});
     Brimshade brimshade(desktop);
     brimshade.wait(5);
     brimshade.desktop().launch({application(900, u"Late"_s)});

@@ -1,7 +1,5 @@
 #include "Brimshade.h"
-#include "desktop/core/Inspection.h"
 #include "platform/StatusBar.h"
-#include "platform/UserDefaults.h"
 
 namespace brimshade::features {
 
@@ -42,10 +40,8 @@ TEST(Launch, FirstOneStoresItsPlaceAndShowsTheSetupWindow)
 
 TEST(Launch, KeepsThePlaceTheUserChose)
 {
-    desktop::DesktopDescription desktop = notchedDesktop();
-    desktop.defaults.insert(kPosition, 240.0); // left of the margin, the system's items, Relay and Vault
-    Brimshade brimshade(desktop);
-    EXPECT_EQ(brimshade.bar(), QStringList({u"quill"_s, u"|"_s, u"vault"_s, u"relay"_s}));
+    Brimshade brimshade(notchedDesktop({{kPosition, 240.0}})); // left of the margin, the system's items, Relay and Vault
+    EXPECT_EQ(brimshade.bar(), u"quill | vault relay"_s);
     EXPECT_EQ(brimshade.desktop().platform().userDefaults.objectForKey(kPosition).toDouble(), 240);
 }
 

@@ -56,7 +56,7 @@ TEST(Panel, ClosesOnEveryWayOutAndLeavesTheScreenAfterItsAnimation)
         {"the setup guide", [](Brimshade &b) { b.model().onShowOnboarding(); }},
         {"new screens",
          [](Brimshade &b) {
-             b.desktop().setScreens({notchedScreen(), plainScreen(u"Side"_s, {1512, 0, 1920, 1080})});
+             b.desktop().setScreens({notchedScreen(), plainScreen({1512, 0, 1920, 1080}, u"Side"_s)});
              b.wait(0);
          }},
     };
@@ -162,8 +162,8 @@ TEST(Panel, ShowsTheOldListBehindTheCardWhenThePermissionIsTakenAway)
 
 TEST(Panel, OpensOnTheScreenWithTheNotchElseUnderThePointer)
 {
-    const auto primary = plainScreen(u"Desk"_s, {0, 0, 1920, 1080});
-    const auto side = plainScreen(u"Side"_s, {1920, 100, 1280, 800});
+    const auto primary = plainScreen({0, 0, 1920, 1080}, u"Desk"_s);
+    const auto side = plainScreen({1920, 100, 1280, 800}, u"Side"_s);
     Brimshade brimshade;
     brimshade.desktop().setScreens({primary, side});
     brimshade.model().setShortcut(model::Shortcut::controlOptionSpace);

@@ -1,5 +1,4 @@
 #include "Brimshade.h"
-#include "desktop/core/MenuHost.h"
 
 namespace brimshade::features {
 

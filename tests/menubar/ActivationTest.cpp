@@ -1,5 +1,4 @@
 #include "MenuBarContext.h"
-#include "desktop/core/Inspection.h"
 #include "desktop/services/LogWriter.h"
 
 #include <gtest/gtest.h>
@@ -50,10 +49,10 @@ QStringList errors(MenuBarContext &bar)
 TEST(Activation, PressesOrElseShowsTheMenuAndLogsWhatFailed)
 {
     for (const PressCase &each : kCases) {
-        ExtraDescription extra = item(u"x"_s);
-        extra.actions = each.actions;
-        extra.pressError = each.pressError;
-        MenuBarContext bar(notchedDesktop({application(1, u"Relay"_s, {extra})}));
+        ExtraDescription item = extra(u"x"_s);
+        item.actions = each.actions;
+        item.pressError = each.pressError;
+        MenuBarContext bar({application(1, u"Relay"_s, {item})});
         bar.access->activate(bar.found(u"x"_s));
         EXPECT_TRUE(attempts(bar).empty()) << "pressed on the calling thread";
         bar.dispatch.runDue();
@@ -64,7 +63,7 @@ TEST(Activation, PressesOrElseShowsTheMenuAndLogsWhatFailed)
 
 TEST(Activation, OfAnApplicationThatHasQuitIsLogged)
 {
-    MenuBarContext bar(notchedDesktop({application(1, u"Relay"_s, {item(u"x"_s)})}));
+    MenuBarContext bar({application(1, u"Relay"_s, {extra(u"x"_s)})});
     const MenuExtra extra = bar.found(u"x"_s);
     bar.desktop.quit(1);
     bar.access->activate(extra);
@@ -74,10 +73,10 @@ TEST(Activation, OfAnApplicationThatHasQuitIsLogged)
 
 TEST(Activation, WaitsHalfASecondForAnApplicationThatHangs)
 {
-    MenuBarContext bar(notchedDesktop({application(1, u"Relay"_s, {item(u"x"_s)})}));
+    MenuBarContext bar({application(1, u"Relay"_s, {extra(u"x"_s)})});
     const MenuExtra extra = bar.found(u"x"_s);
     desktop::ApplicationSpec spec;
-    spec.description = hung(application(1, u"Relay"_s, {item(u"x"_s)}));
+    spec.description = hung(application(1, u"Relay"_s, {extra(u"x"_s)}));
     ASSERT_TRUE(bar.desktop.change(1, spec));
     EXPECT_DOUBLE_EQ(bar.onScanQueue([&] { bar.access->press(extra.element, extra); }), 0.5);
     EXPECT_TRUE(errors(bar).isEmpty());

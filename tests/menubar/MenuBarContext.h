@@ -1,36 +1,29 @@
 #pragma once
 #include "desktop/core/Desktop.h"
+#include "desktop/core/Inspection.h"
 #include "desktop/time/VirtualDispatch.h"
 #include "menubar/MenuBarAccess.h"
-#include "platform/Symbol.h"
-
-#include <functional>
-#include <memory>
+#include "platform/Screens.h"
+#include "support/Descriptions.h"
+#include "support/FakeSystem.h"
 
 namespace brimshade::menubar::tests {
 
-using namespace Qt::StringLiterals;
 using desktop::ApplicationDescription;
 using desktop::ExtraDescription;
-
-// A movable item, laid out by the bar.
-ExtraDescription item(const QString &identifier, double width = 30);
-ExtraDescription itemAt(const QString &identifier, const QRectF &frame);
-ExtraDescription group(std::vector<ExtraDescription> children);
-ExtraDescription button(const QRectF &frame);
-
-ApplicationDescription application(int pid, const QString &name, std::vector<ExtraDescription> extras);
-ApplicationDescription systemAgent(std::vector<ExtraDescription> extras);
-ApplicationDescription hung(ApplicationDescription application);
-
-// 1512 × 982 points, a bar of 37, a notch from 663 to 849.
-desktop::DesktopDescription notchedDesktop(std::vector<ApplicationDescription> applications);
 
 // A desktop in virtual time with a scan queue, and the shortest way to what tests ask.
 class MenuBarContext {
 public:
-    explicit MenuBarContext(const desktop::DesktopDescription &description);
-    ~MenuBarContext();
+    explicit MenuBarContext(std::vector<ApplicationDescription> applications)
+        : MenuBarContext(notchedDesktop(std::move(applications)))
+    {
+    }
+    explicit MenuBarContext(const desktop::DesktopDescription &description)
+        : desktop({dispatch, m_symbols, nullptr, nullptr}, description), platform(desktop.platform()),
+          access(std::make_shared<MenuBarAccess>(platform))
+    {
+    }
 
     // Runs work on the scan queue and answers how many seconds it took there.
     double onScanQueue(const platform::Work &work);
@@ -40,8 +33,7 @@ public:
     MenuExtra found(const QString &identifier); // by a scan; fails the test when there is none
 
 private:
-    class NoSymbols;
-    std::unique_ptr<NoSymbols> m_symbols;
+    FakeSymbols m_symbols;
     double m_seconds = 0;
 
 public:
@@ -52,6 +44,5 @@ public:
 };
 
 QStringList ids(const ExtraList &extras);
-QStringList names(const ExtraList &extras);
 
 } // namespace brimshade::menubar::tests

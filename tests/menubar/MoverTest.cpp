@@ -1,9 +1,7 @@
 #include "MenuBarContext.h"
 #include "desktop/core/InputRouter.h"
-#include "desktop/core/Inspection.h"
 #include "desktop/core/MenuBar.h"
 #include "menubar/MenuBarMover.h"
-#include "platform/Screens.h"
 #include "platform/StatusBar.h"
 
 #include <gtest/gtest.h>
@@ -50,8 +48,8 @@ private:
 desktop::DesktopDescription someBar()
 {
     auto description = notchedDesktop(
-        {systemAgent({item(u"x.clock"_s, 132)}), application(1, u"Right"_s, {item(u"right"_s, 40)}),
-         application(2, u"Near"_s, {item(u"near"_s, 40)}), application(3, u"Far"_s, {item(u"far"_s, 16)})});
+        {systemAgent({extra(u"x.clock"_s, 132)}), application(1, u"Right"_s, {extra(u"right"_s, 40)}),
+         application(2, u"Near"_s, {extra(u"near"_s, 40)}), application(3, u"Far"_s, {extra(u"far"_s, 16)})});
     description.defaults.insert(QString::fromLatin1(kPositionKey), 8 + 132 + 40);
     description.pointer = kPointer;
     return description;
@@ -153,7 +151,7 @@ TEST(Mover, SaysWhyAMoveFailedAndLetsTheDividerGrowAgain)
 TEST(Mover, DoesNotNeedANeighbour)
 {
     auto description = someBar();
-    description.applications = {application(1, u"Right"_s, {item(u"right"_s)})};
+    description.applications = {application(1, u"Right"_s, {extra(u"right"_s)})};
     description.defaults.insert(QString::fromLatin1(kPositionKey), 8 + 30);
     MoverContext bar(description);
     ASSERT_EQ(bar.order(), (QStringList{u"|"_s, u"right"_s}));

@@ -8,11 +8,10 @@ namespace {
 
 using namespace Qt::StringLiterals;
 
-class PanelGeometryTest : public testing::Test {
+class PanelGeometryTest : public testing::Test, protected ModelFixture {
 protected:
-    PanelGeometryTest() { geometry.setSource(&fixture.model); }
+    PanelGeometryTest() { geometry.setSource(&model); }
 
-    ModelFixture fixture;
     PanelGeometry geometry;
 };
 
@@ -29,7 +28,7 @@ TEST_F(PanelGeometryTest, StacksTheSectionsAndTheFooter)
         {27, 0, 10, 10 + 266},
     };
     for (const auto &c : cases) {
-        fixture.model.setExtras(makeExtras(c.hidden, c.visible));
+        model.setExtras(makeExtras(c.hidden, c.visible));
         SCOPED_TRACE(testing::Message() << c.hidden << '+' << c.visible);
         if (c.visible > 0) {
             EXPECT_EQ(geometry.visibleSectionY(), c.visibleY);
@@ -37,14 +36,14 @@ TEST_F(PanelGeometryTest, StacksTheSectionsAndTheFooter)
         EXPECT_EQ(geometry.contentHeight(), c.contentHeight);
         EXPECT_EQ(geometry.viewportHeight(), c.contentHeight);
         EXPECT_EQ(geometry.footerY(), c.contentHeight + 14);
-        EXPECT_EQ(geometry.openSize(), fixture.model.panelSize());
-        EXPECT_EQ(fixture.model.notch().height() + geometry.footerY() + 18 + 4, geometry.openSize().height());
+        EXPECT_EQ(geometry.openSize(), model.panelSize());
+        EXPECT_EQ(model.notch().height() + geometry.footerY() + 18 + 4, geometry.openSize().height());
     }
 }
 
 TEST_F(PanelGeometryTest, ScrollsOnlyWhatDoesNotFit)
 {
-    fixture.model.setExtras(makeExtras(400, 2));
+    model.setExtras(makeExtras(400, 2));
     geometry.setProperty("limit", 600);
     EXPECT_EQ(geometry.openSize().height(), 600);
     EXPECT_EQ(geometry.viewportHeight(), 600 - 32 - 36);
@@ -55,9 +54,9 @@ TEST_F(PanelGeometryTest, ScrollsOnlyWhatDoesNotFit)
 
 TEST_F(PanelGeometryTest, BringsTheSelectedTileIntoViewAndNoFurther)
 {
-    fixture.model.setExtras(makeExtras(400, 30));
+    model.setExtras(makeExtras(400, 30));
     geometry.setProperty("limit", 600);
-    const auto &extras = fixture.model.extras();
+    const auto &extras = model.extras();
     const double view = geometry.viewportHeight();
     const double end = geometry.contentHeight() - view;
     const auto rowTop = [](int row) { return 10 + 24 + row * 84.0; };

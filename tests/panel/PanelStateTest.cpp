@@ -10,16 +10,14 @@ namespace {
 
 using namespace Qt::StringLiterals;
 
-class PanelStateTest : public testing::Test {
+class PanelStateTest : public testing::Test, protected ModelFixture {
 protected:
     PanelStateTest()
     {
-        state.setSource(&fixture.model);
+        state.setSource(&model);
         footer.setState(&state);
     }
 
-    ModelFixture fixture;
-    model::NotchModel &model = fixture.model;
     PanelState state;
     FooterText footer;
 };

@@ -79,14 +79,14 @@ TEST(Panel, AClickBesideTheTabClosesItAndOneOnItDoesNot)
     panel.open();
     panel.scene.click({500, 150 + 100}); // black, between tiles and footer
     panel.scene.click({280, 60});
-    EXPECT_TRUE(panel.system.done.isEmpty()) << panel.system.done.join(u';').toStdString();
+    EXPECT_TRUE(panel.journal.isEmpty()) << panel.journal.join(u';').toStdString();
     panel.scene.click({100, 100});
     panel.scene.click({257, 200}); // beside the body, under the flare
     panel.scene.click({500, 700});
-    EXPECT_EQ(panel.system.done, QStringList({u"dismiss"_s, u"dismiss"_s, u"dismiss"_s}));
-    panel.system.done.clear();
+    EXPECT_EQ(panel.journal, QStringList({u"dismiss"_s, u"dismiss"_s, u"dismiss"_s}));
+    panel.journal.clear();
     panel.scene.click(panel.frame(u"settingsButton"_s).center());
-    EXPECT_EQ(panel.system.done, QStringList{u"settings"_s});
+    EXPECT_EQ(panel.journal, QStringList{u"settings"_s});
 }
 
 TEST(Panel, TheCardAsksForThePermissionAndIsAllThereIs)
@@ -99,7 +99,7 @@ TEST(Panel, TheCardAsksForThePermissionAndIsAllThereIs)
     EXPECT_FALSE(panel.scene.find(u"sections"_s)->isVisible());
     EXPECT_FALSE(panel.scene.find(u"footer"_s)->isVisible());
     panel.scene.click(panel.frame(u"openAccessibilitySettings"_s).center());
-    EXPECT_EQ(panel.system.done,
+    EXPECT_EQ(panel.journal,
               QStringList({u"prompt"_s,
                            u"open x-apple.systempreferences:com.apple.preference.security?"
                            u"Privacy_Accessibility"_s}));

@@ -103,7 +103,7 @@ TEST(Tile, OpensOnAClickAndShowsItsMenuOnARightClick)
     panel.scene.click(centre(u"Relay"_s), Qt::RightButton);
     panel.scene.click(centre(u"Papercut"_s), Qt::RightButton);
     panel.scene.click(centre(panel.tileNames().last()), Qt::RightButton); // pinned
-    EXPECT_EQ(panel.system.done,
+    EXPECT_EQ(panel.journal,
               QStringList({u"select Relay"_s, u"select Relay"_s, u"menu Open,Show in Menu Bar"_s,
                            u"menu Open,Hide from Menu Bar"_s, u"menu Open,-Hide from Menu Bar"_s}));
 }

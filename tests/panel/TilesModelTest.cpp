@@ -33,13 +33,13 @@ TEST(TilesInView, AreTheRowsTouchedAndOneBeyondOnEitherSide)
     }
 }
 
-class TilesModelTest : public testing::Test {
+class TilesModelTest : public testing::Test, protected ModelFixture {
 protected:
     TilesModelTest()
     {
         tiles.setProperty("section", TilesModel::BehindTheNotch);
         tiles.setProperty("viewBottom", 400);
-        tiles.setSource(&fixture.model);
+        tiles.setSource(&model);
     }
 
     QStringList names() const
@@ -55,10 +55,9 @@ protected:
         model::ExtraList extras;
         for (const QString &name : names.split(u' ', Qt::SkipEmptyParts))
             extras.push_back(makeExtra(name, true));
-        fixture.model.setExtras(std::move(extras));
+        model.setExtras(std::move(extras));
     }
 
-    ModelFixture fixture;
     TilesModel tiles;
     QAbstractItemModelTester tester{&tiles, QAbstractItemModelTester::FailureReportingMode::Fatal};
 };
@@ -107,8 +106,8 @@ TEST_F(TilesModelTest, AnyListFollowsAnyOtherEvenWithARepeatedId)
 
 TEST_F(TilesModelTest, ScrollingBringsRowsThatAreNotNew)
 {
-    fixture.model.setExtras(makeExtras(400, 0));
-    const int columns = fixture.model.columns();
+    model.setExtras(makeExtras(400, 0));
+    const int columns = model.columns();
     EXPECT_EQ(tiles.rowCount(), 6 * columns); // 400 points touch five rows; one beyond
     EXPECT_EQ(tiles.index(0).data(TilesModel::IsNewRole), true);
     tiles.setProperty("viewBottom", 400 + 840);

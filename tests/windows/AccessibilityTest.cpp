@@ -12,10 +12,8 @@ namespace {
 using namespace Qt::StringLiterals;
 
 // What an assistive program is told, in reading order.
-class Accessibility : public testing::Test {
+class Accessibility : public testing::Test, protected Context {
 protected:
-    Context context;
-
     void SetUp() override { QAccessible::setActive(true); }
     void TearDown() override { QAccessible::setActive(false); }
 
@@ -39,7 +37,7 @@ protected:
     QList<QAccessibleInterface *> elements()
     {
         QList<QAccessibleInterface *> found;
-        collect(QAccessible::queryAccessibleInterface(context.scene().window()), found);
+        collect(QAccessible::queryAccessibleInterface(scene().window()), found);
         return found;
     }
     // "CheckBox Launch at login" and what else there is to know.
@@ -66,11 +64,11 @@ protected:
 
 TEST_F(Accessibility, TellsTheSettingsInReadingOrder)
 {
-    context.setExtras(someExtras());
-    context.model.setMovingID(u"wifi"_s);
-    context.model.setMessage(u"Relay: no."_s);
-    context.model.setShortcut(model::Shortcut::optionCommandN);
-    context.showSettings();
+    setExtras(someExtras());
+    model.setMovingID(u"wi-fi"_s);
+    model.setMessage(u"Relay: no."_s);
+    model.setShortcut(model::Shortcut::optionCommandN);
+    showSettings();
     EXPECT_EQ(
         joined(told()),
         joined({
@@ -101,20 +99,20 @@ TEST_F(Accessibility, TellsTheSettingsInReadingOrder)
 
 TEST_F(Accessibility, TellsTheEmptyListOfItems)
 {
-    context.showSettings();
+    showSettings();
     EXPECT_TRUE(told().contains(u"StaticText Reading your menu bar…"_s));
-    context.model.setTrusted(false);
+    model.setTrusted(false);
     EXPECT_TRUE(told().contains(u"StaticText Allow Accessibility access to manage your menu bar."_s));
-    context.setExtras(someExtras());
+    setExtras(someExtras());
     EXPECT_FALSE(told().contains(u"StaticText Allow Accessibility access to manage your menu bar."_s));
 }
 
 TEST_F(Accessibility, TellsEachStepOfTheSetupAndNothingOfTheOthers)
 {
     const Language language{QLocale(u"en"_s)};
-    context.model.setTrusted(false);
-    context.setExtras(someExtras());
-    context.showSetup();
+    model.setTrusted(false);
+    setExtras(someExtras());
+    showSetup();
     const QList<QStringList> steps{
         {u"Heading Your whole menu bar, one click away"_s,
          u"StaticText The notch hides menu bar items when there's no room.\nBrimshade opens the notch and shows every one of them."_s,
@@ -143,9 +141,9 @@ TEST_F(Accessibility, TellsEachStepOfTheSetupAndNothingOfTheOthers)
          u"Indicator Step 5 of 5"_s, u"Button Back"_s, u"Button Finish"_s},
     };
     for (int step = 0; step < steps.size(); ++step) {
-        context.goTo(step);
+        goTo(step);
         if (step == 4)
-            context.flow.toggle(u"relay"_s);
+            flow.toggle(u"relay"_s);
         EXPECT_EQ(joined(told()), joined(steps[step])) << step;
     }
 }
@@ -155,7 +153,7 @@ TEST_F(Accessibility, AnnouncesTheNewValueOfASwitch)
 {
     static QStringList announced;
     announced.clear();
-    context.showSettings();
+    showSettings();
     told();
     // Events are made only where the platform says that somebody listens.
     auto *platform = QGuiApplicationPrivate::platformIntegration()->accessibility();
@@ -165,8 +163,8 @@ TEST_F(Accessibility, AnnouncesTheNewValueOfASwitch)
             && static_cast<QAccessibleStateChangeEvent *>(event)->changedStates().checked)
             announced << event->object()->objectName();
     });
-    context.model.setHoverToOpen(true);
-    context.scene().settle();
+    model.setHoverToOpen(true);
+    scene().settle();
     QAccessible::installUpdateHandler(nullptr);
     platform->setActive(false);
     EXPECT_EQ(announced, QStringList{u"hoverSwitch"_s});

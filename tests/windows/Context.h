@@ -1,8 +1,9 @@
 #pragma once
-#include "Fakes.h"
 #include "OffscreenScene.h"
 #include "model/NotchModel.h"
 #include "model/PermissionRequest.h"
+#include "platform/Dispatch.h"
+#include "support/FakeSystem.h"
 #include "windows/flow/OnboardingFlow.h"
 
 #include <QLocale>
@@ -17,17 +18,64 @@ public:
     ~Language();
 };
 
+// One repeating timer at most, and a clock that stands still between calls of pass().
+class FakeDispatch : public platform::Dispatch {
+public:
+    double now() const override { return m_now; }
+    bool isMainThread() const override { return true; }
+    void mainAsync(platform::Work) override { }
+    void mainAfter(double, platform::Work) override { }
+    void mainSync(const platform::Work &work) override { work(); }
+    std::unique_ptr<platform::Timer> scheduleRepeating(double seconds, platform::Work tick) override
+    {
+        m_interval = seconds;
+        m_due = m_now + seconds;
+        m_tick = std::move(tick);
+        return std::make_unique<Handle>(*this);
+    }
+    std::shared_ptr<platform::SerialQueue> makeSerialQueue(const QString &, platform::QualityOfService) override
+    {
+        return {};
+    }
+    void globalAsync(platform::QualityOfService, platform::Work) override { }
+    void sleep(double) override { }
+
+    bool isIdle() const { return !m_tick; }
+    void pass(double seconds)
+    {
+        const double until = m_now + seconds;
+        while (m_tick && m_due <= until) {
+            m_now = m_due;
+            m_due += m_interval;
+            m_tick();
+        }
+        m_now = until;
+    }
+
+private:
+    class Handle : public platform::Timer {
+    public:
+        explicit Handle(FakeDispatch &dispatch) : m_dispatch(dispatch) { }
+        ~Handle() override { invalidate(); }
+        void invalidate() override { m_dispatch.m_tick = nullptr; }
+
+    private:
+        FakeDispatch &m_dispatch;
+    };
+
+    double m_now = 0;
+    double m_interval = 0;
+    double m_due = 0;
+    platform::Work m_tick;
+};
+
 // A model with its flow and, once asked for, one of the two windows, offscreen.
-class Context {
+class Context : public FakeSystem {
 public:
     Context();
     ~Context();
 
-    FakeAccessibility accessibility;
-    FakeWorkspace workspace;
     FakeDispatch dispatch;
-    FakeDefaults defaults;
-    FakeLoginItems loginItems;
     model::NotchModel model{defaults, loginItems};
     model::PermissionRequest permission{accessibility, workspace};
     std::optional<OnboardingFlow::Choices> finished;
@@ -58,6 +106,6 @@ private:
 
 // Relay and Wi-Fi in the menu bar, Ledger hidden, the clock pinned.
 menubar::ExtraList someExtras();
-menubar::MenuExtra extra(const QString &id, const QString &name, bool isHidden = false, bool canMove = true);
+menubar::MenuExtra extra(const QString &name, bool isHidden = false, bool canMove = true); // the id in lower case
 
 } // namespace brimshade::windows

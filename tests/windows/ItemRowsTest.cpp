@@ -1,6 +1,5 @@
 #include "windows/flow/ItemRows.h"
-#include "Fakes.h"
-#include "model/NotchModel.h"
+#include "Context.h"
 
 #include <gtest/gtest.h>
 
@@ -8,32 +7,21 @@ namespace brimshade::windows {
 namespace {
 
 using namespace Qt::StringLiterals;
-using menubar::MenuExtra;
 
-class Rows : public testing::Test {
+class Rows : public testing::Test, protected Context {
 protected:
-    FakeDefaults defaults;
-    FakeLoginItems loginItems;
-    model::NotchModel model{defaults, loginItems};
     ItemRows rows;
     QStringList log;
 
-    void SetUp() override
+    Rows()
     {
-        MenuExtra relay;
-        relay.id = relay.name = relay.detail = u"relay"_s;
-        MenuExtra ledger = relay;
-        ledger.id = u"ledger"_s;
-        ledger.detail = u"balance"_s;
-        ledger.isHidden = true;
-        MenuExtra clock = relay;
-        clock.id = u"clock"_s;
-        clock.symbol = u"clock.fill"_s;
-        clock.canMove = false;
-        model.setExtras({relay, ledger, clock});
+        menubar::ExtraList extras{extra(u"relay"_s), extra(u"ledger"_s, true), extra(u"clock"_s, false, false)};
+        extras[1].detail = u"balance"_s;
+        extras[2].symbol = u"clock.fill"_s;
+        model.setExtras(extras);
         rows.setModel(&model);
         model.onSettingsChanged = [this] { log << (model.dividerEnabled() ? u"divider on"_s : u"divider off"_s); };
-        model.onSetHidden = [this](const MenuExtra &extra, bool hidden) {
+        model.onSetHidden = [this](const menubar::MenuExtra &extra, bool hidden) {
             log << extra.id + (hidden ? u" hide"_s : u" show"_s);
         };
     }

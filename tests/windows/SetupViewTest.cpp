@@ -7,13 +7,11 @@ namespace {
 
 using namespace Qt::StringLiterals;
 
-class SetupView : public testing::Test {
+class SetupView : public testing::Test, protected Context {
 protected:
-    Context context;
-
     QString tip()
     {
-        const QQuickItem *bubble = context.item(u"helpTip"_s);
+        const QQuickItem *bubble = item(u"helpTip"_s);
         for (const QQuickItem *child : bubble->childItems())
             if (bubble->isVisible() && child->property("text").isValid())
                 return child->property("text").toString();
@@ -21,59 +19,59 @@ protected:
     }
     void pointAt(const QQuickItem *item)
     {
-        context.scene().movePointer(context.scene().frameOf(item).center());
-        context.scene().advance(1500);
+        scene().movePointer(scene().frameOf(item).center());
+        scene().advance(1500);
     }
 };
 
 TEST_F(SetupView, LooksForThePermissionOnlyWhileItCanBeSeen)
 {
-    EXPECT_TRUE(context.dispatch.isIdle());
-    context.showSetup();
-    EXPECT_FALSE(context.dispatch.isIdle());
-    context.scene().root()->setVisible(false);
-    EXPECT_TRUE(context.dispatch.isIdle());
-    context.scene().root()->setVisible(true);
-    EXPECT_FALSE(context.dispatch.isIdle());
-    context.showSettings();
-    EXPECT_TRUE(context.dispatch.isIdle());
+    EXPECT_TRUE(dispatch.isIdle());
+    showSetup();
+    EXPECT_FALSE(dispatch.isIdle());
+    scene().root()->setVisible(false);
+    EXPECT_TRUE(dispatch.isIdle());
+    scene().root()->setVisible(true);
+    EXPECT_FALSE(dispatch.isIdle());
+    showSettings();
+    EXPECT_TRUE(dispatch.isIdle());
 }
 
 TEST_F(SetupView, StepsComeFromTheRightAndLeaveToTheLeft)
 {
-    context.showSetup();
+    showSetup();
     const auto left = [this](const QString &name) {
-        return context.scene().frameOf(context.item(name)->parentItem()).left();
+        return scene().frameOf(item(name)->parentItem()).left();
     };
     const double rest = left(u"heroNotch"_s);
-    context.flow.act();
-    context.scene().advance(64);
+    flow.act();
+    scene().advance(64);
     const double leaving = left(u"heroNotch"_s), coming = left(u"accessPill"_s);
     EXPECT_LT(leaving, rest - 1);
     EXPECT_GT(leaving, rest - 30);
     EXPECT_GT(coming, rest + 1);
     EXPECT_LE(coming, rest + 30);
-    context.scene().advance(1500);
+    scene().advance(1500);
     EXPECT_NEAR(left(u"accessPill"_s), rest, 0.1);
-    EXPECT_FALSE(context.item(u"heroNotch"_s)) << "the step that left is gone";
-    context.flow.back();
-    context.scene().advance(64);
+    EXPECT_FALSE(item(u"heroNotch"_s)) << "the step that left is gone";
+    flow.back();
+    scene().advance(64);
     EXPECT_LT(left(u"accessPill"_s), rest) << "going back, too";
     EXPECT_GT(left(u"heroNotch"_s), rest);
 }
 
 TEST_F(SetupView, HeroOpensAndClosesInItsRhythm)
 {
-    context.setExtras(someExtras());
-    context.showSetup();
+    setExtras(someExtras());
+    showSetup();
     struct Case {
         int milliseconds; // since the case before; the view is 100 ms old at the first
         QSizeF size;
     };
     for (const Case &each :
          {Case{480, {130, 26}}, Case{3200, {360, 150}}, Case{580, {130, 26}}, Case{3200, {360, 150}}}) {
-        context.scene().advance(each.milliseconds);
-        const QSizeF size = context.item(u"heroBody"_s)->size();
+        scene().advance(each.milliseconds);
+        const QSizeF size = item(u"heroBody"_s)->size();
         EXPECT_NEAR(size.width(), each.size.width(), 6) << each.milliseconds;
         EXPECT_NEAR(size.height(), each.size.height(), 4) << each.milliseconds;
     }
@@ -81,10 +79,10 @@ TEST_F(SetupView, HeroOpensAndClosesInItsRhythm)
 
 TEST_F(SetupView, TilesGrowUnderThePointerUnlessPinnedAndExplainThemselves)
 {
-    context.setExtras(someExtras());
-    context.showSetup();
-    context.goTo(2);
-    const auto tiles = context.scene().findAll(u"choiceTile"_s);
+    setExtras(someExtras());
+    showSetup();
+    goTo(2);
+    const auto tiles = scene().findAll(u"choiceTile"_s);
     ASSERT_EQ(tiles.size(), 4);
     struct Case {
         int tile;
@@ -102,8 +100,8 @@ TEST_F(SetupView, TilesGrowUnderThePointerUnlessPinnedAndExplainThemselves)
         EXPECT_EQ(tip(), each.tip);
     }
     EXPECT_NEAR(tiles[0]->scale(), 1, 0.002);
-    context.scene().movePointer({5, 5});
-    context.scene().advance(100);
+    scene().movePointer({5, 5});
+    scene().advance(100);
     EXPECT_EQ(tip(), QString());
 }
 
@@ -112,22 +110,22 @@ TEST_F(SetupView, GridHasFiveColumnsAndScrolls)
 {
     menubar::ExtraList many;
     for (int i = 0; i < 43; ++i)
-        many.push_back(extra(u"item-%1"_s.arg(i), u"Item %1"_s.arg(i)));
-    context.setExtras(many);
-    context.showSetup();
-    context.goTo(2);
-    const auto tiles = context.scene().findAll(u"choiceTile"_s);
-    const auto frame = [&](int tile) { return context.scene().frameOf(tiles[tile]); };
+        many.push_back(extra(u"Item %1"_s.arg(i)));
+    setExtras(many);
+    showSetup();
+    goTo(2);
+    const auto tiles = scene().findAll(u"choiceTile"_s);
+    const auto frame = [&](int tile) { return scene().frameOf(tiles[tile]); };
     EXPECT_EQ(frame(0).width(), 96);
     EXPECT_EQ(frame(1).left() - frame(0).right(), 12);
     EXPECT_EQ(frame(4).top(), frame(0).top());
     EXPECT_EQ(frame(5).left(), frame(0).left());
     EXPECT_EQ(frame(5).top() - frame(0).bottom(), 14);
     EXPECT_NEAR(frame(0).left() + frame(4).right(), 640, 0.5) << "centred";
-    context.key(Qt::Key_Backtab, Qt::ShiftModifier); // primary button
-    context.key(Qt::Key_Backtab, Qt::ShiftModifier);
-    context.key(Qt::Key_Backtab, Qt::ShiftModifier); // the last tile
-    EXPECT_LE(frame(42).bottom(), context.scene().frameOf(context.item(u"choiceCounts"_s)).top());
+    key(Qt::Key_Backtab, Qt::ShiftModifier); // primary button
+    key(Qt::Key_Backtab, Qt::ShiftModifier);
+    key(Qt::Key_Backtab, Qt::ShiftModifier); // the last tile
+    EXPECT_LE(frame(42).bottom(), scene().frameOf(item(u"choiceCounts"_s)).top());
 }
 
 } // namespace

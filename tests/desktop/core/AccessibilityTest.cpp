@@ -13,19 +13,12 @@ DesktopDescription difficultDesktop()
 {
     DesktopDescription description = someDesktop();
     auto odd = application(20, {});
-    ExtraDescription group;
-    group.role = u"AXGroup"_s;
-    group.children = {extra(u"grouped"_s)};
-    ExtraDescription button = extra(u"button"_s);
-    button.role = u"AXButton"_s;
-    button.frameKind = ExtraDescription::Frame::fixed;
-    button.frame = QRectF(860, 0, 20, 37);
     ExtraDescription unreadable = extra(u"unreadable"_s);
     unreadable.frameKind = ExtraDescription::Frame::unreadable;
     ExtraDescription refusing = extra(u"refusing"_s);
     refusing.actions = {u"AXShowMenu"_s};
     refusing.pressError = kAXErrorFailure;
-    odd.extras = {group, button, unreadable, refusing};
+    odd.extras = {group({extra(u"grouped"_s)}), button(QRectF(860, 0, 20, 37)), unreadable, refusing};
     auto none = application(21, {});
     none.extras.reset();
     description.applications.insert(description.applications.end(), {odd, none, application(22, {})});
@@ -35,10 +28,6 @@ DesktopDescription difficultDesktop()
 class AccessibilityTest : public World {
 protected:
     AccessibilityTest() : World(difficultDesktop()) { }
-    AXError perform(const AXUIElement &element, const QString &action = u"AXPress"_s)
-    {
-        return accessibility().performAction(element, action);
-    }
     // The seconds that a read of an application takes on another thread, and what it ended with.
     std::pair<double, AXError> readOnWorker(int pid, double timeout)
     {
@@ -126,7 +115,7 @@ TEST_F(AccessibilityTest, AnswersForWhatHappenedWhileARequestWaited)
     AXError pressed = kAXErrorSuccess;
     dispatch.globalAsync(QualityOfService::userInitiated, [&] {
         accessibility().setMessagingTimeout(item, 0.5);
-        pressed = perform(item);
+        pressed = accessibility().performAction(item, u"AXPress"_s);
     });
     dispatch.advance(0.2);
     desktop.quit(11);

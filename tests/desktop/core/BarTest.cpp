@@ -33,29 +33,16 @@ protected:
     }
 };
 
-// One more desktop, for the rows of a table.
-class BarWorld : public BarTest {
-public:
-    using BarTest::barOrder;
-    using BarTest::desktop;
-    using BarTest::drag;
-
-private:
-    void TestBody() override { }
-};
-
 TEST_F(BarTest, OrdersPinnedThenOwnThenOthersAndAddsLaterOnesAtTheLeftEnd)
 {
-    EXPECT_EQ(barOrder(), QStringList({u"b.three"_s, u"b.two"_s, u"a.one"_s, u"com.example.clock"_s}));
+    EXPECT_EQ(barOrder(), u"b.three b.two a.one com.example.clock"_s);
     EXPECT_EQ(barFrame(u"com.example.clock"_s), QRectF(1372, 0, 132, 37));
     EXPECT_EQ(barFrame(u"a.one"_s), QRectF(1342, 0, 30, 37));
 
     const auto own = createOwn();
     desktop.launch({.description = application(13, {extra(u"c.four"_s)})});
     settle();
-    EXPECT_EQ(
-        barOrder(),
-        QStringList({u"c.four"_s, u"b.three"_s, u"b.two"_s, u"a.one"_s, u"BrimshadeButton"_s, u"com.example.clock"_s}));
+    EXPECT_EQ(barOrder(), u"c.four b.three b.two a.one BrimshadeButton com.example.clock"_s);
     desktop.quit(11);
     EXPECT_FALSE(barOrder().contains(u"a.one"_s)) << "a quit application's items are gone at once";
     EXPECT_EQ(barFrame(u"b.two"_s).x(), 1284) << "the others close up when they settle";
@@ -109,62 +96,34 @@ TEST_F(BarTest, PutsItsOwnItemWhereTheSettingsSayAndStoresOnlyADragOfIt)
 TEST_F(BarTest, RearrangesByCommandDragsAndByNothingElse)
 {
     // At first, left to right: three 1282, two 1312, one 1342, clock 1372.
-    const QString before = u"b.three b.two a.one com.example.clock"_s;
+    const QString before = barOrder();
     constexpr auto command = kCGEventFlagMaskCommand;
     struct Case {
         const char *name;
         QPointF from, to;
-        std::uint64_t downFlags, upFlags;
-        int drags;
-        bool accepted;
         QString after;
+        std::uint64_t downFlags = command, upFlags = command;
+        int drags = 3;
+        bool accepted = true;
     };
     const Case cases[] = {
-        {"to the left end",
-         {1357, 10},
-         {1200, 36},
-         command,
-         command,
-         1,
-         true,
-         u"a.one b.three b.two com.example.clock"_s},
-        {"on the middle of another",
-         {1297, 10},
-         {1327, 10},
-         command,
-         command,
-         3,
-         true,
-         u"b.three b.two a.one com.example.clock"_s},
-        {"just right of that middle",
-         {1297, 10},
-         {1327.5, 10},
-         command,
-         command,
-         3,
-         true,
-         u"b.two b.three a.one com.example.clock"_s},
-        {"right of the pinned clock",
-         {1297, 10},
-         {1500, 10},
-         command,
-         command,
-         3,
-         true,
-         u"b.two a.one b.three com.example.clock"_s},
-        {"the pinned clock", {1400, 10}, {1200, 10}, command, command, 3, true, before},
-        {"without a drag", {1357, 10}, {1200, 10}, command, command, 0, true, before},
-        {"pressed without Command", {1357, 10}, {1200, 10}, 0, command, 3, true, before},
-        {"released without Command", {1357, 10}, {1200, 10}, command, 0, 3, true, before},
-        {"dropped below the row", {1357, 10}, {1200, 37}, command, command, 3, true, before},
-        {"refused", {1357, 10}, {1200, 10}, command, command, 3, false, before},
-        {"nothing there", {1000, 10}, {1200, 10}, command, command, 3, true, before},
+        {"the pinned clock", {1400, 10}, {1200, 10}, before},
+        {"without a drag", {1357, 10}, {1200, 10}, before, command, command, 0},
+        {"pressed without Command", {1357, 10}, {1200, 10}, before, 0},
+        {"released without Command", {1357, 10}, {1200, 10}, before, command, 0},
+        {"dropped below the row", {1357, 10}, {1200, 37}, before},
+        {"refused", {1357, 10}, {1200, 10}, before, command, command, 3, false},
+        {"nothing there", {1000, 10}, {1200, 10}, before},
+        {"on the middle of another", {1297, 10}, {1327, 10}, before},
+        {"to the left end", {1357, 10}, {1200, 36}, u"a.one b.three b.two com.example.clock"_s, command, command, 1},
+        // From here on: one 1282, three 1312, two 1342.
+        {"just right of its middle", {1297, 10}, {1327.5, 10}, u"b.three a.one b.two com.example.clock"_s},
+        {"right of the clock", {1297, 10}, {1500, 10}, u"a.one b.two b.three com.example.clock"_s},
     };
     for (const Case &c : cases) {
-        BarWorld test;
-        test.desktop.setMovesAccepted(c.accepted);
-        test.drag(c.from, c.to, c.downFlags, c.upFlags, c.drags);
-        EXPECT_EQ(test.barOrder().join(u' ').toStdString(), c.after.toStdString()) << c.name;
+        desktop.setMovesAccepted(c.accepted);
+        drag(c.from, c.to, c.downFlags, c.upFlags, c.drags);
+        EXPECT_EQ(barOrder().toStdString(), c.after.toStdString()) << c.name;
     }
 }
 

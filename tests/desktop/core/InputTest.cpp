@@ -15,10 +15,6 @@ protected:
         own->button()->setAction(kLeftMouseUpMask | kRightMouseUpMask,
                                  [this] { heard << u"action %1"_s.arg(*platform.application.currentEventType()); });
         settle();
-        listen();
-    }
-    void listen()
-    {
         const EventMask all = kLeftMouseDownMask | kLeftMouseUpMask | kRightMouseDownMask | kKeyDownMask;
         platform.application.addGlobalMonitor(all,
                                               [this](const Event &event) { heard << u"global %1"_s.arg(event.type); });
@@ -27,14 +23,11 @@ protected:
             return event;
         });
     }
-    std::unique_ptr<Window> openWindow(const QString &name, const QRectF &rect, int level = kNormalWindowLevel,
-                                       unsigned style = 0)
+    std::unique_ptr<Window> openWindow(const QRectF &rect, int level = kNormalWindowLevel)
     {
         WindowAttributes attributes;
-        attributes.name = name;
         attributes.contentRect = rect;
         attributes.level = level;
-        attributes.styleMask = style;
         auto window = platform.windows.createWindow(attributes, HostedView());
         window->makeKeyAndOrderFront();
         return window;
@@ -47,7 +40,7 @@ protected:
 
 TEST_F(InputTest, TellsMonitorsOfPressesByWhereTheyLand)
 {
-    const auto window = openWindow(u"w"_s, QRectF(700, 200, 300, 300));
+    const auto window = openWindow(QRectF(700, 200, 300, 300));
     struct Case {
         const char *name;
         QPointF at;
@@ -105,7 +98,7 @@ TEST_F(InputTest, DoesNotTellAMonitorThatWasRemovedMeanwhile)
 
 TEST_F(InputTest, AsksForACommandDragBeforeAnyWindowThatCoversTheBar)
 {
-    const auto panel = openWindow(u"panel"_s, QRectF(256, 262, 1256, 720), kStatusWindowLevel);
+    const auto panel = openWindow(QRectF(256, 262, 1256, 720), kStatusWindowLevel);
     press(kFirstItem);
     EXPECT_EQ(desktop.input().released(MouseButton::left, 0), Target::window);
     press(kFirstItem, MouseButton::left, kCommandFlag);
@@ -117,7 +110,7 @@ TEST_F(InputTest, AsksForACommandDragBeforeAnyWindowThatCoversTheBar)
 
 TEST_F(InputTest, ThePermissionsWindowsStandAboveOursAndAreAnotherApplications)
 {
-    const auto window = openWindow(u"w"_s, QRectF(0, 0, 1512, 900));
+    const auto window = openWindow(QRectF(0, 0, 1512, 900));
     platform.workspace.openURL(u"x-apple.systempreferences:com.apple.preference.security?Privacy_Accessibility"_s);
     EXPECT_TRUE(desktop.permission().isPageOpen());
     EXPECT_FALSE(window->isKeyWindow()) << "another application came to the front";

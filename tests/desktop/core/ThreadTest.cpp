@@ -15,10 +15,9 @@ namespace {
 TEST(DesktopThreads, ReadsAndPostsOnAnyThreadWhileTheDisplayChanges)
 {
     RealDispatch dispatch;
-    NoSymbols symbols;
+    FakeSymbols symbols;
     auto desktop = std::make_unique<Desktop>(
-        Desktop::Services{.dispatch = dispatch, .symbols = symbols, .defaults = nullptr, .loginItems = nullptr},
-        someDesktop());
+        Desktop::Services{dispatch, symbols, nullptr, nullptr}, someDesktop());
     const Platform platform = desktop->platform();
     const auto own = platform.statusBar.createStatusItem(28);
 
@@ -76,11 +75,10 @@ TEST(DesktopThreads, ReadsAndPostsOnAnyThreadWhileTheDisplayChanges)
 TEST(DesktopThreads, LeavesNothingBehindInTheQueue)
 {
     VirtualDispatch dispatch;
-    NoSymbols symbols;
+    FakeSymbols symbols;
     std::shared_ptr<StatusItem> own;
     {
-        Desktop desktop({.dispatch = dispatch, .symbols = symbols, .defaults = nullptr, .loginItems = nullptr},
-                        someDesktop());
+        Desktop desktop({dispatch, symbols, nullptr, nullptr}, someDesktop());
         own = desktop.platform().statusBar.createStatusItem(28);
         desktop.platform().eventServices.post({kCGEventLeftMouseDown, {1400, 10}, kCGEventFlagMaskCommand, 1});
         desktop.platform().accessibility.isProcessTrustedWithOptions(true);

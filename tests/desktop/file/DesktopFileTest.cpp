@@ -202,11 +202,7 @@ TEST(DesktopFileTest, FileFaultsNameTheFile)
     EXPECT_EQ(readDesktopFile(path).error(), path + u": No such file or directory"_s);
     EXPECT_TRUE(readDesktopFile(folder.path()).error().startsWith(folder.path() + u": "_s));
 
-    const auto write = [&](const QByteArray &content) {
-        QFile file(path);
-        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-        file.write(content);
-    };
+    const auto write = [&](const QByteArray &content) { writeFile(path, content); };
     write("{" + QByteArray(kScreens) + "}");
     EXPECT_TRUE(readDesktopFile(path));
     write("{}");

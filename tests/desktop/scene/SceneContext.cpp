@@ -41,23 +41,11 @@ MenuEntry separator(int id)
 DesktopDescription SceneContext::smallDesktop()
 {
     DesktopDescription description;
-    ScreenDescription screen;
-    screen.name = u"Screen"_s;
-    screen.frame = QRectF(0, 0, 1000, kHeight);
-    screen.menuBarHeight = 30;
-    description.screens = {screen};
+    description.screens = {plainScreen({0, 0, 1000, kHeight})};
+    description.screens[0].menuBarHeight = 30;
     description.pointer = QPointF(500, 600);
-    ExtraDescription extra;
-    extra.role = u"AXMenuBarItem"_s;
-    extra.title = u"Relay"_s;
-    extra.identifier = u"relay.main"_s;
-    extra.menu = {u"Open Relay"_s, u"-"_s, u"Quit"_s};
-    extra.actions = {u"AXPress"_s};
-    ApplicationDescription relay;
-    relay.pid = 812;
-    relay.name = u"Relay"_s;
-    relay.extras = std::vector{extra};
-    description.applications = {relay};
+    description.applications = {
+        application(812, u"Relay"_s, {extra(u"relay.main"_s, 30, {u"Open Relay"_s, u"-"_s, u"Quit"_s})})};
     return description;
 }
 
@@ -65,7 +53,7 @@ SceneContext::SceneContext(const DesktopDescription &description, double scale) 
 {
     registerProbes();
     m_desktop = std::make_unique<Desktop>(
-        Desktop::Services{.dispatch = m_clock, .symbols = m_symbols, .defaults = nullptr, .loginItems = nullptr},
+        Desktop::Services{m_clock, m_symbols, nullptr, nullptr},
         description);
     remakeScene();
 }

@@ -51,17 +51,8 @@ TEST(MemoryDefaultsTest, FillLeavesWhatIsStored)
 
 class FileDefaultsTest : public testing::Test {
 protected:
-    QByteArray content() const
-    {
-        QFile file(path);
-        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-    }
-    void write(const QByteArray &bytes) const
-    {
-        QFile file(path);
-        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-        file.write(bytes);
-    }
+    QByteArray content() const { return readFile(path); }
+    void write(const QByteArray &bytes) const { writeFile(path, bytes); }
     FileDefaults::Report report()
     {
         return [this](const QString &message) { messages.append(message); };
@@ -126,8 +117,7 @@ TEST_F(FileDefaultsTest, ADamagedFileIsMovedAsideAndNeverOverAnother)
 TEST_F(FileDefaultsTest, AFailedWriteIsReportedAndTheValueStays)
 {
     path = folder.filePath(u"file/settings.json"_s);
-    QFile inTheWay(folder.filePath(u"file"_s));
-    ASSERT_TRUE(inTheWay.open(QIODevice::WriteOnly));
+    writeFile(folder.filePath(u"file"_s), "in the way");
     {
         FileDefaults defaults(path, report());
         defaults.setBool(true, u"flag"_s);
@@ -153,10 +143,8 @@ TEST_F(FileDefaultsTest, RemovesOnlyWhatADeadProcessLeft)
     const QString alive = path + u".1.new"_s;
     const QString dead = path + u".999999999.new"_s; // above any process number
     const QString foreign = path + u".backup.new"_s;
-    for (const QString &each : {alive, dead, foreign}) {
-        QFile file(each);
-        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-    }
+    for (const QString &each : {alive, dead, foreign})
+        writeFile(each, {});
     const FileDefaults defaults(path, report());
     EXPECT_TRUE(QFile::exists(alive) && QFile::exists(foreign));
     EXPECT_FALSE(QFile::exists(dead));

@@ -4,39 +4,44 @@
 
 namespace brimshade::desktop::tray {
 
-FakeProgram::FakeProgram(const QDBusConnection &connection, const QString &itemPath)
-    : menu{0, {}, {}}, m_connection(connection), m_itemPath(itemPath)
+namespace {
+
+const QString kItemPath = u"/StatusNotifierItem"_s;
+
+}
+
+FakeProgram::FakeProgram(const QDBusConnection &connection) : menu{0, {}, {}}, m_connection(connection)
 {
     registerWireTypes();
-    m_connection.registerVirtualObject(itemPath, this);
-    m_connection.registerVirtualObject(QStringLiteral("/Menu"), this);
+    m_connection.registerVirtualObject(kItemPath, this);
+    m_connection.registerVirtualObject(u"/Menu"_s, this);
 }
 
 QStringList FakeProgram::takeEvents()
 {
-    auto events = m_calls.filter(QStringLiteral("Event "));
+    auto events = m_calls.filter(u"Event "_s);
     m_calls.clear();
     return events;
 }
 
 void FakeProgram::registerItem(const QString &argument)
 {
-    const auto watcher = QStringLiteral("org.kde.StatusNotifierWatcher");
-    auto call = QDBusMessage::createMethodCall(watcher, QStringLiteral("/StatusNotifierWatcher"), watcher,
-                                               QStringLiteral("RegisterStatusNotifierItem"));
+    const auto watcher = u"org.kde.StatusNotifierWatcher"_s;
+    auto call = QDBusMessage::createMethodCall(watcher, u"/StatusNotifierWatcher"_s, watcher,
+                                               u"RegisterStatusNotifierItem"_s);
     call << argument;
     m_connection.send(call);
 }
 
 void FakeProgram::signalItem(const QString &name)
 {
-    m_connection.send(QDBusMessage::createSignal(m_itemPath, QStringLiteral("org.kde.StatusNotifierItem"), name));
+    m_connection.send(QDBusMessage::createSignal(kItemPath, u"org.kde.StatusNotifierItem"_s, name));
 }
 
 void FakeProgram::signalLayout(int parent)
 {
-    auto signal = QDBusMessage::createSignal(QStringLiteral("/Menu"), QStringLiteral("com.canonical.dbusmenu"),
-                                             QStringLiteral("LayoutUpdated"));
+    auto signal = QDBusMessage::createSignal(u"/Menu"_s, u"com.canonical.dbusmenu"_s,
+                                             u"LayoutUpdated"_s);
     signal << 1U << parent;
     m_connection.send(signal);
 }
@@ -54,7 +59,7 @@ bool FakeProgram::handleMessage(const QDBusMessage &message, const QDBusConnecti
     if (silentMethods.contains(message.member()))
         return true;
     if (unknownMethods.contains(message.member()))
-        connection.send(message.createErrorReply(QDBusError::UnknownMethod, QStringLiteral("no such method")));
+        connection.send(message.createErrorReply(QDBusError::UnknownMethod, u"no such method"_s));
     else
         connection.send(message.createReply(answer(message)));
     return true;

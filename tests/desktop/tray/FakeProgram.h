@@ -1,4 +1,5 @@
 #pragma once
+#include "PrivateBus.h"
 #include "WireLayout.h"
 
 #include <QDBusConnection>
@@ -13,8 +14,7 @@ namespace brimshade::desktop::tray {
 class FakeProgram : public QDBusVirtualObject {
     Q_OBJECT
 public:
-    explicit FakeProgram(const QDBusConnection &connection,
-                         const QString &itemPath = QStringLiteral("/StatusNotifierItem"));
+    explicit FakeProgram(const QDBusConnection &connection);
 
     QVariantMap properties; // of the item
     MenuNode menu; // at /Menu; read anew for every answer
@@ -37,8 +37,15 @@ private:
     QVariantList answer(const QDBusMessage &message);
 
     QDBusConnection m_connection;
-    QString m_itemPath;
     QStringList m_calls;
+};
+
+// One such program and a connection of ours, on a bus of their own.
+class FakeProgramTest : public BusTest {
+protected:
+    QDBusConnection m_own = m_bus.connection(u"own"_s);
+    QDBusConnection m_connection = m_bus.connection(u"program"_s);
+    FakeProgram m_program{m_connection};
 };
 
 } // namespace brimshade::desktop::tray

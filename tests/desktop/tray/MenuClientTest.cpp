@@ -1,6 +1,5 @@
 #include "desktop/tray/MenuClient.h"
 #include "FakeProgram.h"
-#include "PrivateBus.h"
 #include "desktop/tray/TrayMenu.h"
 
 #include <QSignalSpy>
@@ -11,7 +10,7 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-class MenuClientTest : public BusTest {
+class MenuClientTest : public FakeProgramTest {
 protected:
     MenuClientTest() { m_program.menu.children = {labelled(1, u"Open"_s), labelled(2, u"Quit"_s)}; }
 
@@ -38,9 +37,6 @@ protected:
         return result;
     }
 
-    QDBusConnection m_own = m_bus.connection(u"own"_s);
-    QDBusConnection m_connection = m_bus.connection(u"program"_s);
-    FakeProgram m_program{m_connection};
     std::unique_ptr<MenuClient> m_client;
     std::unique_ptr<QSignalSpy> m_ready, m_changed;
 };

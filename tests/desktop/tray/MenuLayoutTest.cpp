@@ -31,11 +31,9 @@ MenuNode nested(int depth)
 
 QByteArray png(int edge)
 {
-    QImage image(edge, edge, QImage::Format_ARGB32);
-    image.fill(Qt::red);
     QBuffer buffer;
     buffer.open(QIODevice::WriteOnly);
-    image.save(&buffer, "PNG");
+    filled(edge, edge, Qt::red).save(&buffer, "PNG");
     return buffer.data();
 }
 

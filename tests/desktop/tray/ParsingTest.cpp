@@ -157,11 +157,8 @@ TEST(Icons, AreFoundInABareFolderAndInAThemeBelowIt)
 {
     QTemporaryDir folder;
     QDir(folder.path()).mkpath(u"hicolor/32x32/apps"_s);
-    QImage red(8, 8, QImage::Format_ARGB32), blue(32, 32, QImage::Format_ARGB32);
-    red.fill(Qt::red);
-    blue.fill(Qt::blue);
-    red.save(folder.filePath(u"bare.png"_s));
-    blue.save(folder.filePath(u"hicolor/32x32/apps/deep-symbolic.png"_s));
+    filled(8, 8, Qt::red).save(folder.filePath(u"bare.png"_s));
+    filled(32, 32, Qt::blue).save(folder.filePath(u"hicolor/32x32/apps/deep-symbolic.png"_s));
 
     const IconFinder finder;
     EXPECT_EQ(finder.find(u"bare"_s, folder.path()).bitmap().size(), QSize(8, 8));
@@ -179,11 +176,9 @@ TEST(Icons, WhatIsNoPictureIsNotOpenedForEver)
     QTemporaryDir folder;
     const auto pipe = folder.filePath(u"pipe.png"_s);
     ASSERT_EQ(mkfifo(pipe.toLocal8Bit().constData(), 0600), 0);
-    QFile text(folder.filePath(u"text.png"_s));
-    ASSERT_TRUE(text.open(QIODevice::WriteOnly));
-    text.write("not a picture");
-    text.close();
-    for (const auto &path : {pipe, text.fileName(), folder.path()})
+    const auto text = folder.filePath(u"text.png"_s);
+    writeFile(text, "not a picture");
+    for (const auto &path : {pipe, text, folder.path()})
         EXPECT_TRUE(IconFinder().find(path, {}).isNull()) << path.toStdString();
 }
 
@@ -191,10 +186,8 @@ TEST(Icons, ThePixelsStandInForAnUnknownNameAndTheOverlayLiesOverThem)
 {
     TrayItem item;
     item.icon.name = u"no-theme-has-this"_s;
-    item.icon.pixmap = QImage(16, 16, QImage::Format_ARGB32);
-    item.icon.pixmap.fill(Qt::green);
-    item.overlayIcon.pixmap = QImage(4, 4, QImage::Format_ARGB32);
-    item.overlayIcon.pixmap.fill(Qt::red);
+    item.icon.pixmap = filled(16, 16, Qt::green);
+    item.overlayIcon.pixmap = filled(4, 4, Qt::red);
     const auto image = IconFinder().itemImage(item);
     EXPECT_EQ(image.size(), QSizeF(22, 22));
     EXPECT_EQ(image.bitmap().pixelColor(2, 2), QColor(Qt::green));

@@ -6,8 +6,8 @@ namespace brimshade::desktop::tray {
 
 PrivateBus::PrivateBus()
 {
-    m_daemon.start(QStringLiteral("dbus-daemon"),
-                   {QStringLiteral("--session"), QStringLiteral("--nofork"), QStringLiteral("--print-address=1")});
+    m_daemon.start(u"dbus-daemon"_s,
+                   {u"--session"_s, u"--nofork"_s, u"--print-address=1"_s});
     while (!m_daemon.canReadLine() && m_daemon.waitForReadyRead())
         ;
     m_address = QString::fromLatin1(m_daemon.readLine()).trimmed();
@@ -43,8 +43,8 @@ void BusTest::settle(const QDBusConnection &from, const QDBusConnection &to)
 {
     bool answered = false;
     QObject context;
-    const BusAddress peer{to.baseService(), QStringLiteral("/"), QStringLiteral("org.freedesktop.DBus.Peer")};
-    callAsync(from, peer, QStringLiteral("Ping"), {}, &context, [&](const BusReply &) { answered = true; });
+    const BusAddress peer{to.baseService(), u"/"_s, u"org.freedesktop.DBus.Peer"_s};
+    callAsync(from, peer, u"Ping"_s, {}, &context, [&](const BusReply &) { answered = true; });
     while (!answered)
         QCoreApplication::processEvents(QEventLoop::AllEvents | QEventLoop::WaitForMoreEvents);
 }

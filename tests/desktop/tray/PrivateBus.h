@@ -1,12 +1,10 @@
 #pragma once
 #include "desktop/time/VirtualDispatch.h"
+#include "support/Test.h"
 
-#include <QCoreApplication>
 #include <QDBusConnection>
 #include <QEventLoop>
-#include <QProcess>
 #include <QSet>
-#include <gtest/gtest.h>
 
 namespace brimshade::desktop::tray {
 

@@ -12,14 +12,6 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-void write(const QString &path, const QByteArray &content)
-{
-    QDir().mkpath(QFileInfo(path).path());
-    QFile file(path);
-    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-    file.write(content);
-}
-
 HostedItem item(const QString &id, const QString &title, const QString &path, const QString &owner = u":1.1"_s)
 {
     TrayItem result;
@@ -51,11 +43,11 @@ TEST(DesktopEntries, TellNameIconAndProgram)
 TEST(DesktopEntries, TheFirstFolderOverridesTheLaterOnes)
 {
     QTemporaryDir user, system;
-    write(user.filePath(u"one.desktop"_s), "[Desktop Entry]\nType=Application\nName=Mine\n");
-    write(user.filePath(u"off.desktop"_s), "[Desktop Entry]\nType=Application\nHidden=true\n");
-    write(system.filePath(u"one.desktop"_s), "[Desktop Entry]\nType=Application\nName=Theirs\n");
-    write(system.filePath(u"off.desktop"_s), "[Desktop Entry]\nType=Application\nName=Off\n");
-    write(system.filePath(u"sub/two.desktop"_s), "[Desktop Entry]\nType=Application\nName=Two\n");
+    writeFile(user.filePath(u"one.desktop"_s), "[Desktop Entry]\nType=Application\nName=Mine\n");
+    writeFile(user.filePath(u"off.desktop"_s), "[Desktop Entry]\nType=Application\nHidden=true\n");
+    writeFile(system.filePath(u"one.desktop"_s), "[Desktop Entry]\nType=Application\nName=Theirs\n");
+    writeFile(system.filePath(u"off.desktop"_s), "[Desktop Entry]\nType=Application\nName=Off\n");
+    writeFile(system.filePath(u"sub/two.desktop"_s), "[Desktop Entry]\nType=Application\nName=Two\n");
     const auto entries = readDesktopEntries({user.path(), system.path()}, {});
     ASSERT_EQ(entries.size(), 2);
     EXPECT_EQ(entries[0].name, u"Mine"_s);

@@ -1,5 +1,4 @@
 #include "FakeProgram.h"
-#include "PrivateBus.h"
 #include "desktop/tray/ItemRegistry.h"
 
 #include <QSignalSpy>
