@@ -2,13 +2,7 @@
 #include "model/NotchModel.h"
 #include "support/FakeSystem.h"
 
-#include <gtest/gtest.h>
-
 namespace brimshade::app::tests {
-
-using namespace Qt::StringLiterals;
-
-namespace {
 
 class Keys : public testing::Test {
 protected:
@@ -34,16 +28,9 @@ protected:
     }
 };
 
-} // namespace
-
 TEST_F(Keys, TypesLettersMarksNumbersPunctuationAndBlanks)
 {
-    struct Case {
-        QString characters;
-        std::uint64_t flags;
-        bool isTaken;
-    };
-    const Case cases[] = {
+    const std::tuple<QString, std::uint64_t, bool> cases[] = {
         {u"a"_s, 0, true},
         {u"A"_s, platform::kShiftFlag, true},
         {u"å"_s, platform::kOptionFlag, true},

@@ -1,10 +1,8 @@
 #include "Driver.h"
 
 using namespace brimshade::platform;
-using namespace Qt::StringLiterals;
 
 namespace brimshade::contract {
-namespace {
 
 class DefaultsContract : public Contract { };
 
@@ -55,5 +53,4 @@ TEST_P(DefaultsContract, TheLoginItemAnswersWithWhatItWasSet)
 
 INSTANTIATE_TEST_SUITE_P(On, DefaultsContract, implementations(), implementationName);
 
-} // namespace
 } // namespace brimshade::contract

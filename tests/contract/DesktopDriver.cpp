@@ -8,11 +8,8 @@
 
 using namespace brimshade::desktop;
 using namespace brimshade::platform;
-using namespace Qt::StringLiterals;
 
 namespace brimshade::contract {
-
-namespace {
 
 class DesktopDriver : public Driver {
 public:
@@ -65,8 +62,6 @@ private:
     std::map<int, ApplicationDescription> m_launched;
     int m_latestPid = 100;
 };
-
-} // namespace
 
 std::unique_ptr<Driver> makeDesktopDriver()
 {

@@ -15,11 +15,6 @@
 #include "platform/WindowServer.h"
 #include "platform/Workspace.h"
 
-#include <QStringList>
-#include <functional>
-#include <gtest/gtest.h>
-#include <memory>
-
 namespace brimshade::contract {
 
 struct ItemOfAnother {

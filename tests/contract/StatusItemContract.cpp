@@ -1,10 +1,8 @@
 #include "Driver.h"
 
 using namespace brimshade::platform;
-using namespace Qt::StringLiterals;
 
 namespace brimshade::contract {
-namespace {
 
 class StatusItemContract : public Contract {
 protected:
@@ -104,5 +102,4 @@ TEST_P(StatusItemContract, LeavesTheBarWhenItIsDestroyed)
 
 INSTANTIATE_TEST_SUITE_P(On, StatusItemContract, implementations(), implementationName);
 
-} // namespace
 } // namespace brimshade::contract

@@ -1,10 +1,8 @@
 #include "Driver.h"
 
 using namespace brimshade::platform;
-using namespace Qt::StringLiterals;
 
 namespace brimshade::contract {
-namespace {
 
 class WindowContract : public Contract { };
 
@@ -144,5 +142,4 @@ TEST_P(WindowContract, PointerIsWhereEventsAndWarpsPutIt)
 
 INSTANTIATE_TEST_SUITE_P(On, WindowContract, implementations(), implementationName);
 
-} // namespace
 } // namespace brimshade::contract

@@ -4,8 +4,6 @@
 #include "desktop/services/LogWriter.h"
 #include "windows/flow/OnboardingFlow.h"
 
-#include <algorithm>
-
 namespace brimshade::features {
 
 Brimshade::Brimshade(const desktop::DesktopDescription &description)

@@ -13,17 +13,12 @@
 #include "platform/Application.h"
 #include "support/FakeSystem.h"
 
-#include <QStringList>
-#include <gtest/gtest.h>
-
 inline void PrintTo(const QString &text, std::ostream *out)
 {
     *out << '"' << text.toStdString() << '"';
 }
 
 namespace brimshade::features {
-
-using namespace Qt::StringLiterals;
 
 inline constexpr QPointF kEmptySpot(100, 800); // of the display, top-left origin: no window of the program is there
 inline constexpr QPointF kOnNotch(756, 10);

@@ -2,11 +2,7 @@
 
 namespace brimshade::features {
 
-namespace {
-
 constexpr double kLong = 200; // more than any bulk move of these desktops takes
-
-} // namespace
 
 TEST(BulkMove, OpensThePanelWhenNothingIsToMove)
 {

@@ -2,8 +2,6 @@
 
 namespace brimshade::features {
 
-namespace {
-
 // The widths that the status item takes from now on, each with the time at which the bar shows it.
 QStringList widthsOver(Brimshade &brimshade, double seconds)
 {
@@ -24,8 +22,6 @@ desktop::DesktopDescription with(desktop::DesktopDescription desktop, double not
     desktop.screens = {notchedScreen(notchUpper)};
     return desktop;
 }
-
-} // namespace
 
 TEST(Divider, ReachesFromItsPlaceToTheNotch)
 {

@@ -2,8 +2,6 @@
 
 namespace brimshade::features {
 
-namespace {
-
 class Hover : public testing::Test {
 protected:
     Brimshade brimshade{notchedDesktop({{u"hoverToOpen"_s, true}})};
@@ -15,8 +13,6 @@ protected:
         ASSERT_TRUE(brimshade.delegate().shown());
     }
 };
-
-} // namespace
 
 TEST_F(Hover, OpensOnceThePointerHasRestedOnTheNotch)
 {

@@ -3,8 +3,6 @@
 
 namespace brimshade::features {
 
-namespace {
-
 const QString kPosition = u"NSStatusItem Preferred Position BrimshadeButton"_s;
 
 desktop::DesktopDescription firstLaunch()
@@ -13,8 +11,6 @@ desktop::DesktopDescription firstLaunch()
     desktop.defaults.clear();
     return desktop;
 }
-
-} // namespace
 
 TEST(Launch, ScansNothingAndOpensNothingOnceSetUp)
 {
@@ -40,7 +36,8 @@ TEST(Launch, FirstOneStoresItsPlaceAndShowsTheSetupWindow)
 
 TEST(Launch, KeepsThePlaceTheUserChose)
 {
-    Brimshade brimshade(notchedDesktop({{kPosition, 240.0}})); // left of the margin, the system's items, Relay and Vault
+    Brimshade brimshade(
+        notchedDesktop({{kPosition, 240.0}})); // left of the margin, the system's items, Relay and Vault
     EXPECT_EQ(brimshade.bar(), u"quill | vault relay"_s);
     EXPECT_EQ(brimshade.desktop().platform().userDefaults.objectForKey(kPosition).toDouble(), 240);
 }

@@ -2,8 +2,6 @@
 
 namespace brimshade::features {
 
-namespace {
-
 constexpr double kMove = 0.35 + 0.45 + 1.49 + 0.4; // from the request to the result
 const QString kHiddenBar =
     u"the menu bar isn't showing on this display (a full-screen app, or the active menu bar is on another screen). "
@@ -16,8 +14,6 @@ protected:
     Move() { brimshade.open(); }
     Brimshade brimshade{dividedDesktop()};
 };
-
-} // namespace
 
 TEST_F(Move, ShowsAnItemAndHidesItAgain)
 {
@@ -78,11 +74,7 @@ TEST_F(Move, LetsAScanWaitAndSeeTheBarAfterIt)
 
 TEST(FailedMove, SaysWhy)
 {
-    struct Case {
-        QString sentence;
-        std::function<void(Brimshade &)> spoil;
-    };
-    const Case cases[] = {
+    const std::tuple<QString, std::function<void(Brimshade &)>> cases[] = {
         {kHiddenBar, [](Brimshade &b) { b.desktop().setMenuBarShowing(false); }},
         {kDidNotMove, [](Brimshade &b) { b.desktop().setMovesAccepted(false); }},
         {kNoRoom,
@@ -90,15 +82,15 @@ TEST(FailedMove, SaysWhy)
              b.desktop().change(401, {agentWithButton({1250, 0, 20, 37})});
          }},
     };
-    for (const Case &wrong : cases) {
-        SCOPED_TRACE(wrong.sentence.toStdString());
+    for (const auto &[sentence, spoil] : cases) {
+        SCOPED_TRACE(sentence.toStdString());
         Brimshade b(dividedDesktop());
         b.open();
-        wrong.spoil(b);
+        spoil(b);
         b.show(u"Vault"_s);
         b.wait(kMove);
         EXPECT_EQ(b.model().movingID(), QString());
-        EXPECT_EQ(b.model().message(), u"Vault: "_s + wrong.sentence);
+        EXPECT_EQ(b.model().message(), u"Vault: "_s + sentence);
         EXPECT_TRUE(b.hasKeys(u"settings"_s));
         b.wait(1);
         EXPECT_TRUE(b.divider().isExpanded());
@@ -126,13 +118,7 @@ TEST_F(Move, LeavesAVisibleSettingsWindowWhereItIsAndBringsAClosedOneBack)
 
 TEST(FailedMove, EndsWhateverHappensInTheMiddleOfIt)
 {
-    struct Fault {
-        const char *name;
-        std::function<void(Brimshade &)> strike;
-        bool leavesNotch;
-        QString sentence; // when the item was to be shown
-    };
-    const Fault faults[] = {
+    const std::tuple<const char *, std::function<void(Brimshade &)>, bool, QString> faults[] = {
         {"the application quits", [](Brimshade &b) { b.desktop().quit(812); }, true, kDidNotMove},
         {"the application hangs",
          [](Brimshade &b) {
@@ -149,21 +135,21 @@ TEST(FailedMove, EndsWhateverHappensInTheMiddleOfIt)
          false,
          {}},
     };
-    for (const Fault &fault : faults) {
+    for (const auto &[name, strike, leavesNotch, sentence] : faults) {
         for (const double moment : {0.2, 0.5, 1.0, 2.0, 2.5}) {
-            SCOPED_TRACE(u"%1 at %2"_s.arg(QLatin1StringView(fault.name)).arg(moment).toStdString());
+            SCOPED_TRACE(u"%1 at %2"_s.arg(QLatin1StringView(name)).arg(moment).toStdString());
             Brimshade b(dividedDesktop());
             b.open();
             b.show(u"Vault"_s);
             b.wait(moment);
-            fault.strike(b);
+            strike(b);
             b.wait(60);
             EXPECT_EQ(b.model().movingID(), QString());
-            if (!fault.sentence.isEmpty() && moment > 0.8) {
-                EXPECT_EQ(b.model().message(), u"Vault: "_s + fault.sentence);
+            if (!sentence.isEmpty() && moment > 0.8) {
+                EXPECT_EQ(b.model().message(), u"Vault: "_s + sentence);
             }
             const QRectF item = b.statusItem(); // measured anew
-            EXPECT_EQ(fault.leavesNotch ? item.left() : item.width(), fault.leavesNotch ? 879 : 28);
+            EXPECT_EQ(leavesNotch ? item.left() : item.width(), leavesNotch ? 879 : 28);
             b.clickStatusItem();
             EXPECT_TRUE(b.delegate().shown());
         }

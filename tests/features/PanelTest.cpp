@@ -2,8 +2,6 @@
 
 namespace brimshade::features {
 
-namespace {
-
 enum Key { returnKey = 36, escape = 53, enter = 76 };
 
 QString nameOfSelection(Brimshade &brimshade)
@@ -11,8 +9,6 @@ QString nameOfSelection(Brimshade &brimshade)
     const menubar::MenuExtra *selected = brimshade.model().selectedMatch();
     return selected ? selected->name : QString();
 }
-
-} // namespace
 
 TEST(Panel, OpensUnderTheNotchWithTheKeysAndTheList)
 {
@@ -39,11 +35,7 @@ TEST(Panel, IsClosedForTheViewsUntilTheNextTurn)
 
 TEST(Panel, ClosesOnEveryWayOutAndLeavesTheScreenAfterItsAnimation)
 {
-    struct WayOut {
-        const char *name;
-        std::function<void(Brimshade &)> take;
-    };
-    const WayOut ways[] = {
+    const std::tuple<const char *, std::function<void(Brimshade &)>> ways[] = {
         {"Escape", [](Brimshade &b) { b.press(escape); }},
         {"a click elsewhere", [](Brimshade &b) { b.clickElsewhere(); }},
         {"a right click elsewhere", [](Brimshade &b) { b.click(kEmptySpot, desktop::MouseButton::right); }},
@@ -60,13 +52,13 @@ TEST(Panel, ClosesOnEveryWayOutAndLeavesTheScreenAfterItsAnimation)
              b.wait(0);
          }},
     };
-    for (const WayOut &way : ways) {
-        SCOPED_TRACE(way.name);
+    for (const auto &[name, take] : ways) {
+        SCOPED_TRACE(name);
         Brimshade brimshade;
         brimshade.model().setShortcut(model::Shortcut::controlOptionSpace);
         brimshade.open();
         brimshade.wait(1);
-        way.take(brimshade);
+        take(brimshade);
         EXPECT_FALSE(brimshade.delegate().shown());
         EXPECT_FALSE(brimshade.model().isOpen());
         brimshade.wait(0.349);

@@ -1,10 +1,7 @@
 #include "MenuBarContext.h"
 #include "desktop/services/LogWriter.h"
 
-#include <gtest/gtest.h>
-
 namespace brimshade::menubar::tests {
-namespace {
 
 using Attempt = std::pair<QString, int>;
 
@@ -82,5 +79,4 @@ TEST(Activation, WaitsHalfASecondForAnApplicationThatHangs)
     EXPECT_TRUE(errors(bar).isEmpty());
 }
 
-} // namespace
 } // namespace brimshade::menubar::tests

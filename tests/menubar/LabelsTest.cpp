@@ -2,12 +2,7 @@
 #include "menubar/Text.h"
 #include "support/FakeSystem.h"
 
-#include <gtest/gtest.h>
-
 namespace brimshade::menubar {
-namespace {
-
-using namespace Qt::StringLiterals;
 
 TEST(Bundle, IsTheOutermostApplicationOfAPath)
 {
@@ -27,11 +22,9 @@ TEST(Bundle, IsTheOutermostApplicationOfAPath)
 TEST(Symbol, IsTheFirstKeywordsOfTheTable)
 {
     const std::pair<QString, QString> cases[] = {
-        {u"com.example.FocusModes"_s, u"moon.fill"_s},
-        {u"com.example.BATTERY"_s, u"battery.75percent"_s},
+        {u"com.example.FocusModes"_s, u"moon.fill"_s}, {u"com.example.BATTERY"_s, u"battery.75percent"_s},
         {u"timemachine.clock"_s, u"clock.fill"_s}, // the earlier row, not the earlier word
-        {u"keyboard.display"_s, u"sun.max.fill"_s},
-        {u"x.other"_s, u"circle.grid.2x2.fill"_s},
+        {u"keyboard.display"_s, u"sun.max.fill"_s},    {u"x.other"_s, u"circle.grid.2x2.fill"_s},
         {QString(), u"circle.grid.2x2.fill"_s},
     };
     for (const auto &[identifier, symbol] : cases)
@@ -94,5 +87,4 @@ TEST(Text, IsOrderedByScalarValues)
     EXPECT_FALSE(isOrderedBefore(u"e\u0301"_s, u"\u00e9"_s) || isOrderedBefore(u"\u00e9"_s, u"e\u0301"_s));
 }
 
-} // namespace
 } // namespace brimshade::menubar

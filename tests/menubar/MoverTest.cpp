@@ -4,10 +4,7 @@
 #include "menubar/MenuBarMover.h"
 #include "platform/StatusBar.h"
 
-#include <gtest/gtest.h>
-
 namespace brimshade::menubar::tests {
-namespace {
 
 using enum MenuBarMover::Failure;
 
@@ -179,5 +176,4 @@ TEST(Mover, OutlivesTheDivider)
     bar.dispatch.runDue();
 }
 
-} // namespace
 } // namespace brimshade::menubar::tests

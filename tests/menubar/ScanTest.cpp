@@ -1,10 +1,7 @@
 #include "MenuBarContext.h"
 #include "platform/Workspace.h"
 
-#include <gtest/gtest.h>
-
 namespace brimshade::menubar::tests {
-namespace {
 
 constexpr QRectF kSomewhere{900, 0, 30, 37};
 
@@ -71,10 +68,7 @@ TEST(Scan, HidesByTheLastButtonMetOverAllApplications)
 
 TEST(Scan, LabelsItemsOfOrdinaryApplications)
 {
-    struct {
-        std::optional<QString> title, description;
-        QString detail;
-    } const cases[] = {
+    const std::tuple<std::optional<QString>, std::optional<QString>, QString> cases[] = {
         {u"  3 new\t"_s, u"ignored"_s, u"3 new"_s},
         {u" \t "_s, u" Mail "_s, u"Mail"_s},
         {{}, u"Mail"_s, u"Mail"_s},
@@ -82,11 +76,11 @@ TEST(Scan, LabelsItemsOfOrdinaryApplications)
         {{}, {}, u"Relay"_s},
         {u"\nA"_s, {}, u"\nA"_s},
     };
-    for (const auto &each : cases) {
-        MenuBarContext bar({application(1, u"Relay"_s, {textItem(each.title, each.description)})});
+    for (const auto &[title, description, detail] : cases) {
+        MenuBarContext bar({application(1, u"Relay"_s, {textItem(title, description)})});
         const MenuExtra extra = bar.found(u"x"_s);
         EXPECT_EQ(extra.name, u"Relay"_s);
-        EXPECT_EQ(extra.detail, each.detail);
+        EXPECT_EQ(extra.detail, detail);
         EXPECT_FALSE(extra.symbol || extra.icon.isNull());
         EXPECT_EQ(extra.icon.size(), QSizeF(128, 128));
         EXPECT_TRUE(extra.canMove);
@@ -95,20 +89,17 @@ TEST(Scan, LabelsItemsOfOrdinaryApplications)
 
 TEST(Scan, LabelsItemsOfTheSystemsAgent)
 {
-    struct {
-        std::optional<QString> title, description;
-        QString name, detail;
-    } const cases[] = {
+    const std::tuple<std::optional<QString>, std::optional<QString>, QString, QString> cases[] = {
         {u"Time"_s, u"Clock"_s, u"Clock"_s, u"Time"_s},
         {{}, u"  "_s, u"  "_s, u"Control Center"_s}, // only an absent or empty description falls back
         {u"Wi-Fi"_s, u""_s, u"System"_s, u"Wi-Fi"_s},
         {{}, {}, u"System"_s, u"Control Center"_s},
     };
-    for (const auto &each : cases) {
-        MenuBarContext bar({systemAgent({textItem(each.title, each.description)})});
+    for (const auto &[title, description, name, detail] : cases) {
+        MenuBarContext bar({systemAgent({textItem(title, description)})});
         const MenuExtra extra = bar.found(u"x"_s);
-        EXPECT_EQ(extra.name, each.name);
-        EXPECT_EQ(extra.detail, each.detail);
+        EXPECT_EQ(extra.name, name);
+        EXPECT_EQ(extra.detail, detail);
         EXPECT_EQ(extra.symbol, u"circle.grid.2x2.fill"_s);
         EXPECT_TRUE(extra.icon.isNull());
         EXPECT_EQ(extra.tint.name(), u"#bfbfbf"_s);
@@ -147,7 +138,8 @@ TEST(Scan, ReadsEachAttributeOnce)
 {
     auto without = application(1, u"One"_s, {});
     without.extras.reset();
-    MenuBarContext bar({without, application(2, u"Two"_s, {extra(u"a"_s), group({extra(u"b"_s)}), button(kSomewhere)})});
+    MenuBarContext bar(
+        {without, application(2, u"Two"_s, {extra(u"a"_s), group({extra(u"b"_s)}), button(kSomewhere)})});
     const auto before = bar.desktop.inspection().requestCount();
     bar.scan();
     // The bars of both; the children of the bar and of the group; four roles; texts and frames of two items; the
@@ -187,5 +179,4 @@ TEST(FirstSystemButton, IsTheFirstDirectlyInTheAgentsBar)
     }
 }
 
-} // namespace
 } // namespace brimshade::menubar::tests

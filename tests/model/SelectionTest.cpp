@@ -1,18 +1,10 @@
 #include "ModelContext.h"
 
-#include <gtest/gtest.h>
-#include <limits>
-
 namespace brimshade::model::tests {
-namespace {
 
 TEST(Selection, StepsThroughHiddenThenVisibleItemsAndStaysInTheList)
 {
-    struct {
-        QString from;
-        int step;
-        QString to;
-    } const cases[] = {
+    const std::tuple<QString, int, QString> cases[] = {
         {u""_s, 1, u"h0"_s},
         {u""_s, -1, u"h0"_s},
         {u""_s, 4, u"v0"_s}, // the first arrow down without a selection
@@ -24,14 +16,14 @@ TEST(Selection, StepsThroughHiddenThenVisibleItemsAndStaysInTheList)
         {u"v1"_s, std::numeric_limits<int>::max(), u"v1"_s},
         {u"h1"_s, std::numeric_limits<int>::min(), u"h0"_s},
     };
-    for (const auto &each : cases) {
+    for (const auto &[from, step, to] : cases) {
         ModelContext context;
         NotchModel &model = context.model();
         model.setExtras(items(3, 2));
-        model.setSelectedID(each.from);
+        model.setSelectedID(from);
         model.setHoveredID(u"h1"_s);
-        model.moveSelection(each.step);
-        EXPECT_EQ(model.selectedID(), each.to) << qPrintable(each.from) << each.step;
+        model.moveSelection(step);
+        EXPECT_EQ(model.selectedID(), to) << qPrintable(from) << step;
         EXPECT_EQ(model.hoveredID(), QString());
     }
 }
@@ -95,5 +87,4 @@ TEST(Selection, ComparesIdsByCanonicalEquivalence)
         EXPECT_FALSE(finds(id, selected)) << qPrintable(id);
 }
 
-} // namespace
 } // namespace brimshade::model::tests

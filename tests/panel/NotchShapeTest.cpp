@@ -1,23 +1,16 @@
 #include "panel/NotchShape.h"
-
-#include <gtest/gtest.h>
+#include "support/Test.h"
 
 namespace brimshade::panel {
-namespace {
 
 TEST(NotchShape, ItsLowerCornersFitTheFrame)
 {
-    const struct {
-        NotchShape shape;
-        QSizeF frame;
-        double radius;
-    } cases[] = {
+    const std::tuple<NotchShape, QSizeF, double> cases[] = {
         {kOpenShape, {488, 200}, 32}, {kClosedShape, {212, 32}, 10}, {kOpenShape, {488, 30}, 14.4},
         {kOpenShape, {60, 200}, 16},  {kOpenShape, {488, 14}, 0},    {kOpenShape, {10, 5}, 0},
     };
-    for (const auto &expected : cases)
-        EXPECT_NEAR(expected.shape.effectiveBottom(expected.frame), expected.radius, 1e-9)
-            << expected.frame.width() << 'x' << expected.frame.height();
+    for (const auto &[shape, frame, radius] : cases)
+        EXPECT_NEAR(shape.effectiveBottom(frame), radius, 1e-9) << frame.width() << 'x' << frame.height();
 }
 
 TEST(NotchShape, RunsFromEdgeToEdgeThroughTheGivenPoints)
@@ -50,5 +43,4 @@ TEST(NotchShape, BothRadiiMoveTogether)
     EXPECT_DOUBLE_EQ(NotchShape::between(kClosedShape, kOpenShape, -2).top, 0) << "an overshoot has no negative radius";
 }
 
-} // namespace
 } // namespace brimshade::panel

@@ -1,14 +1,8 @@
 #include "panel/NotchTab.h"
 #include "OffscreenScene.h"
-
-#include <QPainter>
-#include <cmath>
-#include <gtest/gtest.h>
+#include "support/Test.h"
 
 namespace brimshade::panel {
-namespace {
-
-using namespace Qt::StringLiterals;
 
 class NotchTabTest : public testing::Test {
 protected:
@@ -101,13 +95,10 @@ TEST_F(NotchTabTest, TakesPointsInsideItsOutlineOnly)
 {
     setOpenness(1);
     const QPointF offset = scene.frameOf(tab).topLeft();
-    const struct {
-        QPointF point;
-        bool inside;
-    } cases[] = {{{500, 100}, true}, {{258, 100}, false}, {{271, 286}, false}, {{500, 289}, false}, {{285, 280}, true}};
-    for (const auto &c : cases)
-        EXPECT_EQ(tab->contains(c.point - offset), c.inside) << c.point.x() << ',' << c.point.y();
+    const std::tuple<QPointF, bool> cases[] = {
+        {{500, 100}, true}, {{258, 100}, false}, {{271, 286}, false}, {{500, 289}, false}, {{285, 280}, true}};
+    for (const auto &[point, inside] : cases)
+        EXPECT_EQ(tab->contains(point - offset), inside) << point.x() << ',' << point.y();
 }
 
-} // namespace
 } // namespace brimshade::panel

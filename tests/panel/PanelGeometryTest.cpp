@@ -1,12 +1,7 @@
 #include "panel/PanelGeometry.h"
 #include "PanelScene.h"
 
-#include <gtest/gtest.h>
-
 namespace brimshade::panel {
-namespace {
-
-using namespace Qt::StringLiterals;
 
 class PanelGeometryTest : public testing::Test, protected ModelFixture {
 protected:
@@ -18,24 +13,21 @@ protected:
 // The model's size leaves the footer four points above the lower edge whenever there are tiles.
 TEST_F(PanelGeometryTest, StacksTheSectionsAndTheFooter)
 {
-    const struct {
-        int hidden, visible;
-        double visibleY, contentHeight;
-    } cases[] = {
+    const std::tuple<int, int, double, double> cases[] = {
         {3, 2, 10 + 98 + 14, 10 + 98 + 14 + 98},
         {12, 3, 10 + 182 + 14, 10 + 182 + 14 + 98},
         {0, 5, 10, 10 + 98},
         {27, 0, 10, 10 + 266},
     };
-    for (const auto &c : cases) {
-        model.setExtras(makeExtras(c.hidden, c.visible));
-        SCOPED_TRACE(testing::Message() << c.hidden << '+' << c.visible);
-        if (c.visible > 0) {
-            EXPECT_EQ(geometry.visibleSectionY(), c.visibleY);
+    for (const auto &[hidden, visible, visibleY, contentHeight] : cases) {
+        model.setExtras(makeExtras(hidden, visible));
+        SCOPED_TRACE(testing::Message() << hidden << '+' << visible);
+        if (visible > 0) {
+            EXPECT_EQ(geometry.visibleSectionY(), visibleY);
         }
-        EXPECT_EQ(geometry.contentHeight(), c.contentHeight);
-        EXPECT_EQ(geometry.viewportHeight(), c.contentHeight);
-        EXPECT_EQ(geometry.footerY(), c.contentHeight + 14);
+        EXPECT_EQ(geometry.contentHeight(), contentHeight);
+        EXPECT_EQ(geometry.viewportHeight(), contentHeight);
+        EXPECT_EQ(geometry.footerY(), contentHeight + 14);
         EXPECT_EQ(geometry.openSize(), model.panelSize());
         EXPECT_EQ(model.notch().height() + geometry.footerY() + 18 + 4, geometry.openSize().height());
     }
@@ -69,5 +61,4 @@ TEST_F(PanelGeometryTest, BringsTheSelectedTileIntoViewAndNoFurther)
     EXPECT_EQ(geometry.scrollShowing(u"gone"_s, 1e9), end) << "what went took its room with it";
 }
 
-} // namespace
 } // namespace brimshade::panel

@@ -1,14 +1,11 @@
 #include "PanelScene.h"
 
 #include <QtQml/qqmlextensionplugin.h>
-#include <algorithm>
 
 Q_IMPORT_QML_PLUGIN(Brimshade_UiPlugin)
 Q_IMPORT_QML_PLUGIN(Brimshade_PanelPlugin)
 
 namespace brimshade::panel {
-
-using namespace Qt::StringLiterals;
 
 model::MenuExtra makeExtra(const QString &name, bool isHidden)
 {

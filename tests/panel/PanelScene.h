@@ -5,9 +5,6 @@
 #include "model/TileActions.h"
 #include "support/FakeSystem.h"
 
-#include <QStringList>
-#include <memory>
-
 namespace brimshade::panel {
 
 // An item of an application with an icon.

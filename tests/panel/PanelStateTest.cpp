@@ -3,12 +3,8 @@
 #include "panel/FooterText.h"
 
 #include <QSignalSpy>
-#include <gtest/gtest.h>
 
 namespace brimshade::panel {
-namespace {
-
-using namespace Qt::StringLiterals;
 
 class PanelStateTest : public testing::Test, protected ModelFixture {
 protected:
@@ -26,14 +22,7 @@ TEST_F(PanelStateTest, ShowsTheFirstCaseThatApplies)
 {
     const QString noItems = u"No menu bar items found. If you just allowed Accessibility, quit and reopen Brimshade."_s;
     const QString allFits = u"Nothing is hidden. Everything fits in your menu bar."_s;
-    const struct {
-        bool trusted, scanned;
-        int hidden, visible;
-        bool showVisible;
-        QString query;
-        PanelState::Body body;
-        QString sentence;
-    } cases[] = {
+    const std::tuple<bool, bool, int, int, bool, QString, PanelState::Body, QString> cases[] = {
         {false, true, 3, 2, true, {}, PanelState::Permission, {}},
         {false, false, 0, 0, true, {}, PanelState::Permission, {}},
         {true, false, 0, 0, true, {}, PanelState::Waiting, {}},
@@ -44,17 +33,17 @@ TEST_F(PanelStateTest, ShowsTheFirstCaseThatApplies)
         {true, true, 3, 2, true, u"zz \"<b>"_s, PanelState::Tiles, u"No matches for “zz \"<b>”"_s},
         {true, true, 0, 2, false, u" "_s, PanelState::Tiles, {}},
     };
-    for (const auto &c : cases) {
-        model.setTrusted(c.trusted);
-        model.setScanned(c.scanned);
-        model.setExtras(makeExtras(c.hidden, c.visible));
-        model.setShowVisible(c.showVisible);
-        model.setQuery(c.query);
-        SCOPED_TRACE(testing::Message() << c.hidden << '+' << c.visible << " \"" << qPrintable(c.query) << '"');
-        EXPECT_EQ(state.body(), c.body);
-        EXPECT_EQ(state.sentence(), c.sentence);
+    for (const auto &[trusted, scanned, hidden, visible, showVisible, query, body, sentence] : cases) {
+        model.setTrusted(trusted);
+        model.setScanned(scanned);
+        model.setExtras(makeExtras(hidden, visible));
+        model.setShowVisible(showVisible);
+        model.setQuery(query);
+        SCOPED_TRACE(testing::Message() << hidden << '+' << visible << " \"" << qPrintable(query) << '"');
+        EXPECT_EQ(state.body(), body);
+        EXPECT_EQ(state.sentence(), sentence);
         model.setIsOpen(true);
-        EXPECT_EQ(state.hasHeader(), c.body == PanelState::Tiles);
+        EXPECT_EQ(state.hasHeader(), body == PanelState::Tiles);
         model.setIsOpen(false);
         EXPECT_FALSE(state.hasHeader());
     }
@@ -66,9 +55,7 @@ TEST_F(PanelStateTest, ThePointersTileWinsOverTheSelectedOne)
     model.setExtras(makeExtras(3, 0));
     const QString a = model.extras()[0].id;
     const QString b = model.extras()[1].id;
-    const struct {
-        QString hovered, selected, highlighted, focus;
-    } cases[] = {
+    const std::tuple<QString, QString, QString, QString> cases[] = {
         {{}, {}, {}, {}},
         {a, {}, a, a},
         {{}, b, b, b},
@@ -76,13 +63,13 @@ TEST_F(PanelStateTest, ThePointersTileWinsOverTheSelectedOne)
         {u"gone"_s, b, u"gone"_s, {}},
         {{}, u"gone"_s, u"gone"_s, {}},
     };
-    for (const auto &c : cases) {
-        model.setHoveredID(c.hovered);
-        model.setSelectedID(c.selected);
-        SCOPED_TRACE(qPrintable(c.hovered + u'/' + c.selected));
-        EXPECT_EQ(state.highlightedID(), c.highlighted);
-        EXPECT_EQ(state.focusID(), c.focus);
-        EXPECT_EQ(state.focusText(), c.focus.isEmpty() ? hint : model.extraWithID(c.focus)->detail);
+    for (const auto &[hovered, selected, highlighted, focus] : cases) {
+        model.setHoveredID(hovered);
+        model.setSelectedID(selected);
+        SCOPED_TRACE(qPrintable(hovered + u'/' + selected));
+        EXPECT_EQ(state.highlightedID(), highlighted);
+        EXPECT_EQ(state.focusID(), focus);
+        EXPECT_EQ(state.focusText(), focus.isEmpty() ? hint : model.extraWithID(focus)->detail);
     }
 }
 
@@ -105,5 +92,4 @@ TEST_F(PanelStateTest, OnlyAnotherItemIsAnotherLine)
     EXPECT_EQ(footer.leavingText(), u"Changed"_s);
 }
 
-} // namespace
 } // namespace brimshade::panel

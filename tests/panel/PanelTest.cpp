@@ -3,13 +3,8 @@
 
 #include <QAccessible>
 #include <QAccessibleInterface>
-#include <functional>
-#include <gtest/gtest.h>
 
 namespace brimshade::panel {
-namespace {
-
-using namespace Qt::StringLiterals;
 
 double sprung(double from, double to, ui::SpringParameters spring, double seconds)
 {
@@ -178,5 +173,4 @@ TEST(Panel, SaysEveryTextOnceAndEveryTileAsAButton)
     EXPECT_FALSE(said.contains(u"BEHIND THE NOTCH"_s));
 }
 
-} // namespace
 } // namespace brimshade::panel

@@ -1,12 +1,7 @@
 #include "PanelScene.h"
 #include "ui/Spring.h"
 
-#include <gtest/gtest.h>
-
 namespace brimshade::panel {
-namespace {
-
-using namespace Qt::StringLiterals;
 
 TEST(Tile, CascadesInReadingOrderAndLeavesAllTogether)
 {
@@ -137,5 +132,4 @@ TEST(Tile, CutsALongNameToOneLine)
     EXPECT_LE(name->property("contentWidth").toDouble(), 64);
 }
 
-} // namespace
 } // namespace brimshade::panel

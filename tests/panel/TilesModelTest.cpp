@@ -5,19 +5,12 @@
 #include <QAbstractItemModelTester>
 #include <QRandomGenerator>
 #include <QSignalSpy>
-#include <gtest/gtest.h>
 
 namespace brimshade::panel {
-namespace {
-
-using namespace Qt::StringLiterals;
 
 TEST(TilesInView, AreTheRowsTouchedAndOneBeyondOnEitherSide)
 {
-    const struct {
-        double top, bottom;
-        int columns, count, first, end;
-    } cases[] = {
+    const std::tuple<double, double, int, int, int, int> cases[] = {
         {0, 74, 9, 27, 0, 18},
         {0, 84, 9, 27, 0, 27},
         {0, 0.5, 4, 3, 0, 3},
@@ -27,9 +20,9 @@ TEST(TilesInView, AreTheRowsTouchedAndOneBeyondOnEitherSide)
         {8400, 8484, 9, 10000, 891, 927},
         {0, 500, 4, 0, 0, 0},
     };
-    for (const auto &c : cases) {
-        EXPECT_EQ(tilesInView(c.top, c.bottom, c.columns, c.count), (std::pair{c.first, c.end}))
-            << c.top << ".." << c.bottom << " of " << c.count;
+    for (const auto &[top, bottom, columns, count, first, end] : cases) {
+        EXPECT_EQ(tilesInView(top, bottom, columns, count), (std::pair{first, end}))
+            << top << ".." << bottom << " of " << count;
     }
 }
 
@@ -117,5 +110,4 @@ TEST_F(TilesModelTest, ScrollingBringsRowsThatAreNotNew)
     EXPECT_EQ(tiles.index(tiles.rowCount() - 1).data(TilesModel::IsNewRole), false);
 }
 
-} // namespace
 } // namespace brimshade::panel

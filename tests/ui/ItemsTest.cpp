@@ -1,14 +1,11 @@
 #include "OffscreenScene.h"
+#include "support/Test.h"
 
 #include <QtQml/qqmlextensionplugin.h>
-#include <gtest/gtest.h>
 
 Q_IMPORT_QML_PLUGIN(Brimshade_UiPlugin)
 
 namespace brimshade::ui {
-namespace {
-
-using namespace Qt::StringLiterals;
 
 TEST(Items, ShapesShadowsAndTextOnOneSheet)
 {
@@ -80,5 +77,4 @@ TEST(Items, TheSpinnerTurnsOnlyWhileItIsSeen)
     EXPECT_TRUE(turnedIn(160));
 }
 
-} // namespace
 } // namespace brimshade::ui

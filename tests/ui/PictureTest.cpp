@@ -1,12 +1,8 @@
+#include "support/Test.h"
 #include "ui/Blur.h"
 #include "ui/Squircle.h"
 
-#include <QPainter>
-#include <cmath>
-#include <gtest/gtest.h>
-
 namespace brimshade::ui {
-namespace {
 
 TEST(Squircle, IsAsDeepAsTheCircleAndStaysInTheRectangle)
 {
@@ -62,5 +58,4 @@ TEST(Blur, SpreadsADotLikeAGaussianAndLosesNothing)
     }
 }
 
-} // namespace
 } // namespace brimshade::ui

@@ -1,11 +1,9 @@
 #include "ui/Spring.h"
+#include "support/Test.h"
 
-#include <cmath>
-#include <gtest/gtest.h>
 #include <numbers>
 
 namespace brimshade::ui {
-namespace {
 
 // The equation of motion, integrated in tiny steps: knows nothing of the closed form.
 SpringState integrated(const SpringParameters &p, SpringState s, double seconds)
@@ -66,5 +64,4 @@ TEST(Spring, WithoutResponseArrivesAtOnce)
     EXPECT_TRUE(springIsSettled({-1, 0.5}, {1, 3}, 1e-3));
 }
 
-} // namespace
 } // namespace brimshade::ui

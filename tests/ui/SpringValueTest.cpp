@@ -1,10 +1,8 @@
 #include "ui/SpringValue.h"
 #include "ManualAnimationDriver.h"
-
-#include <gtest/gtest.h>
+#include "support/Test.h"
 
 namespace brimshade::ui {
-namespace {
 
 class SpringValueTest : public testing::Test {
 protected:
@@ -62,16 +60,14 @@ TEST_F(SpringValueTest, TakesTheParametersThatComeWithTheTargetInEitherOrder)
 
 TEST_F(SpringValueTest, EasesFromWhereItIsInItsDuration)
 {
-    const struct {
-        SpringValue::Curve curve;
-        double atQuarter;
-    } cases[] = {{SpringValue::EaseIn, 0.093}, {SpringValue::EaseOut, 0.378}, {SpringValue::EaseInOut, 0.129}};
-    for (const auto &expected : cases) {
+    const std::tuple<SpringValue::Curve, double> cases[] = {
+        {SpringValue::EaseIn, 0.093}, {SpringValue::EaseOut, 0.378}, {SpringValue::EaseInOut, 0.129}};
+    for (const auto &[curve, atQuarter] : cases) {
         value.jumpTo(2);
-        value.setCurve(expected.curve);
+        value.setCurve(curve);
         value.setDuration(0.4);
         value.setTarget(1);
-        EXPECT_NEAR(seconds(100), 2 - expected.atQuarter, 0.002) << expected.curve;
+        EXPECT_NEAR(seconds(100), 2 - atQuarter, 0.002) << curve;
         EXPECT_EQ(seconds(300), 1);
         EXPECT_FALSE(value.isRunning());
     }
@@ -86,5 +82,4 @@ TEST(SpringValueCreation, JumpsToItsFirstTarget)
     EXPECT_FALSE(value.isRunning());
 }
 
-} // namespace
 } // namespace brimshade::ui

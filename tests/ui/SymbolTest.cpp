@@ -1,13 +1,8 @@
+#include "support/Test.h"
 #include "ui/SymbolService.h"
 #include "ui/SymbolTable.h"
 
-#include <algorithm>
-#include <gtest/gtest.h>
-
 namespace brimshade::ui {
-namespace {
-
-using namespace Qt::StringLiterals;
 
 TEST(Symbols, EveryOneHasAnOutlineWithinItsSquare)
 {
@@ -71,5 +66,4 @@ TEST(Symbols, AHeavierWeightCoversMore)
     EXPECT_GT(covered(platform::SymbolWeight::bold), covered(platform::SymbolWeight::semibold));
 }
 
-} // namespace
 } // namespace brimshade::ui

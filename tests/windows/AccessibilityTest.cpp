@@ -1,15 +1,11 @@
 #include "Context.h"
 
 #include <QAccessible>
-#include <gtest/gtest.h>
 #include <private/qguiapplication_p.h>
 #include <qpa/qplatformaccessibility.h>
 #include <qpa/qplatformintegration.h>
 
 namespace brimshade::windows {
-namespace {
-
-using namespace Qt::StringLiterals;
 
 // What an assistive program is told, in reading order.
 class Accessibility : public testing::Test, protected Context {
@@ -170,5 +166,4 @@ TEST_F(Accessibility, AnnouncesTheNewValueOfASwitch)
     EXPECT_EQ(announced, QStringList{u"hoverSwitch"_s});
 }
 
-} // namespace
 } // namespace brimshade::windows

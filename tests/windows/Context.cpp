@@ -14,7 +14,6 @@ namespace brimshade::windows {
 
 using menubar::ExtraList;
 using menubar::MenuExtra;
-using namespace Qt::StringLiterals;
 
 MenuExtra extra(const QString &name, bool isHidden, bool canMove)
 {

@@ -7,7 +7,6 @@
 #include "windows/flow/OnboardingFlow.h"
 
 #include <QLocale>
-#include <optional>
 
 namespace brimshade::windows {
 

@@ -1,12 +1,7 @@
 #include "Context.h"
 
-#include <gmock/gmock.h>
-#include <optional>
-
 namespace brimshade::windows {
-namespace {
 
-using namespace Qt::StringLiterals;
 using menubar::ExtraList;
 using menubar::MenuExtra;
 
@@ -169,5 +164,4 @@ TEST_F(Flow, KeepsRowsOfItemsThatStay)
     }
 }
 
-} // namespace
 } // namespace brimshade::windows

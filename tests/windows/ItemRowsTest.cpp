@@ -1,12 +1,7 @@
 #include "windows/flow/ItemRows.h"
 #include "Context.h"
 
-#include <gtest/gtest.h>
-
 namespace brimshade::windows {
-namespace {
-
-using namespace Qt::StringLiterals;
 
 class Rows : public testing::Test, protected Context {
 protected:
@@ -43,11 +38,7 @@ protected:
 
 TEST_F(Rows, ShowTheControlThatFits)
 {
-    struct Case {
-        QString moving;
-        QStringList controls;
-    };
-    const Case cases[]{
+    const std::tuple<QString, QStringList> cases[] = {
         {{}, {u"on"_s, u"off"_s, u"pinned"_s}},
         {u"ledger"_s, {u"on disabled"_s, u"spinner"_s, u"pinned"_s}},
         {u"clock"_s, {u"on disabled"_s, u"off disabled"_s, u"spinner"_s}},
@@ -56,9 +47,9 @@ TEST_F(Rows, ShowTheControlThatFits)
     };
     int told = 0;
     QObject::connect(&rows, &ItemRows::dataChanged, &rows, [&told] { ++told; });
-    for (const Case &each : cases) {
-        model.setMovingID(each.moving);
-        EXPECT_EQ((QStringList{control(0), control(1), control(2)}), each.controls) << qPrintable(each.moving);
+    for (const auto &[moving, controls] : cases) {
+        model.setMovingID(moving);
+        EXPECT_EQ((QStringList{control(0), control(1), control(2)}), controls) << qPrintable(moving);
     }
     EXPECT_GE(told, 4) << "views must hear of each change";
 }
@@ -88,5 +79,4 @@ TEST_F(Rows, AskForTheItemTheyShowedEvenIfItVanishesMeanwhile)
     EXPECT_EQ(log, QStringList{u"relay hide"_s});
 }
 
-} // namespace
 } // namespace brimshade::windows

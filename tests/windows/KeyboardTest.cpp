@@ -1,20 +1,16 @@
 #include "Context.h"
 
-#include <gtest/gtest.h>
-
 namespace brimshade::windows {
-namespace {
 
-using namespace Qt::StringLiterals;
 using model::Shortcut;
 
 class Keyboard : public testing::Test, protected Context {
 protected:
-    QStringList walk(int key, int times)
+    QStringList walk(int code, int times)
     {
         QStringList names;
         for (int i = 0; i < times; ++i) {
-            key(key, key == Qt::Key_Backtab ? Qt::ShiftModifier : Qt::NoModifier);
+            key(code, code == Qt::Key_Backtab ? Qt::ShiftModifier : Qt::NoModifier);
             names << focused();
         }
         return names;
@@ -89,8 +85,8 @@ TEST_F(Keyboard, PicksAShortcut)
     while (focused() != u"shortcutPicker"_s)
         key(Qt::Key_Tab);
     for (const Case &each : cases) {
-        for (const int key : each.keys)
-            key(key);
+        for (const int code : each.keys)
+            key(code);
         const auto index = &each - cases;
         EXPECT_EQ(model.shortcut(), each.picked) << index;
         EXPECT_EQ(item(u"shortcutPickerList"_s) != nullptr, each.open) << index;
@@ -145,5 +141,4 @@ TEST_F(Keyboard, ChoosesItemsAndOptionsInTheSetup)
     EXPECT_EQ(focused(), u"setupShortcutPicker"_s);
 }
 
-} // namespace
 } // namespace brimshade::windows

@@ -1,11 +1,6 @@
 #include "Context.h"
 
-#include <gtest/gtest.h>
-
 namespace brimshade::windows {
-namespace {
-
-using namespace Qt::StringLiterals;
 
 class SetupView : public testing::Test, protected Context {
 protected:
@@ -40,9 +35,7 @@ TEST_F(SetupView, LooksForThePermissionOnlyWhileItCanBeSeen)
 TEST_F(SetupView, StepsComeFromTheRightAndLeaveToTheLeft)
 {
     showSetup();
-    const auto left = [this](const QString &name) {
-        return scene().frameOf(item(name)->parentItem()).left();
-    };
+    const auto left = [this](const QString &name) { return scene().frameOf(item(name)->parentItem()).left(); };
     const double rest = left(u"heroNotch"_s);
     flow.act();
     scene().advance(64);
@@ -128,5 +121,4 @@ TEST_F(SetupView, GridHasFiveColumnsAndScrolls)
     EXPECT_LE(frame(42).bottom(), scene().frameOf(item(u"choiceCounts"_s)).top());
 }
 
-} // namespace
 } // namespace brimshade::windows

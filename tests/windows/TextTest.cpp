@@ -1,11 +1,6 @@
 #include "Context.h"
 
-#include <gtest/gtest.h>
-
 namespace brimshade::windows {
-namespace {
-
-using namespace Qt::StringLiterals;
 
 // Every text that can be read in either window has room, in every language: it is not elided, does not reach out of
 // the window and does not lie over another one. Names of items may be elided.
@@ -131,5 +126,4 @@ TEST(PendingLabel, CountsInTheLanguageOfTheUser)
     }
 }
 
-} // namespace
 } // namespace brimshade::windows

@@ -1,13 +1,8 @@
 #include "World.h"
 
-#include <QColor>
-#include <cmath>
-
 using namespace brimshade::platform;
-using namespace Qt::StringLiterals;
 
 namespace brimshade::desktop {
-namespace {
 
 DesktopDescription difficultDesktop()
 {
@@ -171,5 +166,4 @@ TEST_F(AccessibilityTest, FindsIconsAndDisplayNamesByBundle)
     EXPECT_EQ(platform.workspace.displayNameAtPath(u"/Applications/Outer.app"_s), u"Outer.app"_s);
 }
 
-} // namespace
 } // namespace brimshade::desktop

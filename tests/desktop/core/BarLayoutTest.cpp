@@ -1,9 +1,7 @@
 #include "desktop/core/BarLayout.h"
-
-#include <gtest/gtest.h>
+#include "support/Test.h"
 
 namespace brimshade::desktop {
-namespace {
 
 const BarGeometry kNotched{QRectF(0, 0, 1512, 37), std::pair(663., 849.), 420};
 const BarGeometry kPlain{QRectF(0, 0, 1000, 24), {}, 420};
@@ -89,5 +87,4 @@ TEST(BarLayout, IsOnTheFirstScreenWithANotchElseOnThePrimaryOne)
     EXPECT_EQ(barScreen({}), nullptr);
 }
 
-} // namespace
 } // namespace brimshade::desktop

@@ -1,10 +1,8 @@
 #include "World.h"
 
 using namespace brimshade::platform;
-using namespace Qt::StringLiterals;
 
 namespace brimshade::desktop {
-namespace {
 
 const auto kPlaceKey = u"NSStatusItem Preferred Position BrimshadeButton"_s;
 
@@ -182,5 +180,4 @@ TEST_F(BarTest, ListsTheBarOfEachScreenAndOurWindowsAtTheirLevels)
         EXPECT_FALSE(item.drawn);
 }
 
-} // namespace
 } // namespace brimshade::desktop

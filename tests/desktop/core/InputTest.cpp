@@ -1,10 +1,8 @@
 #include "World.h"
 
 using namespace brimshade::platform;
-using namespace Qt::StringLiterals;
 
 namespace brimshade::desktop {
-namespace {
 
 constexpr QPointF kOwnItem(1360, 18), kFirstItem(1330, 18), kClock(1400, 18), kEmptyBar(400, 18), kWall(300, 800);
 
@@ -41,15 +39,7 @@ protected:
 TEST_F(InputTest, TellsMonitorsOfPressesByWhereTheyLand)
 {
     const auto window = openWindow(QRectF(700, 200, 300, 300));
-    struct Case {
-        const char *name;
-        QPointF at;
-        MouseButton button;
-        Target target;
-        QString heard;
-        bool keepsKeys;
-    };
-    const Case cases[] = {
+    const std::tuple<const char *, QPointF, MouseButton, Target, QString, bool> cases[] = {
         {"its window", {750, 600}, MouseButton::left, Target::window, u"local 1, local 2"_s, true},
         {"its item", kOwnItem, MouseButton::left, Target::menuBar, u"local 1, local 2, action 2"_s, true},
         {"its item, right", kOwnItem, MouseButton::right, Target::menuBar, u"local 3, action 4"_s, true},
@@ -57,14 +47,14 @@ TEST_F(InputTest, TellsMonitorsOfPressesByWhereTheyLand)
         {"the bar", kEmptyBar, MouseButton::right, Target::menuBar, u"global 3"_s, true},
         {"another application", kWall, MouseButton::left, Target::elsewhere, u"global 1, global 2"_s, false},
     };
-    for (const Case &c : cases) {
+    for (const auto &[name, at, button, target, heard, keepsKeys] : cases) {
         window->makeKeyAndOrderFront();
-        moveTo(c.at);
-        EXPECT_EQ(desktop.input().pressed(c.button, 0), c.target) << c.name;
-        EXPECT_EQ(desktop.input().released(c.button, 0), c.target) << c.name;
-        EXPECT_EQ(takeHeard(), c.heard) << c.name;
-        EXPECT_EQ(window->isKeyWindow(), c.keepsKeys) << c.name;
-        EXPECT_FALSE(platform.application.currentEventType()) << c.name;
+        moveTo(at);
+        EXPECT_EQ(desktop.input().pressed(button, 0), target) << name;
+        EXPECT_EQ(desktop.input().released(button, 0), target) << name;
+        EXPECT_EQ(takeHeard(), heard) << name;
+        EXPECT_EQ(window->isKeyWindow(), keepsKeys) << name;
+        EXPECT_FALSE(platform.application.currentEventType()) << name;
     }
 }
 
@@ -123,5 +113,4 @@ TEST_F(InputTest, ThePermissionsWindowsStandAboveOursAndAreAnotherApplications)
     EXPECT_FALSE(window->isKeyWindow());
 }
 
-} // namespace
 } // namespace brimshade::desktop

@@ -2,10 +2,8 @@
 #include "platform/Menu.h"
 
 using namespace brimshade::platform;
-using namespace Qt::StringLiterals;
 
 namespace brimshade::desktop {
-namespace {
 
 class Source : public MenuSource {
 public:
@@ -109,5 +107,4 @@ TEST_F(MenuHostTest, AnActionMayOpenTheNextMenu)
     EXPECT_EQ(desktop.menus().titles(), QStringList(u"Next"_s));
 }
 
-} // namespace
 } // namespace brimshade::desktop

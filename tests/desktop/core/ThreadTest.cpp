@@ -5,10 +5,8 @@
 #include <atomic>
 
 using namespace brimshade::platform;
-using namespace Qt::StringLiterals;
 
 namespace brimshade::desktop {
-namespace {
 
 // Everything that other threads may ask for, as fast as they can, while the main thread turns the display upside down.
 // What is checked here is what the thread sanitizer sees.
@@ -16,8 +14,7 @@ TEST(DesktopThreads, ReadsAndPostsOnAnyThreadWhileTheDisplayChanges)
 {
     RealDispatch dispatch;
     FakeSymbols symbols;
-    auto desktop = std::make_unique<Desktop>(
-        Desktop::Services{dispatch, symbols, nullptr, nullptr}, someDesktop());
+    auto desktop = std::make_unique<Desktop>(Desktop::Services{dispatch, symbols, nullptr, nullptr}, someDesktop());
     const Platform platform = desktop->platform();
     const auto own = platform.statusBar.createStatusItem(28);
 
@@ -88,5 +85,4 @@ TEST(DesktopThreads, LeavesNothingBehindInTheQueue)
     own.reset();
 }
 
-} // namespace
 } // namespace brimshade::desktop

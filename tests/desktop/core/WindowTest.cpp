@@ -1,10 +1,8 @@
 #include "World.h"
 
 using namespace brimshade::platform;
-using namespace Qt::StringLiterals;
 
 namespace brimshade::desktop {
-namespace {
 
 class Strip : public NativeView {
 public:
@@ -172,5 +170,4 @@ TEST_F(WindowTest, MayBeDestroyedByWhatItIsTold)
     EXPECT_EQ(desktop.windows().named(u"strip"_s), nullptr);
 }
 
-} // namespace
 } // namespace brimshade::desktop

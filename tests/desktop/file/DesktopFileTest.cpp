@@ -1,20 +1,13 @@
 #include "desktop/file/DesktopFile.h"
+#include "support/Test.h"
 
-#include <QFile>
 #include <QJsonArray>
 #include <QJsonObject>
-#include <QTemporaryDir>
-#include <gmock/gmock.h>
-#include <gtest/gtest.h>
-#include <limits>
 
 namespace brimshade::desktop {
 
-namespace {
-
 using testing::ElementsAre;
 using testing::Pair;
-using namespace Qt::StringLiterals;
 
 constexpr auto kScreens = R"("screens": [{"frame": [0, 0, 1512, 982]}])";
 
@@ -211,5 +204,4 @@ TEST(DesktopFileTest, FileFaultsNameTheFile)
     EXPECT_EQ(readDesktopFile(path).error(), path + u": larger than 16 MB"_s);
 }
 
-} // namespace
 } // namespace brimshade::desktop

@@ -1,11 +1,6 @@
 #include "SceneContext.h"
 
-#include <gtest/gtest.h>
-
-using namespace Qt::StringLiterals;
-
 namespace brimshade::desktop {
-namespace {
 
 const QRectF kFrame(300, 200, 200, 200);
 
@@ -52,5 +47,4 @@ TEST(Animations, AskForNoFrameOnceTheyEnded)
     EXPECT_NEAR(view->property("mark").toDouble(), 50, 0.34);
 }
 
-} // namespace
 } // namespace brimshade::desktop

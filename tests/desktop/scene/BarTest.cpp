@@ -3,12 +3,7 @@
 #include "desktop/scene/BarModel.h"
 #include "desktop/scene/WallClock.h"
 
-#include <gtest/gtest.h>
-
-using namespace Qt::StringLiterals;
-
 namespace brimshade::desktop {
-namespace {
 
 TEST(WallClock, TellsAsMuchAsThereIsRoomForAndWakesOnTheMinute)
 {
@@ -69,5 +64,4 @@ TEST(Bar, ShowsTheItemsThatAreDrawnWhereTheyAre)
     EXPECT_TRUE(shown().isEmpty());
 }
 
-} // namespace
 } // namespace brimshade::desktop

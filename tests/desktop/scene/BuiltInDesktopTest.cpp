@@ -4,12 +4,8 @@
 #include "platform/Workspace.h"
 
 #include <QImageReader>
-#include <gtest/gtest.h>
-
-using namespace Qt::StringLiterals;
 
 namespace brimshade::desktop {
-namespace {
 
 TEST(BuiltInDesktop, HasItemsInTheBarBehindTheNotchAndOffScreen)
 {
@@ -57,5 +53,4 @@ TEST(BuiltInDesktop, HasReadablePicturesAndMenusThatSayWhatWasChosen)
     EXPECT_TRUE(banners.first()->property("what").toString().contains(u"Show Calendar"_s));
 }
 
-} // namespace
 } // namespace brimshade::desktop

@@ -1,12 +1,7 @@
 #include "SceneContext.h"
 #include "desktop/core/MenuBar.h"
 
-#include <gtest/gtest.h>
-
-using namespace Qt::StringLiterals;
-
 namespace brimshade::desktop {
-namespace {
 
 const QRectF kFrame(300, 200, 200, 200); // of the probe: area a, area b right of it
 const QPointF kInA(350, 250);
@@ -98,5 +93,4 @@ TEST(Input, GivesKeysToTheKeyWindowAsTheyStand)
     EXPECT_EQ(context.recorder().take().size(), 1);
 }
 
-} // namespace
 } // namespace brimshade::desktop

@@ -3,13 +3,7 @@
 #include "desktop/core/Permission.h"
 #include "platform/Workspace.h"
 
-#include <QDir>
-#include <gtest/gtest.h>
-
-using namespace Qt::StringLiterals;
-
 namespace brimshade::desktop {
-namespace {
 
 const QRectF kFrame(300, 200, 200, 200);
 
@@ -49,5 +43,4 @@ TEST(Pictures, OfAWindowShowItAloneAtTheScale)
     EXPECT_FALSE(context.scene().picture(u"other"_s));
 }
 
-} // namespace
 } // namespace brimshade::desktop

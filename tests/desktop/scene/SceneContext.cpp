@@ -6,11 +6,7 @@
 Q_IMPORT_QML_PLUGIN(Brimshade_UiPlugin)
 Q_IMPORT_QML_PLUGIN(Brimshade_DesktopPlugin)
 
-using namespace Qt::StringLiterals;
-
 namespace brimshade::desktop {
-
-namespace {
 
 constexpr double kHeight = 700;
 
@@ -19,8 +15,6 @@ void registerProbes()
     qmlRegisterType(QUrl(u"qrc:/probes/ProbeView.qml"_s), "Brimshade.Probes", 1, 0, "ProbeView");
     qmlRegisterType(QUrl(u"qrc:/probes/SizedView.qml"_s), "Brimshade.Probes", 1, 0, "SizedView");
 }
-
-} // namespace
 
 MenuEntry entry(int id, const QString &title)
 {
@@ -52,9 +46,7 @@ DesktopDescription SceneContext::smallDesktop()
 SceneContext::SceneContext(const DesktopDescription &description, double scale) : m_scale(scale)
 {
     registerProbes();
-    m_desktop = std::make_unique<Desktop>(
-        Desktop::Services{m_clock, m_symbols, nullptr, nullptr},
-        description);
+    m_desktop = std::make_unique<Desktop>(Desktop::Services{m_clock, m_symbols, nullptr, nullptr}, description);
     remakeScene();
 }
 

@@ -4,12 +4,11 @@
 #include "desktop/core/WindowStack.h"
 #include "desktop/scene/SceneHost.h"
 #include "desktop/time/VirtualDispatch.h"
+#include "support/Descriptions.h"
 #include "ui/SymbolService.h"
 
 #include <QQuickItem>
 #include <QQuickWindow>
-#include <QStringList>
-#include <memory>
 
 namespace brimshade::desktop {
 

@@ -1,12 +1,7 @@
 #include "SceneContext.h"
 #include "desktop/core/Permission.h"
 
-#include <gtest/gtest.h>
-
-using namespace Qt::StringLiterals;
-
 namespace brimshade::desktop {
-namespace {
 
 const QRectF kFrame(300, 200, 200, 200);
 
@@ -127,5 +122,4 @@ TEST(Windows, OfTheSystemGrantThePermission)
     EXPECT_FALSE(permission.isPageOpen());
 }
 
-} // namespace
 } // namespace brimshade::desktop

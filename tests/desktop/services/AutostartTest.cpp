@@ -1,19 +1,11 @@
 #include "desktop/services/AutostartEntry.h"
 #include "desktop/services/AutostartLoginItem.h"
 #include "desktop/services/ScriptedLoginItem.h"
-
-#include <QDir>
-#include <QFile>
-#include <QProcess>
-#include <QTemporaryDir>
-#include <gmock/gmock.h>
-#include <gtest/gtest.h>
+#include "support/Test.h"
 
 namespace brimshade::desktop {
-namespace {
 
 using platform::LoginItemStatus;
-using namespace Qt::StringLiterals;
 
 class AutostartTest : public testing::Test {
 protected:
@@ -118,5 +110,4 @@ TEST(ScriptedLoginItemTest, AFailureChangesNothing)
     EXPECT_EQ(item.status(), LoginItemStatus::requiresApproval);
 }
 
-} // namespace
 } // namespace brimshade::desktop

@@ -1,20 +1,13 @@
 #include "desktop/services/FileDefaults.h"
+#include "support/Test.h"
 
-#include <QDir>
-#include <QFile>
-#include <QFileInfo>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
-#include <QTemporaryDir>
-#include <gmock/gmock.h>
-#include <gtest/gtest.h>
 
 namespace brimshade::desktop {
-namespace {
 
 using testing::ElementsAre;
-using namespace Qt::StringLiterals;
 
 TEST(MemoryDefaultsTest, ReadsConvertAsOnTheMac)
 {
@@ -150,5 +143,4 @@ TEST_F(FileDefaultsTest, RemovesOnlyWhatADeadProcessLeft)
     EXPECT_FALSE(QFile::exists(dead));
 }
 
-} // namespace
 } // namespace brimshade::desktop

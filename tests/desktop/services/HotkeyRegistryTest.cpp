@@ -1,11 +1,9 @@
 #include "desktop/services/HotkeyRegistry.h"
+#include "support/Test.h"
 
-#include <gmock/gmock.h>
-#include <gtest/gtest.h>
 #include <set>
 
 namespace brimshade::desktop {
-namespace {
 
 using testing::ElementsAre;
 using testing::IsEmpty;
@@ -98,5 +96,4 @@ TEST_F(HotkeyRegistryTest, AGrabberFollowsTheRegistrations)
     EXPECT_EQ(presses, 2);
 }
 
-} // namespace
 } // namespace brimshade::desktop

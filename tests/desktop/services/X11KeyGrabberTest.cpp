@@ -1,21 +1,16 @@
 // Against a real X server, started for the test, with keys pressed by another client.
 #include "desktop/services/X11KeyGrabber.h"
 #include "platform/HotkeyCenter.h"
+#include "support/Test.h"
 
 #include <QCoreApplication>
 #include <QEventLoop>
-#include <QProcess>
 #include <QProcessEnvironment>
-#include <gmock/gmock.h>
-#include <gtest/gtest.h>
-#include <memory>
 #include <xcb/xcb.h>
 
 namespace brimshade::desktop {
-namespace {
 
 using testing::ElementsAre;
-using namespace Qt::StringLiterals;
 
 constexpr KeyCombination kOptionCommandN{45, platform::kCarbonOption | platform::kCarbonCommand};
 constexpr KeyCombination kControlOptionSpace{49, platform::kCarbonControl | platform::kCarbonOption};
@@ -138,5 +133,4 @@ TEST_F(X11KeyGrabberTest, AServerThatEndsIsBorne)
     EXPECT_FALSE(X11KeyGrabber::create(display));
 }
 
-} // namespace
 } // namespace brimshade::desktop

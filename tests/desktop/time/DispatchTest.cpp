@@ -1,20 +1,16 @@
 // What both implementations promise. Where a delay is needed the order is what counts, not how long it took.
 #include "desktop/time/RealDispatch.h"
 #include "desktop/time/VirtualDispatch.h"
+#include "support/Test.h"
 
 #include <QCoreApplication>
 #include <QEventLoop>
-#include <QString>
-#include <gmock/gmock.h>
-#include <gtest/gtest.h>
 
 namespace brimshade::desktop {
-namespace {
 
 using platform::DispatchWorkItem;
 using platform::QualityOfService;
 using testing::ElementsAre;
-using namespace Qt::StringLiterals;
 
 void runUntil(VirtualDispatch &dispatch, const bool &done)
 {
@@ -214,5 +210,4 @@ TYPED_TEST(DispatchTest, TwoInOneProcessDoNotMeet)
     EXPECT_THAT(this->order, testing::UnorderedElementsAre(1, 2));
 }
 
-} // namespace
 } // namespace brimshade::desktop

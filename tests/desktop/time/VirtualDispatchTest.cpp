@@ -1,19 +1,15 @@
 #include "desktop/time/VirtualDispatch.h"
+#include "support/Test.h"
 
 #include <QObject>
 #include <QPointer>
-#include <QString>
-#include <gmock/gmock.h>
-#include <gtest/gtest.h>
 #include <thread>
 
 namespace brimshade::desktop {
-namespace {
 
 using platform::QualityOfService;
 using testing::DoubleEq;
 using testing::ElementsAre;
-using namespace Qt::StringLiterals;
 
 class VirtualDispatchTest : public testing::Test {
 protected:
@@ -161,5 +157,4 @@ TEST_F(VirtualDispatchTest, WorkMayAdvanceTheClockItself)
     EXPECT_THAT(dispatch.now(), DoubleEq(5.1)); // never back
 }
 
-} // namespace
 } // namespace brimshade::desktop

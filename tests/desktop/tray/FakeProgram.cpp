@@ -4,8 +4,6 @@
 
 namespace brimshade::desktop::tray {
 
-namespace {
-
 const QString kItemPath = u"/StatusNotifierItem"_s;
 
 }
@@ -27,8 +25,8 @@ QStringList FakeProgram::takeEvents()
 void FakeProgram::registerItem(const QString &argument)
 {
     const auto watcher = u"org.kde.StatusNotifierWatcher"_s;
-    auto call = QDBusMessage::createMethodCall(watcher, u"/StatusNotifierWatcher"_s, watcher,
-                                               u"RegisterStatusNotifierItem"_s);
+    auto call =
+        QDBusMessage::createMethodCall(watcher, u"/StatusNotifierWatcher"_s, watcher, u"RegisterStatusNotifierItem"_s);
     call << argument;
     m_connection.send(call);
 }
@@ -40,8 +38,7 @@ void FakeProgram::signalItem(const QString &name)
 
 void FakeProgram::signalLayout(int parent)
 {
-    auto signal = QDBusMessage::createSignal(u"/Menu"_s, u"com.canonical.dbusmenu"_s,
-                                             u"LayoutUpdated"_s);
+    auto signal = QDBusMessage::createSignal(u"/Menu"_s, u"com.canonical.dbusmenu"_s, u"LayoutUpdated"_s);
     signal << 1U << parent;
     m_connection.send(signal);
 }

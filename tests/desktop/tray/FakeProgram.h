@@ -5,8 +5,6 @@
 #include <QDBusConnection>
 #include <QDBusVirtualObject>
 #include <QSet>
-#include <QStringList>
-#include <functional>
 
 namespace brimshade::desktop::tray {
 

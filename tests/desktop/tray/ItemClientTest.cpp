@@ -5,13 +5,8 @@
 #include <QDBusObjectPath>
 #include <QRegularExpression>
 #include <QSignalSpy>
-#include <QTemporaryDir>
 
 namespace brimshade::desktop::tray {
-
-using namespace Qt::Literals::StringLiterals;
-
-namespace {
 
 QVariant path(const QString &path)
 {
@@ -22,8 +17,8 @@ class ItemClientTest : public FakeProgramTest {
 protected:
     void start()
     {
-        m_client = std::make_unique<ItemClient>(
-            m_own, ItemKey{m_connection.baseService(), u"/StatusNotifierItem"_s}, m_dispatch, IconFinder());
+        m_client = std::make_unique<ItemClient>(m_own, ItemKey{m_connection.baseService(), u"/StatusNotifierItem"_s},
+                                                m_dispatch, IconFinder());
     }
     // The client of the scripted program, once it has been read.
     ItemClient &client()
@@ -37,8 +32,6 @@ protected:
 
     std::unique_ptr<ItemClient> m_client;
 };
-
-} // namespace
 
 TEST_F(ItemClientTest, ReadsWhatComesOverTheWire)
 {
@@ -113,11 +106,7 @@ TEST_F(ItemClientTest, APressReachesTheProgramTheWayItUnderstands)
 {
     // At the item's lower left corner.
     const QString activate = u"Activate 10 37"_s, contextMenu = u"ContextMenu 10 37"_s;
-    const struct {
-        QVariantMap properties;
-        QSet<QString> unknownMethods;
-        QStringList presses;
-    } cases[] = {
+    const std::tuple<QVariantMap, QSet<QString>, QStringList> cases[] = {
         {{}, {}, {activate}},
         {{}, {u"Activate"_s}, {activate, contextMenu}},
         {{{u"Menu"_s, path(u"/NO_DBUSMENU"_s)}}, {u"ContextMenu"_s}, {contextMenu, activate}},

@@ -6,10 +6,6 @@
 
 namespace brimshade::desktop::tray {
 
-using namespace Qt::Literals::StringLiterals;
-
-namespace {
-
 class MenuClientTest : public FakeProgramTest {
 protected:
     MenuClientTest() { m_program.menu.children = {labelled(1, u"Open"_s), labelled(2, u"Quit"_s)}; }
@@ -40,8 +36,6 @@ protected:
     std::unique_ptr<MenuClient> m_client;
     std::unique_ptr<QSignalSpy> m_ready, m_changed;
 };
-
-} // namespace
 
 TEST_F(MenuClientTest, WhatWasReadAheadOpensAtOnce)
 {

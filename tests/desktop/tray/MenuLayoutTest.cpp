@@ -2,14 +2,8 @@
 #include "WireLayout.h"
 
 #include <QBuffer>
-#include <QImage>
-#include <gtest/gtest.h>
 
 namespace brimshade::desktop::tray {
-
-using namespace Qt::Literals::StringLiterals;
-
-namespace {
 
 QStringList titles(const std::vector<MenuEntry> &entries)
 {
@@ -36,8 +30,6 @@ QByteArray png(int edge)
     filled(edge, edge, Qt::red).save(&buffer, "PNG");
     return buffer.data();
 }
-
-} // namespace
 
 TEST(MenuLayoutParsing, ReadsEveryKindOfEntry)
 {

@@ -4,18 +4,11 @@
 #include "desktop/tray/ShortcutText.h"
 #include "desktop/tray/TrayItem.h"
 #include "desktop/tray/WireValue.h"
-
-#include <QDir>
-#include <QTemporaryDir>
-#include <gtest/gtest.h>
+#include "support/Test.h"
 
 #include <sys/stat.h>
 
 namespace brimshade::desktop::tray {
-
-using namespace Qt::Literals::StringLiterals;
-
-namespace {
 
 QVariant picture(QVariant width, QVariant height, const QByteArray &bytes)
 {
@@ -27,23 +20,18 @@ QVariantList strings(const QStringList &texts)
     return {QVariant(texts)};
 }
 
-} // namespace
-
 TEST(Registration, TakesEveryFormThatProgramsUseAndNothingElse)
 {
     const auto sender = u":1.7"_s;
-    const struct {
-        QString argument, service, path;
-    } good[] = {
+    const std::tuple<QString, QString, QString> good[] = {
         {u"/org/ayatana/NotificationItem/redshift"_s, sender, u"/org/ayatana/NotificationItem/redshift"_s},
         {u"org.kde.StatusNotifierItem-41-1"_s, u"org.kde.StatusNotifierItem-41-1"_s, u"/StatusNotifierItem"_s},
         {u":1.70"_s, u":1.70"_s, u"/StatusNotifierItem"_s},
         {u":1.70/org/item/1"_s, u":1.70"_s, u"/org/item/1"_s},
         {u"/"_s, sender, u"/"_s},
     };
-    for (const auto &row : good)
-        EXPECT_EQ(parseRegistration(row.argument, sender), (Registration{row.service, row.path}))
-            << row.argument.toStdString();
+    for (const auto &[argument, service, path] : good)
+        EXPECT_EQ(parseRegistration(argument, sender), (Registration{service, path})) << argument.toStdString();
 
     for (const auto &bad : {u""_s, u"word"_s, u"a..b"_s, u"1a.b"_s, u":1"_s, u"org.x/with space"_s, u"//"_s, u"/a/"_s,
                             u"org.x//y"_s, u"a.b\n"_s, u"ä.b"_s, QString(300, u'a') + u".b"_s})
@@ -138,10 +126,7 @@ TEST(TrayItemParsing, NamesAndIconsFallBackInOrder)
 TEST(TrayItemParsing, APressTriesWhatTheProgramOffers)
 {
     using enum Press;
-    const struct {
-        QVariantMap properties;
-        std::vector<Press> order;
-    } rows[] = {
+    const std::tuple<QVariantMap, std::vector<Press>> rows[] = {
         {{{u"Menu"_s, u"/MenuBar"_s}}, {menu, contextMenu, activate}},
         {{{u"Menu"_s, u"/MenuBar"_s}, {u"ItemIsMenu"_s, false}}, {menu, contextMenu, activate}},
         {{{u"Menu"_s, u"/NO_DBUSMENU"_s}}, {contextMenu, activate}},
@@ -149,8 +134,8 @@ TEST(TrayItemParsing, APressTriesWhatTheProgramOffers)
         {{{u"ItemIsMenu"_s, true}}, {contextMenu, activate}},
         {{}, {activate, contextMenu}},
     };
-    for (const auto &row : rows)
-        EXPECT_EQ(pressOrder(parseItem(row.properties).item), row.order);
+    for (const auto &[properties, order] : rows)
+        EXPECT_EQ(pressOrder(parseItem(properties).item), order);
 }
 
 TEST(Icons, AreFoundInABareFolderAndInAThemeBelowIt)
@@ -196,17 +181,14 @@ TEST(Icons, ThePixelsStandInForAnUnknownNameAndTheOverlayLiesOverThem)
 
 TEST(Shortcuts, AreWrittenAsMenusWriteThem)
 {
-    const struct {
-        QStringList keys;
-        QString text;
-    } rows[] = {
+    const std::tuple<QStringList, QString> rows[] = {
         {{u"Control"_s, u"q"_s}, u"⌃Q"_s},
         {{u"Super"_s, u"Shift"_s, u"Alt"_s, u"Control"_s, u"F5"_s}, u"⌃⌥⇧⌘F5"_s},
         {{u"Control"_s, u"plus"_s}, u"⌃+"_s},
         {{u"Return"_s}, u"↩"_s},
     };
-    for (const auto &row : rows)
-        EXPECT_EQ(shortcutText(strings(row.keys)), row.text);
+    for (const auto &[keys, text] : rows)
+        EXPECT_EQ(shortcutText(strings(keys)), text);
     EXPECT_EQ(shortcutText(QVariantList{}), QString());
     EXPECT_EQ(shortcutText(QVariantList{QVariantList{}}), QString());
     EXPECT_EQ(shortcutText(u"Control+Q"_s), QString());

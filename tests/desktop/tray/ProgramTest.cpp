@@ -1,16 +1,10 @@
 #include "desktop/tray/Program.h"
 #include "desktop/tray/HostedApplication.h"
+#include "support/Test.h"
 
 #include <QCoreApplication>
-#include <QDir>
-#include <QTemporaryDir>
-#include <gtest/gtest.h>
 
 namespace brimshade::desktop::tray {
-
-using namespace Qt::Literals::StringLiterals;
-
-namespace {
 
 HostedItem item(const QString &id, const QString &title, const QString &path, const QString &owner = u":1.1"_s)
 {
@@ -19,8 +13,6 @@ HostedItem item(const QString &id, const QString &title, const QString &path, co
     result.title = title;
     return {{owner, path}, result, {}, [](const QRectF &) {}};
 }
-
-} // namespace
 
 TEST(DesktopEntries, TellNameIconAndProgram)
 {
@@ -63,10 +55,7 @@ TEST(Programs, AreMatchedToTheirEntry)
         {u"redshift-gtk"_s, u"Redshift"_s, {}, u"redshift-gtk"_s, true},
         {u"python3.11"_s, u"Python"_s, {}, u"python3.11"_s, true},
     };
-    const struct {
-        Process process;
-        QString id;
-    } rows[] = {
+    const std::tuple<Process, QString> rows[] = {
         {{u"/usr/bin/keepassxc"_s, {u"keepassxc"_s}}, u"org.keepassxc.KeePassXC"_s},
         {{u"/usr/bin/office"_s, {u"office"_s, u"--calc"_s}}, u"office"_s},
         {{u"/usr/bin/python3.11"_s, {u"/usr/bin/python3"_s, u"-u"_s, u"/usr/bin/redshift-gtk"_s}}, u"redshift-gtk"_s},
@@ -75,9 +64,9 @@ TEST(Programs, AreMatchedToTheirEntry)
         {{u"/usr/bin/unheard-of"_s, {}}, {}},
         {{}, {}},
     };
-    for (const auto &row : rows) {
-        const auto entry = findEntry(row.process, entries);
-        EXPECT_EQ(entry ? entry->id : QString(), row.id) << row.process.executable.toStdString();
+    for (const auto &[process, id] : rows) {
+        const auto entry = findEntry(process, entries);
+        EXPECT_EQ(entry ? entry->id : QString(), id) << process.executable.toStdString();
     }
 }
 

@@ -5,10 +5,6 @@
 
 namespace brimshade::desktop::tray {
 
-using namespace Qt::Literals::StringLiterals;
-
-namespace {
-
 const auto kWatcher = u"org.kde.StatusNotifierWatcher"_s;
 
 class RegistryTest : public BusTest {
@@ -51,8 +47,6 @@ protected:
     QStringList m_events;
 };
 
-} // namespace
-
 TEST_F(RegistryTest, HearsEveryFormOfRegistration)
 {
     startAsWatcher();
@@ -62,17 +56,15 @@ TEST_F(RegistryTest, HearsEveryFormOfRegistration)
     connection.registerService(u"org.kde.StatusNotifierItem-5-1"_s);
     FakeProgram program(connection);
 
-    const struct {
-        QString argument, event;
-    } rows[] = {
+    const std::tuple<QString, QString> rows[] = {
         {u"/org/item"_s, name + u"/org/item"_s},
         {name, name + u"/StatusNotifierItem"_s},
         {other, other + u"/StatusNotifierItem"_s},
         {u"org.kde.StatusNotifierItem-5-1/named"_s, name + u"/named"_s},
     };
-    for (const auto &row : rows) {
-        program.registerItem(row.argument);
-        EXPECT_EQ(waitForEvents(1), QStringList{u"+"_s + row.event});
+    for (const auto &[argument, event] : rows) {
+        program.registerItem(argument);
+        EXPECT_EQ(waitForEvents(1), QStringList{u"+"_s + event});
     }
     program.registerItem(u"org.kde.StatusNotifierItem-5-1"_s); // the second one again, by another name
     program.registerItem(u"org.nobody.has.This"_s);

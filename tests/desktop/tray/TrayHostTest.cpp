@@ -11,10 +11,6 @@
 
 namespace brimshade::desktop::tray {
 
-using namespace Qt::Literals::StringLiterals;
-
-namespace {
-
 class TrayHostTest : public BusTest {
 protected:
     TrayHostTest()
@@ -79,8 +75,6 @@ protected:
     Desktop m_desktop{{m_dispatch, m_symbols, nullptr, nullptr}, notchedDesktop({})};
     TrayHost m_host{m_desktop, m_bus.connection(u"own"_s), m_dispatch};
 };
-
-} // namespace
 
 TEST_F(TrayHostTest, AnEntryOfAnItemsMenuReachesItsProgram)
 {
