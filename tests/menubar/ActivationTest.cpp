@@ -61,9 +61,9 @@ TEST(Activation, PressesOrElseShowsTheMenuAndLogsWhatFailed)
 TEST(Activation, OfAnApplicationThatHasQuitIsLogged)
 {
     MenuBarContext bar({application(1, u"Relay"_s, {extra(u"x"_s)})});
-    const MenuExtra extra = bar.found(u"x"_s);
+    const MenuExtra found = bar.found(u"x"_s);
     bar.desktop.quit(1);
-    bar.access->activate(extra);
+    bar.access->activate(found);
     bar.dispatch.runDue();
     EXPECT_EQ(errors(bar), QStringList{u"press failed for Relay: AXError -25202"_s});
 }
@@ -71,11 +71,11 @@ TEST(Activation, OfAnApplicationThatHasQuitIsLogged)
 TEST(Activation, WaitsHalfASecondForAnApplicationThatHangs)
 {
     MenuBarContext bar({application(1, u"Relay"_s, {extra(u"x"_s)})});
-    const MenuExtra extra = bar.found(u"x"_s);
+    const MenuExtra found = bar.found(u"x"_s);
     desktop::ApplicationSpec spec;
     spec.description = hung(application(1, u"Relay"_s, {extra(u"x"_s)}));
     ASSERT_TRUE(bar.desktop.change(1, spec));
-    EXPECT_DOUBLE_EQ(bar.onScanQueue([&] { bar.access->press(extra.element, extra); }), 0.5);
+    EXPECT_DOUBLE_EQ(bar.onScanQueue([&] { bar.access->press(found.element, found); }), 0.5);
     EXPECT_TRUE(errors(bar).isEmpty());
 }
 

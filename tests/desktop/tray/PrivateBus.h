@@ -2,6 +2,7 @@
 #include "desktop/time/VirtualDispatch.h"
 #include "support/Test.h"
 
+#include <QCoreApplication>
 #include <QDBusConnection>
 #include <QEventLoop>
 #include <QSet>
