@@ -42,15 +42,6 @@ TEST_P(DefaultsContract, ObserversHearOnlyWhatTheyAskedForInOrder)
     EXPECT_EQ(order, "ab");
 }
 
-TEST_P(DefaultsContract, TheLoginItemAnswersWithWhatItWasSet)
-{
-    ASSERT_EQ(platform.loginItems.status(), LoginItemStatus::notRegistered);
-    ASSERT_TRUE(platform.loginItems.registerMainApp());
-    EXPECT_EQ(platform.loginItems.status(), LoginItemStatus::enabled);
-    ASSERT_TRUE(platform.loginItems.unregisterMainApp());
-    EXPECT_NE(platform.loginItems.status(), LoginItemStatus::enabled);
-}
-
 INSTANTIATE_TEST_SUITE_P(On, DefaultsContract, implementations(), implementationName);
 
 } // namespace brimshade::contract

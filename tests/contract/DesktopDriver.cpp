@@ -27,6 +27,13 @@ public:
         m_desktop.input().pressed(button, 0);
         m_desktop.input().released(button, 0);
     }
+    void drag(QPointF from, QPointF to) override
+    {
+        movePointer(from);
+        m_desktop.input().pressed(MouseButton::left, 0);
+        movePointer(to);
+        m_desktop.input().released(MouseButton::left, 0);
+    }
     void key(std::uint16_t code, std::uint64_t modifierFlags) override
     {
         m_desktop.input().keyDown({keyDown, modifierFlags, code, {}});

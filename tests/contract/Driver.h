@@ -14,6 +14,7 @@
 #include "platform/Window.h"
 #include "platform/WindowServer.h"
 #include "platform/Workspace.h"
+#include "support/Test.h"
 
 namespace brimshade::contract {
 
@@ -37,6 +38,7 @@ public:
 
     virtual void movePointer(QPointF at) = 0; // display space
     virtual void click(QPointF at, bool right = false) = 0;
+    virtual void drag(QPointF from, QPointF to) = 0;
     virtual void key(std::uint16_t code, std::uint64_t modifierFlags) = 0;
     virtual QStringList openMenu() = 0; // titles; empty when none is open
     virtual void choose(const QString &title) = 0;

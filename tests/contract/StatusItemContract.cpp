@@ -48,6 +48,16 @@ TEST_P(StatusItemContract, SendsItsActionOnTheEventsOfTheMask)
     EXPECT_EQ(outside, 0) << "a press on it is not one in another application";
 }
 
+TEST_P(StatusItemContract, SendsNoActionForAPressThatEndsOrBeganElsewhere)
+{
+    int actions = 0;
+    item->button()->setAction(kLeftMouseUpMask, [&] { ++actions; });
+    driver->settleMenuBar();
+    driver->drag(middle(), emptySpot());
+    driver->drag(emptySpot(), middle());
+    EXPECT_EQ(actions, 0);
+}
+
 TEST_P(StatusItemContract, OpensAnAttachedMenuInsteadAndTellsWhenItIsGone)
 {
     std::string order;

@@ -38,6 +38,32 @@ TEST_F(Move, ShowsAnItemAndHidesItAgain)
     EXPECT_EQ(brimshade.dragCount(), 2);
 }
 
+// The bar takes a drag for what it is only when it comes like a hand's.
+TEST_F(Move, DragsAsAHandWould)
+{
+    const double start = brimshade.desktop().platform().dispatch.now() + 0.35 + 0.45;
+    brimshade.show(u"Vault"_s);
+    brimshade.wait(kMove);
+    const auto events = brimshade.desktop().inspection().takeEvents();
+    ASSERT_EQ(events.size(), 43);
+    const QPointF from(1259, 18.5); // the item's centre, at 1244 to 1274 once the divider has shrunk to 1304
+    const QPointF to(1332 + 6, 18.5); // inside the control centre, which begins at the divider's right edge
+    const auto expect = [&](std::size_t i, platform::CGEventType type, QPointF at, int clickState, double time) {
+        const auto &[event, when] = events[i];
+        EXPECT_EQ(event.type, type) << i;
+        EXPECT_NEAR(event.location.x(), at.x(), 1e-9) << i;
+        EXPECT_NEAR(event.location.y(), at.y(), 1e-9) << i;
+        EXPECT_EQ(event.clickState, clickState) << i;
+        EXPECT_EQ(event.flags, 0x100000) << i;
+        EXPECT_NEAR(when - start, time, 1e-6) << i;
+    };
+    expect(0, platform::kCGEventMouseMoved, from, 0, 0);
+    expect(1, platform::kCGEventLeftMouseDown, from, 1, 0.04);
+    for (int i = 1; i <= 40; ++i)
+        expect(1 + i, platform::kCGEventLeftMouseDragged, from + (to - from) * i / 40, 1, 0.39 + (i - 1) * 0.02);
+    expect(42, platform::kCGEventLeftMouseUp, to, 1, 0.39 + 40 * 0.02 + 0.3);
+}
+
 TEST_F(Move, PostsNothingForAnItemThatIsThereAlready)
 {
     brimshade.hide(u"Relay"_s);
@@ -72,25 +98,35 @@ TEST_F(Move, LetsAScanWaitAndSeeTheBarAfterIt)
     EXPECT_FALSE(brimshade.item(u"Vault"_s).isHidden);
 }
 
-TEST(FailedMove, SaysWhy)
+TEST(FailedMove, SaysWhyAndLetsTheDividerGrowAgain)
 {
-    const std::tuple<QString, std::function<void(Brimshade &)>> cases[] = {
-        {kHiddenBar, [](Brimshade &b) { b.desktop().setMenuBarShowing(false); }},
-        {kDidNotMove, [](Brimshade &b) { b.desktop().setMovesAccepted(false); }},
+    const std::tuple<QString, std::function<void(Brimshade &)>, bool, std::size_t> cases[] = {
+        {kHiddenBar, [](Brimshade &b) { b.desktop().setMenuBarShowing(false); }, false, 0},
+        {kDidNotMove, [](Brimshade &b) { b.desktop().setMovesAccepted(false); }, false, 43},
+        {kDidNotMove,
+         [](Brimshade &b) {
+             b.show(u"Vault"_s), b.wait(kMove + 1), b.dragCount();
+             b.desktop().setMovesAccepted(false);
+         },
+         true, 43},
         {kNoRoom,
          [](Brimshade &b) {
              b.desktop().change(401, {agentWithButton({1250, 0, 20, 37})});
-         }},
+         },
+         false, 0},
     };
-    for (const auto &[sentence, spoil] : cases) {
+    for (const auto &[sentence, spoil, hide, events] : cases) {
         SCOPED_TRACE(sentence.toStdString());
         Brimshade b(dividedDesktop());
         b.open();
         spoil(b);
-        b.show(u"Vault"_s);
+        b.movePointer({300, 400});
+        b.move(u"Vault"_s, hide);
         b.wait(kMove);
         EXPECT_EQ(b.model().movingID(), QString());
         EXPECT_EQ(b.model().message(), u"Vault: "_s + sentence);
+        EXPECT_EQ(b.desktop().inspection().takeEvents().size(), events);
+        EXPECT_EQ(b.desktop().input().pointer(), QPointF(300, 400));
         EXPECT_TRUE(b.hasKeys(u"settings"_s));
         b.wait(1);
         EXPECT_TRUE(b.divider().isExpanded());

@@ -4,12 +4,6 @@ namespace brimshade::features {
 
 enum Key { returnKey = 36, escape = 53, enter = 76 };
 
-QString nameOfSelection(Brimshade &brimshade)
-{
-    const menubar::MenuExtra *selected = brimshade.model().selectedMatch();
-    return selected ? selected->name : QString();
-}
-
 TEST(Panel, OpensUnderTheNotchWithTheKeysAndTheList)
 {
     Brimshade brimshade;
@@ -111,21 +105,6 @@ TEST(Panel, PressesTheChosenItemOnceThePanelIsOutOfTheWay)
     EXPECT_EQ(brimshade.pressedItems(), QStringList());
     brimshade.wait(0.001);
     EXPECT_EQ(brimshade.pressedItems(), QStringList(u"vault.main"_s));
-}
-
-TEST(Panel, SearchesAsOneTypes)
-{
-    Brimshade brimshade;
-    brimshade.open();
-    brimshade.type(u"  QUI  "_s);
-    EXPECT_EQ(nameOfSelection(brimshade), u"Quill"_s);
-    EXPECT_EQ(brimshade.model().visibleMatchCount(), 1);
-    brimshade.press(escape);
-    EXPECT_TRUE(brimshade.delegate().shown());
-    EXPECT_EQ(brimshade.model().query(), QString());
-    EXPECT_EQ(brimshade.model().visibleMatchCount(), 5);
-    brimshade.press(escape);
-    EXPECT_FALSE(brimshade.delegate().shown());
 }
 
 TEST(Panel, LeavesKeysAloneOnceClosed)

@@ -29,8 +29,8 @@ TEST(Settings, OneShortcutAtATimeTogglesThePanel)
 TEST(Settings, OneWindowForAllOpenings)
 {
     Brimshade brimshade;
-    brimshade.delegate().openSettings();
-    brimshade.wait(0);
+    brimshade.rightClickStatusItem();
+    brimshade.chooseFromMenu(u"Settings…"_s);
     EXPECT_TRUE(brimshade.hasKeys(u"settings"_s));
     EXPECT_TRUE(brimshade.model().scanned());
     brimshade.desktop().windows().named(u"settings"_s)->close();
@@ -38,7 +38,8 @@ TEST(Settings, OneWindowForAllOpenings)
     EXPECT_TRUE(brimshade.hasKeys(u"settings"_s));
     EXPECT_EQ(brimshade.windowCount(u"settings"_s), 1);
 
-    brimshade.model().onShowOnboarding();
+    brimshade.rightClickStatusItem();
+    brimshade.chooseFromMenu(u"Setup Guide…"_s);
     EXPECT_FALSE(brimshade.isOnScreen(u"settings"_s));
     EXPECT_TRUE(brimshade.hasKeys(u"setup"_s));
 }

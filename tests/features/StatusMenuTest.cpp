@@ -17,18 +17,6 @@ TEST(StatusMenu, OpensOnARightClickAndLeavesThePanelAsItIs)
     EXPECT_TRUE(brimshade.delegate().shown());
 }
 
-TEST(StatusMenu, LeadsToBothWindows)
-{
-    Brimshade brimshade;
-    brimshade.rightClickStatusItem();
-    brimshade.chooseFromMenu(u"Settings…"_s);
-    EXPECT_TRUE(brimshade.hasKeys(u"settings"_s));
-    brimshade.rightClickStatusItem();
-    brimshade.chooseFromMenu(u"Setup Guide…"_s);
-    EXPECT_TRUE(brimshade.hasKeys(u"setup"_s));
-    EXPECT_FALSE(brimshade.isOnScreen(u"settings"_s));
-}
-
 TEST(StatusMenu, RefreshesTheList)
 {
     Brimshade brimshade;

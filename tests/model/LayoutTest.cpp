@@ -29,14 +29,6 @@ TEST(Layout, MeasuresThePanel)
     }
 }
 
-TEST(Layout, LeavesRoomForTheSentenceWhenNothingMatches)
-{
-    ModelContext context;
-    context.model().setExtras(items(1, 1));
-    context.model().setQuery(u"nothing"_s);
-    EXPECT_EQ(context.model().panelSize(), QSizeF(488, 134 + 32));
-}
-
 TEST(Layout, AnnouncesTheSizeOnceForEachChangeOfWhatItDependsOn)
 {
     ModelContext context;

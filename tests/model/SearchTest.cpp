@@ -106,18 +106,4 @@ TEST(Search, ReadsAsIfComputedAnewAfterAnyChange)
     }
 }
 
-TEST(Search, AnObserverSeesTheOldListsBeforeAndTheNewOnesAfter)
-{
-    ModelContext context;
-    NotchModel &model = context.model();
-    model.setExtras(items(1, 1));
-    QStringList seen;
-    QObject::connect(&model, &NotchModel::objectWillChange,
-                     [&] { seen.append(u"before %1"_s.arg(model.matches().size())); });
-    QObject::connect(&model, &NotchModel::queryChanged,
-                     [&] { seen.append(u"after %1"_s.arg(model.matches().size())); });
-    model.setQuery(u"hidden"_s);
-    EXPECT_EQ(seen.first(2), (QStringList{u"before 2"_s, u"after 1"_s}));
-}
-
 } // namespace brimshade::model::tests

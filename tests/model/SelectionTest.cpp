@@ -19,26 +19,13 @@ TEST(Selection, StepsThroughHiddenThenVisibleItemsAndStaysInTheList)
     for (const auto &[from, step, to] : cases) {
         ModelContext context;
         NotchModel &model = context.model();
-        model.setExtras(items(3, 2));
+        model.setExtras({item(u"v0"_s), item(u"h0"_s, true), item(u"h1"_s, true), item(u"v1"_s), item(u"h2"_s, true)});
         model.setSelectedID(from);
         model.setHoveredID(u"h1"_s);
         model.moveSelection(step);
         EXPECT_EQ(model.selectedID(), to) << qPrintable(from) << step;
         EXPECT_EQ(model.hoveredID(), QString());
     }
-}
-
-TEST(Selection, KeepsTheScannersOrderWithinEachSection)
-{
-    ModelContext context;
-    NotchModel &model = context.model();
-    model.setExtras({item(u"v0"_s), item(u"h0"_s, true), item(u"v1"_s), item(u"h1"_s, true)});
-    QStringList walked;
-    for (int i = 0; i < 4; ++i) {
-        model.moveSelection(1);
-        walked.append(model.selectedID());
-    }
-    EXPECT_EQ(walked, (QStringList{u"h0"_s, u"h1"_s, u"v0"_s, u"v1"_s}));
 }
 
 TEST(Selection, TypingSelectsTheFirstResult)

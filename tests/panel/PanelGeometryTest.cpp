@@ -44,21 +44,4 @@ TEST_F(PanelGeometryTest, ScrollsOnlyWhatDoesNotFit)
     EXPECT_EQ(geometry.clampedScroll(1e9), geometry.contentHeight() - geometry.viewportHeight());
 }
 
-TEST_F(PanelGeometryTest, BringsTheSelectedTileIntoViewAndNoFurther)
-{
-    model.setExtras(makeExtras(400, 30));
-    geometry.setProperty("limit", 600);
-    const auto &extras = model.extras();
-    const double view = geometry.viewportHeight();
-    const double end = geometry.contentHeight() - view;
-    const auto rowTop = [](int row) { return 10 + 24 + row * 84.0; };
-    EXPECT_EQ(geometry.scrollShowing(extras[0].id, 700), 0) << "the title above the first row is shown too";
-    EXPECT_EQ(geometry.scrollShowing(extras[20].id, 10), 10) << "in view already";
-    EXPECT_EQ(geometry.scrollShowing(extras[90].id, 0), rowTop(10) + 84 - view) << "from below";
-    EXPECT_EQ(geometry.scrollShowing(extras[90].id, 2000), rowTop(10) - 10) << "from above";
-    EXPECT_EQ(geometry.scrollShowing(extras[429].id, 0), end);
-    EXPECT_EQ(geometry.scrollShowing(u"gone"_s, 500), 500);
-    EXPECT_EQ(geometry.scrollShowing(u"gone"_s, 1e9), end) << "what went took its room with it";
-}
-
 } // namespace brimshade::panel

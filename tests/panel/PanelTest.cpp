@@ -54,20 +54,6 @@ TEST(Panel, TheHeaderComesLateAndGoesAtOnce)
     EXPECT_EQ(header->opacity(), 0);
 }
 
-TEST(Panel, StandsWhereItsNumbersSay)
-{
-    PanelScene panel(3, 2);
-    panel.open();
-    EXPECT_EQ(panel.frame(u"content"_s).left(), 256 + 14 + 22);
-    EXPECT_EQ(panel.frame(u"header"_s), QRectF(292, 0, 416, 32));
-    EXPECT_EQ(panel.frame(u"hiddenSection"_s).topLeft(), QPointF(292, 32 + 10));
-    EXPECT_EQ(panel.frame(u"visibleSection"_s).topLeft(), QPointF(292, 42 + 98 + 14));
-    EXPECT_EQ(panel.frame(u"footer"_s), QRectF(292, 266, 416, 18));
-    EXPECT_EQ(panel.scene.frameOf(panel.tile(u"Lantern"_s)), QRectF(292 + 74, 42 + 24, 64, 74));
-    EXPECT_EQ(panel.scene.find(u"hiddenCount"_s)->property("text"), u"3 hidden"_s);
-    EXPECT_EQ(panel.scene.find(u"itemCount"_s)->property("text"), u"5 items"_s);
-}
-
 TEST(Panel, AClickBesideTheTabClosesItAndOneOnItDoesNot)
 {
     PanelScene panel;

@@ -64,30 +64,6 @@ TEST(Tile, OnlyTheTileInFocusIsHighlighted)
     EXPECT_EQ(panel.model.hoveredID(), QString());
 }
 
-TEST(Tile, IsLitAndGrowsUnderThePointer)
-{
-    PanelScene panel(1, 2, 2);
-    panel.model.setExtras({makeExtra(u"Hidden"_s, true), makeExtra(u"Shown"_s, false)});
-    panel.open();
-    const auto face = [&](const QString &name) {
-        return panel.scene.frameOf(panel.tile(name)->findChild<QQuickItem *>(u"face"_s));
-    };
-    // Between the icon and the face's edge.
-    const auto fill = [&](const QString &name) { return panel.pixel(face(name).topLeft() + QPointF(27, 4)).red(); };
-    EXPECT_NEAR(fill(u"Hidden"_s), 255 * 0.06, 2);
-    EXPECT_NEAR(fill(u"Shown"_s), 255 * 0.035, 2);
-    const QPointF marker = face(u"Hidden"_s).center() + QPointF(19, -19);
-    EXPECT_EQ(panel.pixel(marker), QColor(255, 158, 51));
-    EXPECT_LT(panel.pixel(face(u"Shown"_s).center() + QPointF(19, -19)).red(), 20);
-    EXPECT_EQ(face(u"Hidden"_s).size(), QSizeF(54, 54));
-    panel.model.setHoveredID(u"hidden"_s);
-    panel.finishMotion();
-    EXPECT_NEAR(face(u"Hidden"_s).width(), 54 * 1.07, 1e-6);
-    EXPECT_GT(fill(u"Hidden"_s), 255 * 0.11);
-    const QQuickItem *name = panel.tile(u"Hidden"_s)->findChild<QQuickItem *>(u"name"_s);
-    EXPECT_NEAR(name->property("color").value<QColor>().alphaF(), 0.95, 0.01);
-}
-
 TEST(Tile, OpensOnAClickAndShowsItsMenuOnARightClick)
 {
     PanelScene panel(2, 8);
@@ -120,16 +96,6 @@ TEST(Tile, KeepsItsIdentityThroughSearchesAndScans)
     panel.finishMotion();
     EXPECT_EQ(panel.tile(u"Pebble"_s), pebble);
     EXPECT_EQ(panel.scene.frameOf(pebble).topLeft(), before);
-}
-
-TEST(Tile, CutsALongNameToOneLine)
-{
-    PanelScene panel(8, 0);
-    panel.open();
-    const QQuickItem *name = panel.tile(u"Northwind Calendar"_s)->findChild<QQuickItem *>(u"name"_s);
-    EXPECT_TRUE(name->property("truncated").toBool());
-    EXPECT_EQ(name->property("lineCount"), 1);
-    EXPECT_LE(name->property("contentWidth").toDouble(), 64);
 }
 
 } // namespace brimshade::panel

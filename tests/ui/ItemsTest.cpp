@@ -41,22 +41,6 @@ TEST(Items, ShapesShadowsAndTextOnOneSheet)
     }
 }
 
-TEST(Items, TextIsAsLargeAsItSays)
-{
-    OffscreenScene scene({200, 100}, 1);
-    ASSERT_TRUE(scene.load(R"(
-        import QtQuick
-        import Brimshade.Ui
-        Item {
-            StyledText { objectName: "ten"; text: "Width"; size: 10 }
-            StyledText { objectName: "twenty"; text: "Width"; size: 20 }
-            Text { objectName: "pixels"; text: "Width"; font.family: "Inter"; font.pixelSize: 20 }
-        })"));
-    const double twenty = scene.find(u"twenty"_s)->implicitWidth();
-    EXPECT_NEAR(scene.find(u"ten"_s)->implicitWidth() * 2, twenty, 2);
-    EXPECT_NEAR(scene.find(u"pixels"_s)->implicitWidth(), twenty, 1);
-}
-
 TEST(Items, TheSpinnerTurnsOnlyWhileItIsSeen)
 {
     OffscreenScene scene({40, 40}, 1);

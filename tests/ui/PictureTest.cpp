@@ -20,14 +20,6 @@ TEST(Squircle, IsAsDeepAsTheCircleAndStaysInTheRectangle)
     }
 }
 
-TEST(Squircle, BeginsItsCornerEarlierThanACircle)
-{
-    const QRectF rect(0, 0, 100, 100);
-    const QPointF nearSide(18, 0.05); // beyond a circle's corner of 16, where it is still straight
-    EXPECT_TRUE(roundedRectangle(rect, 16, false).contains(nearSide));
-    EXPECT_FALSE(roundedRectangle(rect, 16, true).contains(nearSide));
-}
-
 TEST(Blur, SpreadsADotLikeAGaussianAndLosesNothing)
 {
     for (const double deviation : {3.0, 10.0, 20.0}) {

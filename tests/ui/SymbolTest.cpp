@@ -48,22 +48,4 @@ TEST(Symbols, AreTemplateImagesOfTheirPointSize)
     EXPECT_TRUE(service.symbolImage(u"no.such.symbol"_s, {}, {}).isNull());
 }
 
-TEST(Symbols, AHeavierWeightCoversMore)
-{
-    const auto covered = [](platform::SymbolWeight weight) {
-        QImage image(96, 96, QImage::Format_Alpha8);
-        image.fill(0);
-        QPainter painter(&image);
-        paintSymbol(painter, symbolOutline(u"gearshape.fill"_s), {75, weight}, Qt::black);
-        painter.end();
-        long sum = 0;
-        for (int y = 0; y < image.height(); ++y)
-            for (int x = 0; x < image.width(); ++x)
-                sum += image.constScanLine(y)[x];
-        return sum;
-    };
-    EXPECT_GT(covered(platform::SymbolWeight::semibold), covered(platform::SymbolWeight::regular));
-    EXPECT_GT(covered(platform::SymbolWeight::bold), covered(platform::SymbolWeight::semibold));
-}
-
 } // namespace brimshade::ui

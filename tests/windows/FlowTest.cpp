@@ -19,26 +19,6 @@ protected:
     }
 };
 
-TEST_F(Flow, WalksForwardToTheEndAndBackToTheStart)
-{
-    model.setTrusted(false);
-    QList<int> actions;
-    for (int step = 0; step < flow.steps(); ++step) {
-        EXPECT_EQ(flow.step(), step);
-        actions << flow.action();
-        flow.act();
-    }
-    EXPECT_EQ(actions,
-              (QList<int>{OnboardingFlow::GetStarted, OnboardingFlow::Skip, OnboardingFlow::Continue,
-                          OnboardingFlow::Continue, OnboardingFlow::Finish}));
-    EXPECT_EQ(flow.step(), 4) << "finishing leaves the flow where it is";
-    ASSERT_TRUE(finished);
-    EXPECT_TRUE(finished->isEmpty());
-    for (int i = 0; i < 9; ++i)
-        flow.back();
-    EXPECT_EQ(flow.step(), 0);
-}
-
 TEST_F(Flow, LooksForThePermissionEverySecondOnTheSecondStepOnly)
 {
     model.setTrusted(false);

@@ -101,23 +101,6 @@ TEST_F(AccessibilityTest, EndsRequestsAfterTheElementsTimeoutAndNotLater)
     EXPECT_EQ(accessibility().setMessagingTimeout(nullptr, 1), kAXErrorFailure);
 }
 
-TEST_F(AccessibilityTest, AnswersForWhatHappenedWhileARequestWaited)
-{
-    auto hung = application(11, {extra(u"a.one"_s)});
-    const auto item = World::item(11, 0);
-    hung.hangs = true;
-    desktop.change(11, {.description = hung});
-    AXError pressed = kAXErrorSuccess;
-    dispatch.globalAsync(QualityOfService::userInitiated, [&] {
-        accessibility().setMessagingTimeout(item, 0.5);
-        pressed = accessibility().performAction(item, u"AXPress"_s);
-    });
-    dispatch.advance(0.2);
-    desktop.quit(11);
-    dispatch.advance(0.3);
-    EXPECT_EQ(pressed, kAXErrorInvalidUIElement);
-}
-
 TEST_F(AccessibilityTest, KeepsElementsOfUnchangedExtrasAndBuriesTheRest)
 {
     const auto two = item(12, 0), three = item(12, 1);
@@ -140,30 +123,6 @@ TEST_F(AccessibilityTest, KeepsElementsOfUnchangedExtrasAndBuriesTheRest)
     EXPECT_FALSE(desktop.launch({.description = changed})) << "the pid is taken";
     EXPECT_FALSE(desktop.launch({.description = application(desktop.ownPid(), {})}));
     EXPECT_FALSE(desktop.quit(99));
-}
-
-TEST_F(AccessibilityTest, FindsIconsAndDisplayNamesByBundle)
-{
-    auto outer = application(30, {});
-    outer.bundlePath = u"/Applications/Outer.app"_s;
-    outer.icon = u"#3b82f6"_s;
-    auto helper = application(31, {});
-    helper.bundlePath = u"/Applications/Shell.app/Contents/Helper.app"_s;
-    helper.icon = u"#ef4444"_s;
-    desktop.launch({.description = outer});
-    desktop.launch({.description = helper});
-    const auto icon = [this](const QString &path) { return platform.workspace.iconForFile(path); };
-    const auto color = [](const Image &image) { return QColor(image.bitmap().pixel(20, 64)); };
-
-    EXPECT_TRUE(icon(u"/Applications/Outer.app"_s).isSameObject(icon(u"/Applications/Outer.app/Contents/x"_s)));
-    EXPECT_TRUE(icon(u"/Applications/Shell.app"_s).isSameObject(icon(*helper.bundlePath)));
-    EXPECT_FALSE(icon(u"/Applications/Outer.application"_s).isSameObject(icon(u"/Applications/Outer.app"_s)));
-    EXPECT_GT(color(icon(*outer.bundlePath)).blue(), 200);
-    EXPECT_GT(color(icon(*helper.bundlePath)).red(), 200);
-    EXPECT_FALSE(icon(u"/nowhere"_s).isNull());
-    desktop.quit(30);
-    EXPECT_GT(color(icon(*outer.bundlePath)).blue(), 200) << "a file's icon outlives its process";
-    EXPECT_EQ(platform.workspace.displayNameAtPath(u"/Applications/Outer.app"_s), u"Outer.app"_s);
 }
 
 } // namespace brimshade::desktop

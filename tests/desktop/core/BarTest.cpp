@@ -125,59 +125,20 @@ TEST_F(BarTest, RearrangesByCommandDragsAndByNothingElse)
     }
 }
 
-TEST_F(BarTest, FollowsTheScreensAndTellsWhenTheOwnItemChangesItsScreen)
+TEST_F(BarTest, IsAskedForACommandDragBeforeAnyWindowThatCoversIt)
 {
-    const auto own = createOwn();
-    int changes = 0, parameters = 0;
-    platform.notificationCenter.addObserver(QLatin1StringView(kNSWindowDidChangeScreenNotification),
-                                            own->button()->window(), [&] { ++changes; });
-    platform.notificationCenter.addObserver(QLatin1StringView(kNSApplicationDidChangeScreenParametersNotification),
-                                            nullptr, [&] { ++parameters; });
-    auto notched = notchedScreen();
-    notched.frame.moveLeft(1920);
-    desktop.setScreens({plainScreen({0, 0, 1920, 1080}), notched});
-    EXPECT_EQ(parameters, 1);
-    settle();
-    EXPECT_EQ(changes, 0) << "it stays on the notched one";
-    EXPECT_EQ(barFrame(u"BrimshadeButton"_s).y(), 1080 - 982);
-
-    desktop.setScreens({plainScreen({0, 0, 1920, 1080})});
-    EXPECT_EQ(changes, 0) << "not before the bar has settled";
-    settle();
-    EXPECT_EQ(changes, 1);
-    EXPECT_EQ(barFrame(u"BrimshadeButton"_s), QRectF(1920 - 8 - 132 - 28, 0, 28, 24));
-    EXPECT_EQ(own->button()->window()->screen()->localizedName, u"External"_s);
-    desktop.setScreens({});
-    settle();
-    EXPECT_TRUE(platform.screens.screens().empty());
-    EXPECT_FALSE(own->button()->window()->occlusionStateVisible());
-}
-
-TEST_F(BarTest, ListsTheBarOfEachScreenAndOurWindowsAtTheirLevels)
-{
-    desktop.setScreens({notchedScreen(), plainScreen({1512, 0, 1920, 1080})});
     WindowAttributes attributes;
-    attributes.contentRect = QRectF(10, 20, 100, 50);
-    const auto normal = platform.windows.createWindow(attributes, HostedView());
+    attributes.contentRect = QRectF(256, 262, 1256, 720);
     attributes.level = kStatusWindowLevel;
     const auto panel = platform.windows.createWindow(attributes, HostedView());
-    panel->orderFrontRegardless();
-    normal->orderFrontRegardless();
-
-    const auto layers = [this] {
-        std::vector<int> layers;
-        for (const QVariantMap &info : platform.windowServer.copyWindowInfo())
-            layers.push_back(info.value(QLatin1StringView(kCGWindowLayer)).toInt());
-        return layers;
-    };
-    EXPECT_EQ(layers(), (std::vector{25, 24, 24, 0}));
-    const auto bounds = platform.windowServer.copyWindowInfo()[2].value(QLatin1StringView(kCGWindowBounds)).toMap();
-    EXPECT_EQ(bounds, (QVariantMap{{u"X"_s, 1512.}, {u"Y"_s, 982. - 1080}, {u"Width"_s, 1920.}, {u"Height"_s, 24.}}));
-    EXPECT_EQ(platform.windowServer.levelForKey(kCGMainMenuWindowLevelKey), 24);
-    desktop.setMenuBarShowing(false);
-    EXPECT_EQ(layers(), (std::vector{25, 0}));
-    for (const BarItem &item : desktop.menuBar().items())
-        EXPECT_FALSE(item.drawn);
+    panel->makeKeyAndOrderFront();
+    press({1357, 18});
+    EXPECT_EQ(desktop.input().released(MouseButton::left, 0), Target::window);
+    press({1357, 18}, MouseButton::left, kCommandFlag);
+    moveTo({1300, 18}, kCommandFlag);
+    EXPECT_EQ(desktop.input().released(MouseButton::left, kCommandFlag), Target::menuBar);
+    settle();
+    EXPECT_EQ(barOrder(), u"b.three a.one b.two com.example.clock"_s);
 }
 
 } // namespace brimshade::desktop

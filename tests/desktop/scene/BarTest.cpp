@@ -1,29 +1,8 @@
 #include "SceneContext.h"
 #include "desktop/core/MenuBar.h"
 #include "desktop/scene/BarModel.h"
-#include "desktop/scene/WallClock.h"
 
 namespace brimshade::desktop {
-
-TEST(WallClock, TellsAsMuchAsThereIsRoomForAndWakesOnTheMinute)
-{
-    VirtualDispatch dispatch;
-    const QDateTime start(QDate(2026, 9, 3), QTime(23, 58, 30));
-    WallClock clock(dispatch, [&] { return start.addMSecs(qint64(dispatch.now() * 1000)); });
-    EXPECT_EQ(clock.text(400), u"Thu Sep 3  23:58"_s);
-    EXPECT_EQ(clock.text(80), u"Thu 23:58"_s);
-    EXPECT_EQ(clock.text(1), u"23:58"_s);
-    int changes = 0;
-    QObject::connect(&clock, &WallClock::changed, &clock, [&] { ++changes; });
-    dispatch.advance(29.9);
-    EXPECT_EQ(changes, 0);
-    dispatch.advance(0.1);
-    EXPECT_EQ(changes, 1);
-    EXPECT_EQ(clock.text(400), u"Thu Sep 3  23:59"_s);
-    dispatch.advance(60);
-    EXPECT_EQ(changes, 2);
-    EXPECT_EQ(clock.text(400), u"Fri Sep 4  00:00"_s);
-}
 
 TEST(Bar, ShowsTheItemsThatAreDrawnWhereTheyAre)
 {

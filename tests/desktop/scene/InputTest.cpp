@@ -33,26 +33,6 @@ TEST(Input, ReachesTheViewUnderThePointerOnly)
     EXPECT_FALSE(low->isKeyWindow());
 }
 
-TEST(Input, StaysWithTheViewThatWasPressedUntilTheRelease)
-{
-    SceneContext context;
-    const auto window = context.probe(u"probe"_s, kFrame);
-    context.move(kInA);
-    context.recorder().take();
-    context.scene().press(MouseButton::left);
-    context.move({700, 600});
-    context.scene().release(MouseButton::left);
-    context.settle();
-    EXPECT_TRUE(context.recorder().take().contains(u"release a"_s));
-    // What begins outside of any window never reaches one.
-    context.scene().press(MouseButton::left);
-    context.move(kInB);
-    context.scene().release(MouseButton::left);
-    context.settle();
-    const QStringList notes = context.recorder().take();
-    EXPECT_FALSE(notes.contains(u"press b"_s) || notes.contains(u"release b"_s));
-}
-
 TEST(Input, OpensAMenuOfTheBarAndKeepsTheClickFromTheViews)
 {
     SceneContext context;
@@ -73,24 +53,6 @@ TEST(Input, OpensAMenuOfTheBarAndKeepsTheClickFromTheViews)
     context.scene().release(MouseButton::left);
     context.settle();
     EXPECT_EQ(context.recorder().take(), QStringList({u"enter a"_s})) << "what the pointer is over is known again";
-}
-
-TEST(Input, GivesKeysToTheKeyWindowAsTheyStand)
-{
-    SceneContext context;
-    const auto first = context.probe(u"first"_s, kFrame);
-    const auto second = context.probe(u"second"_s, kFrame.translated(0, 250));
-    context.recorder().take();
-    context.key(45, u"ñ"_s);
-    EXPECT_EQ(context.recorder().take(), QStringList({u"key %1 ñ"_s.arg(int(Qt::Key_N))}));
-    second->orderOut();
-    context.settle();
-    context.desktop().windows().makeKey(nullptr);
-    context.key(0, u"a"_s);
-    EXPECT_EQ(context.recorder().take(), QStringList()) << "another application has the keys";
-    first->makeKeyAndOrderFront();
-    context.key(0, u"a"_s);
-    EXPECT_EQ(context.recorder().take().size(), 1);
 }
 
 } // namespace brimshade::desktop

@@ -41,11 +41,6 @@ protected:
         context.settle();
         return menu;
     }
-    void keys(std::initializer_list<std::uint16_t> codes)
-    {
-        for (const std::uint16_t code : codes)
-            context.key(code);
-    }
     QRectF rowFrame(const QString &title)
     {
         for (QQuickItem *row : context.findAll(u"menuRow"_s)) {
@@ -138,6 +133,8 @@ TEST_F(MenuTest, FollowsEntriesThatComeLater)
     menu->replace({entry(1, u"Apple"_s)});
     context.settle();
     EXPECT_EQ(context.findAll(u"menu"_s).size(), 1);
+    menu->replace({});
+    EXPECT_FALSE(context.desktop().menus().openMenu()) << "an empty menu closes";
 }
 
 TEST_F(MenuTest, MakesOnlyTheRowsOfALongListThatShow)

@@ -10,12 +10,6 @@ namespace brimshade::desktop {
 
 constexpr double kHeight = 700;
 
-void registerProbes()
-{
-    qmlRegisterType(QUrl(u"qrc:/probes/ProbeView.qml"_s), "Brimshade.Probes", 1, 0, "ProbeView");
-    qmlRegisterType(QUrl(u"qrc:/probes/SizedView.qml"_s), "Brimshade.Probes", 1, 0, "SizedView");
-}
-
 MenuEntry entry(int id, const QString &title)
 {
     MenuEntry entry;
@@ -45,7 +39,7 @@ DesktopDescription SceneContext::smallDesktop()
 
 SceneContext::SceneContext(const DesktopDescription &description, double scale) : m_scale(scale)
 {
-    registerProbes();
+    qmlRegisterType(QUrl(u"qrc:/probes/ProbeView.qml"_s), "Brimshade.Probes", 1, 0, "ProbeView");
     m_desktop = std::make_unique<Desktop>(Desktop::Services{m_clock, m_symbols, nullptr, nullptr}, description);
     remakeScene();
 }

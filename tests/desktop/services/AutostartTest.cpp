@@ -1,6 +1,5 @@
 #include "desktop/services/AutostartEntry.h"
 #include "desktop/services/AutostartLoginItem.h"
-#include "desktop/services/ScriptedLoginItem.h"
 #include "support/Test.h"
 
 namespace brimshade::desktop {
@@ -100,14 +99,6 @@ TEST_F(AutostartTest, ExecNamesTheProgramWhateverItsName)
     shell.start(u"sh"_s, {u"-c"_s, u"printf %s "_s + exec});
     ASSERT_TRUE(shell.waitForFinished());
     EXPECT_EQ(QString::fromUtf8(shell.readAllStandardOutput()), program);
-}
-
-TEST(ScriptedLoginItemTest, AFailureChangesNothing)
-{
-    ScriptedLoginItem item;
-    item.answer(LoginItemStatus::requiresApproval, u"denied"_s);
-    EXPECT_EQ(item.unregisterMainApp().error(), u"denied"_s);
-    EXPECT_EQ(item.status(), LoginItemStatus::requiresApproval);
 }
 
 } // namespace brimshade::desktop

@@ -191,23 +191,4 @@ TYPED_TEST(DispatchTest, DestructionEndsSleepsAndDropsMainSync)
     EXPECT_EQ(witness.use_count(), 1);
 }
 
-TYPED_TEST(DispatchTest, TwoInOneProcessDoNotMeet)
-{
-    TypeParam other;
-    bool otherRan = false;
-    const auto queue = other.makeSerialQueue(u"other"_s, QualityOfService::background);
-    queue->async([&] {
-        other.mainSync([&] { this->order.push_back(2); });
-        other.mainAsync([&] { otherRan = true; });
-    });
-    this->dispatch->mainAsync([&] {
-        this->order.push_back(1);
-        this->done = true;
-    });
-    this->run(this->done);
-    this->dispatch.reset();
-    runUntil(other, otherRan);
-    EXPECT_THAT(this->order, testing::UnorderedElementsAre(1, 2));
-}
-
 } // namespace brimshade::desktop

@@ -80,21 +80,6 @@ TEST_F(VirtualDispatchTest, SleepersTakeTurnsByTheClock)
                             "fast 0.600", "slow 0.800", "slow 1.200", "sync 1.200", "slow 1.200"));
 }
 
-TEST_F(VirtualDispatchTest, AtMostEightGlobalPiecesAreUnderWay)
-{
-    int ended = 0;
-    for (int i = 0; i < 10; ++i) {
-        dispatch.globalAsync(QualityOfService::userInitiated, [&] {
-            dispatch.sleep(1);
-            ++ended;
-        });
-    }
-    dispatch.advance(1);
-    EXPECT_EQ(ended, 8);
-    dispatch.advance(1);
-    EXPECT_EQ(ended, 10);
-}
-
 TEST_F(VirtualDispatchTest, QtEventsAreDeliveredBetweenTheBlocks)
 {
     QObject receiver;

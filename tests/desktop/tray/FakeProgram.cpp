@@ -6,8 +6,6 @@ namespace brimshade::desktop::tray {
 
 const QString kItemPath = u"/StatusNotifierItem"_s;
 
-}
-
 FakeProgram::FakeProgram(const QDBusConnection &connection) : menu{0, {}, {}}, m_connection(connection)
 {
     registerWireTypes();

@@ -127,17 +127,6 @@ TEST_F(ItemClientTest, APressReachesTheProgramTheWayItUnderstands)
     }
 }
 
-TEST_F(ItemClientTest, ItsMenuIsReadyWithTheFrameThatWasPressed)
-{
-    m_program.properties = {{u"Menu"_s, path(u"/Menu"_s)}, {u"ItemIsMenu"_s, false}};
-    m_program.menu.children = {labelled(1, u"Open"_s)};
-    QSignalSpy ready(&client(), &ItemClient::menuReady);
-    client().press({10, 5, 30, 32});
-    waitUntil([&] { return !ready.isEmpty(); });
-    EXPECT_EQ(ready[0][0].toRectF(), QRectF(10, 5, 30, 32));
-    EXPECT_EQ(client().menu()->entries().size(), 1);
-}
-
 TEST_F(ItemClientTest, NothingThatCanBePressedIsAMessage)
 {
     m_program.unknownMethods = {u"Activate"_s, u"ContextMenu"_s};

@@ -45,17 +45,6 @@ TEST_F(MenuClientTest, WhatWasReadAheadOpensAtOnce)
     EXPECT_EQ(titles(), (QStringList{u"Open"_s, u"Quit"_s}));
 }
 
-TEST_F(MenuClientTest, AChoiceIsToldInTheOrderThatProgramsExpect)
-{
-    start();
-    open();
-    TrayMenu menu(*m_client);
-    menu.choose(2);
-    menu.closed();
-    settle(m_own, m_connection);
-    EXPECT_EQ(m_program.takeEvents(), (QStringList{u"Event 0 opened"_s, u"Event 2 clicked"_s, u"Event 0 closed"_s}));
-}
-
 TEST_F(MenuClientTest, AMenuThatIsFilledWhenAskedForIsReadBeforeItOpens)
 {
     m_program.menu.children.clear();

@@ -123,21 +123,6 @@ TEST(TrayItemParsing, NamesAndIconsFallBackInOrder)
     EXPECT_EQ(item.shownIcon().name, u"calm"_s);
 }
 
-TEST(TrayItemParsing, APressTriesWhatTheProgramOffers)
-{
-    using enum Press;
-    const std::tuple<QVariantMap, std::vector<Press>> rows[] = {
-        {{{u"Menu"_s, u"/MenuBar"_s}}, {menu, contextMenu, activate}},
-        {{{u"Menu"_s, u"/MenuBar"_s}, {u"ItemIsMenu"_s, false}}, {menu, contextMenu, activate}},
-        {{{u"Menu"_s, u"/NO_DBUSMENU"_s}}, {contextMenu, activate}},
-        {{{u"Menu"_s, u"/"_s}}, {activate, contextMenu}},
-        {{{u"ItemIsMenu"_s, true}}, {contextMenu, activate}},
-        {{}, {activate, contextMenu}},
-    };
-    for (const auto &[properties, order] : rows)
-        EXPECT_EQ(pressOrder(parseItem(properties).item), order);
-}
-
 TEST(Icons, AreFoundInABareFolderAndInAThemeBelowIt)
 {
     QTemporaryDir folder;

@@ -91,27 +91,6 @@ TEST_F(RegistryTest, DropsTheItemsOfAProgramThatLeavesOrLetsItsNameGo)
     EXPECT_EQ(waitForEvents(1), QStringList{u"-"_s + stayed + u"/StatusNotifierItem"_s});
 }
 
-TEST_F(RegistryTest, ShowsItsPropertiesToWhoLooksBeforeRegistering)
-{
-    startAsWatcher();
-    QObject context;
-    QString xml;
-    QVariant host;
-    const auto program = m_bus.connection(u"program"_s);
-    callAsync(program, {kWatcher, u"/StatusNotifierWatcher"_s, u"org.freedesktop.DBus.Introspectable"_s},
-              u"Introspect"_s, {}, &context,
-              [&](const BusReply &reply) { xml = reply ? reply->value(0).toString() : u"error"_s; });
-    callAsync(program, {kWatcher, u"/StatusNotifierWatcher"_s, u"org.freedesktop.DBus.Properties"_s}, u"Get"_s,
-              {kWatcher, u"IsStatusNotifierHostRegistered"_s}, &context,
-              [&](const BusReply &reply) { host = reply ? reply->value(0) : u"error"_s; });
-    waitUntil([&] { return !xml.isEmpty() && host.isValid(); });
-    EXPECT_EQ(host, QVariant(true));
-    for (const auto &property : {u"RegisteredStatusNotifierItems\" type=\"as"_s,
-                                 u"IsStatusNotifierHostRegistered\" type=\"b"_s, u"ProtocolVersion\" type=\"i"_s})
-        EXPECT_TRUE(xml.contains(property)) << xml.toStdString();
-    EXPECT_FALSE(xml.contains(u"registrationAsked"_s));
-}
-
 TEST_F(RegistryTest, RefusesWhatNamesNoItem)
 {
     startAsWatcher();
