@@ -5,26 +5,6 @@ namespace brimshade::menubar::tests {
 
 using Attempt = std::pair<QString, int>;
 
-struct PressCase {
-    const char *what;
-    QStringList actions;
-    std::optional<int> pressError;
-    std::vector<Attempt> attempts;
-    QStringList log;
-};
-
-const PressCase kCases[] = {
-    {"can be pressed", {u"AXPress"_s, u"AXShowMenu"_s}, {}, {{u"AXPress"_s, 0}}, {}},
-    {"only has a menu", {u"AXShowMenu"_s}, {}, {{u"AXPress"_s, -25206}, {u"AXShowMenu"_s, 0}}, {}},
-    {"can nothing",
-     {},
-     {},
-     {{u"AXPress"_s, -25206}, {u"AXShowMenu"_s, -25206}},
-     {u"press failed for Relay: AXError -25206"_s}},
-    {"is busy with its menu", {u"AXPress"_s}, -25204, {{u"AXPress"_s, -25204}}, {}},
-    {"fails", {u"AXPress"_s}, -25200, {{u"AXPress"_s, -25200}}, {u"press failed for Relay: AXError -25200"_s}},
-};
-
 std::vector<Attempt> attempts(MenuBarContext &bar)
 {
     std::vector<Attempt> list;
@@ -45,16 +25,27 @@ QStringList errors(MenuBarContext &bar)
 
 TEST(Activation, PressesOrElseShowsTheMenuAndLogsWhatFailed)
 {
-    for (const PressCase &each : kCases) {
+    const std::tuple<const char *, QStringList, std::optional<int>, std::vector<Attempt>, QStringList> cases[] = {
+        {"can be pressed", {u"AXPress"_s, u"AXShowMenu"_s}, {}, {{u"AXPress"_s, 0}}, {}},
+        {"only has a menu", {u"AXShowMenu"_s}, {}, {{u"AXPress"_s, -25206}, {u"AXShowMenu"_s, 0}}, {}},
+        {"can nothing",
+         {},
+         {},
+         {{u"AXPress"_s, -25206}, {u"AXShowMenu"_s, -25206}},
+         {u"press failed for Relay: AXError -25206"_s}},
+        {"is busy with its menu", {u"AXPress"_s}, -25204, {{u"AXPress"_s, -25204}}, {}},
+        {"fails", {u"AXPress"_s}, -25200, {{u"AXPress"_s, -25200}}, {u"press failed for Relay: AXError -25200"_s}},
+    };
+    for (const auto &[what, actions, pressError, expected, log] : cases) {
         ExtraDescription item = extra(u"x"_s);
-        item.actions = each.actions;
-        item.pressError = each.pressError;
+        item.actions = actions;
+        item.pressError = pressError;
         MenuBarContext bar({application(1, u"Relay"_s, {item})});
         bar.access->activate(bar.found(u"x"_s));
         EXPECT_TRUE(attempts(bar).empty()) << "pressed on the calling thread";
         bar.dispatch.runDue();
-        EXPECT_EQ(attempts(bar), each.attempts) << each.what;
-        EXPECT_EQ(errors(bar), each.log) << each.what;
+        EXPECT_EQ(attempts(bar), expected) << what;
+        EXPECT_EQ(errors(bar), log) << what;
     }
 }
 

@@ -33,15 +33,4 @@ TEST_F(PanelGeometryTest, StacksTheSectionsAndTheFooter)
     }
 }
 
-TEST_F(PanelGeometryTest, ScrollsOnlyWhatDoesNotFit)
-{
-    model.setExtras(makeExtras(400, 2));
-    geometry.setProperty("limit", 600);
-    EXPECT_EQ(geometry.openSize().height(), 600);
-    EXPECT_EQ(geometry.viewportHeight(), 600 - 32 - 36);
-    EXPECT_EQ(geometry.footerY(), 600 - 32 - 22);
-    EXPECT_EQ(geometry.clampedScroll(-40), 0);
-    EXPECT_EQ(geometry.clampedScroll(1e9), geometry.contentHeight() - geometry.viewportHeight());
-}
-
 } // namespace brimshade::panel

@@ -29,15 +29,6 @@ TEST(Panel, GrowsOutOfTheNotchAndShrinksBackOnItsSprings)
     EXPECT_NEAR(panel.frame(u"notchTab"_s).height(), sprung(288, 32, {0.32, 0.92}, 0.08), 0.51);
 }
 
-TEST(Panel, FollowsItsSizeOnAnotherSpring)
-{
-    PanelScene panel(3, 2);
-    panel.open();
-    panel.model.setQuery(u"zzz"_s);
-    panel.scene.advance(120);
-    EXPECT_NEAR(panel.frame(u"notchTab"_s).height(), sprung(288, 166, {0.4, 0.85}, 0.12), 0.51);
-}
-
 TEST(Panel, TheHeaderComesLateAndGoesAtOnce)
 {
     PanelScene panel;

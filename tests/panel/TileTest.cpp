@@ -24,18 +24,6 @@ TEST(Tile, CascadesInReadingOrderAndLeavesAllTogether)
     EXPECT_EQ(opacity(0), 0);
 }
 
-TEST(Tile, ComesInFromAboveAtHalfItsSize)
-{
-    PanelScene panel(4, 0);
-    const QRectF closed = panel.scene.frameOf(panel.tile(u"Relay"_s));
-    panel.open();
-    const QRectF open = panel.scene.frameOf(panel.tile(u"Relay"_s));
-    EXPECT_EQ(open.size(), QSizeF(64, 74));
-    EXPECT_EQ(closed.size(), QSizeF(32, 37));
-    EXPECT_EQ(closed.center().x(), open.center().x()) << "about its top centre";
-    EXPECT_EQ(closed.top(), open.top() - 14);
-}
-
 TEST(Tile, OnlyTheTileInFocusIsHighlighted)
 {
     PanelScene panel(4, 3);

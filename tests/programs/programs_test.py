@@ -70,7 +70,7 @@ class RealPrograms(unittest.TestCase):
                 return self.property_of_item(owner, "/" + path, "IconName")
 
     def windows(self):
-        return self.session.xdotool("search", "--onlyvisible", "--name", "KeePassXC").split()
+        return self.session.output_of("xdotool", "search", "--onlyvisible", "--name", "KeePassXC").split()
 
     def test_1_the_scan_finds_them_under_their_names(self):
         self.toggle_panel()

@@ -96,7 +96,8 @@ class Session:
         return subprocess.run(command, env=self.environment, capture_output=True, text=True, timeout=60).stdout
 
     def xdotool(self, *arguments):
-        return self.output_of("xdotool", *map(str, arguments))
+        return subprocess.run(["xdotool", *map(str, arguments)], env=self.environment, capture_output=True, text=True,
+                              check=True).stdout
 
     def close(self):
         for process in reversed(self._processes):

@@ -1,5 +1,4 @@
 #include "support/Test.h"
-#include "ui/SymbolService.h"
 #include "ui/SymbolTable.h"
 
 namespace brimshade::ui {
@@ -34,18 +33,6 @@ TEST(Symbols, NoNameInUseIsMissing)
     const QStringList known = symbolNames();
     for (const QString &name : names.split(u' '))
         EXPECT_TRUE(known.contains(name)) << qPrintable(name);
-}
-
-TEST(Symbols, AreTemplateImagesOfTheirPointSize)
-{
-    SymbolService service;
-    const platform::Image image = service.symbolImage(u"wifi"_s, {}, {14, platform::SymbolWeight::semibold});
-    EXPECT_TRUE(image.isTemplate());
-    EXPECT_DOUBLE_EQ(image.size().width(), symbolExtent(14));
-    const QImage bitmap = image.bitmap();
-    EXPECT_GT(qAlpha(bitmap.pixel(64, 100)), 200) << "the dot of the fan";
-    EXPECT_EQ(qAlpha(bitmap.pixel(2, 2)), 0);
-    EXPECT_TRUE(service.symbolImage(u"no.such.symbol"_s, {}, {}).isNull());
 }
 
 } // namespace brimshade::ui

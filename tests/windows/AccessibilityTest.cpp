@@ -93,16 +93,6 @@ TEST_F(Accessibility, TellsTheSettingsInReadingOrder)
         }));
 }
 
-TEST_F(Accessibility, TellsTheEmptyListOfItems)
-{
-    showSettings();
-    EXPECT_TRUE(told().contains(u"StaticText Reading your menu bar…"_s));
-    model.setTrusted(false);
-    EXPECT_TRUE(told().contains(u"StaticText Allow Accessibility access to manage your menu bar."_s));
-    setExtras(someExtras());
-    EXPECT_FALSE(told().contains(u"StaticText Allow Accessibility access to manage your menu bar."_s));
-}
-
 TEST_F(Accessibility, TellsEachStepOfTheSetupAndNothingOfTheOthers)
 {
     const Language language{QLocale(u"en"_s)};

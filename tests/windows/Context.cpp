@@ -78,6 +78,13 @@ void Context::goTo(int step)
         m_scene->advance(1500);
 }
 
+bool Context::isLooking()
+{
+    const int before = accessibility.questions;
+    dispatch.advance(2);
+    return accessibility.questions > before;
+}
+
 ui::OffscreenScene &Context::showSettings(double scale)
 {
     return show("SettingsView {}", {480, 640}, scale);

@@ -1,8 +1,8 @@
 #pragma once
 #include "OffscreenScene.h"
+#include "desktop/time/VirtualDispatch.h"
 #include "model/NotchModel.h"
 #include "model/PermissionRequest.h"
-#include "platform/Dispatch.h"
 #include "support/FakeSystem.h"
 #include "windows/flow/OnboardingFlow.h"
 
@@ -17,64 +17,13 @@ public:
     ~Language();
 };
 
-// One repeating timer at most, and a clock that stands still between calls of pass().
-class FakeDispatch : public platform::Dispatch {
-public:
-    double now() const override { return m_now; }
-    bool isMainThread() const override { return true; }
-    void mainAsync(platform::Work) override { }
-    void mainAfter(double, platform::Work) override { }
-    void mainSync(const platform::Work &work) override { work(); }
-    std::unique_ptr<platform::Timer> scheduleRepeating(double seconds, platform::Work tick) override
-    {
-        m_interval = seconds;
-        m_due = m_now + seconds;
-        m_tick = std::move(tick);
-        return std::make_unique<Handle>(*this);
-    }
-    std::shared_ptr<platform::SerialQueue> makeSerialQueue(const QString &, platform::QualityOfService) override
-    {
-        return {};
-    }
-    void globalAsync(platform::QualityOfService, platform::Work) override { }
-    void sleep(double) override { }
-
-    bool isIdle() const { return !m_tick; }
-    void pass(double seconds)
-    {
-        const double until = m_now + seconds;
-        while (m_tick && m_due <= until) {
-            m_now = m_due;
-            m_due += m_interval;
-            m_tick();
-        }
-        m_now = until;
-    }
-
-private:
-    class Handle : public platform::Timer {
-    public:
-        explicit Handle(FakeDispatch &dispatch) : m_dispatch(dispatch) { }
-        ~Handle() override { invalidate(); }
-        void invalidate() override { m_dispatch.m_tick = nullptr; }
-
-    private:
-        FakeDispatch &m_dispatch;
-    };
-
-    double m_now = 0;
-    double m_interval = 0;
-    double m_due = 0;
-    platform::Work m_tick;
-};
-
 // A model with its flow and, once asked for, one of the two windows, offscreen.
 class Context : public FakeSystem {
 public:
     Context();
     ~Context();
 
-    FakeDispatch dispatch;
+    desktop::VirtualDispatch dispatch;
     model::NotchModel model{defaults, loginItems};
     model::PermissionRequest permission{accessibility, workspace};
     std::optional<OnboardingFlow::Choices> finished;
@@ -86,6 +35,7 @@ public:
 
     void setExtras(const menubar::ExtraList &extras);
     void goTo(int step);
+    bool isLooking(); // for the permission, on the second step
     ui::OffscreenScene &showSettings(double scale = 1);
     ui::OffscreenScene &showSetup(double scale = 1);
     ui::OffscreenScene &scene() { return *m_scene; }

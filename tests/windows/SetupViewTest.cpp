@@ -6,15 +6,17 @@ class SetupView : public testing::Test, protected Context { };
 
 TEST_F(SetupView, LooksForThePermissionOnlyWhileItCanBeSeen)
 {
-    EXPECT_TRUE(dispatch.isIdle());
+    model.setTrusted(false);
+    goTo(1);
+    EXPECT_FALSE(isLooking());
     showSetup();
-    EXPECT_FALSE(dispatch.isIdle());
+    EXPECT_TRUE(isLooking());
     scene().root()->setVisible(false);
-    EXPECT_TRUE(dispatch.isIdle());
+    EXPECT_FALSE(isLooking());
     scene().root()->setVisible(true);
-    EXPECT_FALSE(dispatch.isIdle());
+    EXPECT_TRUE(isLooking());
     showSettings();
-    EXPECT_TRUE(dispatch.isIdle());
+    EXPECT_FALSE(isLooking());
 }
 
 // More items than the window is high: the grid scrolls, five in a row.

@@ -23,20 +23,6 @@ DesktopDescription difficultDesktop()
 class AccessibilityTest : public World {
 protected:
     AccessibilityTest() : World(difficultDesktop()) { }
-    // The seconds that a read of an application takes on another thread, and what it ended with.
-    std::pair<double, AXError> readOnWorker(int pid, double timeout)
-    {
-        std::pair<double, AXError> result;
-        onWorker([&] {
-            const auto element = accessibility().createApplication(pid);
-            if (timeout >= 0)
-                accessibility().setMessagingTimeout(element, timeout);
-            const double start = dispatch.now();
-            result.second = errorOf(element, u"AXExtrasMenuBar"_s);
-            result.first = std::round((dispatch.now() - start) * 1e6) / 1e6; // the clock counts nanoseconds
-        });
-        return result;
-    }
 };
 
 TEST_F(AccessibilityTest, ReadsTheTreeAsListedAndNamesWhatIsMissing)
@@ -67,38 +53,6 @@ TEST_F(AccessibilityTest, ReadsTheTreeAsListedAndNamesWhatIsMissing)
     };
     for (const auto &[name, element, attribute, error] : cases)
         EXPECT_EQ(errorOf(element, attribute), error) << name << " " << attribute.toStdString();
-}
-
-TEST_F(AccessibilityTest, EndsRequestsAfterTheElementsTimeoutAndNotLater)
-{
-    auto slow = application(11, {extra(u"a.one"_s)});
-    const auto item = World::item(11, 0);
-    const auto waits = [&](bool hangs, double latency, double timeout) {
-        slow.hangs = hangs;
-        slow.latency = latency;
-        desktop.change(11, {.description = slow});
-        return readOnWorker(11, timeout);
-    };
-    using Result = std::pair<double, AXError>;
-    EXPECT_EQ(waits(true, 0, 0.25), Result(0.25, kAXErrorCannotComplete));
-    EXPECT_EQ(waits(true, 0, -1), Result(6, kAXErrorCannotComplete)) << "the system's own";
-    EXPECT_EQ(waits(true, 0, 0), Result(6, kAXErrorCannotComplete)) << "zero restores it";
-    EXPECT_EQ(waits(false, 0.2, 0.25), Result(0.2, kAXErrorSuccess));
-    EXPECT_EQ(waits(false, 0.25, 0.25), Result(0.25, kAXErrorCannotComplete));
-
-    desktop.change(11, {.description = slow});
-    EXPECT_EQ(errorOf(accessibility().createApplication(11), u"AXRole"_s), kAXErrorSuccess)
-        << "the main thread waits for nobody";
-    accessibility().setMessagingTimeout(accessibility().createApplication(11), 0.1);
-    double took = 0;
-    onWorker([&] {
-        const double start = dispatch.now();
-        EXPECT_EQ(errorOf(item, u"AXRole"_s), kAXErrorSuccess) << "an item does not inherit its application's";
-        took = dispatch.now() - start;
-    });
-    EXPECT_DOUBLE_EQ(took, 0.25);
-    EXPECT_EQ(accessibility().setMessagingTimeout(item, -1), kAXErrorFailure);
-    EXPECT_EQ(accessibility().setMessagingTimeout(nullptr, 1), kAXErrorFailure);
 }
 
 TEST_F(AccessibilityTest, KeepsElementsOfUnchangedExtrasAndBuriesTheRest)

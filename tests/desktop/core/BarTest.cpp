@@ -48,33 +48,6 @@ TEST_F(BarTest, OrdersPinnedThenOwnThenOthersAndAddsLaterOnesAtTheLeftEnd)
     EXPECT_EQ(barFrame(u"b.two"_s).x(), 1314);
 }
 
-TEST_F(BarTest, ShowsEachLayoutATenthOfASecondAfterItsChange)
-{
-    const auto own = platform.statusBar.createStatusItem(28);
-    EXPECT_EQ(own->button()->window(), nullptr);
-    dispatch.advance(0.099);
-    EXPECT_EQ(own->button()->window(), nullptr);
-    dispatch.advance(0.001);
-    ASSERT_NE(own->button()->window(), nullptr);
-    EXPECT_EQ(windowFrame(*own), QRectF(1344, 0, 28, 37));
-
-    own->setLength(100);
-    dispatch.advance(0.05);
-    own->setLength(200);
-    EXPECT_EQ(own->length(), 200);
-    dispatch.advance(0.049);
-    EXPECT_EQ(windowFrame(*own).width(), 28);
-    EXPECT_EQ(axFrame(item(11, 0)).x(), 1314);
-    dispatch.advance(0.001);
-    EXPECT_EQ(windowFrame(*own), QRectF(1272, 0, 100, 37)) << "the first change as it was meant";
-    EXPECT_EQ(axFrame(item(11, 0)).x(), 1242) << "everything at the same instant";
-    dispatch.advance(0.05);
-    EXPECT_EQ(windowFrame(*own), QRectF(1172, 0, 200, 37));
-    own->setLength(kSquareStatusItemLength);
-    settle();
-    EXPECT_EQ(windowFrame(*own).width(), 37);
-}
-
 TEST_F(BarTest, PutsItsOwnItemWhereTheSettingsSayAndStoresOnlyADragOfIt)
 {
     platform.userDefaults.setInteger(199, kPlaceKey);

@@ -68,21 +68,4 @@ TEST(DesktopThreads, ReadsAndPostsOnAnyThreadWhileTheDisplayChanges)
     EXPECT_EQ(desktop->inspection().requestCount(), reads);
 }
 
-// Work that threads have queued finds no desktop any more.
-TEST(DesktopThreads, LeavesNothingBehindInTheQueue)
-{
-    VirtualDispatch dispatch;
-    FakeSymbols symbols;
-    std::shared_ptr<StatusItem> own;
-    {
-        Desktop desktop({dispatch, symbols, nullptr, nullptr}, someDesktop());
-        own = desktop.platform().statusBar.createStatusItem(28);
-        desktop.platform().eventServices.post({kCGEventLeftMouseDown, {1400, 10}, kCGEventFlagMaskCommand, 1});
-        desktop.platform().accessibility.isProcessTrustedWithOptions(true);
-    }
-    dispatch.advance(1);
-    own->setLength(50);
-    own.reset();
-}
-
 } // namespace brimshade::desktop

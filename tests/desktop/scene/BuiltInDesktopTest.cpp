@@ -7,25 +7,6 @@
 
 namespace brimshade::desktop {
 
-TEST(BuiltInDesktop, HasItemsInTheBarBehindTheNotchAndOffScreen)
-{
-    SceneContext context(builtInDesktop());
-    int drawn = 0;
-    int behind = 0;
-    int offScreen = 0;
-    for (const BarItem &item : context.desktop().menuBar().items()) {
-        drawn += item.drawn;
-        offScreen += item.frame.right() <= 0;
-        behind += !item.drawn && item.frame.right() > 0;
-        EXPECT_FALSE(item.symbol.isEmpty() && item.image.isNull() && !item.identifier.endsWith(u".clock"_s))
-            << "nothing to draw for " << item.identifier.toStdString();
-    }
-    EXPECT_GE(drawn, 10);
-    EXPECT_GE(behind, 5);
-    EXPECT_GE(offScreen, 1);
-    EXPECT_LE(offScreen, 2);
-}
-
 TEST(BuiltInDesktop, HasReadablePicturesAndMenusThatSayWhatWasChosen)
 {
     QStringList icons;

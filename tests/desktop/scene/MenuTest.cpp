@@ -82,14 +82,6 @@ TEST_F(MenuTest, IsDrivenByKeys)
     }
 }
 
-TEST_F(MenuTest, FindsAnEntryByItsFirstLetter)
-{
-    const auto menu = openFruit();
-    context.key(2, u"d"_s);
-    context.key(kVK_Return);
-    EXPECT_EQ(menu->chosen, std::vector{5});
-}
-
 TEST_F(MenuTest, IsDrivenByThePointer)
 {
     const auto menu = openFruit();
@@ -103,19 +95,6 @@ TEST_F(MenuTest, IsDrivenByThePointer)
     context.click(rowFrame(u"Sour"_s).center());
     EXPECT_EQ(menu->chosen, std::vector{42});
     EXPECT_TRUE(context.findAll(u"menu"_s).isEmpty());
-}
-
-TEST_F(MenuTest, ChoosesWhereAButtonHeldSinceTheBarIsReleased)
-{
-    const auto menu = openFruit();
-    context.desktop().menus().dismiss();
-    context.move({995, 15});
-    context.scene().press(MouseButton::left); // on the bar, beside its items
-    const auto again = openFruit();
-    context.move(rowFrame(u"Date"_s).center());
-    context.scene().release(MouseButton::left);
-    context.settle();
-    EXPECT_EQ(again->chosen, std::vector{5});
 }
 
 TEST_F(MenuTest, FollowsEntriesThatComeLater)

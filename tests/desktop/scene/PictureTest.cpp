@@ -28,19 +28,4 @@ TEST(Pictures, AreTheSameWhetherDrawnAtOnceOrChangeByChange)
     EXPECT_EQ(context.scene().picture(), changed);
 }
 
-TEST(Pictures, OfAWindowShowItAloneAtTheScale)
-{
-    SceneContext context(SceneContext::smallDesktop(), 2);
-    const auto window = context.probe(u"probe"_s, kFrame);
-    const QImage before = context.scene().picture();
-    EXPECT_EQ(before.size(), QSize(2000, 1400));
-    const auto picture = context.scene().picture(u"probe"_s);
-    ASSERT_TRUE(picture);
-    EXPECT_EQ(picture->size(), QSize(400, 400));
-    EXPECT_EQ(picture->pixelColor(10, 250), QColor(255, 0, 0));
-    EXPECT_EQ(picture->pixelColor(300, 100).alpha(), 0) << "the desktop is not part of it";
-    EXPECT_EQ(context.scene().picture(), before);
-    EXPECT_FALSE(context.scene().picture(u"other"_s));
-}
-
 } // namespace brimshade::desktop

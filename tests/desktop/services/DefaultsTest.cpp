@@ -32,16 +32,6 @@ TEST(MemoryDefaultsTest, ReadsConvertAsOnTheMac)
     }
 }
 
-TEST(MemoryDefaultsTest, FillLeavesWhatIsStored)
-{
-    MemoryDefaults defaults;
-    defaults.setBool(false, u"a"_s);
-    defaults.fill({{u"a"_s, true}, {u"b"_s, 5}});
-    EXPECT_THAT(defaults.all().keys(), ElementsAre(u"a"_s, u"b"_s));
-    EXPECT_EQ(defaults.objectForKey(u"a"_s).typeId(), QMetaType::Bool);
-    EXPECT_FALSE(defaults.boolForKey(u"a"_s));
-}
-
 class FileDefaultsTest : public testing::Test {
 protected:
     QByteArray content() const { return readFile(path); }

@@ -58,21 +58,6 @@ TYPED_TEST(DispatchTest, WorkRunsByDueTimeThenByQueueing)
     EXPECT_THAT(order, ElementsAre(1, 2, 3, 4));
 }
 
-TYPED_TEST(DispatchTest, WorkQueuedByWorkRunsInALaterTurn)
-{
-    auto &order = this->order;
-    this->dispatch->mainAsync([&] {
-        this->dispatch->mainAsync([&] {
-            order.push_back(3);
-            this->done = true;
-        });
-        order.push_back(1);
-    });
-    this->dispatch->mainAsync([&] { order.push_back(2); });
-    this->run(this->done);
-    EXPECT_THAT(order, ElementsAre(1, 2, 3));
-}
-
 TYPED_TEST(DispatchTest, CancelledWorkItemDoesNotRun)
 {
     auto kept = std::make_shared<DispatchWorkItem>([&] { this->order.push_back(1); });

@@ -130,16 +130,4 @@ TEST_F(VirtualDispatchTest, AFrameComesAfterWhatIsDueAndBeforeWhatItCauses)
     EXPECT_THAT(log, ElementsAre("due 0.050", "frame 0.050", "caused 0.050"));
 }
 
-TEST_F(VirtualDispatchTest, WorkMayAdvanceTheClockItself)
-{
-    dispatch.mainAfter(0.1, [this] {
-        dispatch.advance(5);
-        note("outer");
-    });
-    dispatch.mainAfter(1, [this] { note("inner"); });
-    dispatch.advance(2);
-    EXPECT_THAT(log, ElementsAre("inner 1.000", "outer 5.100"));
-    EXPECT_THAT(dispatch.now(), DoubleEq(5.1)); // never back
-}
-
 } // namespace brimshade::desktop

@@ -104,25 +104,6 @@ TEST(TrayItemParsing, TextsBecomeOnePlainBoundedLine)
     EXPECT_EQ(item.toolTipText, u"3&nbsp;new 1 < 2"_s);
 }
 
-TEST(TrayItemParsing, NamesAndIconsFallBackInOrder)
-{
-    TrayItem item;
-    item.id = u"id"_s;
-    EXPECT_EQ(item.nameForPeople(), u"id"_s);
-    item.toolTipTitle = u"tip"_s;
-    EXPECT_EQ(item.nameForPeople(), u"tip"_s);
-    item.title = u"title"_s;
-    EXPECT_EQ(item.nameForPeople(), u"title"_s);
-
-    item.icon.name = u"calm"_s;
-    item.status = TrayItem::Status::needsAttention;
-    EXPECT_EQ(item.shownIcon().name, u"calm"_s);
-    item.attentionIcon.name = u"alarm"_s;
-    EXPECT_EQ(item.shownIcon().name, u"alarm"_s);
-    item.status = TrayItem::Status::passive;
-    EXPECT_EQ(item.shownIcon().name, u"calm"_s);
-}
-
 TEST(Icons, AreFoundInABareFolderAndInAThemeBelowIt)
 {
     QTemporaryDir folder;
