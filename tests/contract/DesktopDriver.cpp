@@ -1,10 +1,5 @@
 #include "Driver.h"
-#include "desktop/core/Desktop.h"
-#include "desktop/core/InputRouter.h"
-#include "desktop/core/MenuHost.h"
-#include "desktop/time/VirtualDispatch.h"
-#include "support/Descriptions.h"
-#include "support/FakeSystem.h"
+#include "support/TestDesktop.h"
 
 using namespace brimshade::desktop;
 using namespace brimshade::platform;
@@ -15,29 +10,19 @@ class DesktopDriver : public Driver {
 public:
     Platform platform() override { return m_desktop.platform(); }
 
-    void runDue() override { m_dispatch.runDue(); }
-    void advance(double seconds) override { m_dispatch.advance(seconds); }
-    void settleMenuBar() override { m_dispatch.advance(0.1); }
+    void runDue() override { m_on.dispatch.runDue(); }
+    void advance(double seconds) override { m_on.dispatch.advance(seconds); }
+    void settleMenuBar() override { m_on.dispatch.advance(0.1); }
 
-    void movePointer(QPointF at) override { m_desktop.input().pointerMoved(at, 0); }
-    void click(QPointF at, bool right) override
-    {
-        const MouseButton button = right ? MouseButton::right : MouseButton::left;
-        movePointer(at);
-        m_desktop.input().pressed(button, 0);
-        m_desktop.input().released(button, 0);
-    }
+    void movePointer(QPointF at) override { m_on.moveTo(at); }
+    void click(QPointF at, bool right) override { m_on.click(at, right ? MouseButton::right : MouseButton::left); }
     void drag(QPointF from, QPointF to) override
     {
-        movePointer(from);
-        m_desktop.input().pressed(MouseButton::left, 0);
-        movePointer(to);
+        m_on.press(from);
+        m_on.moveTo(to);
         m_desktop.input().released(MouseButton::left, 0);
     }
-    void key(std::uint16_t code, std::uint64_t modifierFlags) override
-    {
-        m_desktop.input().keyDown({keyDown, modifierFlags, code, {}});
-    }
+    void key(std::uint16_t code, std::uint64_t modifierFlags) override { m_on.key(code, {}, modifierFlags); }
     QStringList openMenu() override { return m_desktop.menus().titles(); }
     void choose(const QString &title) override { m_desktop.menus().choose(title); }
     void dismissMenu() override { m_desktop.menus().dismiss(); }
@@ -63,9 +48,8 @@ public:
     void changeScreens() override { m_desktop.setScreens({plainScreen({0, 0, 1920, 1080})}); }
 
 private:
-    VirtualDispatch m_dispatch;
-    FakeSymbols m_symbols;
-    Desktop m_desktop{{m_dispatch, m_symbols, nullptr, nullptr}, notchedDesktop({})};
+    TestDesktop m_on{notchedDesktop({})};
+    Desktop &m_desktop = m_on.desktop;
     std::map<int, ApplicationDescription> m_launched;
     int m_latestPid = 100;
 };

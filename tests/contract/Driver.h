@@ -1,20 +1,5 @@
 #pragma once
-#include "platform/Accessibility.h"
-#include "platform/Application.h"
-#include "platform/Dispatch.h"
-#include "platform/EventServices.h"
-#include "platform/HotkeyCenter.h"
-#include "platform/LoginItems.h"
-#include "platform/Menu.h"
-#include "platform/NotificationCenter.h"
-#include "platform/Platform.h"
-#include "platform/Screens.h"
-#include "platform/StatusBar.h"
-#include "platform/UserDefaults.h"
-#include "platform/Window.h"
-#include "platform/WindowServer.h"
-#include "platform/Workspace.h"
-#include "support/Test.h"
+#include "support/Platform.h"
 
 namespace brimshade::contract {
 

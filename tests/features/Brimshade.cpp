@@ -1,15 +1,11 @@
 #include "Brimshade.h"
-
-#include "desktop/core/MenuBar.h"
 #include "desktop/services/LogWriter.h"
 #include "windows/flow/OnboardingFlow.h"
 
 namespace brimshade::features {
 
 Brimshade::Brimshade(const desktop::DesktopDescription &description)
-    : m_desktop(std::make_unique<desktop::Desktop>(desktop::Desktop::Services{m_dispatch, m_symbols, nullptr, nullptr},
-                                                   description)),
-      m_delegate(std::make_shared<app::AppDelegate>(m_desktop->platform()))
+    : m_on(description), m_delegate(std::make_shared<app::AppDelegate>(m_on.platform))
 {
     m_delegate->applicationDidFinishLaunching();
     wait(1); // the status item stands where it will stay
@@ -18,21 +14,19 @@ Brimshade::Brimshade(const desktop::DesktopDescription &description)
 Brimshade::~Brimshade()
 {
     vanish();
-    m_dispatch.stop();
+    m_on.dispatch.stop();
 }
 
 void Brimshade::movePointer(QPointF to)
 {
-    m_desktop->input().pointerMoved(to, 0);
-    m_dispatch.runDue();
+    m_on.moveTo(to);
+    m_on.dispatch.runDue();
 }
 
 void Brimshade::click(QPointF at, desktop::MouseButton button)
 {
-    movePointer(at);
-    m_desktop->input().pressed(button, 0);
-    m_desktop->input().released(button, 0);
-    m_dispatch.runDue();
+    m_on.click(at, button);
+    m_on.dispatch.runDue();
 }
 
 void Brimshade::open()
@@ -44,8 +38,8 @@ void Brimshade::open()
 
 void Brimshade::press(int keyCode, const QString &characters, std::uint64_t flags)
 {
-    m_desktop->input().keyDown({platform::keyDown, flags, static_cast<std::uint16_t>(keyCode), characters});
-    m_dispatch.runDue();
+    m_on.key(static_cast<std::uint16_t>(keyCode), characters, flags);
+    m_on.dispatch.runDue();
 }
 
 void Brimshade::type(const QString &text)
@@ -58,20 +52,20 @@ void Brimshade::move(const QString &name, bool hide)
 {
     model().setDividerEnabled(true);
     model().onSetHidden(item(name), hide);
-    m_dispatch.runDue();
+    m_on.dispatch.runDue();
 }
 
 void Brimshade::chooseFromMenu(const QString &title)
 {
-    ASSERT_TRUE(m_desktop->menus().choose(title)) << title.toStdString();
-    m_dispatch.runDue();
+    ASSERT_TRUE(m_on.desktop.menus().choose(title)) << title.toStdString();
+    m_on.dispatch.runDue();
 }
 
 void Brimshade::finishSetup(const QHash<QString, bool> &hiddenByName)
 {
     m_delegate->showOnboarding();
-    m_dispatch.runDue();
-    const auto &view = std::get<platform::HostedView>(m_desktop->windows().named(u"setup"_s)->content());
+    m_on.dispatch.runDue();
+    const auto &view = std::get<platform::HostedView>(m_on.desktop.windows().named(u"setup"_s)->content());
     auto *flow = view.properties.value(u"flow"_s).value<windows::OnboardingFlow *>();
     for (const auto &[name, hidden] : hiddenByName.asKeyValueRange()) {
         if (flow->effectiveChoice(item(name)) != hidden)
@@ -80,7 +74,7 @@ void Brimshade::finishSetup(const QHash<QString, bool> &hiddenByName)
     while (flow->action() != windows::OnboardingFlow::Finish)
         flow->act();
     flow->act();
-    m_dispatch.runDue();
+    m_on.dispatch.runDue();
 }
 
 const menubar::MenuExtra &Brimshade::item(const QString &name)
@@ -94,25 +88,25 @@ const menubar::MenuExtra &Brimshade::item(const QString &name)
 
 bool Brimshade::hasKeys(const QString &window) const
 {
-    const desktop::DesktopWindow *found = m_desktop->windows().named(window);
+    const desktop::DesktopWindow *found = m_on.desktop.windows().named(window);
     return found && found->isKeyWindow();
 }
 
 std::optional<QRectF> Brimshade::frameOf(const QString &window) const
 {
-    const desktop::DesktopWindow *found = m_desktop->windows().named(window);
+    const desktop::DesktopWindow *found = m_on.desktop.windows().named(window);
     return found && found->isVisible() ? std::optional(found->frame()) : std::nullopt;
 }
 
 int Brimshade::windowCount(const QString &name) const
 {
-    return std::ranges::count(m_desktop->windows().windows(), name,
+    return std::ranges::count(m_on.desktop.windows().windows(), name,
                               [](const desktop::DesktopWindow *window) { return window->attributes().name; });
 }
 
 QRectF Brimshade::statusItem() const
 {
-    const auto items = m_desktop->menuBar().items();
+    const auto items = m_on.desktop.menuBar().items();
     const auto own = std::ranges::find(items, true, &desktop::BarItem::isOwn);
     return own == items.end() ? QRectF() : own->frame;
 }
@@ -126,7 +120,7 @@ QPointF Brimshade::symbol() const
 QString Brimshade::bar() const
 {
     QStringList names;
-    for (const desktop::BarItem &item : m_desktop->menuBar().items()) {
+    for (const desktop::BarItem &item : m_on.desktop.menuBar().items()) {
         if (item.isOwn)
             names.append(u"|"_s);
         else if (!item.identifier.startsWith("com.example"_L1))
@@ -138,7 +132,7 @@ QString Brimshade::bar() const
 QString Brimshade::hiddenItems()
 {
     m_delegate->refresh();
-    m_dispatch.runDue();
+    m_on.dispatch.runDue();
     QStringList names;
     for (const menubar::MenuExtra &extra : model().extras()) {
         if (extra.isHidden)
@@ -150,14 +144,14 @@ QString Brimshade::hiddenItems()
 QStringList Brimshade::log()
 {
     QStringList lines;
-    for (const desktop::LogEntry &entry : m_desktop->log().take())
+    for (const desktop::LogEntry &entry : m_on.desktop.log().take())
         lines.append((entry.level == platform::LogLevel::error ? u"error: "_s : u"info: "_s) + entry.text);
     return lines;
 }
 
 int Brimshade::dragCount()
 {
-    return std::ranges::count_if(m_desktop->inspection().takeEvents(), [](const desktop::SyntheticEvent &posted) {
+    return std::ranges::count_if(m_on.desktop.inspection().takeEvents(), [](const desktop::SyntheticEvent &posted) {
         return posted.event.type == platform::kCGEventLeftMouseDown;
     });
 }
@@ -165,7 +159,7 @@ int Brimshade::dragCount()
 QStringList Brimshade::pressedItems()
 {
     QStringList identifiers;
-    for (const desktop::PerformedAction &action : m_desktop->inspection().takeActions())
+    for (const desktop::PerformedAction &action : m_on.desktop.inspection().takeActions())
         identifiers.append(action.identifier);
     return identifiers;
 }

@@ -2,16 +2,8 @@
 #include "Descriptions.h"
 #include "app/AppDelegate.h"
 #include "controls/Divider.h"
-#include "desktop/core/Desktop.h"
-#include "desktop/core/InputRouter.h"
-#include "desktop/core/Inspection.h"
-#include "desktop/core/MenuHost.h"
-#include "desktop/core/WindowStack.h"
-#include "desktop/time/VirtualDispatch.h"
-#include "menubar/MenuExtra.h"
 #include "model/NotchModel.h"
-#include "platform/Application.h"
-#include "support/FakeSystem.h"
+#include "support/TestDesktop.h"
 
 inline void PrintTo(const QString &text, std::ostream *out)
 {
@@ -30,7 +22,7 @@ public:
     explicit Brimshade(const desktop::DesktopDescription &description = notchedDesktop());
     ~Brimshade();
 
-    void wait(double seconds) { m_dispatch.advance(seconds); }
+    void wait(double seconds) { m_on.dispatch.advance(seconds); }
     void movePointer(QPointF to);
     void click(QPointF at, desktop::MouseButton button);
     void clickStatusItem() { click(symbol(), desktop::MouseButton::left); }
@@ -49,7 +41,7 @@ public:
 
     model::NotchModel &model() { return m_delegate->model(); }
     app::AppDelegate &delegate() { return *m_delegate; }
-    desktop::Desktop &desktop() { return *m_desktop; }
+    desktop::Desktop &desktop() { return m_on.desktop; }
     const controls::Divider &divider() { return *m_delegate->divider(); }
     const menubar::MenuExtra &item(const QString &name); // of the last scan
 
@@ -67,9 +59,7 @@ public:
 private:
     QPointF symbol() const; // at the right end of the status item, where one clicks it
 
-    desktop::VirtualDispatch m_dispatch;
-    FakeSymbols m_symbols;
-    std::unique_ptr<desktop::Desktop> m_desktop;
+    TestDesktop m_on;
     std::shared_ptr<app::AppDelegate> m_delegate;
 };
 

@@ -1,5 +1,4 @@
 #include "Brimshade.h"
-#include "platform/StatusBar.h"
 
 namespace brimshade::features {
 

@@ -70,14 +70,6 @@ TEST(Tint, IsTheTrueAverageMadeVivid)
     }
 }
 
-TEST(Text, TrimsBlanksButNoLineBreaks)
-{
-    const std::pair<QString, QString> cases[] = {
-        {u" \t a b \u00a0\u2003"_s, u"a b"_s}, {u"\n a\n"_s, u"\n a\n"_s}, {u"  \t"_s, u""_s}, {u""_s, u""_s}};
-    for (const auto &[text, trimmed] : cases)
-        EXPECT_EQ(trimmedBlanks(text), trimmed) << qPrintable(text);
-}
-
 TEST(Text, IsOrderedByScalarValues)
 {
     const QStringList ascending{u""_s, u"A"_s, u"B"_s, u"a"_s, u"e\u0301"_s, u"\ufb01"_s, u"\U0001f600"_s};

@@ -21,7 +21,7 @@ ExtraList MenuBarContext::scan(std::optional<QRectF> dividerFrame)
 {
     const platform::Screen screen = platform.screens.screens().front();
     ExtraList extras;
-    m_seconds = onScanQueue([&] { extras = access->scan(screen, dividerFrame); });
+    secondsOfLastScan = onScanQueue([&] { extras = access->scan(screen, dividerFrame); });
     return extras;
 }
 

@@ -1,11 +1,6 @@
 #pragma once
-#include "desktop/core/Desktop.h"
-#include "desktop/core/Inspection.h"
-#include "desktop/time/VirtualDispatch.h"
 #include "menubar/MenuBarAccess.h"
-#include "platform/Screens.h"
-#include "support/Descriptions.h"
-#include "support/FakeSystem.h"
+#include "support/TestDesktop.h"
 
 namespace brimshade::menubar::tests {
 
@@ -13,15 +8,14 @@ using desktop::ApplicationDescription;
 using desktop::ExtraDescription;
 
 // A desktop in virtual time with a scan queue, and the shortest way to what tests ask.
-class MenuBarContext {
+class MenuBarContext : public TestDesktop {
 public:
     explicit MenuBarContext(std::vector<ApplicationDescription> applications)
         : MenuBarContext(notchedDesktop(std::move(applications)))
     {
     }
     explicit MenuBarContext(const desktop::DesktopDescription &description)
-        : desktop({dispatch, m_symbols, nullptr, nullptr}, description), platform(desktop.platform()),
-          access(std::make_shared<MenuBarAccess>(platform))
+        : TestDesktop(description), access(std::make_shared<MenuBarAccess>(platform))
     {
     }
 
@@ -29,17 +23,9 @@ public:
     double onScanQueue(const platform::Work &work);
 
     ExtraList scan(std::optional<QRectF> dividerFrame = std::nullopt);
-    double secondsOfLastScan() const { return m_seconds; }
+    double secondsOfLastScan = 0;
     MenuExtra found(const QString &identifier); // by a scan; fails the test when there is none
 
-private:
-    FakeSymbols m_symbols;
-    double m_seconds = 0;
-
-public:
-    desktop::VirtualDispatch dispatch;
-    desktop::Desktop desktop;
-    const platform::Platform platform;
     const std::shared_ptr<MenuBarAccess> access;
 };
 

@@ -1,5 +1,4 @@
 #include "MenuBarContext.h"
-#include "platform/Workspace.h"
 
 namespace brimshade::menubar::tests {
 
@@ -131,7 +130,7 @@ TEST(Scan, SpendsAQuarterOfASecondOnEachApplicationThatHangs)
     MenuBarContext bar({hung(application(1, u"One"_s, {extra(u"a"_s)})), application(2, u"Two"_s, {extra(u"b"_s)}),
                         hung(application(3, u"Three"_s, {extra(u"c"_s)}))});
     EXPECT_EQ(ids(bar.scan()), QStringList{u"2-0-b"_s});
-    EXPECT_DOUBLE_EQ(bar.secondsOfLastScan(), 0.5);
+    EXPECT_DOUBLE_EQ(bar.secondsOfLastScan, 0.5);
 }
 
 TEST(Scan, ReadsEachAttributeOnce)

@@ -49,18 +49,4 @@ TEST_F(NotchTabTest, LooksLikeTheWholeOutlinePaintedAtOnce)
     }
 }
 
-TEST_F(NotchTabTest, ItsInteriorIsInsideTheOutlineAtEveryMoment)
-{
-    for (double openness = 0; openness < 1.08; openness += 0.02) {
-        setOpenness(openness);
-        const NotchShape shape = NotchShape::between(kClosedShape, kOpenShape, openness);
-        const QPainterPath path = shape.path(scene.frameOf(tab));
-        const QRectF interior = tab->interior();
-        ASSERT_FALSE(interior.isEmpty());
-        for (const QPointF corner : {interior.bottomLeft(), interior.bottomRight()})
-            EXPECT_TRUE(path.contains(corner)) << "openness " << openness;
-        EXPECT_LE(interior.width(), scene.frameOf(tab).width() - 28) << "within the body";
-    }
-}
-
 } // namespace brimshade::panel

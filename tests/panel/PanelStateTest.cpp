@@ -49,30 +49,6 @@ TEST_F(PanelStateTest, ShowsTheFirstCaseThatApplies)
     }
 }
 
-TEST_F(PanelStateTest, ThePointersTileWinsOverTheSelectedOne)
-{
-    const QString hint = u"Type to search  ·  ↩ to open  ·  right-click to hide or show  ·  esc to close"_s;
-    model.setExtras(makeExtras(3, 0));
-    const QString a = model.extras()[0].id;
-    const QString b = model.extras()[1].id;
-    const std::tuple<QString, QString, QString, QString> cases[] = {
-        {{}, {}, {}, {}},
-        {a, {}, a, a},
-        {{}, b, b, b},
-        {a, b, a, a},
-        {u"gone"_s, b, u"gone"_s, {}},
-        {{}, u"gone"_s, u"gone"_s, {}},
-    };
-    for (const auto &[hovered, selected, highlighted, focus] : cases) {
-        model.setHoveredID(hovered);
-        model.setSelectedID(selected);
-        SCOPED_TRACE(qPrintable(hovered + u'/' + selected));
-        EXPECT_EQ(state.highlightedID(), highlighted);
-        EXPECT_EQ(state.focusID(), focus);
-        EXPECT_EQ(state.focusText(), focus.isEmpty() ? hint : model.extraWithID(focus)->detail);
-    }
-}
-
 TEST_F(PanelStateTest, OnlyAnotherItemIsAnotherLine)
 {
     QSignalSpy replaced(&footer, &FooterText::replaced);

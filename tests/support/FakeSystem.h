@@ -1,12 +1,5 @@
 #pragma once
-#include "Test.h"
-#include "platform/Accessibility.h"
-#include "platform/LoginItems.h"
-#include "platform/Menu.h"
-#include "platform/NotificationCenter.h"
-#include "platform/Symbol.h"
-#include "platform/UserDefaults.h"
-#include "platform/Workspace.h"
+#include "Platform.h"
 
 namespace brimshade {
 
@@ -178,8 +171,9 @@ private:
     QStringList &m_journal;
 };
 
-// What models and views ask of the system, in memory, with one journal of it so that its order shows: "read hoverToOpen",
-// "store hoverToOpen true", "status", "menu Open,-Hide from Menu Bar" ("-" marks a disabled entry), "open x-apple…".
+// What models and views ask of the system, in memory, with one journal of it so that its order shows: "read
+// hoverToOpen", "store hoverToOpen true", "status", "menu Open,-Hide from Menu Bar" ("-" marks a disabled entry), "open
+// x-apple…".
 struct FakeSystem {
     QStringList journal;
     FakeDefaults defaults{journal};

@@ -94,19 +94,6 @@ TEST_F(Keyboard, PicksAShortcut)
     }
 }
 
-TEST_F(Keyboard, GoesThroughTheSetupByReturnAlone)
-{
-    setExtras(someExtras());
-    showSetup();
-    for (int step = 1; step < 5; ++step) {
-        key(Qt::Key_Return);
-        EXPECT_EQ(flow.step(), step);
-    }
-    EXPECT_FALSE(finished);
-    key(Qt::Key_Enter);
-    EXPECT_TRUE(finished);
-}
-
 TEST_F(Keyboard, ReturnSkipsNothingByAccident)
 {
     model.setTrusted(false);

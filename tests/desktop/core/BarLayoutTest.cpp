@@ -75,16 +75,4 @@ TEST(BarLayout, KeepsTheOwnItemsDistanceFromTheRightEdge)
     EXPECT_EQ(preferredIndex({}, {30.4}, 38), 1u) << "kept in whole points";
 }
 
-TEST(BarLayout, IsOnTheFirstScreenWithANotchElseOnThePrimaryOne)
-{
-    platform::Screen plain, notched;
-    plain.localizedName = QStringLiteral("plain");
-    notched.localizedName = QStringLiteral("notched");
-    notched.auxiliaryTopLeftArea = QRectF(0, 945, 663, 37);
-    EXPECT_EQ(barScreen({plain, notched})->localizedName, plain.localizedName) << "half a notch is none";
-    notched.auxiliaryTopRightArea = QRectF(849, 945, 663, 37);
-    EXPECT_EQ(barScreen({plain, notched})->localizedName, notched.localizedName);
-    EXPECT_EQ(barScreen({}), nullptr);
-}
-
 } // namespace brimshade::desktop

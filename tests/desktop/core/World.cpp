@@ -66,27 +66,4 @@ QRectF World::barFrame(const QString &identifier)
     return {};
 }
 
-void World::press(QPointF at, MouseButton button, std::uint64_t flags)
-{
-    moveTo(at, flags);
-    desktop.input().pressed(button, flags);
-}
-
-void World::click(QPointF at, MouseButton button, std::uint64_t flags)
-{
-    press(at, button, flags);
-    desktop.input().released(button, flags);
-}
-
-void World::onWorker(const Work &work, double limit)
-{
-    bool isDone = false;
-    dispatch.globalAsync(QualityOfService::userInitiated, [&] {
-        work();
-        isDone = true;
-    });
-    dispatch.advance(limit);
-    ASSERT_TRUE(isDone);
-}
-
 } // namespace brimshade::desktop

@@ -1,7 +1,5 @@
 #include "desktop/builtin/BuiltInDesktop.h"
 #include "SceneContext.h"
-#include "desktop/core/MenuBar.h"
-#include "platform/Workspace.h"
 
 #include <QImageReader>
 

@@ -1,16 +1,10 @@
 #include "SceneContext.h"
-#include "desktop/core/MenuBar.h"
 
 namespace brimshade::desktop {
 
 const QRectF kFrame(300, 200, 200, 200); // of the probe: area a, area b right of it
 const QPointF kInA(350, 250);
 const QPointF kInB(450, 250);
-
-QPointF barItemAt(SceneContext &context)
-{
-    return context.desktop().menuBar().items().front().frame.center();
-}
 
 TEST(Input, ReachesTheViewUnderThePointerOnly)
 {
@@ -31,28 +25,6 @@ TEST(Input, ReachesTheViewUnderThePointerOnly)
     EXPECT_TRUE(low->isKeyWindow());
     context.click({200, 600});
     EXPECT_FALSE(low->isKeyWindow());
-}
-
-TEST(Input, OpensAMenuOfTheBarAndKeepsTheClickFromTheViews)
-{
-    SceneContext context;
-    // A window that covers the bar does not keep its items from a click elsewhere on it.
-    const auto window = context.probe(u"probe"_s, kFrame);
-    context.recorder().take();
-    context.click(barItemAt(context));
-    ASSERT_TRUE(context.desktop().menus().openMenu());
-    EXPECT_EQ(context.recorder().take(), QStringList());
-    EXPECT_TRUE(window->isKeyWindow()) << "the bar takes no keys";
-
-    // The next click outside only dismisses it; the view gets neither it nor hover until then.
-    context.move(kInA);
-    EXPECT_EQ(context.recorder().take(), QStringList());
-    context.scene().press(MouseButton::left);
-    context.settle();
-    EXPECT_FALSE(context.desktop().menus().openMenu());
-    context.scene().release(MouseButton::left);
-    context.settle();
-    EXPECT_EQ(context.recorder().take(), QStringList({u"enter a"_s})) << "what the pointer is over is known again";
 }
 
 } // namespace brimshade::desktop

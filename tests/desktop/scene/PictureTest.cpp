@@ -1,7 +1,5 @@
 #include "SceneContext.h"
 #include "desktop/builtin/BuiltInDesktop.h"
-#include "desktop/core/Permission.h"
-#include "platform/Workspace.h"
 
 namespace brimshade::desktop {
 

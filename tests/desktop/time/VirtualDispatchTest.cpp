@@ -116,18 +116,4 @@ TEST_F(VirtualDispatchTest, FramesAreMadeOnlyWhileTheyAreWanted)
     EXPECT_EQ(frames.size(), 120U); // rounding loses none
 }
 
-TEST_F(VirtualDispatchTest, AFrameComesAfterWhatIsDueAndBeforeWhatItCauses)
-{
-    dispatch.setFrames([] { return true; },
-                       [this] {
-                           note("frame");
-                           dispatch.mainAsync([this] { note("caused"); });
-                       });
-    dispatch.mainAfter(0.05, [this] { note("due"); });
-    dispatch.advance(0.04);
-    log.clear();
-    dispatch.advance(0.01);
-    EXPECT_THAT(log, ElementsAre("due 0.050", "frame 0.050", "caused 0.050"));
-}
-
 } // namespace brimshade::desktop

@@ -96,8 +96,6 @@ bool FakeProgram::handleMessage(const QDBusMessage &message, const QDBusConnecti
     if (message.member() == u"GetLayout")
         words = words.mid(0, 2);
     m_calls.append(words.join(u' '));
-    if (silentMethods.contains(message.member()))
-        return true;
     if (unknownMethods.contains(message.member()))
         connection.send(message.createErrorReply(QDBusError::UnknownMethod, u"no such method"_s));
     else

@@ -53,7 +53,6 @@ public:
     QVariantMap properties; // of the item
     MenuNode menu; // at /Menu; read anew for every answer
     QSet<QString> unknownMethods; // answered as a program that lacks them does
-    QSet<QString> silentMethods; // never answered
     std::function<void(int id)> onAboutToShow;
 
     // "Activate 10 37", "AboutToShow 0", "GetLayout 0", "Event 3 clicked", "GetAll", in order

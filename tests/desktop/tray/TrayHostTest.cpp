@@ -1,10 +1,6 @@
 #include "desktop/tray/TrayHost.h"
 #include "FakeProgram.h"
-#include "desktop/core/Desktop.h"
-#include "desktop/core/MenuBar.h"
-#include "desktop/core/MenuHost.h"
-#include "support/Descriptions.h"
-#include "support/FakeSystem.h"
+#include "support/TestDesktop.h"
 
 #include <QDBusConnectionInterface>
 #include <QDBusObjectPath>
