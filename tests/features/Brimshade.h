@@ -1,5 +1,4 @@
 #pragma once
-#include "Descriptions.h"
 #include "app/AppDelegate.h"
 #include "controls/Divider.h"
 #include "model/NotchModel.h"
@@ -11,6 +10,19 @@ inline void PrintTo(const QString &text, std::ostream *out)
 }
 
 namespace brimshade::features {
+
+// A running application with one item, 30 points wide.
+desktop::ApplicationDescription application(int pid, const QString &name, double width = 30);
+// The system's agent: the clock from 1372 to 1504, the control centre left of it from 1332.
+desktop::ApplicationDescription systemAgent();
+// A plain button of the system's agent at a fixed place, at which its other items seem to begin.
+desktop::ApplicationDescription agentWithButton(const QRectF &frame);
+
+// The notched screen, the agent, Brimshade's item left of it, then Relay, Vault and Quill leftwards from 1304. The
+// setup flow is done, the permission given.
+desktop::DesktopDescription notchedDesktop(const QVariantMap &defaults = {});
+// The same with divider mode on: all three are tucked away.
+desktop::DesktopDescription dividedDesktop();
 
 inline constexpr QPointF kEmptySpot(100, 800); // of the display, top-left origin: no window of the program is there
 inline constexpr QPointF kOnNotch(756, 10);

@@ -43,11 +43,7 @@ QImage split(const QSize &size, int columns, const QColor &left, const QColor &r
 
 TEST(Tint, IsTheTrueAverageMadeVivid)
 {
-    struct {
-        const char *what;
-        QImage image;
-        QColor tint;
-    } const cases[] = {
+    const std::tuple<const char *, QImage, QColor> cases[] = {
         {"cannot be rendered", {}, Qt::white},
         {"pure red", filled(8, 8, Qt::red), Qt::red},
         {"transparent", filled(8, 8, Qt::transparent), QColor(191, 191, 191)},
@@ -64,10 +60,8 @@ TEST(Tint, IsTheTrueAverageMadeVivid)
         // A quarter red, the rest blue: 64, 0, 191.
         {"a quarter", split({100, 3}, 25, Qt::red, Qt::blue), QColor(64, 0, 191)},
     };
-    for (const auto &each : cases) {
-        const QColor result = tint(picture(each.image));
-        EXPECT_EQ(result.name(QColor::HexArgb), each.tint.name(QColor::HexArgb)) << each.what;
-    }
+    for (const auto &[what, image, expected] : cases)
+        EXPECT_EQ(tint(picture(image)).name(QColor::HexArgb), expected.name(QColor::HexArgb)) << what;
 }
 
 TEST(Text, IsOrderedByScalarValues)

@@ -157,24 +157,18 @@ TEST(Scan, FindsNothingWithoutThePermission)
 TEST(FirstSystemButton, IsTheFirstDirectlyInTheAgentsBar)
 {
     const QRectF first(880, 0, 20, 37);
-    struct {
-        const char *what;
-        std::vector<ApplicationDescription> applications;
-        std::optional<QRectF> frame;
-        double seconds;
-    } const cases[] = {
+    const std::tuple<const char *, std::vector<ApplicationDescription>, std::optional<QRectF>, double> cases[] = {
         {"two buttons", {systemAgent({extra(u"a"_s), button(first), button(kSomewhere)})}, first, 0},
         {"one in a group", {systemAgent({group({button(kSomewhere)}), button(first)})}, first, 0},
         {"another application's", {application(1, u"One"_s, {button(first)}), systemAgent({extra(u"a"_s)})}, {}, 0},
         {"no agent", {application(1, u"One"_s, {button(first)})}, {}, 0},
         {"an agent that hangs", {hung(systemAgent({button(first)}))}, {}, 0.2},
     };
-    for (const auto &each : cases) {
-        MenuBarContext bar(each.applications);
+    for (const auto &[what, applications, expected, seconds] : cases) {
+        MenuBarContext bar(applications);
         std::optional<QRectF> frame;
-        EXPECT_DOUBLE_EQ(bar.onScanQueue([&] { frame = bar.access->firstSystemButtonFrame(); }), each.seconds)
-            << each.what;
-        EXPECT_EQ(frame, each.frame) << each.what;
+        EXPECT_DOUBLE_EQ(bar.onScanQueue([&] { frame = bar.access->firstSystemButtonFrame(); }), seconds) << what;
+        EXPECT_EQ(frame, expected) << what;
     }
 }
 

@@ -49,7 +49,7 @@ ModelFixture::ModelFixture() : model(defaults, loginItems)
     model.onOpenSettings = [this] { journal << u"settings"_s; };
 }
 
-PanelScene::PanelScene(int hidden, int visible, double scale) : scene({1000, 720}, scale), m_scale(scale)
+PanelScene::PanelScene(int hidden, int visible, double scale) : scene({1000, 720}, scale)
 {
     model.setExtras(makeExtras(hidden, visible));
     model.setScanned(true);
@@ -103,11 +103,6 @@ QRectF PanelScene::frame(const QString &objectName) const
 {
     const QQuickItem *item = scene.find(objectName);
     return item ? scene.frameOf(item) : QRectF();
-}
-
-QColor PanelScene::pixel(QPointF at)
-{
-    return scene.picture().pixelColor((at * m_scale).toPoint());
 }
 
 } // namespace brimshade::panel

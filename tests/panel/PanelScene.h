@@ -29,14 +29,10 @@ public:
     QQuickItem *tile(const QString &name) const; // null when it has no delegate
     QStringList tileNames() const; // in reading order
     QRectF frame(const QString &objectName) const;
-    QColor pixel(QPointF at);
 
     model::TileActions actions{model, menus};
     model::PermissionRequest permission{accessibility, workspace};
     ui::OffscreenScene scene;
-
-private:
-    double m_scale;
 };
 
 } // namespace brimshade::panel

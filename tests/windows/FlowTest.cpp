@@ -82,12 +82,7 @@ TEST_F(Flow, SeedsChoicesAtTheStartAndForEveryNewItem)
 TEST_F(Flow, TogglesWhatCanMove)
 {
     model.setExtras({extra(u"relay"_s, false), extra(u"ledger"_s, true), extra(u"clock"_s, false, false)});
-    struct Case {
-        QString id;
-        QStringList tiles;
-        int stay, tucked, pending;
-    };
-    const Case cases[]{
+    const std::tuple<QString, QStringList, int, int, int> cases[]{
         {u"clock"_s, {u"relay stays"_s, u"ledger tucked"_s, u"clock stays"_s}, 2, 1, 0},
         {u"gone"_s, {u"relay stays"_s, u"ledger tucked"_s, u"clock stays"_s}, 2, 1, 0},
         {u"relay"_s, {u"relay tucked"_s, u"ledger tucked"_s, u"clock stays"_s}, 1, 2, 1},
@@ -96,12 +91,12 @@ TEST_F(Flow, TogglesWhatCanMove)
     };
     int changes = 0;
     QObject::connect(&flow, &OnboardingFlow::choicesChanged, &flow, [&changes] { ++changes; });
-    for (const Case &each : cases) {
-        flow.toggle(each.id);
-        EXPECT_EQ(tiles(), each.tiles) << qPrintable(each.id);
-        EXPECT_EQ(flow.stayCount(), each.stay) << qPrintable(each.id);
-        EXPECT_EQ(flow.tuckedCount(), each.tucked) << qPrintable(each.id);
-        EXPECT_EQ(flow.pendingCount(), each.pending) << qPrintable(each.id);
+    for (const auto &[id, expected, stay, tucked, pending] : cases) {
+        flow.toggle(id);
+        EXPECT_EQ(tiles(), expected) << qPrintable(id);
+        EXPECT_EQ(flow.stayCount(), stay) << qPrintable(id);
+        EXPECT_EQ(flow.tuckedCount(), tucked) << qPrintable(id);
+        EXPECT_EQ(flow.pendingCount(), pending) << qPrintable(id);
     }
     EXPECT_EQ(changes, 3);
     goTo(4);

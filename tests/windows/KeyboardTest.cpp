@@ -68,12 +68,7 @@ TEST_F(Keyboard, FlipsSwitches)
 
 TEST_F(Keyboard, PicksAShortcut)
 {
-    struct Case {
-        QList<int> keys;
-        Shortcut picked;
-        bool open;
-    };
-    const Case cases[]{
+    const std::tuple<QList<int>, Shortcut, bool> cases[]{
         {{Qt::Key_Space, Qt::Key_Down, Qt::Key_Down, Qt::Key_Return}, Shortcut::controlOptionSpace, false},
         {{Qt::Key_Down, Qt::Key_Up, Qt::Key_Escape}, Shortcut::controlOptionSpace, false},
         {{Qt::Key_Down, Qt::Key_End, Qt::Key_Down, Qt::Key_Space}, Shortcut::controlOptionCommandM, false},
@@ -84,13 +79,12 @@ TEST_F(Keyboard, PicksAShortcut)
     showSettings();
     while (focused() != u"shortcutPicker"_s)
         key(Qt::Key_Tab);
-    for (const Case &each : cases) {
-        for (const int code : each.keys)
+    for (const auto &[keys, picked, open] : cases) {
+        for (const int code : keys)
             key(code);
-        const auto index = &each - cases;
-        EXPECT_EQ(model.shortcut(), each.picked) << index;
-        EXPECT_EQ(item(u"shortcutPickerList"_s) != nullptr, each.open) << index;
-        EXPECT_EQ(focused(), each.open ? u"shortcutPickerList"_s : u"shortcutPicker"_s) << index;
+        EXPECT_EQ(model.shortcut(), picked) << keys.size();
+        EXPECT_EQ(item(u"shortcutPickerList"_s) != nullptr, open) << keys.size();
+        EXPECT_EQ(focused(), open ? u"shortcutPickerList"_s : u"shortcutPicker"_s) << keys.size();
     }
 }
 

@@ -80,20 +80,6 @@ TEST_F(VirtualDispatchTest, SleepersTakeTurnsByTheClock)
                             "fast 0.600", "slow 0.800", "slow 1.200", "sync 1.200", "slow 1.200"));
 }
 
-TEST_F(VirtualDispatchTest, QtEventsAreDeliveredBetweenTheBlocks)
-{
-    QObject receiver;
-    const QPointer<QObject> doomed = new QObject;
-    dispatch.mainAsync([&] {
-        QMetaObject::invokeMethod(
-            &receiver, [this] { note("queued call"); }, Qt::QueuedConnection);
-        doomed->deleteLater();
-    });
-    dispatch.mainAsync([&] { note(doomed ? "alive" : "deleted"); });
-    dispatch.runDue();
-    EXPECT_THAT(log, ElementsAre("queued call 0.000", "deleted 0.000"));
-}
-
 TEST_F(VirtualDispatchTest, FramesAreMadeOnlyWhileTheyAreWanted)
 {
     std::vector<double> frames;

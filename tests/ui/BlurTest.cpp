@@ -1,24 +1,7 @@
-#include "support/Test.h"
 #include "ui/Blur.h"
-#include "ui/Squircle.h"
+#include "support/Test.h"
 
 namespace brimshade::ui {
-
-TEST(Squircle, IsAsDeepAsTheCircleAndStaysInTheRectangle)
-{
-    const QRectF rect(10, 20, 54, 54);
-    for (const double radius : {6.0, 16.0, 18.0, 27.0, 400.0}) {
-        const double effective = std::min(radius, 27.0);
-        const double corner = (1 - std::sqrt(0.5)) * effective; // along x and along y, at the corner's middle
-        const QPainterPath path = roundedRectangle(rect, radius, true);
-        SCOPED_TRACE(radius);
-        EXPECT_EQ(path.boundingRect(), rect);
-        EXPECT_TRUE(path.contains(rect.topLeft() + QPointF(corner + 0.1, corner + 0.1)));
-        EXPECT_FALSE(path.contains(rect.topLeft() + QPointF(corner - 0.1, corner - 0.1)));
-        EXPECT_TRUE(path.contains(rect.bottomRight() - QPointF(corner + 0.1, corner + 0.1)));
-        EXPECT_FALSE(path.contains(rect.bottomRight() - QPointF(corner - 0.1, corner - 0.1)));
-    }
-}
 
 TEST(Blur, SpreadsADotLikeAGaussianAndLosesNothing)
 {
