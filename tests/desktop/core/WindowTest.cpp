@@ -139,17 +139,6 @@ TEST_F(WindowTest, TellsNativeViewsOfThePointerByEventsAlone)
     desktop.input().released(MouseButton::left, 0);
     moveTo({501, 500});
     EXPECT_EQ(strip->take(), u"exited"_s);
-
-    window->setFrame(QRectF(480, 400, 50, 100));
-    EXPECT_EQ(strip->take(), u"areas"_s);
-    window->orderOut();
-    moveTo({0, 0});
-    EXPECT_EQ(strip->take(), QString());
-    window->orderFrontRegardless();
-    EXPECT_EQ(strip->take(), u"areas"_s);
-    platform.eventServices.post({kCGEventMouseMoved, {500, 500}});
-    dispatch.runDue();
-    EXPECT_EQ(strip->take(), u"entered"_s);
 }
 
 TEST_F(WindowTest, MayBeDestroyedByWhatItIsTold)
