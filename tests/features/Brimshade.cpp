@@ -122,38 +122,38 @@ const menubar::MenuExtra &Brimshade::item(const QString &name)
     return *found;
 }
 
-bool Brimshade::hasKeys(const QString &window) const
+bool Brimshade::hasKeys(const QString &window)
 {
     const desktop::DesktopWindow *found = m_on.desktop.windows().named(window);
     return found && found->isKeyWindow();
 }
 
-std::optional<QRectF> Brimshade::frameOf(const QString &window) const
+std::optional<QRectF> Brimshade::frameOf(const QString &window)
 {
     const desktop::DesktopWindow *found = m_on.desktop.windows().named(window);
     return found && found->isVisible() ? std::optional(found->frame()) : std::nullopt;
 }
 
-int Brimshade::windowCount(const QString &name) const
+int Brimshade::windowCount(const QString &name)
 {
     return std::ranges::count(m_on.desktop.windows().windows(), name,
                               [](const desktop::DesktopWindow *window) { return window->attributes().name; });
 }
 
-QRectF Brimshade::statusItem() const
+QRectF Brimshade::statusItem()
 {
     const auto items = m_on.desktop.menuBar().items();
     const auto own = std::ranges::find(items, true, &desktop::BarItem::isOwn);
     return own == items.end() ? QRectF() : own->frame;
 }
 
-QPointF Brimshade::symbol() const
+QPointF Brimshade::symbol()
 {
     const QRectF item = statusItem();
     return {platform::maxX(item) - 14, platform::midY(item)};
 }
 
-QString Brimshade::bar() const
+QString Brimshade::bar()
 {
     QStringList names;
     for (const desktop::BarItem &item : m_on.desktop.menuBar().items()) {

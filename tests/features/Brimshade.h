@@ -57,19 +57,19 @@ public:
     const controls::Divider &divider() { return *m_delegate->divider(); }
     const menubar::MenuExtra &item(const QString &name); // of the last scan
 
-    bool isOnScreen(const QString &window) const { return frameOf(window).has_value(); }
-    bool hasKeys(const QString &window) const;
-    std::optional<QRectF> frameOf(const QString &window) const; // screen space; absent while it is not on screen
-    int windowCount(const QString &name) const;
-    QRectF statusItem() const;
-    QString bar() const; // left to right, without the system's items; Brimshade's own is "|"
+    bool isOnScreen(const QString &window) { return frameOf(window).has_value(); }
+    bool hasKeys(const QString &window);
+    std::optional<QRectF> frameOf(const QString &window); // screen space; absent while it is not on screen
+    int windowCount(const QString &name);
+    QRectF statusItem();
+    QString bar(); // left to right, without the system's items; Brimshade's own is "|"
     QString hiddenItems(); // as a fresh scan lists them
     int dragCount(); // since last asked
     QStringList pressedItems(); // since last asked
     QStringList log(); // since last asked
 
 private:
-    QPointF symbol() const; // at the right end of the status item, where one clicks it
+    QPointF symbol(); // at the right end of the status item, where one clicks it
 
     TestDesktop m_on;
     std::shared_ptr<app::AppDelegate> m_delegate;
