@@ -20,9 +20,8 @@ struct Tile : testing::Test, ModelContext {
 
 TEST_F(Tile, OpensAndMovesItsItem)
 {
-    const std::tuple<QString, QString, QString> cases[] = {
-        {u"v0"_s, u"menu Open,Hide from Menu Bar"_s, u"hide v0"_s},
-        {u"h0"_s, u"menu Open,Show in Menu Bar"_s, u"show h0"_s}};
+    const std::tuple<QString, QString, QString> cases[] = {{u"v0"_s, u"menu Open,Hide from Menu Bar"_s, u"hide v0"_s},
+                                                           {u"h0"_s, u"menu Open,Show in Menu Bar"_s, u"show h0"_s}};
     for (const auto &[id, opened, effect] : cases) {
         journal.clear();
         actions.open(id);
@@ -30,7 +29,8 @@ TEST_F(Tile, OpensAndMovesItsItem)
         menus.menu.items.at(0).action();
         menus.menu.items.at(1).action();
         const QString select = u"select "_s + id;
-        EXPECT_EQ(journal, (QStringList{select, opened, select, u"store dividerEnabled true"_s, u"settings"_s, effect}));
+        EXPECT_EQ(journal,
+                  (QStringList{select, opened, select, u"store dividerEnabled true"_s, u"settings"_s, effect}));
     }
 }
 
