@@ -1,5 +1,6 @@
 #include "MoveMessages.h"
 
+#include <QCoreApplication>
 #include <QStringList>
 #include <algorithm>
 
@@ -9,17 +10,21 @@ namespace brimshade::app {
 
 namespace {
 
+struct Text {
+    Q_DECLARE_TR_FUNCTIONS(MoveMessages)
+};
+
 QString sentence(menubar::MenuBarMover::Failure failure)
 {
     using enum menubar::MenuBarMover::Failure;
     switch (failure) {
     case menuBarHidden:
-        return u"the menu bar isn't showing on this display (a full-screen app, or the active menu bar is on another "
-               "screen). Try again from the desktop."_s;
+        return Text::tr("the menu bar isn't showing on this display (a full-screen app, or the active menu bar is on "
+                        "another screen). Try again from the desktop.");
     case noRoom:
-        return u"there's no room for it next to the notch. Hide another item first."_s;
+        return Text::tr("there's no room for it next to the notch. Hide another item first.");
     case didNotMove:
-        return u"macOS didn't accept the move. Try again, or Cmd-drag it across the divider."_s;
+        return Text::tr("macOS didn't accept the move. Try again, or Cmd-drag it across the divider.");
     }
     return {};
 }
@@ -41,7 +46,7 @@ QString failureSummary(const MoveMessages &messages)
 {
     QStringList sorted = messages.values();
     std::ranges::sort(sorted, comesBefore);
-    return u"Some items didn't move. "_s + sorted.join(u' ');
+    return Text::tr("Some items didn't move.") + u' ' + sorted.join(u' ');
 }
 
 } // namespace brimshade::app

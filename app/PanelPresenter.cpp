@@ -75,8 +75,7 @@ void PanelPresenter::prepareModel()
 {
     m_model->setNotch(m_placement->notchSize());
     m_model->setTrusted(m_platform.accessibility.isProcessTrusted());
-    m_model->setQuery({});
-    m_model->setSelectedID({}); // Return shall do nothing before a key or the pointer chose
+    m_model->resetSearch();
 }
 
 void PanelPresenter::placePanel()

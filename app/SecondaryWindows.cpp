@@ -9,6 +9,8 @@
 #include "platform/Platform.h"
 #include "platform/Window.h"
 
+#include <QCoreApplication>
+
 using namespace Qt::StringLiterals;
 
 namespace brimshade::app {
@@ -20,7 +22,7 @@ platform::WindowAttributes settingsAttributes()
     platform::WindowAttributes settings;
     settings.name = u"settings"_s;
     settings.styleMask = platform::kStyleTitled | platform::kStyleClosable;
-    settings.title = u"Brimshade Settings"_s;
+    settings.title = QCoreApplication::translate("SecondaryWindows", "Brimshade Settings");
     settings.contentSizesWindow = true;
     return settings;
 }

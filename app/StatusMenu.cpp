@@ -66,11 +66,11 @@ void StatusMenu::detach()
 platform::Menu StatusMenu::menu() const
 {
     const std::weak_ptr windows = m_parts.windows;
-    return {{entry(u"Settings…"_s, u","_s, weakly(windows, &SecondaryWindows::openSettings)),
-             entry(u"Setup Guide…"_s, {}, weakly(windows, &SecondaryWindows::showOnboarding)),
-             entry(u"Refresh"_s, u"r"_s, weakly(std::weak_ptr(m_parts.scans), &ScanScheduler::scan)),
+    return {{entry(tr("Settings…"), u","_s, weakly(windows, &SecondaryWindows::openSettings)),
+             entry(tr("Setup Guide…"), {}, weakly(windows, &SecondaryWindows::showOnboarding)),
+             entry(tr("Refresh"), u"r"_s, weakly(std::weak_ptr(m_parts.scans), &ScanScheduler::scan)),
              platform::MenuItem::separator(),
-             entry(u"Quit Brimshade"_s, u"q"_s, [&application = m_application] { application.terminate(); })}};
+             entry(tr("Quit Brimshade"), u"q"_s, [&application = m_application] { application.terminate(); })}};
 }
 
 } // namespace brimshade::app

@@ -1,6 +1,7 @@
 #pragma once
 #include "platform/Menu.h"
 
+#include <QCoreApplication>
 #include <memory>
 
 namespace brimshade::platform {
@@ -22,6 +23,8 @@ class SecondaryWindows;
 
 // What a click on the status item does: the left one toggles the panel, the right one opens the menu. Main thread.
 class StatusMenu : public std::enable_shared_from_this<StatusMenu> {
+    Q_DECLARE_TR_FUNCTIONS(StatusMenu)
+
 public:
     struct Parts {
         std::shared_ptr<model::NotchModel> model;

@@ -7,7 +7,7 @@ import sys
 import time
 
 from display import private_display
-from usage import cpu_seconds, wakeups
+from usage import cpu_seconds, wakeups, wakeups_between
 
 SETTLE = 5  # seconds for start-up: launch, first frames, the divider's measurements
 
@@ -24,7 +24,7 @@ def main(program, seconds=60.0):
             process.terminate()
             process.wait()
     for name, (w0, c0), (w1, c1) in zip(("brimshade", "cat"), before, after):
-        print(f"{name:10} {(w1 - w0) / seconds:6.2f} wakeups/s  {(c1 - c0) * 1000:6.0f} ms CPU in {seconds:.0f} s")
+        print(f"{name:10} {wakeups_between(w0, w1) / seconds:6.2f} wakeups/s  {(c1 - c0) * 1000:6.0f} ms CPU in {seconds:.0f} s")
 
 
 if __name__ == "__main__":

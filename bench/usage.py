@@ -20,5 +20,10 @@ def cpu_seconds(pid):
 
 
 def wakeups(pid):
-    """Voluntary context switches of all threads: each is one time that something woke the process."""
-    return sum(status(f"{pid}/task/{thread}", "voluntary_ctxt_switches") for thread in os.listdir(f"/proc/{pid}/task"))
+    """Voluntary context switches by thread: each is one time that something woke it."""
+    return {thread: status(f"{pid}/task/{thread}", "voluntary_ctxt_switches") for thread in os.listdir(f"/proc/{pid}/task")}
+
+
+def wakeups_between(before, after):
+    """By thread, as a thread that ended takes its count with it: a new one counts whole, an ended one not at all."""
+    return sum(count - before.get(thread, 0) for thread, count in after.items())

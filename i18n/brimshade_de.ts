@@ -145,6 +145,25 @@
     </message>
 </context>
 <context>
+    <name>MoveMessages</name>
+    <message>
+        <source>the menu bar isn&apos;t showing on this display (a full-screen app, or the active menu bar is on another screen). Try again from the desktop.</source>
+        <translation>Die Menüleiste ist auf diesem Display nicht zu sehen (eine App im Vollbild, oder die aktive Menüleiste ist auf einem anderen Bildschirm). Versuche es vom Schreibtisch aus erneut.</translation>
+    </message>
+    <message>
+        <source>there&apos;s no room for it next to the notch. Hide another item first.</source>
+        <translation>Neben der Notch ist kein Platz dafür. Blende zuerst ein anderes Objekt aus.</translation>
+    </message>
+    <message>
+        <source>macOS didn&apos;t accept the move. Try again, or Cmd-drag it across the divider.</source>
+        <translation>macOS hat die Bewegung nicht angenommen. Versuche es erneut oder ziehe es bei gedrückter Befehlstaste über den Trenner.</translation>
+    </message>
+    <message>
+        <source>Some items didn&apos;t move.</source>
+        <translation>Einige Objekte wurden nicht bewegt.</translation>
+    </message>
+</context>
+<context>
     <name>OpeningSection</name>
     <message>
         <source>Opening</source>
@@ -244,6 +263,13 @@ Nichts verlässt deinen Mac.</translation>
     </message>
 </context>
 <context>
+    <name>SecondaryWindows</name>
+    <message>
+        <source>Brimshade Settings</source>
+        <translation>Brimshade-Einstellungen</translation>
+    </message>
+</context>
+<context>
     <name>Sections</name>
     <message>
         <source>Behind the notch</source>
@@ -285,6 +311,25 @@ Nichts verlässt deinen Mac.</translation>
     </message>
 </context>
 <context>
+    <name>StatusMenu</name>
+    <message>
+        <source>Settings…</source>
+        <translation>Einstellungen …</translation>
+    </message>
+    <message>
+        <source>Setup Guide…</source>
+        <translation>Einrichtung …</translation>
+    </message>
+    <message>
+        <source>Refresh</source>
+        <translation>Aktualisieren</translation>
+    </message>
+    <message>
+        <source>Quit Brimshade</source>
+        <translation>Brimshade beenden</translation>
+    </message>
+</context>
+<context>
     <name>StepDots</name>
     <message>
         <source>Step %1 of %2</source>
@@ -317,6 +362,13 @@ Nichts verlässt deinen Mac.</translation>
 Brimshade opens the notch and shows every one of them.</source>
         <translation>Die Notch verdeckt Objekte der Menüleiste, wenn der Platz nicht reicht.
 Brimshade öffnet die Notch und zeigt sie alle.</translation>
+    </message>
+</context>
+<context>
+    <name>brimshade::model::NotchModel</name>
+    <message>
+        <source>Couldn&apos;t change Launch at Login: </source>
+        <translation>„Bei der Anmeldung starten“ konnte nicht geändert werden: </translation>
     </message>
 </context>
 <context>

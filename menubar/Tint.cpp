@@ -30,7 +30,10 @@ std::array<double, 4> averagePixel(const QImage &bitmap)
     }
     const quint64 count = quint64(width) * height;
     std::array<double, 4> average{};
-    std::ranges::transform(sums, average.begin(), [&](quint64 sum) { return double((sum + count / 2) / count) / 255; });
+    std::ranges::transform(sums, average.begin(), [&](quint64 sum) {
+        const quint64 rounded = (sum + count / 2) / count;
+        return double(rounded) / 255;
+    });
     return average;
 }
 

@@ -245,6 +245,13 @@ void NotchModel::setQuery(const QString &text)
     setSelectedID(resultCount() == 0 ? QString() : result(0).id);
 }
 
+void NotchModel::resetSearch()
+{
+    setHoveredID({});
+    assignQuery({});
+    setSelectedID({});
+}
+
 void NotchModel::moveSelection(int step)
 {
     if (resultCount() == 0)

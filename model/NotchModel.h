@@ -99,6 +99,7 @@ public:
     const MenuExtra *extraWithID(const QString &id) const; // null when there is none
     const MenuExtra *selectedMatch() const; // null when no match is selected
     void setQuery(const QString &text); // and selects the first match
+    void resetSearch(); // no hover, no query, and nothing selected before a key or the pointer chose
     void moveSelection(int step);
 
     // Installed once by the coordinator; they do nothing until then.

@@ -109,7 +109,7 @@ void NotchModel::setLaunchAtLogin(bool on)
     const auto result = m_launchAtLogin ? m_loginItems.registerMainApp() : m_loginItems.unregisterMainApp();
     if (result)
         return;
-    setMessage(u"Couldn't change Launch at Login: "_s + result.error());
+    setMessage(tr("Couldn't change Launch at Login: ") + result.error());
     setLaunchAtLogin(isEnabled(m_loginItems));
 }
 

@@ -34,6 +34,7 @@ struct Event {
     std::uint64_t modifierFlags = 0;
     std::uint16_t keyCode = 0; // layout-independent virtual key code; key events only
     QString characters; // may be empty; key events only
+    bool isARepeat = false; // the key is held; key events only
 };
 
 using MonitorToken = std::uint64_t; // 0: the system did not create the monitor

@@ -9,8 +9,8 @@ namespace {
 
 class SymbolSource : public platform::ImageSource {
 public:
-    SymbolSource(QPainterPath outline, const platform::SymbolConfiguration &configuration)
-        : m_outline(std::move(outline)), m_configuration(configuration)
+    SymbolSource(const QPainterPath &outline, const platform::SymbolConfiguration &configuration)
+        : m_outline(outline), m_configuration(configuration)
     {
     }
 

@@ -4,6 +4,7 @@
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QSocketNotifier>
+#include <algorithm>
 #include <cstdio>
 #include <unistd.h>
 
@@ -22,6 +23,12 @@ int complain(const QString &message)
     return kBadScript;
 }
 
+// From 1, in characters. The parser's offset is that after the offending one.
+qsizetype columnOf(const QJsonParseError &error, const QByteArray &line)
+{
+    return QString::fromUtf8(line.first(std::clamp<qsizetype>(error.offset - 1, 0, line.size()))).size() + 1;
+}
+
 } // namespace
 
 ScriptLoop::ScriptLoop(int fileDescriptor, const QString &name, Run run)
@@ -38,6 +45,13 @@ bool ScriptLoop::readMore()
     else if (count == 0 || errno != EINTR)
         m_atEnd = true;
     return !m_atEnd;
+}
+
+std::optional<int> ScriptLoop::refuseLongLine() const
+{
+    if (m_unread.size() <= kLongestLine)
+        return {};
+    return complain(u"%1:%2: the line is longer than 16 MiB"_s.arg(m_name).arg(m_lineNumber + 1));
 }
 
 std::optional<QByteArray> ScriptLoop::nextLine()
@@ -60,7 +74,7 @@ std::optional<int> ScriptLoop::runLine(const QByteArray &line)
     const QJsonDocument document = QJsonDocument::fromJson(line, &error);
     if (error.error != QJsonParseError::NoError)
         return complain(
-            u"%1:%2: expected a JSON object: %3"_s.arg(place).arg(error.offset + 1).arg(error.errorString()));
+            u"%1:%2: expected a JSON object: %3"_s.arg(place).arg(columnOf(error, line)).arg(error.errorString()));
     if (!document.isObject())
         return complain(u"%1: expected a JSON object"_s.arg(place));
 
@@ -81,9 +95,16 @@ int ScriptLoop::runBlocking()
         if (m_atEnd)
             return 0;
         readMore();
-        if (m_unread.size() > kLongestLine)
-            return complain(u"%1:%2: the line is longer than 16 MiB"_s.arg(m_name).arg(m_lineNumber + 1));
+        if (const auto status = refuseLongLine())
+            return *status;
     }
+}
+
+void ScriptLoop::stop()
+{
+    m_stopped = true;
+    if (!m_isRunning)
+        QCoreApplication::exit(0);
 }
 
 int ScriptLoop::runInEventLoop()
@@ -98,6 +119,8 @@ int ScriptLoop::runInEventLoop()
         std::optional<int> status;
         while (const auto line = status ? std::nullopt : nextLine())
             status = runLine(*line);
+        if (!status)
+            status = refuseLongLine();
         m_isRunning = false;
         if (status || m_atEnd)
             QCoreApplication::exit(status.value_or(0));

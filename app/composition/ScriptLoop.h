@@ -21,11 +21,12 @@ public:
     int runBlocking();
     // The same while the event loop of the application keeps running between the lines.
     int runInEventLoop();
-    void stop() { m_stopped = true; } // no line after the present one is run
+    void stop(); // no line after the present one is run; without one the event loop ends now
 
 private:
     bool readMore(); // false at the end of the file
     std::optional<QByteArray> nextLine();
+    std::optional<int> refuseLongLine() const; // after the whole lines that were read
     std::optional<int> runLine(const QByteArray &line); // the exit status, when the script ends here
 
     int m_fileDescriptor;

@@ -14,10 +14,13 @@
 
 #include <QEventLoop>
 #include <QGuiApplication>
+#include <QQuickWindow>
 #include <QTimer>
 #include <cstdio>
 
 namespace brimshade::app {
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -76,7 +79,6 @@ public:
     std::unique_ptr<desktop::RealDispatch> realTime;
     std::unique_ptr<desktop::VirtualDispatch> virtualTime;
     ui::SymbolService symbols;
-    desktop::MemoryDefaults *defaults = nullptr; // the desktop's
     std::unique_ptr<desktop::Desktop> desktop;
     std::unique_ptr<desktop::SceneHost> scene;
     std::shared_ptr<AppDelegate> delegate;
@@ -109,6 +111,7 @@ Session::Parts::Parts(SessionOptions options)
     if (options.hostsTray)
         hostTray();
     buildScript();
+    desktop->platform().application.setActivationPolicyAccessory();
     delegate->applicationDidFinishLaunching();
     if (!options.hasWindow)
         clock->settle();
@@ -116,10 +119,6 @@ Session::Parts::Parts(SessionOptions options)
 
 void Session::Parts::buildDesktop(SessionOptions &options)
 {
-    if (!options.defaults)
-        options.defaults = std::make_unique<desktop::MemoryDefaults>();
-    defaults = options.defaults.get();
-    defaults->fill(options.description.defaults);
     desktop = std::make_unique<desktop::Desktop>(
         desktop::Desktop::Services{.dispatch = dispatch(),
                                    .symbols = symbols,
@@ -127,14 +126,17 @@ void Session::Parts::buildDesktop(SessionOptions &options)
                                    .loginItems = options.isScripted ? std::unique_ptr<platform::LoginItems>()
                                                                     : std::make_unique<desktop::AutostartLoginItem>()},
         options.description);
-    if (options.hasWindow) // the shortcut works while another program of the session has the keys
-        desktop->hotkeys().setGrabber(desktop::X11KeyGrabber::create());
 }
 
 void Session::Parts::buildScene(const SessionOptions &options)
 {
     scene = options.hasWindow ? desktop::SceneHost::window(*desktop)
                               : desktop::SceneHost::offscreen(*desktop, virtualTime.get(), options.scale);
+    if (options.hasWindow && QGuiApplication::platformName() == "xcb"_L1) {
+        // The shortcut works while another program of the session has the keys.
+        const auto window = static_cast<std::uint32_t>(scene->quickWindow()->winId());
+        desktop->hotkeys().setGrabber(desktop::X11KeyGrabber::create(window));
+    }
 }
 
 void Session::Parts::buildScript()
@@ -143,8 +145,8 @@ void Session::Parts::buildScript()
         clock = std::make_unique<VirtualClock>(*virtualTime, *scene);
     else
         clock = std::make_unique<RealClock>(*realTime, *scene);
-    script = std::make_unique<desktop::ScriptRunner>(*desktop, *scene, *clock, *defaults,
-                                                     [this] { return stateReport(*delegate); });
+    script =
+        std::make_unique<desktop::ScriptRunner>(*desktop, *scene, *clock, [this] { return stateReport(*delegate); });
 }
 
 void Session::Parts::hostTray()

@@ -55,10 +55,7 @@ QImage roundedSquare(const QColor &color, const QString &text)
 QImage readPicture(const QString &path)
 {
     QImageReader reader(path);
-    QSize size = reader.size();
-    constexpr int kLargest = 4096; // pixels a side; nothing larger is an icon
-    if (!size.isValid() || size.width() > kLargest || size.height() > kLargest)
-        return {};
+    const QSize size = reader.size();
     if (reader.format().startsWith("svg") || size.width() > kSize || size.height() > kSize)
         reader.setScaledSize(size.scaled(kSize, kSize, Qt::KeepAspectRatio));
     QImage picture = reader.read();

@@ -94,10 +94,16 @@ bool Applications::quit(int pid)
                 m_menuBar.remove(item.entry);
         }
     });
-    const auto *menu = qobject_cast<DescribedMenu *>(m_menus.openMenu());
-    if (menu && menu->pid() == pid)
-        m_menus.dismiss();
+    dismissOrphanedMenu();
     return true;
+}
+
+// A menu whose item is gone.
+void Applications::dismissOrphanedMenu()
+{
+    const auto *menu = qobject_cast<DescribedMenu *>(m_menus.openMenu());
+    if (menu && !menu->element()->isAlive)
+        m_menus.dismiss();
 }
 
 // Brings the bar and Accessibility in line with what the application says it is, whether new or changed.
@@ -120,6 +126,7 @@ void Applications::host(Hosted &hosted)
         m_menuBar.widthChanged();
         m_menuBar.lookChanged();
     });
+    dismissOrphanedMenu();
 }
 
 std::vector<DescribedExtra> Applications::publish(Hosted &hosted)
@@ -215,7 +222,7 @@ void Applications::open(const Hosted &hosted, const Item &item)
         Q_EMIT notified(name, extra.title.value_or(extra.description.value_or(name)));
         return;
     }
-    m_menus.open(std::make_shared<DescribedMenu>(application.pid, extra.menu,
+    m_menus.open(std::make_shared<DescribedMenu>(item.extra.element, extra.menu,
                                                  [this, name](const QString &title) { Q_EMIT notified(name, title); }),
                  frame);
 }

@@ -43,6 +43,7 @@ private:
     std::vector<DescribedExtra> publish(Hosted &hosted);
     void host(Hosted &hosted);
     BarEntryPointer makeEntry(const Hosted &hosted, const DescribedExtra &extra, BarEntryPointer before);
+    void dismissOrphanedMenu();
     void open(int pid, const Element *element);
     void open(const Hosted &hosted, const Item &item);
 

@@ -2,8 +2,8 @@
 
 namespace brimshade::desktop {
 
-DescribedMenu::DescribedMenu(int pid, const QStringList &titles, Chosen chosen)
-    : m_pid(pid), m_chosen(std::move(chosen))
+DescribedMenu::DescribedMenu(ElementPointer element, const QStringList &titles, Chosen chosen)
+    : m_element(std::move(element)), m_chosen(std::move(chosen))
 {
     for (const QString &title : titles) {
         MenuEntry entry;

@@ -1,5 +1,6 @@
 #pragma once
 #include "MenuSource.h"
+#include "SharedState.h"
 
 #include <QStringList>
 #include <functional>
@@ -11,14 +12,14 @@ class DescribedMenu : public MenuSource {
     Q_OBJECT
 public:
     using Chosen = std::function<void(const QString &title)>;
-    DescribedMenu(int pid, const QStringList &titles, Chosen chosen); // "-" is a separator
+    DescribedMenu(ElementPointer element, const QStringList &titles, Chosen chosen); // "-" is a separator
 
-    int pid() const { return m_pid; } // of the application it belongs to
+    const ElementPointer &element() const { return m_element; } // the item whose menu it is
     const std::vector<MenuEntry> &entries() const override { return m_entries; }
     void choose(int id) override { m_chosen(m_entries.at(static_cast<std::size_t>(id) - 1).title); }
 
 private:
-    const int m_pid;
+    const ElementPointer m_element;
     const Chosen m_chosen;
     std::vector<MenuEntry> m_entries;
 };

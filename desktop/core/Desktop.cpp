@@ -67,7 +67,6 @@ struct Desktop::Parts {
 
     void applyScreens(const std::vector<ScreenDescription> &descriptions);
     void publishBars();
-    void fillDefaults(const QVariantMap &values);
     void start(const DesktopDescription &description);
 };
 
@@ -77,24 +76,9 @@ Desktop::Parts::Parts(Services given, const DesktopDescription &description)
 {
 }
 
-// The settings first: what reads them comes later.
-void Desktop::Parts::fillDefaults(const QVariantMap &values)
-{
-    for (auto value = values.begin(); value != values.end(); ++value) {
-        if (services.defaults->objectForKey(value.key()).isValid())
-            continue;
-        if (value->typeId() == QMetaType::Bool)
-            services.defaults->setBool(value->toBool(), value.key());
-        else if (value->typeId() == QMetaType::QString)
-            services.defaults->setObject(value->toString(), value.key());
-        else
-            services.defaults->setInteger(value->toLongLong(), value.key());
-    }
-}
-
 void Desktop::Parts::start(const DesktopDescription &description)
 {
-    fillDefaults(description.defaults);
+    services.defaults->fill(description.defaults); // first: what reads them comes later
     state.write([&](DisplayState &display) {
         display.isTrusted = description.trusted;
         display.displayNames = description.displayNames;
@@ -223,10 +207,9 @@ ScriptedLoginItem *Desktop::scriptedLoginItem()
     return m_parts->scriptedLoginItem;
 }
 
-QVariantMap Desktop::storedDefaults() const
+MemoryDefaults &Desktop::defaults()
 {
-    const auto *store = dynamic_cast<const MemoryDefaults *>(m_parts->services.defaults.get());
-    return store ? store->all() : QVariantMap();
+    return *m_parts->services.defaults;
 }
 
 int Desktop::ownPid() const

@@ -1,11 +1,10 @@
 #pragma once
 #include "ApplicationSpec.h"
+#include "desktop/services/MemoryDefaults.h"
 #include "platform/LoginItems.h"
 #include "platform/Platform.h"
-#include "platform/UserDefaults.h"
 
 #include <QObject>
-#include <QVariantMap>
 #include <memory>
 
 namespace brimshade::desktop {
@@ -29,7 +28,7 @@ public:
     struct Services {
         platform::Dispatch &dispatch;
         platform::Symbols &symbols;
-        std::unique_ptr<platform::UserDefaults> defaults; // null: empty, in memory
+        std::unique_ptr<MemoryDefaults> defaults; // null: empty, in memory
         std::unique_ptr<platform::LoginItems> loginItems; // null: what the description and scripts say
     };
     // The description's applications run and its bar has settled when this returns; what its defaults name is
@@ -48,7 +47,7 @@ public:
     Permission &permission();
     WindowStack &windows();
     ScriptedLoginItem *scriptedLoginItem(); // null when Services brought login items
-    QVariantMap storedDefaults() const; // every key of the settings store
+    MemoryDefaults &defaults();
 
     int ownPid() const; // this program's, as its running applications list it
 

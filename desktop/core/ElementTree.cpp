@@ -80,9 +80,10 @@ std::vector<DescribedExtra> describeChildren(Element &parent, const std::vector<
         fill(*element, extra);
         parent.children.push_back(element);
         auto below = describeChildren(*element, extra.children);
-        if (extra.children.empty() && extra.role != QLatin1StringView("AXGroup"))
+        if (extra.role == QLatin1StringView("AXGroup")) // only a group's children stand in the bar
+            std::ranges::move(below, std::back_inserter(all));
+        else
             all.push_back({extra, element});
-        std::ranges::move(below, std::back_inserter(all));
     }
     before.kill();
     return all;

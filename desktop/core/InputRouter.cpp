@@ -181,9 +181,16 @@ Target InputRouter::release(MouseButton button, std::uint64_t modifierFlags)
     return press->target;
 }
 
+bool InputRouter::takeHotkey(const Event &event)
+{
+    const KeyCombination pressed{event.keyCode, carbonModifiers(event.modifierFlags)};
+    return event.isARepeat ? m_d->hotkeys.isRegistered(pressed)
+                           : m_d->hotkeys.press(pressed.keyCode, pressed.modifiers);
+}
+
 std::optional<Event> InputRouter::keyDown(const Event &event)
 {
-    if (m_d->menus.openMenu() || m_d->hotkeys.press(event.keyCode, carbonModifiers(event.modifierFlags)))
+    if (takeHotkey(event) || m_d->menus.openMenu())
         return std::nullopt;
     if (m_d->windows.keyWindow())
         return m_d->passLocal(event);

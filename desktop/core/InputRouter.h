@@ -55,8 +55,9 @@ public:
     Target pressed(MouseButton button, std::uint64_t modifierFlags);
     Target released(MouseButton button, std::uint64_t modifierFlags); // the target of the press
     // Hotkeys, then the local monitors when a window of this program is key. The event comes back when the key
-    // window's view shall have it. While a menu is open its keys are the scene's: nothing is done with them here.
+    // window's view shall have it. While a menu is open the other keys are the scene's: nothing is done with them here.
     std::optional<platform::Event> keyDown(const platform::Event &event);
+    bool takeHotkey(const platform::Event &event); // whether it was one; held down it presses once
 
     // An event that the program posted, in its turn; the pointer is there already.
     void synthetic(const platform::CGMouseEvent &event);

@@ -24,6 +24,7 @@ struct MenuBar::Private {
     BarOrder order = {};
     std::optional<BarGeometry> geometry = {}; // absent without a screen
     Layout latest = {}; // what shows once it has settled
+    int settled = 0; // times that everything showed at once: what waited to show then is outdated
     int updates = 0; // nesting of update(): what is due waits for its end
     bool needsLayout = false;
     bool needsSignal = false;
@@ -89,6 +90,7 @@ void MenuBar::add(const EntryPointer &entry)
 void MenuBar::remove(const EntryPointer &entry)
 {
     m_d->order.remove(entry);
+    entry->element = nullptr; // layouts that are still to show hold the entry
     relayout();
     touch(); // it is gone at once; the others close up when they settle
 }
@@ -148,6 +150,7 @@ void MenuBar::settleNow(const std::function<void()> &changes)
     --m_d->updates;
     m_d->needsLayout = m_d->needsSignal = false;
     m_d->latest = layout();
+    ++m_d->settled;
     apply(m_d->latest);
 }
 
@@ -173,7 +176,11 @@ void MenuBar::relayout()
     if (next == m_d->latest)
         return;
     m_d->latest = next;
-    m_d->dispatch.mainAfter(kSettleDelay, m_d->lifetime.guard([this, next = std::move(next)] { apply(next); }));
+    const auto show = [this, next = std::move(next), settled = m_d->settled] {
+        if (settled == m_d->settled)
+            apply(next);
+    };
+    m_d->dispatch.mainAfter(kSettleDelay, m_d->lifetime.guard(show));
 }
 
 void MenuBar::touch()

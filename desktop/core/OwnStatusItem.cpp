@@ -35,8 +35,11 @@ OwnStatusItem::OwnStatusItem(StatusBarService &bar, double length)
 {
     m_entry->pid = bar.m_parts.pid;
     m_entry->place = BarEntry::Place::own;
-    takeWidth();
-    bar.m_parts.menuBar.add(m_entry);
+    // It has a place as soon as it exists, so that there is one to measure and to click.
+    bar.m_parts.menuBar.settleNow([&] {
+        takeWidth();
+        bar.m_parts.menuBar.add(m_entry);
+    });
 }
 
 OwnStatusItem::~OwnStatusItem()
@@ -76,7 +79,7 @@ void OwnStatusItem::setAutosaveName(const QString &name)
     bool isNumber = false;
     const double points = m_bar->m_parts.defaults.objectForKey(placeKey()).toDouble(&isNumber);
     if (isNumber && std::isfinite(points))
-        m_bar->m_parts.menuBar.placeOwn(m_entry, points);
+        m_bar->m_parts.menuBar.settleNow([&] { m_bar->m_parts.menuBar.placeOwn(m_entry, points); });
 }
 
 void OwnStatusItem::storePlace()
@@ -152,13 +155,15 @@ void OwnStatusItem::send(NSEventType type)
     action();
 }
 
+// An item that finds no room any more has left its screen, as one that shows on another screen has.
 void OwnStatusItem::barSettled()
 {
     const auto screen = m_window.screen();
-    if (!screen)
+    if (!screen || !m_bar->m_parts.menuBar.isShowing())
         return;
     const auto before = std::exchange(m_screen, screen->localizedName);
-    if (before && before != m_screen)
+    const bool wasDrawn = std::exchange(m_isDrawn, m_bar->m_parts.menuBar.isDrawn(*m_entry));
+    if ((before && before != m_screen) || (wasDrawn && !m_isDrawn))
         m_bar->m_parts.notifications.post(kNSWindowDidChangeScreenNotification, static_cast<Window *>(&m_window));
 }
 

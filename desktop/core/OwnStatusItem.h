@@ -70,7 +70,9 @@ private:
     std::optional<platform::Menu> m_menu;
     platform::EventMask m_sendOn = 0;
     platform::Work m_action;
-    std::optional<QString> m_screen; // by name, the one the window was on when the bar last settled
+    // When the bar last settled:
+    std::optional<QString> m_screen; // by name, the one the window was on
+    bool m_isDrawn = false;
 };
 
 } // namespace brimshade::desktop

@@ -45,8 +45,9 @@ void PointerTracking::refresh(DesktopWindow *window)
 
 bool PointerTracking::contains(const DesktopWindow &window, const TrackingArea &area, QPointF point) const
 {
-    const QPointF inScreenSpace = flipped(point, m_state.primaryHeight());
-    return containsPoint(area.rect, inScreenSpace - window.frame().topLeft());
+    // In display space, as whatever else asks what the pointer is on: of two edges the upper one counts as inside.
+    const QRectF inScreenSpace = area.rect.translated(window.frame().topLeft());
+    return containsPoint(flipped(inScreenSpace, m_state.primaryHeight()), point);
 }
 
 void PointerTracking::pointerMoved(QPointF to)

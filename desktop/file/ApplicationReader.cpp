@@ -1,6 +1,8 @@
 #include "DesktopFile.h"
 #include "JsonReader.h"
 
+#include <QFileInfo>
+#include <QImageReader>
 #include <QRegularExpression>
 #include <algorithm>
 #include <array>
@@ -12,10 +14,11 @@ namespace brimshade::desktop {
 
 namespace {
 
-constexpr qsizetype kMostExtras = 200; // in one list
+constexpr qsizetype kMostExtras = 2000; // in one list
 constexpr qsizetype kMostActions = 20;
 constexpr qsizetype kMostMenuEntries = 200;
-constexpr int kDeepestGroup = 8;
+constexpr int kDeepestGroup = 200; // of the 1024 levels that the parser takes, two a group
+constexpr int kLargestIcon = 4096; // pixels a side
 constexpr Range kWidth{0, 32768}; // points
 constexpr Range kLatency{0, 3600}; // seconds
 constexpr Range kPid{1, std::numeric_limits<int>::max()};
@@ -74,6 +77,13 @@ bool isDeeper(const QJsonValue &extras, int levels)
     });
 }
 
+// By its header: its pixels are read when it is drawn. What is no regular file could keep a reader waiting.
+bool isPicture(const QString &path)
+{
+    const QSize size = QFileInfo(path).isFile() ? QImageReader(path).size() : QSize();
+    return !size.isEmpty() && size.width() <= kLargestIcon && size.height() <= kLargestIcon;
+}
+
 Fault readIcon(const QJsonValue &value, const QString &path, ApplicationDescription &into)
 {
     static const QRegularExpression colour(u"^#[0-9a-fA-F]{6}$"_s);
@@ -81,8 +91,11 @@ Fault readIcon(const QJsonValue &value, const QString &path, ApplicationDescript
         return {};
     if (Fault found = read(value, path, into.icon))
         return found;
-    const bool isWrongColour = into.icon->startsWith(u'#') && !colour.match(*into.icon).hasMatch();
-    return isWrongColour ? fault(path, u"expected #rrggbb, a picture's path or an icon's name"_s) : Fault();
+    if (into.icon->startsWith(u'#') && !colour.match(*into.icon).hasMatch())
+        return fault(path, u"expected #rrggbb, a picture's path or an icon's name"_s);
+    if (into.icon->contains(u'/') && !isPicture(*into.icon))
+        return fault(path, u"expected a picture, %1 is none"_s.arg(*into.icon));
+    return {};
 }
 
 Fault readApplicationExtras(const QJsonValue &value, const QString &path, ApplicationDescription &into)

@@ -224,7 +224,8 @@ std::optional<platform::Event> keyDownFor(const QKeyEvent &event)
     return platform::Event{.type = platform::keyDown,
                            .modifierFlags = modifierFlagsFor(event.modifiers()),
                            .keyCode = code.value_or(unassigned),
-                           .characters = event.text()};
+                           .characters = event.text(),
+                           .isARepeat = event.isAutoRepeat()};
 }
 
 } // namespace brimshade::desktop

@@ -56,6 +56,8 @@ void OffscreenSurface::layOut()
 QImage OffscreenSurface::render()
 {
     m_control->polishItems();
+    if (m_image.isNull())
+        return {}; // there is no memory for one of this size
     m_control->beginFrame();
     m_control->sync();
     m_control->render();

@@ -105,7 +105,8 @@ bool SceneInput::takeKey(QEvent &event)
     if (!key)
         return true;
     if (m_menu.isOpen()) {
-        m_menu.key(*key);
+        if (!m_router.takeHotkey(*key))
+            m_menu.key(*key);
         return true;
     }
     return !m_router.keyDown(*key);

@@ -10,7 +10,7 @@ namespace brimshade::desktop {
 const QJsonValue Arguments::required(const QString &name, bool isOptional)
 {
     m_asked.insert(name);
-    const QJsonValue value = m_command.value(name);
+    QJsonValue value = m_command.value(name);
     if (value.isUndefined() && !isOptional)
         fail(name, u"a value, it is missing"_s);
     return value;
@@ -85,7 +85,7 @@ std::uint64_t Arguments::modifiers()
     if (!value.isUndefined() && !value.isArray())
         fail(name, u"a list"_s);
     std::uint64_t result = 0;
-    for (const QJsonValue &modifier : value.toArray()) {
+    for (const QJsonValue modifier : value.toArray()) {
         const auto flag = flags.constFind(modifier.toString());
         if (flag == flags.cend())
             fail(name, u"\"shift\", \"control\", \"option\" or \"command\""_s);

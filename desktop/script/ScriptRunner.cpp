@@ -17,9 +17,8 @@ constexpr double kLongestAdvance = 86400; // a day: a typing error should not ha
 
 } // namespace
 
-ScriptRunner::ScriptRunner(Desktop &desktop, SceneHost &scene, ScriptClock &clock, const MemoryDefaults &defaults,
-                           ProgramState programState)
-    : m_desktop(desktop), m_scene(scene), m_clock(clock), m_defaults(defaults), m_programState(std::move(programState))
+ScriptRunner::ScriptRunner(Desktop &desktop, SceneHost &scene, ScriptClock &clock, ProgramState programState)
+    : m_desktop(desktop), m_scene(scene), m_clock(clock), m_programState(std::move(programState))
 {
 }
 
@@ -71,7 +70,7 @@ ScriptRunner::Result ScriptRunner::state(Arguments &arguments)
 {
     if (const auto fault = arguments.finish())
         return std::unexpected(*fault);
-    QJsonObject answer = stateAnswer(m_desktop, m_defaults);
+    QJsonObject answer = stateAnswer(m_desktop);
     answer.insert(u"time"_s, m_clock.now());
     const QJsonObject program = m_programState();
     for (auto field = program.begin(); field != program.end(); ++field)
@@ -85,11 +84,15 @@ ScriptRunner::Result ScriptRunner::picture(Arguments &arguments)
     const QString of = arguments.text(u"of"_s, u"desktop"_s);
     if (const auto fault = arguments.finish())
         return std::unexpected(*fault);
+    if (file.contains(QChar::Null))
+        return std::unexpected(u"file: expected a path"_s);
 
     m_scene.settle();
     const std::optional<QImage> image = of == "desktop"_L1 ? m_scene.picture() : m_scene.picture(of);
     if (!image)
         return std::unexpected(u"of: no window \"%1\" is on screen"_s.arg(of));
+    if (image->isNull())
+        return std::unexpected(u"of: too large to draw"_s);
     if (!QDir().mkpath(QFileInfo(file).absolutePath()) || !image->save(file, "PNG"))
         return std::unexpected(u"file: \"%1\" cannot be written"_s.arg(file));
     return QJsonObject{{u"width"_s, image->width()}, {u"height"_s, image->height()}};

@@ -10,7 +10,6 @@ namespace brimshade::desktop {
 
 class Desktop;
 class SceneHost;
-class MemoryDefaults;
 
 // Carries out script commands, one JSON object at a time. docs/DESKTOP.md is the reference. Main thread.
 class ScriptRunner {
@@ -18,9 +17,8 @@ public:
     // What only the program itself can tell: "model", "shown" and "divider" of the state answer.
     using ProgramState = std::function<QJsonObject()>;
 
-    // All outlive the runner. defaults: the store that the desktop uses.
-    ScriptRunner(Desktop &desktop, SceneHost &scene, ScriptClock &clock, const MemoryDefaults &defaults,
-                 ProgramState programState);
+    // All outlive the runner.
+    ScriptRunner(Desktop &desktop, SceneHost &scene, ScriptClock &clock, ProgramState programState);
 
     // The answer, "ok" included. Never throws, never ends the program.
     QJsonObject run(const QJsonObject &command);
@@ -61,7 +59,6 @@ private:
     Desktop &m_desktop;
     SceneHost &m_scene;
     ScriptClock &m_clock;
-    const MemoryDefaults &m_defaults;
     ProgramState m_programState;
 };
 

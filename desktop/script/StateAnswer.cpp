@@ -53,14 +53,13 @@ QJsonArray windowsAnswer(const WindowStack &stack)
     return windows;
 }
 
-QJsonValue panelAnswer(const WindowStack &stack)
+// Before its first opening there is no panel yet: that reads as one without a frame.
+QJsonObject panelAnswer(const WindowStack &stack)
 {
     const DesktopWindow *panel = stack.named(u"panel"_s);
-    if (!panel)
-        return {};
-    return QJsonObject{{u"frame"_s, json::rect(panel->frame())},
-                       {u"onScreen"_s, panel->isVisible()},
-                       {u"isKey"_s, panel->isKeyWindow()}};
+    return {{u"frame"_s, json::rect(panel ? panel->frame() : QRectF())},
+            {u"onScreen"_s, panel && panel->isVisible()},
+            {u"isKey"_s, panel && panel->isKeyWindow()}};
 }
 
 QJsonValue stripAnswer(const WindowStack &stack)
@@ -123,7 +122,7 @@ QJsonValue loginItemAnswer(const ScriptedLoginItem *item)
 
 } // namespace
 
-QJsonObject stateAnswer(Desktop &desktop, const MemoryDefaults &defaults)
+QJsonObject stateAnswer(Desktop &desktop)
 {
     MenuBar &bar = desktop.menuBar();
     WindowStack &windows = desktop.windows();
@@ -136,7 +135,7 @@ QJsonObject stateAnswer(Desktop &desktop, const MemoryDefaults &defaults)
             {u"menuBar"_s, menuBarAnswer(bar)},
             {u"windows"_s, windowsAnswer(windows)},
             {u"menu"_s, menuOpen ? QJsonValue(QJsonArray::fromStringList(desktop.menus().titles())) : QJsonValue()},
-            {u"defaults"_s, QJsonObject::fromVariantMap(defaults.all())},
+            {u"defaults"_s, QJsonObject::fromVariantMap(desktop.defaults().all())},
             {u"loginItem"_s, loginItemAnswer(desktop.scriptedLoginItem())},
             {u"pointer"_s, json::point(desktop.input().pointer())},
             {u"openedURLs"_s, QJsonArray::fromStringList(inspection.takeOpenedURLs())},

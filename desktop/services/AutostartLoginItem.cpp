@@ -79,7 +79,7 @@ QString AutostartLoginItem::userFile() const
 QString AutostartLoginItem::systemFile() const
 {
     for (const QString &folder : m_places.systemFolders) {
-        if (const QString file = fileIn(folder); QFile::exists(file))
+        if (QString file = fileIn(folder); QFile::exists(file))
             return file;
     }
     return {};

@@ -32,7 +32,7 @@ QString moveAside(const QString &path)
 {
     constexpr int most = 1000;
     for (int i = 1; i <= most; ++i) {
-        const QString aside = path + (i == 1 ? u".damaged"_s : u".damaged-%1"_s.arg(i));
+        QString aside = path + (i == 1 ? u".damaged"_s : u".damaged-%1"_s.arg(i));
         if (QFile::rename(path, aside))
             return aside;
         if (!QFile::exists(aside))
@@ -95,7 +95,9 @@ private:
     std::thread m_thread; // last: it uses the rest
 };
 
-FileDefaults::FileDefaults(const QString &path, Report report) : FileDefaults(path, report, read(path, report)) { }
+FileDefaults::FileDefaults(const QString &path, const Report &report) : FileDefaults(path, report, read(path, report))
+{
+}
 
 FileDefaults::FileDefaults(const QString &path, const Report &report, Content content)
     : MemoryDefaults(std::move(content.values))

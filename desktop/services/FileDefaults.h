@@ -15,7 +15,7 @@ public:
 
     // A damaged file is renamed to "<path>.damaged" (or ".damaged-2", …) and reported; a missing one is an empty
     // store. One that can neither be read nor moved away is reported and left alone: then nothing is written.
-    explicit FileDefaults(const QString &path, Report report = {});
+    explicit FileDefaults(const QString &path, const Report &report = {});
     ~FileDefaults() override;
 
     static QString defaultPath(); // $XDG_CONFIG_HOME/brimshade/settings.json

@@ -25,9 +25,9 @@ public:
     // inside the desktop.
     void setGrabber(std::unique_ptr<GlobalKeyGrabber> grabber);
 
-private:
     bool isRegistered(KeyCombination combination) const;
 
+private:
     std::map<platform::EventHotKeyRef, KeyCombination> m_registered;
     platform::EventHotKeyRef m_lastRef = 0;
     platform::Work m_handler;

@@ -9,7 +9,7 @@ namespace brimshade::desktop {
 
 namespace {
 
-constexpr std::size_t kMostEntries = 1000;
+constexpr std::size_t kMostEntries = 10000;
 
 } // namespace
 

@@ -7,6 +7,7 @@
 #include <array>
 #include <cstdlib>
 #include <map>
+#include <string_view>
 #include <utility>
 #include <vector>
 #include <xcb/xcb.h>
@@ -46,11 +47,18 @@ std::uint16_t x11Modifiers(std::uint32_t carbon)
     return mask;
 }
 
+xcb_atom_t internAtom(xcb_connection_t *connection, std::string_view name)
+{
+    const auto cookie = xcb_intern_atom(connection, 0, static_cast<std::uint16_t>(name.size()), name.data());
+    const Reply<xcb_intern_atom_reply_t> reply(xcb_intern_atom_reply(connection, cookie, nullptr));
+    return reply ? reply->atom : xcb_atom_t(XCB_ATOM_NONE);
+}
+
 } // namespace
 
 class X11KeyGrabber::Private {
 public:
-    explicit Private(xcb_connection_t *connection);
+    Private(xcb_connection_t *connection, xcb_window_t window);
     ~Private() { xcb_disconnect(m_connection); }
     Q_DISABLE_COPY_MOVE(Private)
 
@@ -67,17 +75,21 @@ private:
     void readEvents();
     void handle(const xcb_generic_event_t &event);
     void keyPressed(const xcb_key_press_event_t &event);
+    void activateWindow(xcb_timestamp_t time) const;
     void grabAgain();
 
     xcb_connection_t *const m_connection;
     const xcb_window_t m_root;
+    const xcb_window_t m_window; // 0 for none
+    const xcb_atom_t m_activeWindow;
     QSocketNotifier m_notifier;
     std::map<KeyCombination, Key> m_grabbed; // a key without a code waits for another mapping
     std::pair<xcb_keycode_t, xcb_timestamp_t> m_released; // the latest
 };
 
-X11KeyGrabber::Private::Private(xcb_connection_t *connection)
+X11KeyGrabber::Private::Private(xcb_connection_t *connection, xcb_window_t window)
     : m_connection(connection), m_root(xcb_setup_roots_iterator(xcb_get_setup(connection)).data->root),
+      m_window(window), m_activeWindow(internAtom(connection, "_NET_ACTIVE_WINDOW")),
       m_notifier(xcb_get_file_descriptor(connection), QSocketNotifier::Read)
 {
     QObject::connect(&m_notifier, &QSocketNotifier::activated, &m_notifier, [this] { readEvents(); });
@@ -191,9 +203,28 @@ void X11KeyGrabber::Private::keyPressed(const xcb_key_press_event_t &event)
     for (const auto &[combination, grabbed] : m_grabbed) {
         if (grabbed != key || !pressed)
             continue;
+        activateWindow(event.time);
         const KeyCombination found = combination; // what it points into may be gone by then
         return pressed(found);
     }
+}
+
+// With the time of the press: a window manager refuses who asks for the keys without a hand behind it.
+void X11KeyGrabber::Private::activateWindow(xcb_timestamp_t time) const
+{
+    constexpr std::uint32_t kFromApplication = 1;
+    if (!m_window)
+        return;
+    xcb_client_message_event_t message{};
+    message.response_type = XCB_CLIENT_MESSAGE;
+    message.format = 32;
+    message.window = m_window;
+    message.type = m_activeWindow;
+    message.data.data32[0] = kFromApplication;
+    message.data.data32[1] = time;
+    xcb_send_event(m_connection, 0, m_root, XCB_EVENT_MASK_SUBSTRUCTURE_REDIRECT | XCB_EVENT_MASK_SUBSTRUCTURE_NOTIFY,
+                   reinterpret_cast<const char *>(&message));
+    xcb_flush(m_connection);
 }
 
 void X11KeyGrabber::Private::grabAgain()
@@ -211,11 +242,11 @@ X11KeyGrabber::X11KeyGrabber(std::unique_ptr<Private> d) : m_d(std::move(d)) { }
 
 X11KeyGrabber::~X11KeyGrabber() = default;
 
-std::unique_ptr<X11KeyGrabber> X11KeyGrabber::create(const QByteArray &display)
+std::unique_ptr<X11KeyGrabber> X11KeyGrabber::create(std::uint32_t window, const QByteArray &display)
 {
     xcb_connection_t *connection = xcb_connect(display.isEmpty() ? nullptr : display.constData(), nullptr);
     if (!xcb_connection_has_error(connection))
-        return std::unique_ptr<X11KeyGrabber>(new X11KeyGrabber(std::make_unique<Private>(connection)));
+        return std::unique_ptr<X11KeyGrabber>(new X11KeyGrabber(std::make_unique<Private>(connection, window)));
     xcb_disconnect(connection);
     return nullptr;
 }

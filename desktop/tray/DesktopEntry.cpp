@@ -9,7 +9,7 @@ namespace brimshade::desktop::tray {
 
 namespace {
 
-constexpr qint64 kMostFileBytes = 256 << 10;
+constexpr qint64 kMostEntryBytes = 256 << 10;
 constexpr int kMostFiles = 8192;
 
 QMap<QString, QString> readMainGroup(const QByteArray &content)
@@ -79,7 +79,7 @@ std::vector<DesktopEntry> readDesktopEntries(const QStringList &folders, const Q
             if (ids.contains(id) || !file.open(QIODevice::ReadOnly))
                 continue;
             ids.insert(id);
-            if (auto entry = parseDesktopEntry(id, file.read(kMostFileBytes), locale))
+            if (auto entry = parseDesktopEntry(id, file.read(kMostEntryBytes), locale))
                 entries.push_back(*std::move(entry));
         }
     }

@@ -13,7 +13,7 @@ namespace {
 
 constexpr int kPixels = 128; // of a picture that has no size of its own
 constexpr int kLargestEdge = 1024;
-constexpr qint64 kMostFileBytes = 4 << 20;
+constexpr qint64 kMostPictureBytes = 4 << 20;
 constexpr int kMostFolderEntries = 4096;
 constexpr QSizeF kItemSize{22, 22};
 
@@ -42,7 +42,7 @@ bool isVector(const QString &suffix)
 QImage readPicture(const QString &path)
 {
     const QFileInfo file(path);
-    if (!file.isFile() || file.size() > kMostFileBytes) // not a pipe either: reading one could wait for ever
+    if (!file.isFile() || file.size() > kMostPictureBytes) // not a pipe either: reading one could wait for ever
         return {};
     QImageReader reader(path);
     auto size = reader.size();

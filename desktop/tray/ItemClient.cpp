@@ -7,13 +7,13 @@
 namespace brimshade::desktop::tray {
 
 namespace {
-constexpr auto kInterface = "org.kde.StatusNotifierItem";
+constexpr auto kItemInterface = "org.kde.StatusNotifierItem";
 constexpr auto kProperties = "org.freedesktop.DBus.Properties";
 } // namespace
 
 ItemClient::ItemClient(const QDBusConnection &bus, const ItemKey &key, platform::Dispatch &dispatch,
                        const IconFinder &icons)
-    : m_bus(bus), m_key(key), m_address{key.owner, key.path, QString::fromLatin1(kInterface)}, m_dispatch(dispatch),
+    : m_bus(bus), m_key(key), m_address{key.owner, key.path, QString::fromLatin1(kItemInterface)}, m_dispatch(dispatch),
       m_icons(icons), m_refresh(dispatch, [this] { fetch(); })
 {
     // Without a name: every signal of the interface.

@@ -7,12 +7,12 @@
 namespace brimshade::desktop::tray {
 
 namespace {
-constexpr auto kInterface = "com.canonical.dbusmenu";
+constexpr auto kMenuInterface = "com.canonical.dbusmenu";
 }
 
 MenuClient::MenuClient(const QDBusConnection &bus, const QString &owner, const QString &path,
                        platform::Dispatch &dispatch, PictureByName picture, QObject *parent)
-    : QObject(parent), m_bus(bus), m_address{owner, path, QString::fromLatin1(kInterface)},
+    : QObject(parent), m_bus(bus), m_address{owner, path, QString::fromLatin1(kMenuInterface)},
       m_picture(std::move(picture)), m_refresh(dispatch, [this] { fetch(); })
 {
     m_bus.connect(owner, path, m_address.interface, QStringLiteral("LayoutUpdated"), this,

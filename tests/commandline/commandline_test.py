@@ -81,16 +81,31 @@ class DesktopFile(Files):
                 self.assertIn("desktop.json", done.stderr)
                 self.assertIn(place, done.stderr)
 
-    def test_pictures_that_are_none_and_missing_pictures_cost_no_item(self):
+    def test_a_picture_that_is_none_is_refused_with_its_place(self):
+        text = self.file("text.png", "no picture")
         broken = self.file("broken.png", b"\x89PNG\r\n\x1a\n" + b"\xff" * 64)
         huge = self.file("huge.svg", '<svg xmlns="http://www.w3.org/2000/svg" width="1e9" height="1e9"><rect/></svg>')
-        apps = [{"pid": 10 + n, "name": f"App {n}", "icon": icon, "bundlePath": f"/Applications/App{n}.app",
-                 "extras": [{"identifier": str(n)}]}
-                for n, icon in enumerate([broken, huge, "/nowhere.png", "no-such-theme-icon"])]
-        done, answers = play({"do": "click", "at": [1, 1]}, {"do": "state"},
-                             arguments=["--desktop", self.desktop(applications=apps)])
+        pipe = pathlib.Path(self.folder.name) / "pipe.png"
+        os.mkfifo(pipe)
+        good = {"pid": 10, "extras": []}
+        for icon in [text, broken, huge, str(pipe), "/nowhere.png"]:
+            with self.subTest(icon=icon):
+                bad = {**good, "pid": 11, "icon": icon}
+                done = brimshade("--script", "-", "--desktop", self.desktop(applications=[good, bad]))
+                self.assertEqual(done.returncode, 2, done.stderr)
+                ours = [line for line in done.stderr.splitlines() if line.startswith("brimshade: ")]  # libpng adds its own
+                self.assertEqual(len(ours), 1, done.stderr)
+                self.assertIn("desktop.json: applications[1].icon: ", ours[0])
+                done, answers = play({"do": "launch", "application": bad}, {"do": "state"},
+                                     arguments=["--desktop", self.desktop(applications=[good])])
+                self.assertEqual(done.returncode, 0, done.stderr)
+                self.assertIn("application.icon: ", answers[0]["error"])
+
+    def test_an_icon_that_the_theme_lacks_costs_no_item(self):
+        app = {"pid": 10, "icon": "no-such-theme-icon", "extras": [{"identifier": "a"}]}
+        done, answers = play({"do": "state"}, arguments=["--desktop", self.desktop(applications=[app])])
         self.assertEqual(done.returncode, 0, done.stderr)
-        self.assertEqual(sum(10 <= item["pid"] < 14 for item in answers[1]["menuBar"]), 4)
+        self.assertIn(10, [item["pid"] for item in answers[0]["menuBar"]])
 
 
 class Script(Files):
@@ -131,6 +146,50 @@ class Script(Files):
                 self.assertFalse(answer["ok"])
                 self.assertIn(reason, answer["error"])
         self.assertTrue(answers[-1]["ok"])
+
+    def test_the_state_has_every_key_from_the_first_line_on(self):
+        app = {"pid": 10, "extras": [{"identifier": "a", "width": 40, "menu": ["Open"]}]}
+        done, answers = play(
+            {"do": "state"}, {"do": "click", "at": [1490, 18]}, {"do": "advance", "seconds": 1}, {"do": "state"},
+            arguments=["--desktop", self.desktop(applications=[app], defaults={"onboardingDone": True})])
+        self.assertEqual(done.returncode, 0, done.stderr)
+        first, opened = answers[0], answers[3]
+        for state in (first, opened):
+            self.assertEqual(set(state), set(
+                "ok time model shown panel strip statusItem divider hotkey menuBar windows menu defaults loginItem pointer "
+                "openedURLs prompts events actions requests log".split()))
+            self.assertEqual(set(state["model"]), set(
+                "isOpen extras scanned trusted hoveredID query selectedID notch movingID message showVisible hoverToOpen "
+                "shortcut dividerEnabled launchAtLogin hiddenMatches visibleMatches hiddenCount columns panelSize".split()))
+            self.assertEqual(set(state["panel"]), {"frame", "onScreen", "isKey"})
+            self.assertEqual(set(state["statusItem"]), {"length", "frame", "drawn"})
+            self.assertEqual(set(state["divider"]), {"isExpanded", "isEnabled", "anchor", "slack"})
+            self.assertEqual(set(state["menuBar"][0]), {"pid", "identifier", "title", "frame", "drawn"})
+        self.assertEqual(set(opened["model"]["extras"][0]), set(
+            "id name detail symbol hasIcon tint frame isHidden canMove".split()))
+        self.assertEqual(set(opened["log"][0]), {"level", "text"})
+        self.assertEqual((first["panel"]["onScreen"], opened["panel"]["onScreen"]), (False, True))
+
+    def test_each_setting_survives_a_restart(self):
+        store = str(pathlib.Path(self.folder.name) / "settings.json")
+        desktop = self.desktop(defaults={"onboardingDone": True})
+        arguments = ["--desktop", desktop, "--defaults", store]
+        menu = [{"do": "advance", "seconds": 1}, {"do": "menu", "at": [1490, 18]}, {"do": "choose", "title": "Settings…"},
+                {"do": "advance", "seconds": 1}]
+        switches = ["Open when the pointer rests on the notch", "Also show items already in the menu bar",
+                    "Tuck away items left of Brimshade"]
+        changes = [{"do": "press-element", "name": name, "role": "CheckBox"} for name in switches]
+        pick = [{"do": "press-element", "name": "Keyboard shortcut", "role": "ComboBox"}, {"do": "advance", "seconds": 1},
+                {"do": "press-element", "name": "⌃⌥Space"}]
+        first, answers = play(*menu, *changes, *pick, {"do": "state"}, arguments=arguments)
+        self.assertEqual([a for a in answers if not a["ok"]], [], first.stderr)
+        again, restarted = play({"do": "advance", "seconds": 1}, {"do": "state"}, arguments=arguments)
+        for state in (answers[-1], restarted[-1]):
+            model = state["model"]
+            self.assertEqual((model["hoverToOpen"], model["showVisible"], model["dividerEnabled"], model["shortcut"]),
+                             (True, False, True, "controlOptionSpace"))
+            self.assertIsNotNone(state["strip"])
+            self.assertIsNotNone(state["hotkey"])
 
     def test_settings_are_kept_in_the_defaults_file_and_a_damaged_one_is_set_aside(self):
         store = pathlib.Path(self.folder.name) / "settings.json"

@@ -16,12 +16,7 @@ public:
 
     void movePointer(QPointF at) override { m_on.moveTo(at); }
     void click(QPointF at, bool right) override { m_on.click(at, right ? MouseButton::right : MouseButton::left); }
-    void drag(QPointF from, QPointF to) override
-    {
-        m_on.press(from);
-        m_on.moveTo(to);
-        m_desktop.input().released(MouseButton::left, 0);
-    }
+    void drag(QPointF from, QPointF to) override { m_on.drag(from, to); }
     void key(std::uint16_t code, std::uint64_t modifierFlags) override { m_on.key(code, {}, modifierFlags); }
     QStringList openMenu() override { return m_desktop.menus().titles(); }
     void choose(const QString &title) override { m_desktop.menus().choose(title); }

@@ -37,6 +37,7 @@ public:
     void wait(double seconds) { m_on.dispatch.advance(seconds); }
     void movePointer(QPointF to);
     void click(QPointF at, desktop::MouseButton button);
+    void drag(QPointF from, QPointF to, std::uint64_t flags) { m_on.drag(from, to, flags), wait(1); }
     void clickStatusItem() { click(symbol(), desktop::MouseButton::left); }
     void rightClickStatusItem() { click(symbol(), desktop::MouseButton::right); }
     void clickElsewhere() { click(kEmptySpot, desktop::MouseButton::left); }

@@ -43,6 +43,7 @@ TEST(BulkMove, WaitsBeforeItBeginsAndBetweenItems)
     EXPECT_EQ(brimshade.dragCount(), 1);
     brimshade.wait(1.45 + 0.4 + 0.8 + 0.45 + 0.039);
     EXPECT_EQ(brimshade.dragCount(), 0);
+    EXPECT_EQ(brimshade.bar(), u"vault relay | quill"_s) << "the leftmost goes first";
     brimshade.wait(0.001);
     EXPECT_EQ(brimshade.dragCount(), 1);
 }

@@ -105,6 +105,20 @@ TEST(Divider, IsLeftAloneByScansAndByOtherSettings)
     EXPECT_TRUE(brimshade.divider().isExpanded());
 }
 
+// A wide item that a hand drags across it pushes it behind the notch, where nobody could click it.
+TEST(Divider, ComesBackFromBehindTheNotch)
+{
+    auto desktop = dividedDesktop();
+    desktop.applications.push_back(application(820, u"Wide"_s, 60));
+    Brimshade brimshade(desktop);
+    brimshade.drag({brimshade.statusItem().left() - 1, 18}, {1332 + 38, 18}, platform::kCommandFlag);
+    brimshade.drag({brimshade.statusItem().left() - 1, 18}, {1332 + 38, 18}, platform::kCommandFlag);
+    brimshade.wait(1);
+    EXPECT_EQ(brimshade.statusItem().left(), 879);
+    brimshade.clickStatusItem();
+    EXPECT_TRUE(brimshade.delegate().shown());
+}
+
 // A button of the system right of it means that it was pushed out of its place: 40 points shorter, five times.
 TEST(Divider, GivesWayInFiveSteps)
 {

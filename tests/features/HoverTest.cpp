@@ -31,6 +31,18 @@ TEST_F(Hover, OpensOnceThePointerHasRestedOnTheNotch)
     EXPECT_FALSE(brimshade.hasKeys(u"panel"_s)); // typing goes on where it went
 }
 
+TEST_F(Hover, ReachesFromTheTopEdgeOfTheScreenToTheEndOfTheBar)
+{
+    for (const auto &[y, isInside] : {std::pair(0., true), {36.9, true}, {37., false}}) {
+        brimshade.movePointer({756, y});
+        brimshade.wait(1);
+        EXPECT_EQ(brimshade.delegate().shown(), isInside) << y;
+        brimshade.movePointer(kEmptySpot);
+        brimshade.model().onDismiss();
+        brimshade.wait(1);
+    }
+}
+
 TEST_F(Hover, OpensOncePerEntry)
 {
     openByHover();

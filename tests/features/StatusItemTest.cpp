@@ -65,6 +65,24 @@ TEST(Settings, OneShortcutAtATimeTogglesThePanel)
     EXPECT_TRUE(brimshade.delegate().shown());
 }
 
+TEST(Settings, TogglingTheHoverBuildsTheStripAndRegistersTheShortcutOnce)
+{
+    Brimshade brimshade(dividedDesktop());
+    brimshade.model().setShortcut(Shortcut::controlOptionSpace);
+    const QRectF wide = brimshade.statusItem();
+    for (const bool on : {true, false, true}) {
+        brimshade.model().setHoverToOpen(on);
+        EXPECT_EQ(brimshade.windowCount(u"strip"_s), on);
+        EXPECT_EQ(brimshade.frameOf(u"strip"_s).has_value(), on);
+        brimshade.pressShortcut();
+        EXPECT_TRUE(brimshade.delegate().shown());
+        brimshade.pressShortcut();
+        EXPECT_FALSE(brimshade.delegate().shown()) << "one press, one action";
+        brimshade.wait(1);
+        EXPECT_EQ(brimshade.statusItem(), wide);
+    }
+}
+
 TEST(Settings, OneWindowForAllOpenings)
 {
     Brimshade brimshade;

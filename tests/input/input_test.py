@@ -129,6 +129,10 @@ class RealInput(unittest.TestCase):
         self.focus_another_program()
         self.press_key("ctrl+alt+space")
         self.until("the panel is shown", lambda s: s["shown"])
+        self.until("its window has the keys of the session",
+                   lambda _: self.xdotool("getwindowfocus").strip() == self.window)
+        self.xdotool("type", "rel")
+        self.until("what is typed is searched for", lambda s: s["model"]["query"] == "rel")
         self.press_key("ctrl+alt+space")
         self.until("and closed again", lambda s: not s["shown"])
 
@@ -137,6 +141,24 @@ class RealInput(unittest.TestCase):
         self.press_key("ctrl+alt+space")
         self.program.wait(0.5)
         self.assertFalse(self.program.state()["shown"])
+
+    def test_a_hand_drags_an_item_across_the_divider(self):
+        self.program.end()
+        self.start({**DESKTOP, "defaults": {"onboardingDone": True, "dividerEnabled": True}})
+        state = self.until("the divider is wide", lambda s: s["divider"]["isExpanded"] and s["statusItem"]["frame"][2] > 100)
+        tucked = max((i for i in state["menuBar"] if 800 <= i["pid"] and i["frame"][0] < state["statusItem"]["frame"][0]),
+                     key=lambda item: item["frame"][0])
+        clock = next(i for i in state["menuBar"] if i["pid"] == 700)
+        self.point(tucked["frame"][0] + 15, 18)
+        self.xdotool("keydown", "super", "mousedown", 1)
+        self.point(clock["frame"][0] - 2, 18)
+        self.xdotool("mouseup", 1, "keyup", "super")
+        moved = self.until("it stands right of the icon", lambda s: s["statusItem"]["drawn"] and next(
+            i for i in s["menuBar"] if i["pid"] == tucked["pid"])["frame"][0] > s["statusItem"]["frame"][0])
+        self.assertFalse(moved["model"]["scanned"])
+        self.click([moved["statusItem"]["frame"][0] + moved["statusItem"]["frame"][2] - 14, 18, 0, 0])
+        self.until("the next scan shows it on its new side",
+                   lambda s: any(e["id"].startswith(f"{tucked['pid']}-") and not e["isHidden"] for e in s["model"]["extras"]))
 
     def test_hiding_from_a_tiles_menu_moves_the_item_behind_the_notch(self):
         self.open_panel()

@@ -31,6 +31,12 @@ public:
         press(at, button);
         desktop.input().released(button, 0);
     }
+    void drag(QPointF from, QPointF to, std::uint64_t flags = 0)
+    {
+        press(from, desktop::MouseButton::left, flags);
+        moveTo(to, flags);
+        desktop.input().released(desktop::MouseButton::left, flags);
+    }
     void key(std::uint16_t code, const QString &characters, std::uint64_t flags)
     {
         desktop.input().keyDown({platform::keyDown, flags, code, characters});

@@ -48,6 +48,28 @@ TEST_F(BarTest, OrdersPinnedThenOwnThenOthersAndAddsLaterOnesAtTheLeftEnd)
     EXPECT_EQ(barFrame(u"b.two"_s).x(), 1314);
 }
 
+TEST_F(BarTest, NeverPutsAnItemBackIntoALayoutThatItHasLeft)
+{
+    const QRectF place(900, 0, 20, 37);
+    desktop.launch({.description = application(13, {extra(u"c.four"_s)})});
+    desktop.change(13, {.description = application(13, {extraAt(u"c.four"_s, place)})});
+    settle();
+    EXPECT_EQ(barFrame(u"c.four"_s), place);
+    EXPECT_EQ(axFrame(item(13, 0)), place);
+}
+
+TEST_F(BarTest, HoldsOnlyAGroupsChildrenInItsPlace)
+{
+    ExtraDescription parent = extra(u"c.parent"_s, 50);
+    parent.children = {extra(u"c.child"_s)};
+    ExtraDescription named = group({extra(u"c.inner"_s)});
+    named.identifier = u"c.group"_s;
+    desktop.launch({.description = application(13, {parent, named})});
+    settle();
+    EXPECT_TRUE(barOrder().startsWith(u"c.inner c.parent "_s)) << barOrder().toStdString();
+    EXPECT_EQ(barFrame(u"c.parent"_s).width(), 50);
+}
+
 TEST_F(BarTest, PutsItsOwnItemWhereTheSettingsSayAndStoresOnlyADragOfIt)
 {
     platform.userDefaults.setInteger(199, kPlaceKey);

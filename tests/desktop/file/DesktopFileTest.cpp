@@ -134,6 +134,8 @@ TEST(DesktopFileTest, FaultsNameTheirPlace)
          "applications[2].pid: 3 is that of applications[0] already"},
         {withApplications(R"([{"pid": 1, "icon": "#12345"}])"),
          "applications[0].icon: expected #rrggbb, a picture's path or an icon's name"},
+        {withApplications(R"([{"pid": 1, "icon": "/dev/zero"}])"),
+         "applications[0].icon: expected a picture, /dev/zero is none"},
         {withApplications(R"([{"pid": 1, "Name": ""}])"), "applications[0].Name: unknown key"},
         {withApplications(R"([{"pid": 1}, {"pid": 2}, {"pid": 3, "extras": [{"width": "wide"}]}])"),
          "applications[2].extras[0].width: expected a number"},
@@ -142,9 +144,9 @@ TEST(DesktopFileTest, FaultsNameTheirPlace)
         {withExtras(R"([{"menu": ["a", 1]}])"), "applications[0].extras[0].menu[1]: expected a string"},
         {withExtras(R"([{"children": [{}, {"wide": 1}]}])"), "applications[0].extras[0].children[1].wide: unknown key"},
         // Bounds: nothing that a file says makes us allocate or recurse without end.
-        {withExtras(nested(9)), "applications[0].extras: expected groups at most 8 deep"},
-        {withExtras("[" + QByteArray("{},").repeated(200) + "{}]"),
-         "applications[0].extras: expected at most 200 elements"},
+        {withExtras(nested(201)), "applications[0].extras: expected groups at most 200 deep"},
+        {withExtras("[" + QByteArray("{},").repeated(2000) + "{}]"),
+         "applications[0].extras: expected at most 2000 elements"},
         {withExtras(R"([{"title": ")" + QByteArray(4097, 'a') + "\"}]"),
          "applications[0].extras[0].title: expected at most 4096 characters"},
         // What is no JSON.

@@ -31,10 +31,10 @@ TEST(LogTest, FormatsAsTheUnifiedLogDoes)
 TEST(LogTest, IsTakenOnceAndKeepsTheLatest)
 {
     LogWriter log;
-    for (int i = 0; i < 1500; ++i)
-        log.write(i == 1499 ? LogLevel::error : LogLevel::info, "%d", {i});
+    for (int i = 0; i < 10500; ++i)
+        log.write(i == 10499 ? LogLevel::error : LogLevel::info, "%d", {i});
     const std::vector<LogEntry> entries = log.take();
-    ASSERT_EQ(entries.size(), 1000U);
+    ASSERT_EQ(entries.size(), 10000U);
     EXPECT_EQ(entries.front().text, u"500"_s);
     EXPECT_EQ(entries.back().level, LogLevel::error);
     EXPECT_TRUE(log.take().empty());

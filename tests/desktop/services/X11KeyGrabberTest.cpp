@@ -24,7 +24,7 @@ protected:
         server.start();
         ASSERT_TRUE(server.waitForReadyRead()) << "Xvfb: " << qPrintable(server.errorString());
         display = ":" + server.readLine().trimmed();
-        grabber = X11KeyGrabber::create(display);
+        grabber = X11KeyGrabber::create(0, display);
         ASSERT_TRUE(grabber);
         grabber->setPressed([this](KeyCombination combination) { pressed.push_back(combination); });
     }
@@ -79,7 +79,7 @@ TEST_F(X11KeyGrabberTest, TellsWhichCombinationWasPressed)
 
 TEST_F(X11KeyGrabberTest, ATakenCombinationIsRefusedAndFreedWithItsOwner)
 {
-    auto other = X11KeyGrabber::create(display);
+    auto other = X11KeyGrabber::create(0, display);
     EXPECT_TRUE(other->grab(kOptionCommandN));
     EXPECT_FALSE(grabber->grab(kOptionCommandN));
     other->release(kOptionCommandN);
@@ -107,7 +107,7 @@ TEST_F(X11KeyGrabberTest, AServerThatEndsIsBorne)
     QCoreApplication::processEvents();
     EXPECT_FALSE(grabber->grab(kControlOptionSpace));
     grabber->release(kOptionCommandN);
-    EXPECT_FALSE(X11KeyGrabber::create(display));
+    EXPECT_FALSE(X11KeyGrabber::create(0, display));
 }
 
 } // namespace brimshade::desktop
