@@ -4,18 +4,6 @@ namespace brimshade::features {
 
 constexpr double kLong = 200; // more than any bulk move of these desktops takes
 
-TEST(BulkMove, OpensThePanelWhenNothingIsToMove)
-{
-    Brimshade brimshade;
-    brimshade.finishSetup({});
-    EXPECT_TRUE(brimshade.delegate().shown());
-    EXPECT_FALSE(brimshade.isOnScreen(u"setup"_s));
-    EXPECT_TRUE(brimshade.desktop().platform().userDefaults.boolForKey(u"onboardingDone"_s));
-    brimshade.wait(kLong);
-    EXPECT_EQ(brimshade.dragCount(), 0);
-    EXPECT_FALSE(brimshade.model().dividerEnabled());
-}
-
 TEST(BulkMove, BringsEveryItemWhereItWasChosenToBeAndThenOpensThePanel)
 {
     Brimshade brimshade;

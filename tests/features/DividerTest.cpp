@@ -76,14 +76,6 @@ TEST(Divider, IsNoneWhileTheModeIsOff)
     EXPECT_EQ(widthsOver(brimshade, 5), QStringList());
 }
 
-TEST(Divider, MeasuresAfterTheBarHasSettledAndThenExpands)
-{
-    Brimshade brimshade(dividedDesktop());
-    brimshade.desktop().setScreens({notchedScreen(900)});
-    brimshade.wait(0);
-    EXPECT_EQ(widthsOver(brimshade, 5), QStringList({u"28 at 0.1"_s, u"402 at 0.4"_s}));
-}
-
 TEST(Divider, IsMeasuredAgainASecondAfterAnApplicationComesOrGoes)
 {
     Brimshade brimshade(dividedDesktop());

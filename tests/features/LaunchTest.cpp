@@ -52,14 +52,4 @@ TEST(Launch, AsksOnceForAMissingPermission)
     EXPECT_EQ(brimshade.desktop().inspection().promptCount(), 1);
 }
 
-TEST(Launch, FirstOneWithoutPermissionLeavesAskingToTheSetupFlow)
-{
-    desktop::DesktopDescription desktop = firstLaunch();
-    desktop.trusted = false;
-    Brimshade brimshade(desktop);
-    EXPECT_EQ(brimshade.desktop().inspection().promptCount(), 0);
-    EXPECT_FALSE(brimshade.model().trusted());
-    EXPECT_FALSE(brimshade.model().scanned());
-}
-
 } // namespace brimshade::features

@@ -74,21 +74,6 @@ TEST(Settings, AreWrittenThroughOnEveryAssignment)
     }
 }
 
-TEST(Settings, ReachTheNextLaunch)
-{
-    ModelContext context;
-    context.model().setShowVisible(false);
-    context.model().setHoverToOpen(true);
-    context.model().setDividerEnabled(true);
-    context.model().setShortcut(Shortcut::controlOptionCommandM);
-    context.closeModel();
-    EXPECT_FALSE(context.model().showVisible());
-    EXPECT_TRUE(context.model().hoverToOpen() && context.model().dividerEnabled());
-    EXPECT_EQ(context.model().shortcut(), Shortcut::controlOptionCommandM);
-    context.model().setShortcut(Shortcut::none);
-    EXPECT_EQ(context.defaults.stored[u"shortcut"_s], u"none"_s);
-}
-
 TEST(Settings, StoreWhatTheFieldHoldsWhenAnObserverAssignsAgain)
 {
     ModelContext context;

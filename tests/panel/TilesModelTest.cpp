@@ -55,33 +55,6 @@ protected:
     QAbstractItemModelTester tester{&tiles, QAbstractItemModelTester::FailureReportingMode::Fatal};
 };
 
-TEST_F(TilesModelTest, AnItemThatStaysKeepsItsRowAndLearnsItsPlace)
-{
-    show(u"a b c d e"_s);
-    const QPersistentModelIndex d = tiles.index(3);
-    QSignalSpy changed(&tiles, &QAbstractItemModel::dataChanged);
-    show(u"d x e a"_s);
-    EXPECT_EQ(names(), (QStringList{u"d"_s, u"x"_s, u"e"_s, u"a"_s}));
-    ASSERT_TRUE(d.isValid());
-    EXPECT_EQ(d.row(), 0);
-    EXPECT_EQ(d.data(TilesModel::PositionRole), 0);
-    EXPECT_GT(changed.count(), 0);
-    show(u"e"_s);
-    EXPECT_FALSE(d.isValid());
-}
-
-TEST_F(TilesModelTest, NewItemsComeAndOldOnesGoInBatches)
-{
-    QSignalSpy inserted(&tiles, &QAbstractItemModel::rowsInserted);
-    QSignalSpy removed(&tiles, &QAbstractItemModel::rowsRemoved);
-    show(u"a b c d e f"_s);
-    EXPECT_EQ(inserted.count(), 1);
-    show(u"a f"_s);
-    EXPECT_EQ(removed.count(), 1);
-    show(u"a f"_s);
-    EXPECT_EQ(inserted.count() + removed.count(), 2) << "an equal scan changes nothing";
-}
-
 TEST_F(TilesModelTest, AnyListFollowsAnyOtherEvenWithARepeatedId)
 {
     QRandomGenerator random(7);

@@ -58,21 +58,6 @@ TEST_F(SpringValueTest, TakesTheParametersThatComeWithTheTargetInEitherOrder)
     EXPECT_NEAR(seconds(20), 1 + springAt({0.2, 0.8}, {-1, 0}, 0.06).position, 1e-9);
 }
 
-TEST_F(SpringValueTest, EasesFromWhereItIsInItsDuration)
-{
-    const std::tuple<SpringValue::Curve, double> cases[] = {
-        {SpringValue::EaseIn, 0.093}, {SpringValue::EaseOut, 0.378}, {SpringValue::EaseInOut, 0.129}};
-    for (const auto &[curve, atQuarter] : cases) {
-        value.jumpTo(2);
-        value.setCurve(curve);
-        value.setDuration(0.4);
-        value.setTarget(1);
-        EXPECT_NEAR(seconds(100), 2 - atQuarter, 0.002) << curve;
-        EXPECT_EQ(seconds(300), 1);
-        EXPECT_FALSE(value.isRunning());
-    }
-}
-
 TEST(SpringValueCreation, JumpsToItsFirstTarget)
 {
     SpringValue value;

@@ -89,13 +89,6 @@ TEST_F(WindowTest, SizesItselfByItsContentAndStaysBelowTheMenuBar)
     EXPECT_DOUBLE_EQ(maxY(window->frame()), (945 - 668) * 2 / 3. + 668) << "the title bar stays";
     window->setFrame(QRectF(0, 900, 480, 100));
     EXPECT_EQ(maxY(window->frame()), 945);
-
-    WindowAttributes attributes;
-    attributes.constrainsFrame = false;
-    attributes.styleMask = kStyleTitled;
-    const auto free = platform.windows.createWindow(attributes, HostedView());
-    free->setFrame(QRectF(0, 900, 480, 100));
-    EXPECT_EQ(maxY(free->frame()), 1000);
 }
 
 TEST_F(WindowTest, KnowsItsScreenAndComesBackFromOneThatIsGone)

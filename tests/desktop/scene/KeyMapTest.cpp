@@ -49,22 +49,4 @@ TEST(KeyMap, HasNoKeyDownForAModifierOrAKeyThatTypesNothing)
         EXPECT_FALSE(typed(key, {}, {})) << key;
 }
 
-TEST(KeyMap, AnswersTheSameKeyForACodeAsItGaveTheCodeFor)
-{
-    int known = 0;
-    for (std::uint16_t code = 0; code < 128; ++code) {
-        const Qt::Key key = keyFor(code);
-        if (key == Qt::Key_unknown)
-            continue;
-        ++known;
-        const bool isKeypad = keyCodeFor(key, true) == code;
-        EXPECT_EQ(keyCodeFor(key, isKeypad), code);
-    }
-    EXPECT_GE(known, 90);
-    const std::uint64_t all =
-        platform::kShiftFlag | platform::kControlFlag | platform::kOptionFlag | platform::kCommandFlag;
-    for (std::uint64_t flags = 0; flags <= all; flags += platform::kShiftFlag)
-        EXPECT_EQ(modifierFlagsFor(modifiersFor(flags)), flags);
-}
-
 } // namespace brimshade::desktop
