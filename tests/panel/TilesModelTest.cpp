@@ -4,7 +4,6 @@
 
 #include <QAbstractItemModelTester>
 #include <QRandomGenerator>
-#include <QSignalSpy>
 
 namespace brimshade::panel {
 
