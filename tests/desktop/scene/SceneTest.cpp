@@ -30,6 +30,22 @@ TEST(Input, ReachesTheViewUnderThePointerOnly)
     EXPECT_FALSE(low->isKeyWindow());
 }
 
+TEST(Input, AKeyThatAMonitorSwallowsReachesNoView)
+{
+    SceneContext context;
+    const auto window = context.probe(u"probe"_s, kFrame);
+    bool swallows = true;
+    context.desktop().platform().application.addLocalMonitor(platform::kKeyDownMask, [&](const platform::Event &event) {
+        return swallows ? std::nullopt : std::optional(event);
+    });
+    context.recorder().take();
+    context.key(45, u"n"_s);
+    EXPECT_EQ(context.recorder().take(), QStringList());
+    swallows = false;
+    context.key(45, u"n"_s);
+    EXPECT_EQ(context.recorder().take().size(), 1);
+}
+
 TEST(Animations, AskForNoFrameOnceTheyEnded)
 {
     SceneContext context;

@@ -43,19 +43,6 @@ TEST_F(VirtualDispatchTest, ADelayEndsExactlyAtItsBound)
     EXPECT_THAT(dispatch.now(), DoubleEq(start + 1));
 }
 
-TEST_F(VirtualDispatchTest, TheClockShowsTheDueTimeWhileWorkRuns)
-{
-    dispatch.mainAfter(0.25, [this] {
-        note("a");
-        dispatch.mainAfter(0.25, [this] { note("c"); });
-        dispatch.mainAsync([this] { note("b"); });
-    });
-    dispatch.mainAfter(0.5, [this] { note("before c"); }); // queued earlier for the same instant
-    dispatch.advance(2);
-    EXPECT_THAT(log, ElementsAre("a 0.250", "b 0.250", "before c 0.500", "c 0.500"));
-    EXPECT_EQ(dispatch.now(), 2);
-}
-
 TEST_F(VirtualDispatchTest, SleepersTakeTurnsByTheClock)
 {
     // Two queues and the main one, always in the same course.
