@@ -1,38 +1,13 @@
 #include "app/KeyHandler.h"
 #include "model/NotchModel.h"
-#include "platform/LoginItems.h"
-#include "platform/UserDefaults.h"
-
-#include <gtest/gtest.h>
+#include "support/FakeSystem.h"
 
 namespace brimshade::app::tests {
 
-using namespace Qt::StringLiterals;
-
-namespace {
-
-class NoDefaults : public platform::UserDefaults {
-public:
-    QVariant objectForKey(const QString &) const override { return {}; }
-    bool boolForKey(const QString &) const override { return false; }
-    QString stringForKey(const QString &) const override { return {}; }
-    void setBool(bool, const QString &) override { }
-    void setInteger(qlonglong, const QString &) override { }
-    void setObject(const QString &, const QString &) override { }
-};
-
-class NoLoginItems : public platform::LoginItems {
-public:
-    platform::LoginItemStatus status() const override { return platform::LoginItemStatus::notFound; }
-    std::expected<void, QString> registerMainApp() override { return {}; }
-    std::expected<void, QString> unregisterMainApp() override { return {}; }
-};
-
 class Keys : public testing::Test {
 protected:
-    NoDefaults defaults;
-    NoLoginItems loginItems;
-    model::NotchModel model{defaults, loginItems};
+    FakeSystem system;
+    model::NotchModel model{system.defaults, system.loginItems};
     int closings = 0;
     KeyHandler keys{model, [this] { ++closings; }};
 
@@ -53,46 +28,28 @@ protected:
     }
 };
 
-} // namespace
-
 TEST_F(Keys, TypesLettersMarksNumbersPunctuationAndBlanks)
 {
-    struct Case {
-        QString characters;
-        std::uint64_t flags;
-        bool isTaken;
-    };
-    const Case cases[] = {
-        {u"a"_s, 0, true},
-        {u"A"_s, platform::kShiftFlag, true},
-        {u"å"_s, platform::kOptionFlag, true},
-        {u"e\u0301"_s, 0, true},
-        {u"٣"_s, 0, true},
-        {u"½"_s, 0, true},
-        {u"\U00010400"_s, 0, true}, // a letter beyond the basic plane
-        {u"-"_s, 0, true},
-        {u"…"_s, 0, true},
-        {u" "_s, 0, true},
-        {u"\u3000"_s, 0, true},
-        {u"\t"_s, 0, true},
-        {u"\n"_s, 0, false},
-        {u"\u2028"_s, 0, false},
-        {u"a\n"_s, 0, false}, // all of it or nothing
-        {u"+"_s, 0, false},
-        {u"€"_s, 0, false},
-        {u"😀"_s, 0, false},
-        {u"\uF704"_s, 0, false}, // a function key
-        {QString(QChar(0xD800)), 0, false},
-        {u""_s, 0, false},
-        {u"f"_s, platform::kCommandFlag, false},
-        {u"a"_s, platform::kControlFlag, false},
-        {u"a"_s, platform::kCommandFlag | platform::kShiftFlag, false},
-    };
-    for (const auto &[characters, flags, isTaken] : cases) {
+    // A letter beyond the basic plane among them.
+    const QStringList taken{u"a"_s, u"e\u0301"_s, u"٣"_s, u"½"_s,      u"\U00010400"_s,
+                            u"-"_s, u"…"_s,       u" "_s, u"\u3000"_s, u"\t"_s};
+    // A function key, half a character, and all of a text or nothing.
+    const QStringList refused{
+        u"\n"_s, u"\u2028"_s, u"a\n"_s, u"+"_s, u"€"_s, u"😀"_s, u"\uF704"_s, QString(QChar(0xD800)), u""_s};
+    const auto expect = [&](const QString &characters, std::uint64_t flags, bool isTaken) {
         model.setQuery(u"x"_s);
         EXPECT_EQ(press(0, characters, flags), isTaken) << characters.toStdString();
         EXPECT_EQ(model.query(), isTaken ? u"x"_s + characters : u"x"_s);
-    }
+    };
+    for (const QString &characters : taken)
+        expect(characters, 0, true);
+    for (const QString &characters : refused)
+        expect(characters, 0, false);
+    for (const auto flags :
+         {platform::kCommandFlag, platform::kControlFlag, platform::kCommandFlag | platform::kShiftFlag})
+        expect(u"a"_s, flags, false);
+    for (const auto flags : {platform::kShiftFlag, platform::kOptionFlag})
+        expect(u"å"_s, flags, true);
 }
 
 TEST_F(Keys, DeleteTakesWhatAPersonSeesAsOneCharacter)

@@ -1,11 +1,8 @@
 #include "app/MoveMessages.h"
 #include "app/BulkMove.h"
-
-#include <gtest/gtest.h>
+#include "support/Test.h"
 
 namespace brimshade::app::tests {
-
-using namespace Qt::StringLiterals;
 
 TEST(MoveMessages, SummaryIsInAscendingOrderOfTheMessages)
 {

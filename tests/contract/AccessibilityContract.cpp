@@ -1,10 +1,8 @@
-#include "Implementations.h"
+#include "Driver.h"
 
 using namespace brimshade::platform;
-using namespace Qt::StringLiterals;
 
 namespace brimshade::contract {
-namespace {
 
 class AccessibilityContract : public Contract {
 protected:
@@ -127,5 +125,4 @@ TEST_P(AccessibilityContract, ListsApplicationsAndAnnouncesTheirComingAndGoing)
 
 INSTANTIATE_TEST_SUITE_P(On, AccessibilityContract, implementations(), implementationName);
 
-} // namespace
 } // namespace brimshade::contract

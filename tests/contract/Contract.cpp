@@ -1,7 +1,6 @@
 #include "Driver.h"
 
 using namespace brimshade::platform;
-using namespace Qt::StringLiterals;
 
 namespace brimshade::contract {
 

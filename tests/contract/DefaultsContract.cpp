@@ -1,10 +1,8 @@
-#include "Implementations.h"
+#include "Driver.h"
 
 using namespace brimshade::platform;
-using namespace Qt::StringLiterals;
 
 namespace brimshade::contract {
-namespace {
 
 class DefaultsContract : public Contract { };
 
@@ -44,16 +42,6 @@ TEST_P(DefaultsContract, ObserversHearOnlyWhatTheyAskedForInOrder)
     EXPECT_EQ(order, "ab");
 }
 
-TEST_P(DefaultsContract, TheLoginItemAnswersWithWhatItWasSet)
-{
-    ASSERT_EQ(platform.loginItems.status(), LoginItemStatus::notRegistered);
-    ASSERT_TRUE(platform.loginItems.registerMainApp());
-    EXPECT_EQ(platform.loginItems.status(), LoginItemStatus::enabled);
-    ASSERT_TRUE(platform.loginItems.unregisterMainApp());
-    EXPECT_NE(platform.loginItems.status(), LoginItemStatus::enabled);
-}
-
 INSTANTIATE_TEST_SUITE_P(On, DefaultsContract, implementations(), implementationName);
 
-} // namespace
 } // namespace brimshade::contract

@@ -1,70 +1,33 @@
-#include "DesktopDriver.h"
-#include "desktop/core/Desktop.h"
-#include "desktop/core/InputRouter.h"
-#include "desktop/core/MenuHost.h"
-#include "desktop/time/VirtualDispatch.h"
-#include "platform/Symbol.h"
+#include "Driver.h"
+#include "support/TestDesktop.h"
 
 using namespace brimshade::desktop;
 using namespace brimshade::platform;
-using namespace Qt::StringLiterals;
 
 namespace brimshade::contract {
-
-namespace {
-
-class NoSymbols : public Symbols {
-public:
-    Image symbolImage(const QString &, const QString &, const SymbolConfiguration &) override { return {}; }
-};
-
-DesktopDescription notchedDesktop()
-{
-    DesktopDescription description;
-    description.screens = {{u"Built-in Display"_s, QRectF(0, 0, 1512, 982), 37, 37, std::pair(663., 849.)}};
-    return description;
-}
 
 class DesktopDriver : public Driver {
 public:
     Platform platform() override { return m_desktop.platform(); }
 
-    void runDue() override { m_dispatch.runDue(); }
-    void advance(double seconds) override { m_dispatch.advance(seconds); }
-    void settleMenuBar() override { m_dispatch.advance(0.1); }
+    void runDue() override { m_on.dispatch.runDue(); }
+    void advance(double seconds) override { m_on.dispatch.advance(seconds); }
+    void settleMenuBar() override { m_on.dispatch.advance(0.1); }
 
-    void movePointer(QPointF at) override { m_desktop.input().pointerMoved(at, 0); }
-    void click(QPointF at, bool right) override
-    {
-        const MouseButton button = right ? MouseButton::right : MouseButton::left;
-        movePointer(at);
-        m_desktop.input().pressed(button, 0);
-        m_desktop.input().released(button, 0);
-    }
-    void key(std::uint16_t code, std::uint64_t modifierFlags) override
-    {
-        Event event;
-        event.keyCode = code;
-        event.modifierFlags = modifierFlags;
-        m_desktop.input().keyDown(event);
-    }
+    void movePointer(QPointF at) override { m_on.moveTo(at); }
+    void click(QPointF at, bool right) override { m_on.click(at, right ? MouseButton::right : MouseButton::left); }
+    void drag(QPointF from, QPointF to) override { m_on.drag(from, to); }
+    void key(std::uint16_t code, std::uint64_t modifierFlags) override { m_on.key(code, {}, modifierFlags); }
     QStringList openMenu() override { return m_desktop.menus().titles(); }
     void choose(const QString &title) override { m_desktop.menus().choose(title); }
     void dismissMenu() override { m_desktop.menus().dismiss(); }
 
     int launch(const std::vector<ItemOfAnother> &items) override
     {
-        ApplicationDescription application;
-        application.pid = ++m_latestPid;
-        application.name = u"Another"_s;
-        application.extras.emplace();
+        ApplicationDescription application = brimshade::application(++m_latestPid, u"Another"_s, {});
         for (const ItemOfAnother &item : items) {
-            ExtraDescription extra;
-            extra.role = u"AXMenuBarItem"_s;
-            extra.identifier = item.identifier;
-            extra.actions = item.actions;
-            extra.menu = item.menu;
-            application.extras->push_back(extra);
+            application.extras->push_back(extra(item.identifier, 30, item.menu));
+            application.extras->back().actions = item.actions;
         }
         m_launched[application.pid] = application;
         m_desktop.launch({.description = application});
@@ -77,18 +40,14 @@ public:
         m_desktop.change(pid, {.description = m_launched[pid]});
     }
     void setTrusted(bool trusted) override { m_desktop.setTrusted(trusted); }
-    void changeScreens() override { m_desktop.setScreens({{u"External"_s, QRectF(0, 0, 1920, 1080), 24, 0, {}}}); }
+    void changeScreens() override { m_desktop.setScreens({plainScreen({0, 0, 1920, 1080})}); }
 
 private:
-    VirtualDispatch m_dispatch;
-    NoSymbols m_symbols;
-    Desktop m_desktop{{.dispatch = m_dispatch, .symbols = m_symbols, .defaults = nullptr, .loginItems = nullptr},
-                      notchedDesktop()};
+    TestDesktop m_on{notchedDesktop({})};
+    Desktop &m_desktop = m_on.desktop;
     std::map<int, ApplicationDescription> m_launched;
     int m_latestPid = 100;
 };
-
-} // namespace
 
 std::unique_ptr<Driver> makeDesktopDriver()
 {

@@ -1,24 +1,5 @@
 #pragma once
-#include "platform/Accessibility.h"
-#include "platform/Application.h"
-#include "platform/Dispatch.h"
-#include "platform/EventServices.h"
-#include "platform/HotkeyCenter.h"
-#include "platform/LoginItems.h"
-#include "platform/Menu.h"
-#include "platform/NotificationCenter.h"
-#include "platform/Platform.h"
-#include "platform/Screens.h"
-#include "platform/StatusBar.h"
-#include "platform/UserDefaults.h"
-#include "platform/Window.h"
-#include "platform/WindowServer.h"
-#include "platform/Workspace.h"
-
-#include <QStringList>
-#include <functional>
-#include <gtest/gtest.h>
-#include <memory>
+#include "support/Platform.h"
 
 namespace brimshade::contract {
 
@@ -42,6 +23,7 @@ public:
 
     virtual void movePointer(QPointF at) = 0; // display space
     virtual void click(QPointF at, bool right = false) = 0;
+    virtual void drag(QPointF from, QPointF to) = 0;
     virtual void key(std::uint16_t code, std::uint64_t modifierFlags) = 0;
     virtual QStringList openMenu() = 0; // titles; empty when none is open
     virtual void choose(const QString &title) = 0;
@@ -69,5 +51,19 @@ protected:
     std::unique_ptr<Driver> driver = GetParam()();
     platform::Platform platform = driver->platform();
 };
+
+std::unique_ptr<Driver> makeDesktopDriver(); // the virtual desktop, in virtual time
+
+// Every implementation of the platform that can be driven here.
+inline auto implementations()
+{
+    return testing::Values(DriverFactory(makeDesktopDriver));
+}
+
+inline std::string implementationName(const testing::TestParamInfo<DriverFactory> &implementation)
+{
+    static constexpr const char *kNames[] = {"Desktop"};
+    return kNames[implementation.index];
+}
 
 } // namespace brimshade::contract

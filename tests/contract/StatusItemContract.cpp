@@ -1,12 +1,8 @@
-#include "Implementations.h"
-
-#include <QImage>
+#include "Driver.h"
 
 using namespace brimshade::platform;
-using namespace Qt::StringLiterals;
 
 namespace brimshade::contract {
-namespace {
 
 class StatusItemContract : public Contract {
 protected:
@@ -38,19 +34,6 @@ TEST_P(StatusItemContract, IsAsLongAsItSaysOnceTheBarHasSettled)
     EXPECT_EQ(item->length(), kSquareStatusItemLength);
 }
 
-TEST_P(StatusItemContract, KeepsItsImage)
-{
-    EXPECT_TRUE(item->button()->image().isNull());
-    class Nothing : public ImageSource {
-        void draw(QPainter &, const QRectF &) const override { }
-        QImage bitmap() const override { return {}; }
-    };
-    const Image image(std::make_shared<Nothing>(), QSizeF(20, 16), true);
-    item->button()->setImage(image);
-    EXPECT_TRUE(item->button()->image().isSameObject(image));
-    EXPECT_EQ(item->button()->image().size(), QSizeF(20, 16));
-}
-
 TEST_P(StatusItemContract, SendsItsActionOnTheEventsOfTheMask)
 {
     std::vector<std::optional<NSEventType>> types;
@@ -63,6 +46,16 @@ TEST_P(StatusItemContract, SendsItsActionOnTheEventsOfTheMask)
     driver->click(middle(), true);
     EXPECT_EQ(types, (std::vector<std::optional<NSEventType>>{leftMouseUp, rightMouseUp}));
     EXPECT_EQ(outside, 0) << "a press on it is not one in another application";
+}
+
+TEST_P(StatusItemContract, SendsNoActionForAPressThatEndsOrBeganElsewhere)
+{
+    int actions = 0;
+    item->button()->setAction(kLeftMouseUpMask, [&] { ++actions; });
+    driver->settleMenuBar();
+    driver->drag(middle(), emptySpot());
+    driver->drag(emptySpot(), middle());
+    EXPECT_EQ(actions, 0);
 }
 
 TEST_P(StatusItemContract, OpensAnAttachedMenuInsteadAndTellsWhenItIsGone)
@@ -119,5 +112,4 @@ TEST_P(StatusItemContract, LeavesTheBarWhenItIsDestroyed)
 
 INSTANTIATE_TEST_SUITE_P(On, StatusItemContract, implementations(), implementationName);
 
-} // namespace
 } // namespace brimshade::contract

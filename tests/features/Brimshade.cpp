@@ -1,37 +1,47 @@
 #include "Brimshade.h"
-
-#include "desktop/core/Inspection.h"
-#include "desktop/core/MenuBar.h"
-#include "desktop/core/MenuHost.h"
 #include "desktop/services/LogWriter.h"
-#include "platform/LoginItems.h"
-#include "platform/UserDefaults.h"
 #include "windows/flow/OnboardingFlow.h"
-
-#include <algorithm>
 
 namespace brimshade::features {
 
-namespace {
-
-class Block : public platform::ImageSource {
-public:
-    void draw(QPainter &painter, const QRectF &rect) const override { painter.fillRect(rect, Qt::black); }
-    QImage bitmap() const override { return {}; }
-};
-
-} // namespace
-
-platform::Image Brimshade::Symbols::symbolImage(const QString &, const QString &,
-                                                const platform::SymbolConfiguration &configuration)
+desktop::ApplicationDescription application(int pid, const QString &name, double width)
 {
-    return {std::make_shared<Block>(), {configuration.pointSize, configuration.pointSize}, true};
+    return brimshade::application(pid, name, {extra(name.toLower() + u".main"_s, width, {u"About"_s})});
+}
+
+desktop::ApplicationDescription systemAgent()
+{
+    auto agent = brimshade::systemAgent(
+        {extra(u"com.example.menuextra.clock"_s, 132), extra(u"com.example.menuextra.controlcenter"_s, 40)});
+    agent.extras->at(0).description = u"Clock"_s;
+    agent.extras->at(1).description = u"Control Center"_s;
+    return agent;
+}
+
+desktop::ApplicationDescription agentWithButton(const QRectF &frame)
+{
+    auto agent = systemAgent();
+    agent.extras->push_back(button(frame));
+    return agent;
+}
+
+desktop::DesktopDescription notchedDesktop(const QVariantMap &defaults)
+{
+    auto desktop = brimshade::notchedDesktop(
+        {systemAgent(), application(811, u"Relay"_s), application(812, u"Vault"_s), application(813, u"Quill"_s)});
+    desktop.pointer = QPointF(100, 800);
+    desktop.defaults = {{u"onboardingDone"_s, true}};
+    desktop.defaults.insert(defaults);
+    return desktop;
+}
+
+desktop::DesktopDescription dividedDesktop()
+{
+    return notchedDesktop({{u"dividerEnabled"_s, true}});
 }
 
 Brimshade::Brimshade(const desktop::DesktopDescription &description)
-    : m_desktop(std::make_unique<desktop::Desktop>(desktop::Desktop::Services{m_dispatch, m_symbols, nullptr, nullptr},
-                                                   description)),
-      m_delegate(std::make_shared<app::AppDelegate>(m_desktop->platform()))
+    : m_on(description), m_delegate(std::make_shared<app::AppDelegate>(m_on.platform))
 {
     m_delegate->applicationDidFinishLaunching();
     wait(1); // the status item stands where it will stay
@@ -40,46 +50,19 @@ Brimshade::Brimshade(const desktop::DesktopDescription &description)
 Brimshade::~Brimshade()
 {
     vanish();
-    m_dispatch.stop();
+    m_on.dispatch.stop();
 }
 
 void Brimshade::movePointer(QPointF to)
 {
-    m_desktop->input().pointerMoved(to, 0);
-    m_dispatch.runDue();
+    m_on.moveTo(to);
+    m_on.dispatch.runDue();
 }
 
 void Brimshade::click(QPointF at, desktop::MouseButton button)
 {
-    movePointer(at);
-    m_desktop->input().pressed(button, 0);
-    m_desktop->input().released(button, 0);
-    m_dispatch.runDue();
-}
-
-void Brimshade::drag(QPointF from, QPointF to, std::uint64_t modifierFlags)
-{
-    desktop::InputRouter &input = m_desktop->input();
-    input.pointerMoved(from, modifierFlags);
-    input.pressed(desktop::MouseButton::left, modifierFlags);
-    input.pointerMoved(to, modifierFlags);
-    input.released(desktop::MouseButton::left, modifierFlags);
-    wait(1);
-}
-
-void Brimshade::clickStatusItem()
-{
-    click(symbol(), desktop::MouseButton::left);
-}
-
-void Brimshade::rightClickStatusItem()
-{
-    click(symbol(), desktop::MouseButton::right);
-}
-
-void Brimshade::clickElsewhere()
-{
-    click(kEmptySpot, desktop::MouseButton::left);
+    m_on.click(at, button);
+    m_on.dispatch.runDue();
 }
 
 void Brimshade::open()
@@ -91,8 +74,8 @@ void Brimshade::open()
 
 void Brimshade::press(int keyCode, const QString &characters, std::uint64_t flags)
 {
-    m_desktop->input().keyDown({platform::keyDown, flags, static_cast<std::uint16_t>(keyCode), characters});
-    m_dispatch.runDue();
+    m_on.key(static_cast<std::uint16_t>(keyCode), characters, flags);
+    m_on.dispatch.runDue();
 }
 
 void Brimshade::type(const QString &text)
@@ -101,36 +84,24 @@ void Brimshade::type(const QString &text)
         press(0, character);
 }
 
-void Brimshade::pressShortcut()
+void Brimshade::move(const QString &name, bool hide)
 {
-    press(49, u" "_s, platform::kControlFlag | platform::kOptionFlag);
+    model().setDividerEnabled(true);
+    model().onSetHidden(item(name), hide);
+    m_on.dispatch.runDue();
 }
 
 void Brimshade::chooseFromMenu(const QString &title)
 {
-    ASSERT_TRUE(m_desktop->menus().choose(title)) << title.toStdString();
-    m_dispatch.runDue();
-}
-
-void Brimshade::hide(const QString &name)
-{
-    model().setDividerEnabled(true);
-    model().onSetHidden(item(name), true);
-    m_dispatch.runDue();
-}
-
-void Brimshade::show(const QString &name)
-{
-    model().setDividerEnabled(true);
-    model().onSetHidden(item(name), false);
-    m_dispatch.runDue();
+    ASSERT_TRUE(m_on.desktop.menus().choose(title)) << title.toStdString();
+    m_on.dispatch.runDue();
 }
 
 void Brimshade::finishSetup(const QHash<QString, bool> &hiddenByName)
 {
     m_delegate->showOnboarding();
-    m_dispatch.runDue();
-    const auto &view = std::get<platform::HostedView>(m_desktop->windows().named(u"setup"_s)->content());
+    m_on.dispatch.runDue();
+    const auto &view = std::get<platform::HostedView>(m_on.desktop.windows().named(u"setup"_s)->content());
     auto *flow = view.properties.value(u"flow"_s).value<windows::OnboardingFlow *>();
     for (const auto &[name, hidden] : hiddenByName.asKeyValueRange()) {
         if (flow->effectiveChoice(item(name)) != hidden)
@@ -139,12 +110,7 @@ void Brimshade::finishSetup(const QHash<QString, bool> &hiddenByName)
     while (flow->action() != windows::OnboardingFlow::Finish)
         flow->act();
     flow->act();
-    m_dispatch.runDue();
-}
-
-void Brimshade::vanish()
-{
-    m_delegate.reset();
+    m_on.dispatch.runDue();
 }
 
 const menubar::MenuExtra &Brimshade::item(const QString &name)
@@ -156,77 +122,72 @@ const menubar::MenuExtra &Brimshade::item(const QString &name)
     return *found;
 }
 
-bool Brimshade::isOnScreen(const QString &window) const
+bool Brimshade::hasKeys(const QString &window)
 {
-    return frameOf(window).has_value();
-}
-
-bool Brimshade::hasKeys(const QString &window) const
-{
-    const desktop::DesktopWindow *found = m_desktop->windows().named(window);
+    const desktop::DesktopWindow *found = m_on.desktop.windows().named(window);
     return found && found->isKeyWindow();
 }
 
-std::optional<QRectF> Brimshade::frameOf(const QString &window) const
+std::optional<QRectF> Brimshade::frameOf(const QString &window)
 {
-    const desktop::DesktopWindow *found = m_desktop->windows().named(window);
+    const desktop::DesktopWindow *found = m_on.desktop.windows().named(window);
     return found && found->isVisible() ? std::optional(found->frame()) : std::nullopt;
 }
 
-int Brimshade::windowCount(const QString &name) const
+int Brimshade::windowCount(const QString &name)
 {
-    return std::ranges::count(m_desktop->windows().windows(), name,
+    return std::ranges::count(m_on.desktop.windows().windows(), name,
                               [](const desktop::DesktopWindow *window) { return window->attributes().name; });
 }
 
-QRectF Brimshade::statusItem() const
+QRectF Brimshade::statusItem()
 {
-    const auto items = m_desktop->menuBar().items();
+    const auto items = m_on.desktop.menuBar().items();
     const auto own = std::ranges::find(items, true, &desktop::BarItem::isOwn);
     return own == items.end() ? QRectF() : own->frame;
 }
 
-QPointF Brimshade::symbol() const
+QPointF Brimshade::symbol()
 {
     const QRectF item = statusItem();
     return {platform::maxX(item) - 14, platform::midY(item)};
 }
 
-QStringList Brimshade::bar() const
+QString Brimshade::bar()
 {
     QStringList names;
-    for (const desktop::BarItem &item : m_desktop->menuBar().items()) {
+    for (const desktop::BarItem &item : m_on.desktop.menuBar().items()) {
         if (item.isOwn)
             names.append(u"|"_s);
         else if (!item.identifier.startsWith("com.example"_L1))
             names.append(item.identifier.section(u'.', 0, 0));
     }
-    return names;
+    return names.join(u' ');
 }
 
-QStringList Brimshade::hiddenItems()
+QString Brimshade::hiddenItems()
 {
     m_delegate->refresh();
-    m_dispatch.runDue();
+    m_on.dispatch.runDue();
     QStringList names;
     for (const menubar::MenuExtra &extra : model().extras()) {
         if (extra.isHidden)
             names.append(extra.name);
     }
-    return names;
+    return names.join(u' ');
 }
 
 QStringList Brimshade::log()
 {
     QStringList lines;
-    for (const desktop::LogEntry &entry : m_desktop->log().take())
+    for (const desktop::LogEntry &entry : m_on.desktop.log().take())
         lines.append((entry.level == platform::LogLevel::error ? u"error: "_s : u"info: "_s) + entry.text);
     return lines;
 }
 
 int Brimshade::dragCount()
 {
-    return std::ranges::count_if(m_desktop->inspection().takeEvents(), [](const desktop::SyntheticEvent &posted) {
+    return std::ranges::count_if(m_on.desktop.inspection().takeEvents(), [](const desktop::SyntheticEvent &posted) {
         return posted.event.type == platform::kCGEventLeftMouseDown;
     });
 }
@@ -234,7 +195,7 @@ int Brimshade::dragCount()
 QStringList Brimshade::pressedItems()
 {
     QStringList identifiers;
-    for (const desktop::PerformedAction &action : m_desktop->inspection().takeActions())
+    for (const desktop::PerformedAction &action : m_on.desktop.inspection().takeActions())
         identifiers.append(action.identifier);
     return identifiers;
 }

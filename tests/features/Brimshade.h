@@ -1,18 +1,8 @@
 #pragma once
-#include "Descriptions.h"
 #include "app/AppDelegate.h"
 #include "controls/Divider.h"
-#include "desktop/core/Desktop.h"
-#include "desktop/core/InputRouter.h"
-#include "desktop/core/WindowStack.h"
-#include "desktop/time/VirtualDispatch.h"
-#include "menubar/MenuExtra.h"
 #include "model/NotchModel.h"
-#include "platform/Application.h"
-#include "platform/Symbol.h"
-
-#include <QStringList>
-#include <gtest/gtest.h>
+#include "support/TestDesktop.h"
 
 inline void PrintTo(const QString &text, std::ostream *out)
 {
@@ -21,7 +11,18 @@ inline void PrintTo(const QString &text, std::ostream *out)
 
 namespace brimshade::features {
 
-using namespace Qt::StringLiterals;
+// A running application with one item, 30 points wide.
+desktop::ApplicationDescription application(int pid, const QString &name, double width = 30);
+// The system's agent: the clock from 1372 to 1504, the control centre left of it from 1332.
+desktop::ApplicationDescription systemAgent();
+// A plain button of the system's agent at a fixed place, at which its other items seem to begin.
+desktop::ApplicationDescription agentWithButton(const QRectF &frame);
+
+// The notched screen, the agent, Brimshade's item left of it, then Relay, Vault and Quill leftwards from 1304. The
+// setup flow is done, the permission given.
+desktop::DesktopDescription notchedDesktop(const QVariantMap &defaults = {});
+// The same with divider mode on: all three are tucked away.
+desktop::DesktopDescription dividedDesktop();
 
 inline constexpr QPointF kEmptySpot(100, 800); // of the display, top-left origin: no window of the program is there
 inline constexpr QPointF kOnNotch(756, 10);
@@ -33,53 +34,45 @@ public:
     explicit Brimshade(const desktop::DesktopDescription &description = notchedDesktop());
     ~Brimshade();
 
-    void wait(double seconds) { m_dispatch.advance(seconds); }
+    void wait(double seconds) { m_on.dispatch.advance(seconds); }
     void movePointer(QPointF to);
     void click(QPointF at, desktop::MouseButton button);
-    void drag(QPointF from, QPointF to, std::uint64_t modifierFlags);
-    void clickStatusItem();
-    void rightClickStatusItem();
-    void clickElsewhere();
+    void drag(QPointF from, QPointF to, std::uint64_t flags) { m_on.drag(from, to, flags), wait(1); }
+    void clickStatusItem() { click(symbol(), desktop::MouseButton::left); }
+    void rightClickStatusItem() { click(symbol(), desktop::MouseButton::right); }
+    void clickElsewhere() { click(kEmptySpot, desktop::MouseButton::left); }
     void open(); // with a click, until the views are open and the list is there
     void press(int keyCode, const QString &characters = {}, std::uint64_t flags = 0);
     void type(const QString &text);
-    void pressShortcut(); // ⌃⌥Space
+    void pressShortcut() { press(49, u" "_s, platform::kControlFlag | platform::kOptionFlag); } // ⌃⌥Space
     void chooseFromMenu(const QString &title);
-    // As a tile's menu does.
-    void hide(const QString &name);
-    void show(const QString &name);
+    void move(const QString &name, bool hide); // as a tile's menu does
+    void hide(const QString &name) { move(name, true); }
+    void show(const QString &name) { move(name, false); }
     void finishSetup(const QHash<QString, bool> &hiddenByName);
-    void vanish(); // the coordinator goes, whatever is under way
+    void vanish() { m_delegate.reset(); } // the coordinator goes, whatever is under way
 
     model::NotchModel &model() { return m_delegate->model(); }
     app::AppDelegate &delegate() { return *m_delegate; }
-    desktop::Desktop &desktop() { return *m_desktop; }
+    desktop::Desktop &desktop() { return m_on.desktop; }
     const controls::Divider &divider() { return *m_delegate->divider(); }
     const menubar::MenuExtra &item(const QString &name); // of the last scan
 
-    bool isOnScreen(const QString &window) const;
-    bool hasKeys(const QString &window) const;
-    std::optional<QRectF> frameOf(const QString &window) const; // screen space; absent while it is not on screen
-    int windowCount(const QString &name) const;
-    QRectF statusItem() const;
-    QStringList bar() const; // left to right, without the system's items; Brimshade's own is "|"
-    QStringList hiddenItems(); // as a fresh scan lists them
+    bool isOnScreen(const QString &window) { return frameOf(window).has_value(); }
+    bool hasKeys(const QString &window);
+    std::optional<QRectF> frameOf(const QString &window); // screen space; absent while it is not on screen
+    int windowCount(const QString &name);
+    QRectF statusItem();
+    QString bar(); // left to right, without the system's items; Brimshade's own is "|"
+    QString hiddenItems(); // as a fresh scan lists them
     int dragCount(); // since last asked
     QStringList pressedItems(); // since last asked
     QStringList log(); // since last asked
 
 private:
-    QPointF symbol() const; // at the right end of the status item, where one clicks it
+    QPointF symbol(); // at the right end of the status item, where one clicks it
 
-    class Symbols : public platform::Symbols {
-    public:
-        platform::Image symbolImage(const QString &name, const QString &description,
-                                    const platform::SymbolConfiguration &configuration) override;
-    };
-
-    desktop::VirtualDispatch m_dispatch;
-    Symbols m_symbols;
-    std::unique_ptr<desktop::Desktop> m_desktop;
+    TestDesktop m_on;
     std::shared_ptr<app::AppDelegate> m_delegate;
 };
 

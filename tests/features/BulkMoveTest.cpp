@@ -1,25 +1,8 @@
 #include "Brimshade.h"
-#include "platform/UserDefaults.h"
 
 namespace brimshade::features {
 
-namespace {
-
 constexpr double kLong = 200; // more than any bulk move of these desktops takes
-
-} // namespace
-
-TEST(BulkMove, OpensThePanelWhenNothingIsToMove)
-{
-    Brimshade brimshade;
-    brimshade.finishSetup({});
-    EXPECT_TRUE(brimshade.delegate().shown());
-    EXPECT_FALSE(brimshade.isOnScreen(u"setup"_s));
-    EXPECT_TRUE(brimshade.desktop().platform().userDefaults.boolForKey(u"onboardingDone"_s));
-    brimshade.wait(kLong);
-    EXPECT_EQ(brimshade.dragCount(), 0);
-    EXPECT_FALSE(brimshade.model().dividerEnabled());
-}
 
 TEST(BulkMove, BringsEveryItemWhereItWasChosenToBeAndThenOpensThePanel)
 {
@@ -32,10 +15,10 @@ TEST(BulkMove, BringsEveryItemWhereItWasChosenToBeAndThenOpensThePanel)
     brimshade.wait(kLong);
     // Everything left of the icon is tucked away by the divider alone: Vault has to be brought back.
     EXPECT_EQ(brimshade.model().movingID(), QString());
-    EXPECT_EQ(brimshade.bar(), QStringList({u"quill"_s, u"relay"_s, u"|"_s, u"vault"_s}));
+    EXPECT_EQ(brimshade.bar(), u"quill relay | vault"_s);
     EXPECT_TRUE(brimshade.delegate().shown());
     EXPECT_EQ(brimshade.model().message(), QString());
-    EXPECT_EQ(brimshade.hiddenItems(), QStringList({u"Quill"_s, u"Relay"_s}));
+    EXPECT_EQ(brimshade.hiddenItems(), u"Quill Relay"_s);
 }
 
 TEST(BulkMove, WaitsBeforeItBeginsAndBetweenItems)
@@ -48,7 +31,7 @@ TEST(BulkMove, WaitsBeforeItBeginsAndBetweenItems)
     EXPECT_EQ(brimshade.dragCount(), 1);
     brimshade.wait(1.45 + 0.4 + 0.8 + 0.45 + 0.039);
     EXPECT_EQ(brimshade.dragCount(), 0);
-    EXPECT_EQ(brimshade.bar(), QStringList({u"vault"_s, u"relay"_s, u"|"_s, u"quill"_s})) << "the leftmost goes first";
+    EXPECT_EQ(brimshade.bar(), u"vault relay | quill"_s) << "the leftmost goes first";
     brimshade.wait(0.001);
     EXPECT_EQ(brimshade.dragCount(), 1);
 }
@@ -64,7 +47,7 @@ TEST(BulkMove, ShowingAloneDoesNotSwitchTheDividerOn)
     EXPECT_FALSE(brimshade.model().dividerEnabled());
     brimshade.wait(kLong);
     EXPECT_FALSE(brimshade.model().dividerEnabled());
-    EXPECT_EQ(brimshade.bar().last(), u"lost"_s);
+    EXPECT_TRUE(brimshade.bar().endsWith(u" lost"_s));
 }
 
 TEST(BulkMove, GathersWhatFailedInOrderOfTheMessages)

@@ -2,15 +2,9 @@
 
 namespace brimshade::features {
 
-namespace {
-
 class Hover : public testing::Test {
 protected:
-    Brimshade brimshade{[] {
-        auto desktop = notchedDesktop();
-        desktop.defaults.insert(u"hoverToOpen"_s, true);
-        return desktop;
-    }()};
+    Brimshade brimshade{notchedDesktop({{u"hoverToOpen"_s, true}})};
 
     void openByHover()
     {
@@ -20,15 +14,13 @@ protected:
     }
 };
 
-} // namespace
-
 TEST_F(Hover, OpensOnceThePointerHasRestedOnTheNotch)
 {
     EXPECT_EQ(brimshade.frameOf(u"strip"_s), QRectF(663, 945, 186, 37));
     brimshade.movePointer(kOnNotch);
     brimshade.wait(0.179);
     brimshade.movePointer(kEmptySpot);
-    brimshade.wait(5);
+    brimshade.wait(1); // less than a panel that opened by hover would stay
     EXPECT_FALSE(brimshade.delegate().shown());
 
     brimshade.movePointer(kOnNotch);
@@ -123,7 +115,7 @@ TEST_F(Hover, FollowsTheSettingAndTheScreens)
     brimshade.desktop().setScreens({notchedScreen(800)});
     brimshade.wait(0);
     EXPECT_EQ(brimshade.frameOf(u"strip"_s), QRectF(663, 945, 137, 37));
-    brimshade.desktop().setScreens({plainScreen(u"Desk"_s, {0, 0, 1920, 1080})});
+    brimshade.desktop().setScreens({plainScreen({0, 0, 1920, 1080}, u"Desk"_s)});
     brimshade.wait(0);
     EXPECT_FALSE(brimshade.isOnScreen(u"strip"_s));
     brimshade.desktop().setScreens({notchedScreen()});

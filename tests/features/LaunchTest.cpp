@@ -1,11 +1,6 @@
 #include "Brimshade.h"
-#include "desktop/core/Inspection.h"
-#include "platform/StatusBar.h"
-#include "platform/UserDefaults.h"
 
 namespace brimshade::features {
-
-namespace {
 
 const QString kPosition = u"NSStatusItem Preferred Position BrimshadeButton"_s;
 
@@ -15,8 +10,6 @@ desktop::DesktopDescription firstLaunch()
     desktop.defaults.clear();
     return desktop;
 }
-
-} // namespace
 
 TEST(Launch, ScansNothingAndOpensNothingOnceSetUp)
 {
@@ -42,10 +35,9 @@ TEST(Launch, FirstOneStoresItsPlaceAndShowsTheSetupWindow)
 
 TEST(Launch, KeepsThePlaceTheUserChose)
 {
-    desktop::DesktopDescription desktop = notchedDesktop();
-    desktop.defaults.insert(kPosition, 240.0); // left of the margin, the system's items, Relay and Vault
-    Brimshade brimshade(desktop);
-    EXPECT_EQ(brimshade.bar(), QStringList({u"quill"_s, u"|"_s, u"vault"_s, u"relay"_s}));
+    Brimshade brimshade(
+        notchedDesktop({{kPosition, 240.0}})); // left of the margin, the system's items, Relay and Vault
+    EXPECT_EQ(brimshade.bar(), u"quill | vault relay"_s);
     EXPECT_EQ(brimshade.desktop().platform().userDefaults.objectForKey(kPosition).toDouble(), 240);
 }
 
@@ -58,16 +50,6 @@ TEST(Launch, AsksOnceForAMissingPermission)
     EXPECT_FALSE(brimshade.isOnScreen(u"setup"_s));
     brimshade.wait(60);
     EXPECT_EQ(brimshade.desktop().inspection().promptCount(), 1);
-}
-
-TEST(Launch, FirstOneWithoutPermissionLeavesAskingToTheSetupFlow)
-{
-    desktop::DesktopDescription desktop = firstLaunch();
-    desktop.trusted = false;
-    Brimshade brimshade(desktop);
-    EXPECT_EQ(brimshade.desktop().inspection().promptCount(), 0);
-    EXPECT_FALSE(brimshade.model().trusted());
-    EXPECT_FALSE(brimshade.model().scanned());
 }
 
 } // namespace brimshade::features

@@ -1,9 +1,6 @@
 #include "Brimshade.h"
-#include "desktop/core/Inspection.h"
 
 namespace brimshade::features {
-
-namespace {
 
 constexpr double kMove = 0.35 + 0.45 + 1.49 + 0.4; // from the request to the result
 const QString kHiddenBar =
@@ -18,8 +15,6 @@ protected:
     Brimshade brimshade{dividedDesktop()};
 };
 
-} // namespace
-
 TEST_F(Move, ShowsAnItemAndHidesItAgain)
 {
     brimshade.movePointer({300, 400});
@@ -33,14 +28,40 @@ TEST_F(Move, ShowsAnItemAndHidesItAgain)
     EXPECT_FALSE(brimshade.delegate().shown());
     EXPECT_EQ(brimshade.desktop().input().pointer(), QPointF(300, 400));
     brimshade.wait(1);
-    EXPECT_EQ(brimshade.bar(), QStringList({u"quill"_s, u"relay"_s, u"|"_s, u"vault"_s}));
+    EXPECT_EQ(brimshade.bar(), u"quill relay | vault"_s);
     EXPECT_EQ(brimshade.statusItem().left(), 879);
-    EXPECT_EQ(brimshade.hiddenItems(), QStringList({u"Quill"_s, u"Relay"_s}));
+    EXPECT_EQ(brimshade.hiddenItems(), u"Quill Relay"_s);
 
     brimshade.hide(u"Vault"_s);
     brimshade.wait(kMove + 1);
-    EXPECT_EQ(brimshade.hiddenItems(), QStringList({u"Quill"_s, u"Relay"_s, u"Vault"_s}));
+    EXPECT_EQ(brimshade.hiddenItems(), u"Quill Relay Vault"_s);
     EXPECT_EQ(brimshade.dragCount(), 2);
+}
+
+// The bar takes a drag for what it is only when it comes like a hand's.
+TEST_F(Move, DragsAsAHandWould)
+{
+    const double start = brimshade.desktop().platform().dispatch.now() + 0.35 + 0.45;
+    brimshade.show(u"Vault"_s);
+    brimshade.wait(kMove);
+    const auto events = brimshade.desktop().inspection().takeEvents();
+    ASSERT_EQ(events.size(), 43);
+    const QPointF from(1259, 18.5); // the item's centre, at 1244 to 1274 once the divider has shrunk to 1304
+    const QPointF to(1332 + 6, 18.5); // inside the control centre, which begins at the divider's right edge
+    const auto expect = [&](std::size_t i, platform::CGEventType type, QPointF at, int clickState, double time) {
+        const auto &[event, when] = events[i];
+        EXPECT_EQ(event.type, type) << i;
+        EXPECT_NEAR(event.location.x(), at.x(), 1e-9) << i;
+        EXPECT_NEAR(event.location.y(), at.y(), 1e-9) << i;
+        EXPECT_EQ(event.clickState, clickState) << i;
+        EXPECT_EQ(event.flags, 0x100000) << i;
+        EXPECT_NEAR(when - start, time, 1e-6) << i;
+    };
+    expect(0, platform::kCGEventMouseMoved, from, 0, 0);
+    expect(1, platform::kCGEventLeftMouseDown, from, 1, 0.04);
+    for (int i = 1; i <= 40; ++i)
+        expect(1 + i, platform::kCGEventLeftMouseDragged, from + (to - from) * i / 40, 1, 0.39 + (i - 1) * 0.02);
+    expect(42, platform::kCGEventLeftMouseUp, to, 1, 0.39 + 40 * 0.02 + 0.3);
 }
 
 TEST_F(Move, PostsNothingForAnItemThatIsThereAlready)
@@ -61,7 +82,7 @@ TEST_F(Move, RefusesOpeningsAndOtherMovesMeanwhile)
     brimshade.show(u"Quill"_s);
     brimshade.wait(30);
     EXPECT_EQ(brimshade.dragCount(), 1);
-    EXPECT_EQ(brimshade.hiddenItems(), QStringList({u"Quill"_s, u"Relay"_s}));
+    EXPECT_EQ(brimshade.hiddenItems(), u"Quill Relay"_s);
     brimshade.open();
 }
 
@@ -77,29 +98,35 @@ TEST_F(Move, LetsAScanWaitAndSeeTheBarAfterIt)
     EXPECT_FALSE(brimshade.item(u"Vault"_s).isHidden);
 }
 
-TEST(FailedMove, SaysWhy)
+TEST(FailedMove, SaysWhyAndLetsTheDividerGrowAgain)
 {
-    struct Case {
-        QString sentence;
-        std::function<void(Brimshade &)> spoil;
-    };
-    const Case cases[] = {
-        {kHiddenBar, [](Brimshade &b) { b.desktop().setMenuBarShowing(false); }},
-        {kDidNotMove, [](Brimshade &b) { b.desktop().setMovesAccepted(false); }},
+    const std::tuple<QString, std::function<void(Brimshade &)>, bool, std::size_t> cases[] = {
+        {kHiddenBar, [](Brimshade &b) { b.desktop().setMenuBarShowing(false); }, false, 0},
+        {kDidNotMove, [](Brimshade &b) { b.desktop().setMovesAccepted(false); }, false, 43},
+        {kDidNotMove,
+         [](Brimshade &b) {
+             b.show(u"Vault"_s), b.wait(kMove + 1), b.dragCount();
+             b.desktop().setMovesAccepted(false);
+         },
+         true, 43},
         {kNoRoom,
          [](Brimshade &b) {
-             b.desktop().change(401, {withButton(systemAgent(), {1250, 0, 20, 37})});
-         }},
+             b.desktop().change(401, {agentWithButton({1250, 0, 20, 37})});
+         },
+         false, 0},
     };
-    for (const Case &wrong : cases) {
-        SCOPED_TRACE(wrong.sentence.toStdString());
+    for (const auto &[sentence, spoil, hide, events] : cases) {
+        SCOPED_TRACE(sentence.toStdString());
         Brimshade b(dividedDesktop());
         b.open();
-        wrong.spoil(b);
-        b.show(u"Vault"_s);
+        spoil(b);
+        b.movePointer({300, 400});
+        b.move(u"Vault"_s, hide);
         b.wait(kMove);
         EXPECT_EQ(b.model().movingID(), QString());
-        EXPECT_EQ(b.model().message(), u"Vault: "_s + wrong.sentence);
+        EXPECT_EQ(b.model().message(), u"Vault: "_s + sentence);
+        EXPECT_EQ(b.desktop().inspection().takeEvents().size(), events);
+        EXPECT_EQ(b.desktop().input().pointer(), QPointF(300, 400));
         EXPECT_TRUE(b.hasKeys(u"settings"_s));
         b.wait(1);
         EXPECT_TRUE(b.divider().isExpanded());
@@ -127,13 +154,7 @@ TEST_F(Move, LeavesAVisibleSettingsWindowWhereItIsAndBringsAClosedOneBack)
 
 TEST(FailedMove, EndsWhateverHappensInTheMiddleOfIt)
 {
-    struct Fault {
-        const char *name;
-        std::function<void(Brimshade &)> strike;
-        bool leavesNotch;
-        QString sentence; // when the item was to be shown
-    };
-    const Fault faults[] = {
+    const std::tuple<const char *, std::function<void(Brimshade &)>, bool, QString> faults[] = {
         {"the application quits", [](Brimshade &b) { b.desktop().quit(812); }, true, kDidNotMove},
         {"the application hangs",
          [](Brimshade &b) {
@@ -145,26 +166,26 @@ TEST(FailedMove, EndsWhateverHappensInTheMiddleOfIt)
         {"the permission is withdrawn", [](Brimshade &b) { b.desktop().setTrusted(false); }, true, kDidNotMove},
         {"the screen is unplugged",
          [](Brimshade &b) {
-             b.desktop().setScreens({plainScreen(u"Desk"_s, {0, 0, 1920, 1080})});
+             b.desktop().setScreens({plainScreen({0, 0, 1920, 1080}, u"Desk"_s)});
          },
          false,
          {}},
     };
-    for (const Fault &fault : faults) {
+    for (const auto &[name, strike, leavesNotch, sentence] : faults) {
         for (const double moment : {0.2, 0.5, 1.0, 2.0, 2.5}) {
-            SCOPED_TRACE(u"%1 at %2"_s.arg(QLatin1StringView(fault.name)).arg(moment).toStdString());
+            SCOPED_TRACE(u"%1 at %2"_s.arg(QLatin1StringView(name)).arg(moment).toStdString());
             Brimshade b(dividedDesktop());
             b.open();
             b.show(u"Vault"_s);
             b.wait(moment);
-            fault.strike(b);
+            strike(b);
             b.wait(60);
             EXPECT_EQ(b.model().movingID(), QString());
-            if (!fault.sentence.isEmpty() && moment > 0.8) {
-                EXPECT_EQ(b.model().message(), u"Vault: "_s + fault.sentence);
+            if (!sentence.isEmpty() && moment > 0.8) {
+                EXPECT_EQ(b.model().message(), u"Vault: "_s + sentence);
             }
             const QRectF item = b.statusItem(); // measured anew
-            EXPECT_EQ(fault.leavesNotch ? item.left() : item.width(), fault.leavesNotch ? 879 : 28);
+            EXPECT_EQ(leavesNotch ? item.left() : item.width(), leavesNotch ? 879 : 28);
             b.clickStatusItem();
             EXPECT_TRUE(b.delegate().shown());
         }

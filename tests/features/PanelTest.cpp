@@ -2,17 +2,7 @@
 
 namespace brimshade::features {
 
-namespace {
-
 enum Key { returnKey = 36, escape = 53, enter = 76 };
-
-QString nameOfSelection(Brimshade &brimshade)
-{
-    const menubar::MenuExtra *selected = brimshade.model().selectedMatch();
-    return selected ? selected->name : QString();
-}
-
-} // namespace
 
 TEST(Panel, OpensUnderTheNotchWithTheKeysAndTheList)
 {
@@ -39,11 +29,7 @@ TEST(Panel, IsClosedForTheViewsUntilTheNextTurn)
 
 TEST(Panel, ClosesOnEveryWayOutAndLeavesTheScreenAfterItsAnimation)
 {
-    struct WayOut {
-        const char *name;
-        std::function<void(Brimshade &)> take;
-    };
-    const WayOut ways[] = {
+    const std::tuple<const char *, std::function<void(Brimshade &)>> ways[] = {
         {"Escape", [](Brimshade &b) { b.press(escape); }},
         {"a click elsewhere", [](Brimshade &b) { b.clickElsewhere(); }},
         {"a right click elsewhere", [](Brimshade &b) { b.click(kEmptySpot, desktop::MouseButton::right); }},
@@ -56,17 +42,17 @@ TEST(Panel, ClosesOnEveryWayOutAndLeavesTheScreenAfterItsAnimation)
         {"the setup guide", [](Brimshade &b) { b.model().onShowOnboarding(); }},
         {"new screens",
          [](Brimshade &b) {
-             b.desktop().setScreens({notchedScreen(), plainScreen(u"Side"_s, {1512, 0, 1920, 1080})});
+             b.desktop().setScreens({notchedScreen(), plainScreen({1512, 0, 1920, 1080}, u"Side"_s)});
              b.wait(0);
          }},
     };
-    for (const WayOut &way : ways) {
-        SCOPED_TRACE(way.name);
+    for (const auto &[name, take] : ways) {
+        SCOPED_TRACE(name);
         Brimshade brimshade;
         brimshade.model().setShortcut(model::Shortcut::controlOptionSpace);
         brimshade.open();
         brimshade.wait(1);
-        way.take(brimshade);
+        take(brimshade);
         EXPECT_FALSE(brimshade.delegate().shown());
         EXPECT_FALSE(brimshade.model().isOpen());
         brimshade.wait(0.349);
@@ -121,21 +107,6 @@ TEST(Panel, PressesTheChosenItemOnceThePanelIsOutOfTheWay)
     EXPECT_EQ(brimshade.pressedItems(), QStringList(u"vault.main"_s));
 }
 
-TEST(Panel, SearchesAsOneTypes)
-{
-    Brimshade brimshade;
-    brimshade.open();
-    brimshade.type(u"  QUI  "_s);
-    EXPECT_EQ(nameOfSelection(brimshade), u"Quill"_s);
-    EXPECT_EQ(brimshade.model().visibleMatchCount(), 1);
-    brimshade.press(escape);
-    EXPECT_TRUE(brimshade.delegate().shown());
-    EXPECT_EQ(brimshade.model().query(), QString());
-    EXPECT_EQ(brimshade.model().visibleMatchCount(), 5);
-    brimshade.press(escape);
-    EXPECT_FALSE(brimshade.delegate().shown());
-}
-
 TEST(Panel, LeavesKeysAloneOnceClosed)
 {
     Brimshade brimshade;
@@ -162,8 +133,8 @@ TEST(Panel, ShowsTheOldListBehindTheCardWhenThePermissionIsTakenAway)
 
 TEST(Panel, OpensOnTheScreenWithTheNotchElseUnderThePointer)
 {
-    const auto primary = plainScreen(u"Desk"_s, {0, 0, 1920, 1080});
-    const auto side = plainScreen(u"Side"_s, {1920, 100, 1280, 800});
+    const auto primary = plainScreen({0, 0, 1920, 1080}, u"Desk"_s);
+    const auto side = plainScreen({1920, 100, 1280, 800}, u"Side"_s);
     Brimshade brimshade;
     brimshade.desktop().setScreens({primary, side});
     brimshade.model().setShortcut(model::Shortcut::controlOptionSpace);

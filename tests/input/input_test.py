@@ -1,16 +1,14 @@
 """Real pointer and keys: the window on a private X display with a window manager, driven by xdotool.
 
 A script on standard input only looks (state) and lets time pass (advance) until what a hand did has taken effect."""
-import json
-import os
 import pathlib
-import subprocess
 import sys
-import tempfile
 import unittest
 
+sys.path.insert(0, str(pathlib.Path(__file__).resolve().parent.parent / "support"))
+from program import Session  # noqa: E402
+
 PROGRAM = sys.argv.pop(1)
-PATIENCE = 100  # looks, 0.1 s of the program's time apart, before a thing that should happen has not
 
 APPLICATIONS = [
     {"pid": 700, "name": "Menu Agent", "bundleIdentifier": "com.apple.MenuBarAgent",
@@ -22,121 +20,70 @@ DESKTOP = {"screens": [{"name": "Built-in Display", "frame": [0, 0, 1280, 800], 
                         "notch": [560, 720]}], "applications": APPLICATIONS, "defaults": {"onboardingDone": True}}
 
 
-class Display:
-    """Xvfb with openbox on it."""
-
-    def __init__(self):
-        reader, writer = os.pipe()
-        self.server = subprocess.Popen(["Xvfb", "-displayfd", str(writer), "-screen", "0", "1400x900x24", "-nolisten", "tcp"],
-                                       pass_fds=[writer], stderr=subprocess.DEVNULL)
-        os.close(writer)
-        with os.fdopen(reader) as numbers:
-            self.environment = {**os.environ, "DISPLAY": ":" + numbers.readline().strip(), "QT_QUICK_BACKEND": "software",
-                                "QT_QPA_PLATFORM": "xcb"}
-        self.environment.pop("WAYLAND_DISPLAY", None)
-        with tempfile.TemporaryDirectory() as folder:
-            ready = os.path.join(folder, "ready")
-            os.mkfifo(ready)  # opening it waits for the window manager to write
-            self.manager = subprocess.Popen(["openbox", "--startup", f"sh -c 'echo > {ready}'"], env=self.environment,
-                                            stderr=subprocess.DEVNULL)
-            pathlib.Path(ready).read_text()
-
-    def close(self):
-        for process in (self.manager, self.server):
-            process.terminate()
-            process.wait()
-
-    def xdotool(self, *arguments):
-        return subprocess.run(["xdotool", *map(str, arguments)], env=self.environment, capture_output=True, text=True,
-                              check=True).stdout
-
-
 class RealInput(unittest.TestCase):
     @classmethod
     def setUpClass(cls):
-        cls.display = Display()
-        cls.addClassCleanup(cls.display.close)
+        cls.session = Session()
+        cls.addClassCleanup(cls.session.close)
+        cls.session.start_window_manager()
 
     def setUp(self):
         self.start(DESKTOP)
 
     def start(self, description):
-        folder = tempfile.TemporaryDirectory()
-        self.addCleanup(folder.cleanup)
-        desktop = pathlib.Path(folder.name) / "desktop.json"
-        desktop.write_text(json.dumps(description))
-        self.program = subprocess.Popen([PROGRAM, "--script", "-", "--window", "--desktop", str(desktop)],
-                                        env=self.display.environment, stdin=subprocess.PIPE, stdout=subprocess.PIPE, text=True)
-        self.addCleanup(self.end, self.program)
-        self.do("advance", seconds=0.1)
-        self.window = self.display.xdotool("search", "--sync", "--onlyvisible", "--pid", self.program.pid).split()[-1]
-        self.display.xdotool("windowactivate", self.window)
+        self.program = self.session.start_program(PROGRAM, description, "--window")
+        self.addCleanup(self.program.end)
+        self.program.wait(0.1)
+        self.window = self.xdotool("search", "--sync", "--onlyvisible", "--pid", self.program.pid).split()[-1]
+        self.xdotool("windowactivate", self.window)
         self.until("the icon stands in the bar", lambda s: s["statusItem"] and s["statusItem"]["drawn"])
 
-    def end(self, program):
-        if program.stdin.closed:
-            return
-        program.stdin.close()
-        program.wait()
-        program.stdout.close()
-
-    def focus_another_program(self):
-        other = subprocess.Popen(["xev", "-geometry", "200x100+20+750"], env=self.display.environment,
-                                 stdout=subprocess.DEVNULL)
-        self.addCleanup(other.wait)
-        self.addCleanup(other.terminate)
-        window = self.display.xdotool("search", "--sync", "--onlyvisible", "--name", "Event Tester").split()[-1]
-        self.display.xdotool("windowactivate", "--sync", window)
-
-    def do(self, command, **fields):
-        self.program.stdin.write(json.dumps({"do": command, **fields}) + "\n")
-        self.program.stdin.flush()
-        answer = json.loads(self.program.stdout.readline())
-        self.assertTrue(answer["ok"], answer)
-        return answer
+    def xdotool(self, *arguments):
+        return self.session.xdotool(*arguments)
 
     def until(self, what, holds):
-        for _ in range(PATIENCE):
-            state = self.do("state")
-            if holds(state):
-                return state
-            self.do("advance", seconds=0.1)
-        self.fail(f"{what}: not so in {state}")
+        """The state in which it holds."""
+        return self.program.until(what, lambda state: holds(state) and state)
+
+    def focus_another_program(self):
+        other = self.session.start("xev", "-geometry", "200x100+20+750")
+        self.addCleanup(other.wait)
+        self.addCleanup(other.terminate)
+        window = self.xdotool("search", "--sync", "--onlyvisible", "--name", "Event Tester").split()[-1]
+        self.xdotool("windowactivate", "--sync", window)
 
     def tile(self, name):
         """The tile of that name once it has come in."""
-        for _ in range(PATIENCE):
-            for element in self.do("find", text=name)["elements"]:
-                if element["role"] == "Button" and element["window"] == "panel" and element["opacity"] > 0.9:
-                    return element
-            self.do("advance", seconds=0.1)
-        self.fail(f"no tile {name}")
+        def tiles(_):
+            return [e for e in self.program.do("find", text=name)["elements"]
+                    if e["role"] == "Button" and e["window"] == "panel" and e["opacity"] > 0.9]
+        return self.program.until(f"a tile {name}", tiles)[0]
 
     def point(self, x, y):
         """Moves the hand's pointer to a point of the display, which lies centred and scaled in the window."""
-        lines = self.display.xdotool("getwindowgeometry", "--shell", self.window).splitlines()
+        lines = self.xdotool("getwindowgeometry", "--shell", self.window).splitlines()
         window = {key: int(value) for key, value in (line.split("=") for line in lines)}
         width, height = DESKTOP["screens"][0]["frame"][2:]
         scale = min(window["WIDTH"] / width, window["HEIGHT"] / height)
         left, top = (window["WIDTH"] - width * scale) / 2, (window["HEIGHT"] - height * scale) / 2
-        self.display.xdotool("mousemove", "--window", self.window, round(left + x * scale), round(top + y * scale))
+        self.xdotool("mousemove", "--window", self.window, round(left + x * scale), round(top + y * scale))
         self.until("the pointer follows", lambda s: abs(s["pointer"][0] - x) < 2 and abs(s["pointer"][1] - y) < 2)
 
     def click(self, frame, button=1):
         self.point(frame[0] + frame[2] / 2, frame[1] + frame[3] / 2)
-        self.display.xdotool("click", button)
+        self.xdotool("click", button)
 
     def press_key(self, *keys):
-        self.display.xdotool("key", *keys)
+        self.xdotool("key", *keys)
 
     def open_panel(self):
-        self.click(self.do("state")["statusItem"]["frame"])
+        self.click(self.program.state()["statusItem"]["frame"])
         return self.until("the panel is open with its tiles",
                           lambda s: s["model"]["isOpen"] and len(s["model"]["extras"]) == 6 and s["panel"]["isKey"])
 
     def test_a_click_typing_arrows_and_return_open_an_items_menu(self):
         self.open_panel()
-        self.display.xdotool("type", "rel")
+        self.xdotool("type", "rel")
         state = self.until("two items match", lambda s: s["model"]["query"] == "rel")
         matches = state["model"]["hiddenMatches"] + state["model"]["visibleMatches"]
         names = {extra["id"]: extra["name"] for extra in state["model"]["extras"]}
@@ -151,7 +98,7 @@ class RealInput(unittest.TestCase):
 
     def test_escape_clears_the_search_then_closes(self):
         self.open_panel()
-        self.display.xdotool("type", "k")
+        self.xdotool("type", "k")
         self.until("it searches", lambda s: s["model"]["query"] == "k")
         self.press_key("Escape")
         self.assertTrue(self.until("the search is cleared", lambda s: s["model"]["query"] == "")["shown"])
@@ -171,20 +118,20 @@ class RealInput(unittest.TestCase):
 
     def test_a_right_click_opens_the_programs_menu_and_leaves_the_panel(self):
         self.open_panel()
-        self.click(self.do("state")["statusItem"]["frame"], button=3)
+        self.click(self.program.state()["statusItem"]["frame"], button=3)
         state = self.until("the menu is open", lambda s: s["menu"])
         self.assertEqual(state["menu"], ["Settings…", "Setup Guide…", "Refresh", "-", "Quit Brimshade"])
         self.assertTrue(state["shown"])
 
     def test_the_shortcut_toggles_the_panel_from_another_focused_program(self):
-        self.end(self.program)
+        self.program.end()
         self.start({**DESKTOP, "defaults": {"onboardingDone": True, "shortcut": "controlOptionSpace"}})
         self.focus_another_program()
         self.press_key("ctrl+alt+space")
         self.until("the panel is shown", lambda s: s["shown"])
         self.until("its window has the keys of the session",
-                   lambda _: self.display.xdotool("getwindowfocus").strip() == self.window)
-        self.display.xdotool("type", "rel")
+                   lambda _: self.xdotool("getwindowfocus").strip() == self.window)
+        self.xdotool("type", "rel")
         self.until("what is typed is searched for", lambda s: s["model"]["query"] == "rel")
         self.press_key("ctrl+alt+space")
         self.until("and closed again", lambda s: not s["shown"])
@@ -192,20 +139,20 @@ class RealInput(unittest.TestCase):
     def test_without_a_shortcut_the_keys_go_to_the_focused_program(self):
         self.focus_another_program()
         self.press_key("ctrl+alt+space")
-        self.do("advance", seconds=0.5)
-        self.assertFalse(self.do("state")["shown"])
+        self.program.wait(0.5)
+        self.assertFalse(self.program.state()["shown"])
 
     def test_a_hand_drags_an_item_across_the_divider(self):
-        self.end(self.program)
+        self.program.end()
         self.start({**DESKTOP, "defaults": {"onboardingDone": True, "dividerEnabled": True}})
         state = self.until("the divider is wide", lambda s: s["divider"]["isExpanded"] and s["statusItem"]["frame"][2] > 100)
         tucked = max((i for i in state["menuBar"] if 800 <= i["pid"] and i["frame"][0] < state["statusItem"]["frame"][0]),
                      key=lambda item: item["frame"][0])
         clock = next(i for i in state["menuBar"] if i["pid"] == 700)
         self.point(tucked["frame"][0] + 15, 18)
-        self.display.xdotool("keydown", "super", "mousedown", 1)
+        self.xdotool("keydown", "super", "mousedown", 1)
         self.point(clock["frame"][0] - 2, 18)
-        self.display.xdotool("mouseup", 1, "keyup", "super")
+        self.xdotool("mouseup", 1, "keyup", "super")
         moved = self.until("it stands right of the icon", lambda s: s["statusItem"]["drawn"] and next(
             i for i in s["menuBar"] if i["pid"] == tucked["pid"])["frame"][0] > s["statusItem"]["frame"][0])
         self.assertFalse(moved["model"]["scanned"])
@@ -215,7 +162,7 @@ class RealInput(unittest.TestCase):
 
     def test_hiding_from_a_tiles_menu_moves_the_item_behind_the_notch(self):
         self.open_panel()
-        extra = next(e for e in self.do("state")["model"]["extras"] if e["name"] == "Relay")
+        extra = next(e for e in self.program.state()["model"]["extras"] if e["name"] == "Relay")
         self.assertFalse(extra["isHidden"])
         self.click(self.tile("Relay")["frame"], button=3)
         self.until("the tile's menu is open", lambda s: s["menu"] == ["Open", "Hide from Menu Bar"])

@@ -1,33 +1,9 @@
 #include "MenuBarContext.h"
-#include "desktop/core/Inspection.h"
 #include "desktop/services/LogWriter.h"
 
-#include <gtest/gtest.h>
-
 namespace brimshade::menubar::tests {
-namespace {
 
 using Attempt = std::pair<QString, int>;
-
-struct PressCase {
-    const char *what;
-    QStringList actions;
-    std::optional<int> pressError;
-    std::vector<Attempt> attempts;
-    QStringList log;
-};
-
-const PressCase kCases[] = {
-    {"can be pressed", {u"AXPress"_s, u"AXShowMenu"_s}, {}, {{u"AXPress"_s, 0}}, {}},
-    {"only has a menu", {u"AXShowMenu"_s}, {}, {{u"AXPress"_s, -25206}, {u"AXShowMenu"_s, 0}}, {}},
-    {"can nothing",
-     {},
-     {},
-     {{u"AXPress"_s, -25206}, {u"AXShowMenu"_s, -25206}},
-     {u"press failed for Relay: AXError -25206"_s}},
-    {"is busy with its menu", {u"AXPress"_s}, -25204, {{u"AXPress"_s, -25204}}, {}},
-    {"fails", {u"AXPress"_s}, -25200, {{u"AXPress"_s, -25200}}, {u"press failed for Relay: AXError -25200"_s}},
-};
 
 std::vector<Attempt> attempts(MenuBarContext &bar)
 {
@@ -49,39 +25,49 @@ QStringList errors(MenuBarContext &bar)
 
 TEST(Activation, PressesOrElseShowsTheMenuAndLogsWhatFailed)
 {
-    for (const PressCase &each : kCases) {
-        ExtraDescription extra = item(u"x"_s);
-        extra.actions = each.actions;
-        extra.pressError = each.pressError;
-        MenuBarContext bar(notchedDesktop({application(1, u"Relay"_s, {extra})}));
+    const std::tuple<const char *, QStringList, std::optional<int>, std::vector<Attempt>, QStringList> cases[] = {
+        {"can be pressed", {u"AXPress"_s, u"AXShowMenu"_s}, {}, {{u"AXPress"_s, 0}}, {}},
+        {"only has a menu", {u"AXShowMenu"_s}, {}, {{u"AXPress"_s, -25206}, {u"AXShowMenu"_s, 0}}, {}},
+        {"can nothing",
+         {},
+         {},
+         {{u"AXPress"_s, -25206}, {u"AXShowMenu"_s, -25206}},
+         {u"press failed for Relay: AXError -25206"_s}},
+        {"is busy with its menu", {u"AXPress"_s}, -25204, {{u"AXPress"_s, -25204}}, {}},
+        {"fails", {u"AXPress"_s}, -25200, {{u"AXPress"_s, -25200}}, {u"press failed for Relay: AXError -25200"_s}},
+    };
+    for (const auto &[what, actions, pressError, expected, log] : cases) {
+        ExtraDescription item = extra(u"x"_s);
+        item.actions = actions;
+        item.pressError = pressError;
+        MenuBarContext bar({application(1, u"Relay"_s, {item})});
         bar.access->activate(bar.found(u"x"_s));
         EXPECT_TRUE(attempts(bar).empty()) << "pressed on the calling thread";
         bar.dispatch.runDue();
-        EXPECT_EQ(attempts(bar), each.attempts) << each.what;
-        EXPECT_EQ(errors(bar), each.log) << each.what;
+        EXPECT_EQ(attempts(bar), expected) << what;
+        EXPECT_EQ(errors(bar), log) << what;
     }
 }
 
 TEST(Activation, OfAnApplicationThatHasQuitIsLogged)
 {
-    MenuBarContext bar(notchedDesktop({application(1, u"Relay"_s, {item(u"x"_s)})}));
-    const MenuExtra extra = bar.found(u"x"_s);
+    MenuBarContext bar({application(1, u"Relay"_s, {extra(u"x"_s)})});
+    const MenuExtra found = bar.found(u"x"_s);
     bar.desktop.quit(1);
-    bar.access->activate(extra);
+    bar.access->activate(found);
     bar.dispatch.runDue();
     EXPECT_EQ(errors(bar), QStringList{u"press failed for Relay: AXError -25202"_s});
 }
 
 TEST(Activation, WaitsHalfASecondForAnApplicationThatHangs)
 {
-    MenuBarContext bar(notchedDesktop({application(1, u"Relay"_s, {item(u"x"_s)})}));
-    const MenuExtra extra = bar.found(u"x"_s);
+    MenuBarContext bar({application(1, u"Relay"_s, {extra(u"x"_s)})});
+    const MenuExtra found = bar.found(u"x"_s);
     desktop::ApplicationSpec spec;
-    spec.description = hung(application(1, u"Relay"_s, {item(u"x"_s)}));
+    spec.description = hung(application(1, u"Relay"_s, {extra(u"x"_s)}));
     ASSERT_TRUE(bar.desktop.change(1, spec));
-    EXPECT_DOUBLE_EQ(bar.onScanQueue([&] { bar.access->press(extra.element, extra); }), 0.5);
+    EXPECT_DOUBLE_EQ(bar.onScanQueue([&] { bar.access->press(found.element, found); }), 0.5);
     EXPECT_TRUE(errors(bar).isEmpty());
 }
 
-} // namespace
 } // namespace brimshade::menubar::tests

@@ -1,12 +1,8 @@
 #include "menubar/DragPlan.h"
 #include "platform/WindowServer.h"
-
-#include <gtest/gtest.h>
+#include "support/Test.h"
 
 namespace brimshade::menubar {
-namespace {
-
-using namespace Qt::StringLiterals;
 
 const QRectF kDivider(1000, 0, 28, 30);
 
@@ -17,12 +13,7 @@ QRectF at(double x, double width)
 
 TEST(DropPoint, LiesInsideTheNearestNeighbourOrBesideTheDivider)
 {
-    struct {
-        const char *what;
-        bool hide;
-        std::vector<QRectF> candidates;
-        double x;
-    } const cases[] = {
+    const std::tuple<const char *, bool, std::vector<QRectF>, double> cases[] = {
         {"hide, wide neighbour", true, {at(960, 40)}, 994},
         {"hide, narrow neighbour", true, {at(984, 16)}, 996},
         {"hide, nearest of several", true, {at(960, 40), at(900, 16), at(800, 40)}, 994},
@@ -38,8 +29,8 @@ TEST(DropPoint, LiesInsideTheNearestNeighbourOrBesideTheDivider)
         {"show, first of two that begin alike", false, {at(1028, 16), at(1028, 40)}, 1032},
         {"show, no neighbour", false, {}, 1032},
     };
-    for (const auto &each : cases)
-        EXPECT_EQ(dropPoint(each.candidates, kDivider, each.hide), QPointF(each.x, 15)) << each.what;
+    for (const auto &[what, hide, candidates, x] : cases)
+        EXPECT_EQ(dropPoint(candidates, kDivider, hide), QPointF(x, 15)) << what;
 }
 
 TEST(DropCandidates, AreOtherItemsThatShowRightOfTheSystemButton)
@@ -62,12 +53,7 @@ TEST(DropCandidates, AreOtherItemsThatShowRightOfTheSystemButton)
 TEST(Showing, NeedsAnItemInReachLeftOfTheDivider)
 {
     const QRectF button(880, 0, 20, 30);
-    struct {
-        const char *what;
-        QRectF item;
-        std::optional<QRectF> button;
-        bool possible;
-    } const cases[] = {
+    const std::tuple<const char *, QRectF, std::optional<QRectF>, bool> cases[] = {
         {"left of the divider", at(950, 30), button, true},
         {"ends two points over its edge", at(972, 30), button, true},
         {"ends further over it", at(972.5, 30), button, false},
@@ -78,8 +64,8 @@ TEST(Showing, NeedsAnItemInReachLeftOfTheDivider)
         {"centre 19.5 lower", {950, 19.5, 30, 30}, button, true},
         {"in another row", {950, 20, 30, 30}, button, false},
     };
-    for (const auto &each : cases)
-        EXPECT_EQ(canBeShown(each.item, kDivider, each.button), each.possible) << each.what;
+    for (const auto &[what, item, button, possible] : cases)
+        EXPECT_EQ(canBeShown(item, kDivider, button), possible) << what;
 }
 
 TEST(MenuBarWindow, IsOneAtItsLevelThatCoversThePoint)
@@ -96,12 +82,7 @@ TEST(MenuBarWindow, IsOneAtItsLevelThatCoversThePoint)
     };
     QVariantMap illTyped = bounds;
     illTyped[u"Width"_s] = u"1512"_s;
-    struct {
-        const char *what;
-        QVariantMap info;
-        QPointF point;
-        bool covers;
-    } const cases[] = {
+    const std::tuple<const char *, QVariantMap, QPointF, bool> cases[] = {
         {"covers", window(24, bounds), {1000, 15}, true},
         {"a level of another integer type", window(24LL, bounds), {1000, 15}, true},
         {"top left corner", window(24, bounds), {0, 0}, true},
@@ -116,9 +97,8 @@ TEST(MenuBarWindow, IsOneAtItsLevelThatCoversThePoint)
         {"a text as width", window(24, illTyped), {1000, 15}, false},
         {"nothing", {}, {0, 0}, false},
     };
-    for (const auto &each : cases)
-        EXPECT_EQ(menuBarWindowCovers(each.info, each.point, 24), each.covers) << each.what;
+    for (const auto &[what, info, point, covers] : cases)
+        EXPECT_EQ(menuBarWindowCovers(info, point, 24), covers) << what;
 }
 
-} // namespace
 } // namespace brimshade::menubar

@@ -1,32 +1,24 @@
 #include "menubar/NotchGeometry.h"
-
-#include <gtest/gtest.h>
+#include "support/Test.h"
 
 namespace brimshade::menubar {
-namespace {
-
-using namespace Qt::StringLiterals;
 
 TEST(NotchExtent, IsTheGapBetweenTheAreasBesideIt)
 {
     const QRectF frame(100, 0, 1512, 982);
-    struct {
-        const char *what;
-        std::optional<QRectF> left, right;
-        std::optional<NotchExtent> extent;
-    } const cases[] = {
+    const std::tuple<const char *, std::optional<QRectF>, std::optional<QRectF>, std::optional<NotchExtent>> cases[] = {
         {"notch", QRectF(100, 945, 663, 37), QRectF(949, 945, 663, 37), NotchExtent{663, 849}},
         {"no left area", {}, QRectF(949, 945, 663, 37), {}},
         {"no right area", QRectF(100, 945, 663, 37), {}, {}},
         {"areas that touch", QRectF(100, 945, 663, 37), QRectF(763, 945, 663, 37), {}},
         {"areas that overlap", QRectF(100, 945, 663, 37), QRectF(700, 945, 663, 37), {}},
     };
-    for (const auto &each : cases) {
+    for (const auto &[what, left, right, extent] : cases) {
         platform::Screen screen;
         screen.frame = frame;
-        screen.auxiliaryTopLeftArea = each.left;
-        screen.auxiliaryTopRightArea = each.right;
-        EXPECT_EQ(notchExtent(screen), each.extent) << each.what;
+        screen.auxiliaryTopLeftArea = left;
+        screen.auxiliaryTopRightArea = right;
+        EXPECT_EQ(notchExtent(screen), extent) << what;
     }
 }
 
@@ -50,12 +42,7 @@ HidingEdges dividerAt(const QRectF &frame)
 
 TEST(HiddenRule, DecidesByNotchButtonExtentAndDivider)
 {
-    struct {
-        const char *what;
-        QRectF frame;
-        HidingEdges edges;
-        bool hidden;
-    } const cases[] = {
+    const std::tuple<const char *, QRectF, HidingEdges, bool> cases[] = {
         {"nothing to hide it", {900, 0, 30, 30}, edges({}), false},
         {"ends where the notch begins", {570, 0, 30, 30}, edges(kNotch), false},
         {"overlaps its left edge a little", {570, 0, 30.25, 30}, edges(kNotch), true},
@@ -83,8 +70,8 @@ TEST(HiddenRule, DecidesByNotchButtonExtentAndDivider)
          {kNotch, 0, std::nullopt, QRectF(500, 0, 28, 30)},
          true},
     };
-    for (const auto &each : cases)
-        EXPECT_EQ(isHiddenItem(each.frame, each.edges), each.hidden) << each.what;
+    for (const auto &[what, frame, edges, hidden] : cases)
+        EXPECT_EQ(isHiddenItem(frame, edges), hidden) << what;
 }
 
 TEST(MovableRule, PinsTheClockAndTheControlCentreOfTheSystem)
@@ -102,5 +89,4 @@ TEST(MovableRule, PinsTheClockAndTheControlCentreOfTheSystem)
         EXPECT_EQ(canMoveItem(isSystemAgent, identifier), movable) << qPrintable(identifier);
 }
 
-} // namespace
 } // namespace brimshade::menubar

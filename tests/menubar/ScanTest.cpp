@@ -1,41 +1,36 @@
 #include "MenuBarContext.h"
-#include "desktop/core/Inspection.h"
-#include "platform/Workspace.h"
-
-#include <gtest/gtest.h>
 
 namespace brimshade::menubar::tests {
-namespace {
 
 constexpr QRectF kSomewhere{900, 0, 30, 37};
 
 ExtraDescription textItem(const std::optional<QString> &title, const std::optional<QString> &description)
 {
-    ExtraDescription extra = itemAt(u"x"_s, kSomewhere);
-    extra.title = title;
-    extra.description = description;
-    return extra;
+    ExtraDescription item = extraAt(u"x"_s, kSomewhere);
+    item.title = title;
+    item.description = description;
+    return item;
 }
 
 TEST(Scan, OrdersItemsByTheirLeftEdgeAndEqualOnesByName)
 {
     MenuBarContext bar(notchedDesktop(
-        {application(1, u"Zebra"_s, {itemAt(u"z"_s, {900, 0, 30, 37})}),
-         application(2, u"Relay"_s, {itemAt(u"r2"_s, {1000, 0, 30, 37}), itemAt(u"r1"_s, {860, 0, 30, 37})}),
-         application(3, u"Apple"_s, {itemAt(u"a1"_s, {900, 0, 20, 37}), itemAt(u"a2"_s, {900, 0, 30, 37})})}));
+        {application(1, u"Zebra"_s, {extraAt(u"z"_s, {900, 0, 30, 37})}),
+         application(2, u"Relay"_s, {extraAt(u"r2"_s, {1000, 0, 30, 37}), extraAt(u"r1"_s, {860, 0, 30, 37})}),
+         application(3, u"Apple"_s, {extraAt(u"a1"_s, {900, 0, 20, 37}), extraAt(u"a2"_s, {900, 0, 30, 37})})}));
     EXPECT_EQ(ids(bar.scan()), (QStringList{u"2-1-r1"_s, u"3-0-a1"_s, u"3-1-a2"_s, u"1-0-z"_s, u"2-0-r2"_s}));
 }
 
 TEST(Scan, FindsItemsInGroupsAtAnyDepthAndNumbersThemInOrder)
 {
-    ExtraDescription other = itemAt(u"other"_s, {940, 0, 30, 37});
+    ExtraDescription other = extraAt(u"other"_s, {940, 0, 30, 37});
     other.role = u"AXImage"_s;
-    ExtraDescription nameless = itemAt({}, {950, 0, 30, 37});
+    ExtraDescription nameless = extraAt({}, {950, 0, 30, 37});
     nameless.identifier.reset();
     MenuBarContext bar(notchedDesktop(
         {application(7, u"Relay"_s,
-                     {itemAt(u"a"_s, {900, 0, 30, 37}),
-                      group({itemAt(u"b"_s, {910, 0, 30, 37}), group({group({}), itemAt(u"c"_s, {920, 0, 30, 37})})}),
+                     {extraAt(u"a"_s, {900, 0, 30, 37}),
+                      group({extraAt(u"b"_s, {910, 0, 30, 37}), group({group({}), extraAt(u"c"_s, {920, 0, 30, 37})})}),
                       other, button({930, 0, 1, 37}), nameless})}));
     EXPECT_EQ(ids(bar.scan()), (QStringList{u"7-0-a"_s, u"7-1-b"_s, u"7-2-c"_s, u"7-3-"_s}));
 }
@@ -43,9 +38,9 @@ TEST(Scan, FindsItemsInGroupsAtAnyDepthAndNumbersThemInOrder)
 TEST(Scan, LeavesOutThisProgramAndASecondInstanceOfIt)
 {
     MenuBarContext bar(notchedDesktop(
-        {application(7, u"Relay"_s, {item(u"relay"_s)}), application(8, u"Brimshade"_s, {item(u"second"_s)})}));
+        {application(7, u"Relay"_s, {extra(u"relay"_s)}), application(8, u"Brimshade"_s, {extra(u"second"_s)})}));
     desktop::ApplicationSpec second;
-    second.description = application(8, u"Brimshade"_s, {item(u"second"_s)});
+    second.description = application(8, u"Brimshade"_s, {extra(u"second"_s)});
     second.description.bundleIdentifier = bar.platform.workspace.bundleIdentifier();
     ASSERT_TRUE(bar.desktop.change(8, second));
     EXPECT_EQ(ids(bar.scan()), QStringList{u"7-0-relay"_s});
@@ -54,12 +49,12 @@ TEST(Scan, LeavesOutThisProgramAndASecondInstanceOfIt)
 // A button hides what ends left of it, whichever application it belongs to and whenever it is met.
 TEST(Scan, HidesByTheLastButtonMetOverAllApplications)
 {
-    const auto one = application(1, u"One"_s, {itemAt(u"left"_s, {900, 0, 30, 37}), button({1100, 0, 20, 37})});
+    const auto one = application(1, u"One"_s, {extraAt(u"left"_s, {900, 0, 30, 37}), button({1100, 0, 20, 37})});
     const auto two =
-        application(2, u"Two"_s, {group({button({940, 0, 20, 37})}), itemAt(u"right"_s, {1000, 0, 30, 37})});
+        application(2, u"Two"_s, {group({button({940, 0, 20, 37})}), extraAt(u"right"_s, {1000, 0, 30, 37})});
     const auto none = application(3, u"None"_s, {});
     const auto hiddenAmong = [](const std::vector<ApplicationDescription> &applications) {
-        MenuBarContext bar(notchedDesktop(applications));
+        MenuBarContext bar(applications);
         QStringList hidden;
         for (const MenuExtra &extra : bar.scan())
             if (extra.isHidden)
@@ -70,40 +65,9 @@ TEST(Scan, HidesByTheLastButtonMetOverAllApplications)
     EXPECT_EQ(hiddenAmong({two, one, none}), (QStringList{u"1-0-left"_s, u"2-0-right"_s}));
 }
 
-TEST(Scan, HidesBehindTheNotchAndLeftOfTheDivider)
-{
-    MenuBarContext bar(
-        notchedDesktop({application(1, u"One"_s,
-                                    {itemAt(u"behind"_s, {700, 0, 30, 37}), itemAt(u"tucked"_s, {900, 0, 30, 37}),
-                                     itemAt(u"shown"_s, {1100, 0, 30, 37})})}));
-    const auto hidden = [](const ExtraList &extras) {
-        std::vector<bool> flags;
-        for (const MenuExtra &extra : extras)
-            flags.push_back(extra.isHidden);
-        return flags;
-    };
-    EXPECT_EQ(hidden(bar.scan()), (std::vector{true, false, false}));
-    EXPECT_EQ(hidden(bar.scan(QRectF(1000, 0, 28, 37))), (std::vector{true, true, false}));
-    EXPECT_EQ(hidden(bar.scan(QRectF())), (std::vector{true, false, false}));
-}
-
-TEST(Scan, ListsItemsWhoseFrameCannotBeReadAsHidden)
-{
-    ExtraDescription unreadable = item(u"x"_s);
-    unreadable.frameKind = ExtraDescription::Frame::unreadable;
-    MenuBarContext bar(notchedDesktop({application(1, u"One"_s, {unreadable})}));
-    const ExtraList extras = bar.scan();
-    ASSERT_EQ(extras.size(), 1);
-    EXPECT_TRUE(extras[0].isHidden);
-    EXPECT_TRUE(isZero(extras[0].frame));
-}
-
 TEST(Scan, LabelsItemsOfOrdinaryApplications)
 {
-    struct {
-        std::optional<QString> title, description;
-        QString detail;
-    } const cases[] = {
+    const std::tuple<std::optional<QString>, std::optional<QString>, QString> cases[] = {
         {u"  3 new\t"_s, u"ignored"_s, u"3 new"_s},
         {u" \t "_s, u" Mail "_s, u"Mail"_s},
         {{}, u"Mail"_s, u"Mail"_s},
@@ -111,11 +75,11 @@ TEST(Scan, LabelsItemsOfOrdinaryApplications)
         {{}, {}, u"Relay"_s},
         {u"\nA"_s, {}, u"\nA"_s},
     };
-    for (const auto &each : cases) {
-        MenuBarContext bar(notchedDesktop({application(1, u"Relay"_s, {textItem(each.title, each.description)})}));
+    for (const auto &[title, description, detail] : cases) {
+        MenuBarContext bar({application(1, u"Relay"_s, {textItem(title, description)})});
         const MenuExtra extra = bar.found(u"x"_s);
         EXPECT_EQ(extra.name, u"Relay"_s);
-        EXPECT_EQ(extra.detail, each.detail);
+        EXPECT_EQ(extra.detail, detail);
         EXPECT_FALSE(extra.symbol || extra.icon.isNull());
         EXPECT_EQ(extra.icon.size(), QSizeF(128, 128));
         EXPECT_TRUE(extra.canMove);
@@ -124,35 +88,32 @@ TEST(Scan, LabelsItemsOfOrdinaryApplications)
 
 TEST(Scan, LabelsItemsOfTheSystemsAgent)
 {
-    struct {
-        std::optional<QString> title, description;
-        QString name, detail;
-    } const cases[] = {
+    const std::tuple<std::optional<QString>, std::optional<QString>, QString, QString> cases[] = {
         {u"Time"_s, u"Clock"_s, u"Clock"_s, u"Time"_s},
         {{}, u"  "_s, u"  "_s, u"Control Center"_s}, // only an absent or empty description falls back
         {u"Wi-Fi"_s, u""_s, u"System"_s, u"Wi-Fi"_s},
         {{}, {}, u"System"_s, u"Control Center"_s},
     };
-    for (const auto &each : cases) {
-        MenuBarContext bar(notchedDesktop({systemAgent({textItem(each.title, each.description)})}));
+    for (const auto &[title, description, name, detail] : cases) {
+        MenuBarContext bar({systemAgent({textItem(title, description)})});
         const MenuExtra extra = bar.found(u"x"_s);
-        EXPECT_EQ(extra.name, each.name);
-        EXPECT_EQ(extra.detail, each.detail);
+        EXPECT_EQ(extra.name, name);
+        EXPECT_EQ(extra.detail, detail);
         EXPECT_EQ(extra.symbol, u"circle.grid.2x2.fill"_s);
         EXPECT_TRUE(extra.icon.isNull());
         EXPECT_EQ(extra.tint.name(), u"#bfbfbf"_s);
     }
-    MenuBarContext bar(notchedDesktop({systemAgent({item(u"x.clock"_s), item(u"x.wifi"_s)})}));
+    MenuBarContext bar({systemAgent({extra(u"x.clock"_s), extra(u"x.wifi"_s)})});
     EXPECT_FALSE(bar.found(u"x.clock"_s).canMove);
     EXPECT_TRUE(bar.found(u"x.wifi"_s).canMove);
 }
 
 TEST(Scan, NamesAnAuxiliaryApplicationAfterTheOneThatHoldsIt)
 {
-    auto inner = application(1, u"Inner"_s, {item(u"x"_s)});
+    auto inner = application(1, u"Inner"_s, {extra(u"x"_s)});
     inner.bundlePath = u"/Applications/Outer.app/Contents/Library/LoginItems/Inner.app"_s;
-    auto outer = application(2, u"Outer"_s, {item(u"y"_s)});
-    auto nameless = application(3, u"Tool"_s, {item(u"z"_s)});
+    auto outer = application(2, u"Outer"_s, {extra(u"y"_s)});
+    auto nameless = application(3, u"Tool"_s, {extra(u"z"_s)});
     nameless.name.reset();
     nameless.bundlePath.reset();
     auto description = notchedDesktop({inner, outer, nameless});
@@ -166,11 +127,10 @@ TEST(Scan, NamesAnAuxiliaryApplicationAfterTheOneThatHoldsIt)
 
 TEST(Scan, SpendsAQuarterOfASecondOnEachApplicationThatHangs)
 {
-    MenuBarContext bar(
-        notchedDesktop({hung(application(1, u"One"_s, {item(u"a"_s)})), application(2, u"Two"_s, {item(u"b"_s)}),
-                        hung(application(3, u"Three"_s, {item(u"c"_s)}))}));
+    MenuBarContext bar({hung(application(1, u"One"_s, {extra(u"a"_s)})), application(2, u"Two"_s, {extra(u"b"_s)}),
+                        hung(application(3, u"Three"_s, {extra(u"c"_s)}))});
     EXPECT_EQ(ids(bar.scan()), QStringList{u"2-0-b"_s});
-    EXPECT_DOUBLE_EQ(bar.secondsOfLastScan(), 0.5);
+    EXPECT_DOUBLE_EQ(bar.secondsOfLastScan, 0.5);
 }
 
 TEST(Scan, ReadsEachAttributeOnce)
@@ -178,7 +138,7 @@ TEST(Scan, ReadsEachAttributeOnce)
     auto without = application(1, u"One"_s, {});
     without.extras.reset();
     MenuBarContext bar(
-        notchedDesktop({without, application(2, u"Two"_s, {item(u"a"_s), group({item(u"b"_s)}), button(kSomewhere)})}));
+        {without, application(2, u"Two"_s, {extra(u"a"_s), group({extra(u"b"_s)}), button(kSomewhere)})});
     const auto before = bar.desktop.inspection().requestCount();
     bar.scan();
     // The bars of both; the children of the bar and of the group; four roles; texts and frames of two items; the
@@ -188,7 +148,7 @@ TEST(Scan, ReadsEachAttributeOnce)
 
 TEST(Scan, FindsNothingWithoutThePermission)
 {
-    MenuBarContext bar(notchedDesktop({systemAgent({item(u"a"_s), button(kSomewhere)})}));
+    MenuBarContext bar({systemAgent({extra(u"a"_s), button(kSomewhere)})});
     bar.desktop.setTrusted(false);
     EXPECT_TRUE(bar.scan().empty());
     EXPECT_EQ(bar.access->firstSystemButtonFrame(), std::nullopt);
@@ -197,26 +157,19 @@ TEST(Scan, FindsNothingWithoutThePermission)
 TEST(FirstSystemButton, IsTheFirstDirectlyInTheAgentsBar)
 {
     const QRectF first(880, 0, 20, 37);
-    struct {
-        const char *what;
-        std::vector<ApplicationDescription> applications;
-        std::optional<QRectF> frame;
-        double seconds;
-    } const cases[] = {
-        {"two buttons", {systemAgent({item(u"a"_s), button(first), button(kSomewhere)})}, first, 0},
+    const std::tuple<const char *, std::vector<ApplicationDescription>, std::optional<QRectF>, double> cases[] = {
+        {"two buttons", {systemAgent({extra(u"a"_s), button(first), button(kSomewhere)})}, first, 0},
         {"one in a group", {systemAgent({group({button(kSomewhere)}), button(first)})}, first, 0},
-        {"another application's", {application(1, u"One"_s, {button(first)}), systemAgent({item(u"a"_s)})}, {}, 0},
+        {"another application's", {application(1, u"One"_s, {button(first)}), systemAgent({extra(u"a"_s)})}, {}, 0},
         {"no agent", {application(1, u"One"_s, {button(first)})}, {}, 0},
         {"an agent that hangs", {hung(systemAgent({button(first)}))}, {}, 0.2},
     };
-    for (const auto &each : cases) {
-        MenuBarContext bar(notchedDesktop(each.applications));
+    for (const auto &[what, applications, expected, seconds] : cases) {
+        MenuBarContext bar(applications);
         std::optional<QRectF> frame;
-        EXPECT_DOUBLE_EQ(bar.onScanQueue([&] { frame = bar.access->firstSystemButtonFrame(); }), each.seconds)
-            << each.what;
-        EXPECT_EQ(frame, each.frame) << each.what;
+        EXPECT_DOUBLE_EQ(bar.onScanQueue([&] { frame = bar.access->firstSystemButtonFrame(); }), seconds) << what;
+        EXPECT_EQ(frame, expected) << what;
     }
 }
 
-} // namespace
 } // namespace brimshade::menubar::tests

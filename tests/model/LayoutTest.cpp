@@ -1,22 +1,12 @@
 #include "ModelContext.h"
 
-#include <gtest/gtest.h>
-
 namespace brimshade::model::tests {
-namespace {
 
 constexpr QSizeF kNotch{200, 32};
 
 TEST(Layout, MeasuresThePanel)
 {
-    struct {
-        const char *what;
-        bool trusted;
-        int hidden, visible;
-        QSizeF notch;
-        int columns;
-        QSizeF size;
-    } const cases[] = {
+    const std::tuple<const char *, bool, int, int, QSizeF, int, QSizeF> cases[] = {
         {"untrusted", false, 0, 0, kNotch, 4, {488, 200}},
         {"untrusted with items", false, 12, 3, kNotch, 9, {728, 200}},
         {"nothing found", true, 0, 0, kNotch, 4, {488, 104}},
@@ -28,32 +18,15 @@ TEST(Layout, MeasuresThePanel)
         {"one more", true, 10, 0, kNotch, 9, {728, 260}},
         {"wide notch", true, 9, 0, {600, 40}, 9, {888, 184}},
     };
-    for (const auto &each : cases) {
+    for (const auto &[what, trusted, hidden, visible, notch, columns, size] : cases) {
         ModelContext context;
         NotchModel &model = context.model();
-        model.setTrusted(each.trusted);
-        model.setExtras(items(each.hidden, each.visible));
-        model.setNotch(each.notch);
-        EXPECT_EQ(model.columns(), each.columns) << each.what;
-        EXPECT_EQ(model.panelSize(), each.size) << each.what;
+        model.setTrusted(trusted);
+        model.setExtras(items(hidden, visible));
+        model.setNotch(notch);
+        EXPECT_EQ(model.columns(), columns) << what;
+        EXPECT_EQ(model.panelSize(), size) << what;
     }
-}
-
-TEST(Layout, LeavesRoomForTheSentenceWhenNothingMatches)
-{
-    ModelContext context;
-    context.model().setExtras(items(1, 1));
-    context.model().setQuery(u"nothing"_s);
-    EXPECT_EQ(context.model().panelSize(), QSizeF(488, 134 + 32));
-}
-
-TEST(Layout, MeasuresGridsByRowsOfTheWiderSection)
-{
-    ModelContext context;
-    context.model().setExtras(items(6, 0));
-    const std::pair<int, double> cases[] = {{-1, 0}, {0, 0}, {1, 98}, {6, 98}, {7, 182}, {13, 266}};
-    for (const auto &[tiles, height] : cases)
-        EXPECT_EQ(context.model().gridHeight(tiles), height) << tiles;
 }
 
 TEST(Layout, AnnouncesTheSizeOnceForEachChangeOfWhatItDependsOn)
@@ -79,5 +52,4 @@ TEST(Layout, AnnouncesTheSizeOnceForEachChangeOfWhatItDependsOn)
     EXPECT_EQ(announced([&] { model.setTrusted(false); }), Counts(0, 1)); // unchanged, yet assigned
 }
 
-} // namespace
 } // namespace brimshade::model::tests

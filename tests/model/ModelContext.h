@@ -1,12 +1,8 @@
 #pragma once
-#include "Services.h"
 #include "model/NotchModel.h"
-
-#include <memory>
+#include "support/FakeSystem.h"
 
 namespace brimshade::model::tests {
-
-using namespace Qt::StringLiterals;
 
 inline MenuExtra item(const QString &id, bool isHidden = false, const QString &name = {}, const QString &detail = {})
 {
@@ -30,11 +26,7 @@ inline ExtraList items(int hidden, int visible)
 }
 
 // A model on services whose stored values a test sets before its first use of the model.
-struct ModelContext {
-    QStringList journal;
-    JournalDefaults defaults{journal};
-    JournalLoginItems loginItems{journal};
-
+struct ModelContext : FakeSystem {
     NotchModel &model()
     {
         if (!m_model)

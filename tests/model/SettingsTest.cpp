@@ -1,10 +1,7 @@
 #include "ModelContext.h"
 #include "platform/HotkeyCenter.h"
 
-#include <gtest/gtest.h>
-
 namespace brimshade::model::tests {
-namespace {
 
 using platform::LoginItemStatus;
 
@@ -44,10 +41,7 @@ TEST(Settings, FallBackToTheirDefaultsWhenIllTyped)
 
 TEST(Settings, AreWrittenThroughOnEveryAssignment)
 {
-    struct {
-        std::function<void(NotchModel &)> assign;
-        QStringList first, again; // a first assignment of a new value, then the same value
-    } const cases[] = {
+    const std::tuple<std::function<void(NotchModel &)>, QStringList, QStringList> cases[] = {
         {[](NotchModel &model) { model.setShowVisible(false); },
          {u"will"_s, u"changed"_s, u"store showVisibleItems false"_s},
          {u"will"_s, u"store showVisibleItems false"_s}},
@@ -61,7 +55,7 @@ TEST(Settings, AreWrittenThroughOnEveryAssignment)
          {u"will"_s, u"changed"_s, u"store shortcut optionCommandN"_s, u"settings"_s},
          {u"will"_s, u"store shortcut optionCommandN"_s, u"settings"_s}},
     };
-    for (const auto &each : cases) {
+    for (const auto &[assign, first, again] : cases) {
         ModelContext context;
         NotchModel &model = context.model();
         const auto note = [&](const QString &what) {
@@ -72,27 +66,12 @@ TEST(Settings, AreWrittenThroughOnEveryAssignment)
                                    &NotchModel::dividerEnabledChanged, &NotchModel::shortcutChanged})
             QObject::connect(&model, changed, note(u"changed"_s));
         model.onSettingsChanged = note(u"settings"_s);
-        for (const QStringList &expected : {each.first, each.again}) {
+        for (const QStringList &expected : {first, again}) {
             context.journal.clear();
-            each.assign(model);
+            assign(model);
             EXPECT_EQ(context.journal, expected);
         }
     }
-}
-
-TEST(Settings, ReachTheNextLaunch)
-{
-    ModelContext context;
-    context.model().setShowVisible(false);
-    context.model().setHoverToOpen(true);
-    context.model().setDividerEnabled(true);
-    context.model().setShortcut(Shortcut::controlOptionCommandM);
-    context.closeModel();
-    EXPECT_FALSE(context.model().showVisible());
-    EXPECT_TRUE(context.model().hoverToOpen() && context.model().dividerEnabled());
-    EXPECT_EQ(context.model().shortcut(), Shortcut::controlOptionCommandM);
-    context.model().setShortcut(Shortcut::none);
-    EXPECT_EQ(context.defaults.stored[u"shortcut"_s], u"none"_s);
 }
 
 TEST(Settings, StoreWhatTheFieldHoldsWhenAnObserverAssignsAgain)
@@ -111,61 +90,49 @@ TEST(Settings, StoreWhatTheFieldHoldsWhenAnObserverAssignsAgain)
 TEST(LaunchAtLogin, FollowsTheSystemsAnswer)
 {
     const QString failed = u"Couldn't change Launch at Login: not today"_s;
-    struct {
-        const char *what;
-        LoginItemStatus status;
-        bool assigned;
-        std::optional<QString> failure;
-        QStringList calls;
-        bool field;
-        QString message;
-    } const cases[] = {
-        {"registers", LoginItemStatus::notRegistered, true, {}, {u"register"_s}, true, {}},
-        {"awaits approval", LoginItemStatus::requiresApproval, true, {}, {u"register"_s}, true, {}},
-        {"is on already", LoginItemStatus::enabled, true, {}, {}, true, {}},
-        {"unregisters", LoginItemStatus::enabled, false, {}, {u"unregister"_s}, false, {}},
-        {"is off already", LoginItemStatus::notFound, false, {}, {}, false, {}},
-        {"cannot register", LoginItemStatus::notRegistered, true, u"not today"_s, {u"register"_s}, false, failed},
-        {"cannot unregister", LoginItemStatus::enabled, false, u"not today"_s, {u"unregister"_s}, true, failed},
-    };
-    for (const auto &each : cases) {
+    const std::tuple<const char *, LoginItemStatus, bool, std::optional<QString>, QStringList, bool, QString> cases[] =
+        {
+            {"registers", LoginItemStatus::notRegistered, true, {}, {u"register"_s}, true, {}},
+            {"awaits approval", LoginItemStatus::requiresApproval, true, {}, {u"register"_s}, true, {}},
+            {"is on already", LoginItemStatus::enabled, true, {}, {}, true, {}},
+            {"unregisters", LoginItemStatus::enabled, false, {}, {u"unregister"_s}, false, {}},
+            {"is off already", LoginItemStatus::notFound, false, {}, {}, false, {}},
+            {"cannot register", LoginItemStatus::notRegistered, true, u"not today"_s, {u"register"_s}, false, failed},
+            {"cannot unregister", LoginItemStatus::enabled, false, u"not today"_s, {u"unregister"_s}, true, failed},
+        };
+    for (const auto &[what, status, assigned, failure, calls, field, message] : cases) {
         ModelContext context;
-        context.loginItems.now = each.status;
-        context.loginItems.failure = each.failure;
+        context.loginItems.now = status;
+        context.loginItems.failure = failure;
         NotchModel &model = context.model();
-        EXPECT_EQ(model.launchAtLogin(), each.status == LoginItemStatus::enabled) << each.what;
+        EXPECT_EQ(model.launchAtLogin(), status == LoginItemStatus::enabled) << what;
         context.journal.clear();
-        model.onSettingsChanged = [&] { ADD_FAILURE() << each.what; };
-        model.setLaunchAtLogin(each.assigned);
+        model.onSettingsChanged = [&] { ADD_FAILURE() << what; };
+        model.setLaunchAtLogin(assigned);
         context.journal.removeAll(u"status"_s);
-        EXPECT_EQ(context.journal, each.calls) << each.what;
-        EXPECT_EQ(model.launchAtLogin(), each.field) << each.what;
-        EXPECT_EQ(model.message(), each.message) << each.what;
+        EXPECT_EQ(context.journal, calls) << what;
+        EXPECT_EQ(model.launchAtLogin(), field) << what;
+        EXPECT_EQ(model.message(), message) << what;
     }
 }
 
 TEST(Shortcuts, HaveTheirKeysTitlesAndStoredNames)
 {
-    struct {
-        Shortcut shortcut;
-        QString raw, title;
-        std::uint32_t keyCode, modifiers;
-    } const cases[] = {
+    const std::tuple<Shortcut, QString, QString, std::uint32_t, std::uint32_t> cases[] = {
         {Shortcut::none, u"none"_s, u"None"_s, 0, 0},
         {Shortcut::optionCommandN, u"optionCommandN"_s, u"⌥⌘N"_s, 45, 0x0900},
         {Shortcut::controlOptionSpace, u"controlOptionSpace"_s, u"⌃⌥Space"_s, 49, 0x1800},
         {Shortcut::controlOptionCommandM, u"controlOptionCommandM"_s, u"⌃⌥⌘M"_s, 46, 0x1900},
     };
-    for (const auto &each : cases) {
-        EXPECT_EQ(rawValue(each.shortcut), each.raw);
-        EXPECT_EQ(shortcutFromRawValue(each.raw), each.shortcut);
-        EXPECT_EQ(displayTitle(each.shortcut), each.title);
-        const auto keys = keyCombination(each.shortcut);
-        EXPECT_EQ(keys.has_value(), each.keyCode != 0);
-        EXPECT_EQ(keys ? keys->keyCode : 0, each.keyCode);
-        EXPECT_EQ(keys ? keys->modifiers : 0, each.modifiers);
+    for (const auto &[shortcut, raw, title, keyCode, modifiers] : cases) {
+        EXPECT_EQ(rawValue(shortcut), raw);
+        EXPECT_EQ(shortcutFromRawValue(raw), shortcut);
+        EXPECT_EQ(displayTitle(shortcut), title);
+        const auto keys = keyCombination(shortcut);
+        EXPECT_EQ(keys.has_value(), keyCode != 0);
+        EXPECT_EQ(keys ? keys->keyCode : 0, keyCode);
+        EXPECT_EQ(keys ? keys->modifiers : 0, modifiers);
     }
 }
 
-} // namespace
 } // namespace brimshade::model::tests

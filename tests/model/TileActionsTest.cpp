@@ -1,87 +1,60 @@
 #include "model/TileActions.h"
 #include "ModelContext.h"
 
-#include <gtest/gtest.h>
-
 namespace brimshade::model::tests {
-namespace {
 
-struct TileContext : ModelContext {
-    OpenMenu menus;
+struct Tile : testing::Test, ModelContext {
     TileActions actions{model(), menus};
 
-    TileContext()
+    Tile()
     {
         model().setExtras(items(1, 1));
-        model().onSelect = [this](const MenuExtra &extra) { journal.append(u"select "_s + extra.id); };
+        model().onSelect = [this](const MenuExtra &extra) { journal << u"select "_s + extra.id; };
         model().onSetHidden = [this](const MenuExtra &extra, bool hidden) {
-            journal.append(u"%1 %2"_s.arg(hidden ? u"hide"_s : u"show"_s, extra.id));
+            journal << u"%1 %2"_s.arg(hidden ? u"hide"_s : u"show"_s, extra.id);
         };
-        model().onSettingsChanged = [this] { journal.append(u"settings"_s); };
+        model().onSettingsChanged = [this] { journal << u"settings"_s; };
         journal.clear();
     }
 };
 
-TEST(Tile, OpensItsItem)
+TEST_F(Tile, OpensAndMovesItsItem)
 {
-    TileContext context;
-    context.actions.open(u"v0"_s);
-    context.actions.open(u"gone"_s);
-    EXPECT_EQ(context.journal, QStringList{u"select v0"_s});
-}
-
-TEST(Tile, OffersToOpenAndToMoveItsItem)
-{
-    const std::tuple<QString, QString, QString> cases[] = {{u"v0"_s, u"Hide from Menu Bar"_s, u"hide v0"_s},
-                                                           {u"h0"_s, u"Show in Menu Bar"_s, u"show h0"_s}};
-    for (const auto &[id, title, effect] : cases) {
-        TileContext context;
-        context.actions.showMenu(id);
-        const auto &entries = context.menus.menu.items;
-        ASSERT_EQ(entries.size(), 2);
-        EXPECT_EQ(entries[0].title, u"Open"_s);
-        EXPECT_EQ(entries[1].title, title);
-        EXPECT_TRUE(entries[0].isEnabled && entries[1].isEnabled);
-        entries[0].action();
-        entries[1].action();
-        EXPECT_EQ(context.journal,
-                  (QStringList{u"select "_s + id, u"store dividerEnabled true"_s, u"settings"_s, effect}));
+    const std::tuple<QString, QString, QString> cases[] = {{u"v0"_s, u"menu Open,Hide from Menu Bar"_s, u"hide v0"_s},
+                                                           {u"h0"_s, u"menu Open,Show in Menu Bar"_s, u"show h0"_s}};
+    for (const auto &[id, opened, effect] : cases) {
+        journal.clear();
+        actions.open(id);
+        actions.showMenu(id);
+        menus.menu.items.at(0).action();
+        menus.menu.items.at(1).action();
+        const QString select = u"select "_s + id;
+        EXPECT_EQ(journal,
+                  (QStringList{select, opened, select, u"store dividerEnabled true"_s, u"settings"_s, effect}));
     }
 }
 
-TEST(Tile, CannotMoveAPinnedItem)
+TEST_F(Tile, AnOpenMenuOutlivesItsItemAndTheModel)
 {
-    TileContext context;
-    MenuExtra clock = item(u"clock"_s);
-    clock.canMove = false;
-    context.model().setExtras({clock});
-    context.actions.showMenu(u"clock"_s);
-    EXPECT_TRUE(context.menus.menu.items.at(0).isEnabled);
-    EXPECT_FALSE(context.menus.menu.items.at(1).isEnabled);
+    actions.showMenu(u"v0"_s);
+    model().setExtras({});
+    journal.clear();
+    actions.open(u"v0"_s);
+    menus.menu.items.at(0).action();
+    EXPECT_EQ(journal, QStringList{u"select v0"_s});
+    closeModel();
+    menus.menu.items.at(1).action();
+    EXPECT_EQ(journal.size(), 1);
 }
 
-TEST(Tile, AnOpenMenuOutlivesItsItemAndTheModel)
+TEST_F(Tile, ALateLeaveDoesNotTakeTheHoverFromTheNextTile)
 {
-    TileContext context;
-    context.actions.showMenu(u"v0"_s);
-    context.model().setExtras({});
-    context.menus.menu.items.at(0).action();
-    EXPECT_EQ(context.journal, QStringList{u"select v0"_s});
-    context.closeModel();
-    context.menus.menu.items.at(1).action();
-    EXPECT_EQ(context.journal.size(), 1);
+    actions.pointerEntered(u"h0"_s);
+    actions.pointerEntered(u"v0"_s);
+    actions.pointerLeft(u"h0"_s);
+    EXPECT_EQ(model().hoveredID(), u"v0"_s);
+    actions.pointerLeft(u"v0"_s);
+    EXPECT_EQ(model().hoveredID(), QString());
 }
 
-TEST(Tile, ALateLeaveDoesNotTakeTheHoverFromTheNextTile)
-{
-    TileContext context;
-    context.actions.pointerEntered(u"h0"_s);
-    context.actions.pointerEntered(u"v0"_s);
-    context.actions.pointerLeft(u"h0"_s);
-    EXPECT_EQ(context.model().hoveredID(), u"v0"_s);
-    context.actions.pointerLeft(u"v0"_s);
-    EXPECT_EQ(context.model().hoveredID(), QString());
-}
-
-} // namespace
 } // namespace brimshade::model::tests

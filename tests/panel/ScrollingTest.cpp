@@ -1,12 +1,8 @@
 #include "PanelScene.h"
 
 #include <QWheelEvent>
-#include <gtest/gtest.h>
 
 namespace brimshade::panel {
-namespace {
-
-using namespace Qt::StringLiterals;
 
 constexpr int kColumns = 9;
 constexpr int kRowsInView = 8; // what 656 points of tab can touch
@@ -75,5 +71,4 @@ TEST_F(ScrollingTest, ASearchThatFitsIsShownFromItsTop)
     EXPECT_FALSE(panel.scene.find(u"scroller"_s)->isVisible());
 }
 
-} // namespace
 } // namespace brimshade::panel

@@ -4,20 +4,12 @@
 
 #include <QAbstractItemModelTester>
 #include <QRandomGenerator>
-#include <QSignalSpy>
-#include <gtest/gtest.h>
 
 namespace brimshade::panel {
-namespace {
-
-using namespace Qt::StringLiterals;
 
 TEST(TilesInView, AreTheRowsTouchedAndOneBeyondOnEitherSide)
 {
-    const struct {
-        double top, bottom;
-        int columns, count, first, end;
-    } cases[] = {
+    const std::tuple<double, double, int, int, int, int> cases[] = {
         {0, 74, 9, 27, 0, 18},
         {0, 84, 9, 27, 0, 27},
         {0, 0.5, 4, 3, 0, 3},
@@ -27,19 +19,19 @@ TEST(TilesInView, AreTheRowsTouchedAndOneBeyondOnEitherSide)
         {8400, 8484, 9, 10000, 891, 927},
         {0, 500, 4, 0, 0, 0},
     };
-    for (const auto &c : cases) {
-        EXPECT_EQ(tilesInView(c.top, c.bottom, c.columns, c.count), (std::pair{c.first, c.end}))
-            << c.top << ".." << c.bottom << " of " << c.count;
+    for (const auto &[top, bottom, columns, count, first, end] : cases) {
+        EXPECT_EQ(tilesInView(top, bottom, columns, count), (std::pair{first, end}))
+            << top << ".." << bottom << " of " << count;
     }
 }
 
-class TilesModelTest : public testing::Test {
+class TilesModelTest : public testing::Test, protected ModelFixture {
 protected:
     TilesModelTest()
     {
         tiles.setProperty("section", TilesModel::BehindTheNotch);
         tiles.setProperty("viewBottom", 400);
-        tiles.setSource(&fixture.model);
+        tiles.setSource(&model);
     }
 
     QStringList names() const
@@ -55,40 +47,12 @@ protected:
         model::ExtraList extras;
         for (const QString &name : names.split(u' ', Qt::SkipEmptyParts))
             extras.push_back(makeExtra(name, true));
-        fixture.model.setExtras(std::move(extras));
+        model.setExtras(std::move(extras));
     }
 
-    ModelFixture fixture;
     TilesModel tiles;
     QAbstractItemModelTester tester{&tiles, QAbstractItemModelTester::FailureReportingMode::Fatal};
 };
-
-TEST_F(TilesModelTest, AnItemThatStaysKeepsItsRowAndLearnsItsPlace)
-{
-    show(u"a b c d e"_s);
-    const QPersistentModelIndex d = tiles.index(3);
-    QSignalSpy changed(&tiles, &QAbstractItemModel::dataChanged);
-    show(u"d x e a"_s);
-    EXPECT_EQ(names(), (QStringList{u"d"_s, u"x"_s, u"e"_s, u"a"_s}));
-    ASSERT_TRUE(d.isValid());
-    EXPECT_EQ(d.row(), 0);
-    EXPECT_EQ(d.data(TilesModel::PositionRole), 0);
-    EXPECT_GT(changed.count(), 0);
-    show(u"e"_s);
-    EXPECT_FALSE(d.isValid());
-}
-
-TEST_F(TilesModelTest, NewItemsComeAndOldOnesGoInBatches)
-{
-    QSignalSpy inserted(&tiles, &QAbstractItemModel::rowsInserted);
-    QSignalSpy removed(&tiles, &QAbstractItemModel::rowsRemoved);
-    show(u"a b c d e f"_s);
-    EXPECT_EQ(inserted.count(), 1);
-    show(u"a f"_s);
-    EXPECT_EQ(removed.count(), 1);
-    show(u"a f"_s);
-    EXPECT_EQ(inserted.count() + removed.count(), 2) << "an equal scan changes nothing";
-}
 
 TEST_F(TilesModelTest, AnyListFollowsAnyOtherEvenWithARepeatedId)
 {
@@ -107,8 +71,8 @@ TEST_F(TilesModelTest, AnyListFollowsAnyOtherEvenWithARepeatedId)
 
 TEST_F(TilesModelTest, ScrollingBringsRowsThatAreNotNew)
 {
-    fixture.model.setExtras(makeExtras(400, 0));
-    const int columns = fixture.model.columns();
+    model.setExtras(makeExtras(400, 0));
+    const int columns = model.columns();
     EXPECT_EQ(tiles.rowCount(), 6 * columns); // 400 points touch five rows; one beyond
     EXPECT_EQ(tiles.index(0).data(TilesModel::IsNewRole), true);
     tiles.setProperty("viewBottom", 400 + 840);
@@ -118,5 +82,4 @@ TEST_F(TilesModelTest, ScrollingBringsRowsThatAreNotNew)
     EXPECT_EQ(tiles.index(tiles.rowCount() - 1).data(TilesModel::IsNewRole), false);
 }
 
-} // namespace
 } // namespace brimshade::panel

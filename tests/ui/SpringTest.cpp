@@ -1,11 +1,9 @@
 #include "ui/Spring.h"
+#include "support/Test.h"
 
-#include <cmath>
-#include <gtest/gtest.h>
 #include <numbers>
 
 namespace brimshade::ui {
-namespace {
 
 // The equation of motion, integrated in tiny steps: knows nothing of the closed form.
 SpringState integrated(const SpringParameters &p, SpringState s, double seconds)
@@ -49,17 +47,6 @@ TEST(Spring, FollowsItsEquationOfMotion)
     }
 }
 
-TEST(Spring, IsTheSameInOneStepAndInMany)
-{
-    const SpringParameters spring{0.46, 0.74};
-    SpringState state{-1, 4};
-    for (int i = 0; i < 30; ++i)
-        state = springAt(spring, state, 0.01);
-    const SpringState once = springAt(spring, {-1, 4}, 0.3);
-    EXPECT_NEAR(state.position, once.position, 1e-12);
-    EXPECT_NEAR(state.velocity, once.velocity, 1e-10);
-}
-
 TEST(Spring, SettledMeansThatItNeverLeavesAgain)
 {
     const SpringParameters spring{0.5, 0.3};
@@ -77,5 +64,4 @@ TEST(Spring, WithoutResponseArrivesAtOnce)
     EXPECT_TRUE(springIsSettled({-1, 0.5}, {1, 3}, 1e-3));
 }
 
-} // namespace
 } // namespace brimshade::ui

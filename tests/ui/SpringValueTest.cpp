@@ -1,10 +1,8 @@
 #include "ui/SpringValue.h"
 #include "ManualAnimationDriver.h"
-
-#include <gtest/gtest.h>
+#include "support/Test.h"
 
 namespace brimshade::ui {
-namespace {
 
 class SpringValueTest : public testing::Test {
 protected:
@@ -60,31 +58,6 @@ TEST_F(SpringValueTest, TakesTheParametersThatComeWithTheTargetInEitherOrder)
     EXPECT_NEAR(seconds(20), 1 + springAt({0.2, 0.8}, {-1, 0}, 0.06).position, 1e-9);
 }
 
-TEST_F(SpringValueTest, StaysUntilItsDelayIsOver)
-{
-    value.setDelay(0.268);
-    value.setTarget(1);
-    EXPECT_EQ(seconds(268), 0);
-    EXPECT_GT(seconds(20), 0);
-}
-
-TEST_F(SpringValueTest, EasesFromWhereItIsInItsDuration)
-{
-    const struct {
-        SpringValue::Curve curve;
-        double atQuarter;
-    } cases[] = {{SpringValue::EaseIn, 0.093}, {SpringValue::EaseOut, 0.378}, {SpringValue::EaseInOut, 0.129}};
-    for (const auto &expected : cases) {
-        value.jumpTo(2);
-        value.setCurve(expected.curve);
-        value.setDuration(0.4);
-        value.setTarget(1);
-        EXPECT_NEAR(seconds(100), 2 - expected.atQuarter, 0.002) << expected.curve;
-        EXPECT_EQ(seconds(300), 1);
-        EXPECT_FALSE(value.isRunning());
-    }
-}
-
 TEST(SpringValueCreation, JumpsToItsFirstTarget)
 {
     SpringValue value;
@@ -94,5 +67,4 @@ TEST(SpringValueCreation, JumpsToItsFirstTarget)
     EXPECT_FALSE(value.isRunning());
 }
 
-} // namespace
 } // namespace brimshade::ui

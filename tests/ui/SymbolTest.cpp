@@ -1,13 +1,7 @@
-#include "ui/SymbolService.h"
+#include "support/Test.h"
 #include "ui/SymbolTable.h"
 
-#include <algorithm>
-#include <gtest/gtest.h>
-
 namespace brimshade::ui {
-namespace {
-
-using namespace Qt::StringLiterals;
 
 TEST(Symbols, EveryOneHasAnOutlineWithinItsSquare)
 {
@@ -41,35 +35,4 @@ TEST(Symbols, NoNameInUseIsMissing)
         EXPECT_TRUE(known.contains(name)) << qPrintable(name);
 }
 
-TEST(Symbols, AreTemplateImagesOfTheirPointSize)
-{
-    SymbolService service;
-    const platform::Image image = service.symbolImage(u"wifi"_s, {}, {14, platform::SymbolWeight::semibold});
-    EXPECT_TRUE(image.isTemplate());
-    EXPECT_DOUBLE_EQ(image.size().width(), symbolExtent(14));
-    const QImage bitmap = image.bitmap();
-    EXPECT_GT(qAlpha(bitmap.pixel(64, 100)), 200) << "the dot of the fan";
-    EXPECT_EQ(qAlpha(bitmap.pixel(2, 2)), 0);
-    EXPECT_TRUE(service.symbolImage(u"no.such.symbol"_s, {}, {}).isNull());
-}
-
-TEST(Symbols, AHeavierWeightCoversMore)
-{
-    const auto covered = [](platform::SymbolWeight weight) {
-        QImage image(96, 96, QImage::Format_Alpha8);
-        image.fill(0);
-        QPainter painter(&image);
-        paintSymbol(painter, symbolOutline(u"gearshape.fill"_s), {75, weight}, Qt::black);
-        painter.end();
-        long sum = 0;
-        for (int y = 0; y < image.height(); ++y)
-            for (int x = 0; x < image.width(); ++x)
-                sum += image.constScanLine(y)[x];
-        return sum;
-    };
-    EXPECT_GT(covered(platform::SymbolWeight::semibold), covered(platform::SymbolWeight::regular));
-    EXPECT_GT(covered(platform::SymbolWeight::bold), covered(platform::SymbolWeight::semibold));
-}
-
-} // namespace
 } // namespace brimshade::ui

@@ -1,21 +1,15 @@
 #include "Context.h"
 
 #include <QAccessible>
-#include <gtest/gtest.h>
 #include <private/qguiapplication_p.h>
 #include <qpa/qplatformaccessibility.h>
 #include <qpa/qplatformintegration.h>
 
 namespace brimshade::windows {
-namespace {
-
-using namespace Qt::StringLiterals;
 
 // What an assistive program is told, in reading order.
-class Accessibility : public testing::Test {
+class Accessibility : public testing::Test, protected Context {
 protected:
-    Context context;
-
     void SetUp() override { QAccessible::setActive(true); }
     void TearDown() override { QAccessible::setActive(false); }
 
@@ -39,7 +33,7 @@ protected:
     QList<QAccessibleInterface *> elements()
     {
         QList<QAccessibleInterface *> found;
-        collect(QAccessible::queryAccessibleInterface(context.scene().window()), found);
+        collect(QAccessible::queryAccessibleInterface(scene().window()), found);
         return found;
     }
     static int switchesOffered(const QAccessibleInterface *element)
@@ -69,27 +63,16 @@ protected:
         return lines;
     }
     static std::string joined(const QStringList &lines) { return lines.join(u'\n').toStdString(); }
-    bool press(const QString &name, QAccessible::Role role)
-    {
-        for (QAccessibleInterface *element : elements()) {
-            if (element->text(QAccessible::Name) != name || element->role() != role || !element->actionInterface())
-                continue;
-            element->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
-            context.scene().advance(800);
-            return true;
-        }
-        return false;
-    }
 };
 
 TEST_F(Accessibility, TellsTheSettingsInReadingOrder)
 {
-    context.setExtras(someExtras());
-    context.model.setMovingID(u"wifi"_s);
-    context.model.setMessage(u"Relay: no."_s);
-    context.model.setShortcut(model::Shortcut::optionCommandN);
-    context.showSettings();
-    EXPECT_EQ(switchesOffered(QAccessible::queryAccessibleInterface(context.scene().window())), 7)
+    setExtras(someExtras());
+    model.setMovingID(u"wi-fi"_s);
+    model.setMessage(u"Relay: no."_s);
+    model.setShortcut(model::Shortcut::optionCommandN);
+    showSettings();
+    EXPECT_EQ(switchesOffered(QAccessible::queryAccessibleInterface(scene().window())), 7)
         << "seen or not, and without the one under the spinner";
     EXPECT_EQ(
         joined(told()),
@@ -119,22 +102,12 @@ TEST_F(Accessibility, TellsTheSettingsInReadingOrder)
         }));
 }
 
-TEST_F(Accessibility, TellsTheEmptyListOfItems)
-{
-    context.showSettings();
-    EXPECT_TRUE(told().contains(u"StaticText Reading your menu bar…"_s));
-    context.model.setTrusted(false);
-    EXPECT_TRUE(told().contains(u"StaticText Allow Accessibility access to manage your menu bar."_s));
-    context.setExtras(someExtras());
-    EXPECT_FALSE(told().contains(u"StaticText Allow Accessibility access to manage your menu bar."_s));
-}
-
 TEST_F(Accessibility, TellsEachStepOfTheSetupAndNothingOfTheOthers)
 {
     const Language language{QLocale(u"en"_s)};
-    context.model.setTrusted(false);
-    context.setExtras(someExtras());
-    context.showSetup();
+    model.setTrusted(false);
+    setExtras(someExtras());
+    showSetup();
     const QList<QStringList> steps{
         {u"Heading Your whole menu bar, one click away"_s,
          u"StaticText The notch hides menu bar items when there's no room.\nBrimshade opens the notch and shows every one of them."_s,
@@ -163,32 +136,11 @@ TEST_F(Accessibility, TellsEachStepOfTheSetupAndNothingOfTheOthers)
          u"Indicator Step 5 of 5"_s, u"Button Back"_s, u"Button Finish"_s},
     };
     for (int step = 0; step < steps.size(); ++step) {
-        context.goTo(step);
+        goTo(step);
         if (step == 4)
-            context.flow.toggle(u"relay"_s);
+            flow.toggle(u"relay"_s);
         EXPECT_EQ(joined(told()), joined(steps[step])) << step;
     }
-}
-
-TEST_F(Accessibility, ActsOnPress)
-{
-    context.setExtras(someExtras());
-    context.showSettings();
-    EXPECT_TRUE(press(u"Open when the pointer rests on the notch"_s, QAccessible::CheckBox));
-    EXPECT_TRUE(context.model.hoverToOpen());
-    EXPECT_TRUE(told().contains(u"CheckBox Open when the pointer rests on the notch on"_s));
-    EXPECT_TRUE(press(u"Keyboard shortcut"_s, QAccessible::ComboBox));
-    EXPECT_TRUE(press(u"⌃⌥Space"_s, QAccessible::ListItem));
-    EXPECT_EQ(context.model.shortcut(), model::Shortcut::controlOptionSpace);
-    EXPECT_TRUE(told().contains(u"ComboBox Keyboard shortcut (⌃⌥Space)"_s));
-    EXPECT_TRUE(press(u"Run Setup Again…"_s, QAccessible::Button));
-    EXPECT_EQ(context.setups, 1);
-
-    context.showSetup();
-    EXPECT_TRUE(press(u"Get started"_s, QAccessible::Button));
-    EXPECT_TRUE(press(u"Continue"_s, QAccessible::Button));
-    EXPECT_TRUE(press(u"Relay"_s, QAccessible::Button));
-    EXPECT_TRUE(context.flow.choices().value(u"relay"_s));
 }
 
 // Nobody would hear of a switch that changes without an event.
@@ -196,7 +148,7 @@ TEST_F(Accessibility, AnnouncesTheNewValueOfASwitch)
 {
     static QStringList announced;
     announced.clear();
-    context.showSettings();
+    showSettings();
     told();
     // Events are made only where the platform says that somebody listens.
     auto *platform = QGuiApplicationPrivate::platformIntegration()->accessibility();
@@ -206,12 +158,11 @@ TEST_F(Accessibility, AnnouncesTheNewValueOfASwitch)
             && static_cast<QAccessibleStateChangeEvent *>(event)->changedStates().checked)
             announced << event->object()->objectName();
     });
-    context.model.setHoverToOpen(true);
-    context.scene().settle();
+    model.setHoverToOpen(true);
+    scene().settle();
     QAccessible::installUpdateHandler(nullptr);
     platform->setActive(false);
     EXPECT_EQ(announced, QStringList{u"hoverSwitch"_s});
 }
 
-} // namespace
 } // namespace brimshade::windows

@@ -14,53 +14,12 @@ namespace brimshade::windows {
 
 using menubar::ExtraList;
 using menubar::MenuExtra;
-using namespace Qt::StringLiterals;
 
-namespace {
-
-class Swatch : public platform::ImageSource {
-public:
-    Swatch(const QColor &color, QChar initial) : m_color(color), m_initial(initial) { }
-    void draw(QPainter &painter, const QRectF &rect) const override
-    {
-        painter.setRenderHint(QPainter::Antialiasing);
-        painter.setPen(Qt::NoPen);
-        painter.setBrush(m_color);
-        painter.drawRoundedRect(rect, rect.width() * 0.22, rect.width() * 0.22);
-        QFont font(u"Inter"_s);
-        font.setPixelSize(int(rect.height() * 0.6));
-        painter.setFont(font);
-        painter.setPen(Qt::white);
-        painter.drawText(rect, Qt::AlignCenter, m_initial);
-    }
-    QImage bitmap() const override
-    {
-        QImage image(128, 128, QImage::Format_ARGB32_Premultiplied);
-        image.fill(Qt::transparent);
-        QPainter painter(&image);
-        draw(painter, QRectF(0, 0, 128, 128));
-        return image;
-    }
-
-private:
-    QColor m_color;
-    QChar m_initial;
-};
-
-MenuExtra withIcon(MenuExtra extra, const QColor &color)
-{
-    extra.icon = platform::Image(std::make_shared<Swatch>(color, extra.name.front()), {128, 128});
-    return extra;
-}
-
-} // namespace
-
-MenuExtra extra(const QString &id, const QString &name, bool isHidden, bool canMove)
+MenuExtra extra(const QString &name, bool isHidden, bool canMove)
 {
     MenuExtra extra;
-    extra.id = id;
-    extra.name = name;
-    extra.detail = name;
+    extra.id = name.toLower();
+    extra.name = extra.detail = name;
     extra.tint = Qt::gray;
     extra.isHidden = isHidden;
     extra.canMove = canMove;
@@ -69,9 +28,8 @@ MenuExtra extra(const QString &id, const QString &name, bool isHidden, bool canM
 
 ExtraList someExtras()
 {
-    ExtraList extras{withIcon(extra(u"ledger"_s, u"Ledger"_s, true), QColor(34, 160, 107)),
-                     withIcon(extra(u"relay"_s, u"Relay"_s), QColor(59, 130, 246)), extra(u"wifi"_s, u"Wi-Fi"_s),
-                     extra(u"clock"_s, u"Clock"_s, false, false)};
+    ExtraList extras{extra(u"Ledger"_s, true), extra(u"Relay"_s), extra(u"Wi-Fi"_s), extra(u"Clock"_s, false, false)};
+    extras[0].icon = extras[1].icon = icon(Qt::blue);
     extras[1].detail = u"Relay: 3 messages"_s;
     extras[2].symbol = u"wifi"_s;
     return extras;
@@ -89,6 +47,7 @@ Language::~Language()
 
 Context::Context()
 {
+    loginItems.failure = u"not allowed"_s;
     model.onRefresh = [this] { ++scans; };
     model.onShowOnboarding = [this] { ++setups; };
     model.onSetHidden = [this](const MenuExtra &extra, bool hidden) {
@@ -117,6 +76,13 @@ void Context::goTo(int step)
         flow.back();
     if (m_scene)
         m_scene->advance(1500);
+}
+
+bool Context::isLooking()
+{
+    const int before = accessibility.questions;
+    dispatch.advance(2);
+    return accessibility.questions > before;
 }
 
 ui::OffscreenScene &Context::showSettings(double scale)

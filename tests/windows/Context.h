@@ -1,12 +1,12 @@
 #pragma once
-#include "Fakes.h"
 #include "OffscreenScene.h"
+#include "desktop/time/VirtualDispatch.h"
 #include "model/NotchModel.h"
 #include "model/PermissionRequest.h"
+#include "support/FakeSystem.h"
 #include "windows/flow/OnboardingFlow.h"
 
 #include <QLocale>
-#include <optional>
 
 namespace brimshade::windows {
 
@@ -18,16 +18,12 @@ public:
 };
 
 // A model with its flow and, once asked for, one of the two windows, offscreen.
-class Context {
+class Context : public FakeSystem {
 public:
     Context();
     ~Context();
 
-    FakeAccessibility accessibility;
-    FakeWorkspace workspace;
-    FakeDispatch dispatch;
-    FakeDefaults defaults;
-    FakeLoginItems loginItems;
+    desktop::VirtualDispatch dispatch;
     model::NotchModel model{defaults, loginItems};
     model::PermissionRequest permission{accessibility, workspace};
     std::optional<OnboardingFlow::Choices> finished;
@@ -39,6 +35,7 @@ public:
 
     void setExtras(const menubar::ExtraList &extras);
     void goTo(int step);
+    bool isLooking(); // for the permission, on the second step
     ui::OffscreenScene &showSettings(double scale = 1);
     ui::OffscreenScene &showSetup(double scale = 1);
     ui::OffscreenScene &scene() { return *m_scene; }
@@ -58,6 +55,6 @@ private:
 
 // Relay and Wi-Fi in the menu bar, Ledger hidden, the clock pinned.
 menubar::ExtraList someExtras();
-menubar::MenuExtra extra(const QString &id, const QString &name, bool isHidden = false, bool canMove = true);
+menubar::MenuExtra extra(const QString &name, bool isHidden = false, bool canMove = true); // the id in lower case
 
 } // namespace brimshade::windows

@@ -1,60 +1,19 @@
-#include "Fakes.h"
-#include "model/NotchModel.h"
-#include "model/PermissionRequest.h"
-#include "windows/flow/OnboardingFlow.h"
+#include "Context.h"
 
-#include <gmock/gmock.h>
-#include <optional>
+#include <QAbstractItemModelTester>
 
 namespace brimshade::windows {
-namespace {
 
-using namespace Qt::StringLiterals;
 using menubar::ExtraList;
 using menubar::MenuExtra;
 
-MenuExtra extra(const QString &id, bool isHidden, bool canMove = true)
-{
-    MenuExtra extra;
-    extra.id = extra.name = extra.detail = id;
-    extra.isHidden = isHidden;
-    extra.canMove = canMove;
-    return extra;
-}
-
-class Flow : public testing::Test {
+class Flow : public testing::Test, protected Context {
 protected:
-    FakeDefaults defaults;
-    FakeLoginItems loginItems;
-    FakeAccessibility accessibility;
-    FakeWorkspace workspace;
-    FakeDispatch dispatch;
-    model::NotchModel model{defaults, loginItems};
-    model::PermissionRequest permission{accessibility, workspace};
-    int scans = 0;
-    std::optional<OnboardingFlow::Choices> finished;
-    std::optional<OnboardingFlow> flow;
-
-    void SetUp() override
-    {
-        model.onRefresh = [this] { ++scans; };
-        start();
-    }
-    void start()
-    {
-        flow.emplace(model, permission, accessibility, dispatch,
-                     [this](const OnboardingFlow::Choices &choices) { finished = choices; });
-    }
-    void goTo(int step)
-    {
-        while (flow->step() < step)
-            flow->act();
-    }
     QStringList tiles() // "relay stays"
     {
         QStringList result;
-        for (int row = 0; row < flow->tiles()->rowCount(); ++row) {
-            const auto at = [&](int role) { return flow->tiles()->data(flow->tiles()->index(row), role); };
+        for (int row = 0; row < flow.tiles()->rowCount(); ++row) {
+            const auto at = [&](int role) { return flow.tiles()->data(flow.tiles()->index(row), role); };
             result << at(ExtraRows::ExtraIDRole).toString()
                     + (at(ChoiceTiles::HiddenRole).toBool() ? u" tucked"_s : u" stays"_s);
         }
@@ -62,108 +21,68 @@ protected:
     }
 };
 
-TEST_F(Flow, WalksForwardToTheEndAndBackToTheStart)
-{
-    model.setTrusted(false);
-    QList<int> actions;
-    for (int step = 0; step < flow->steps(); ++step) {
-        EXPECT_EQ(flow->step(), step);
-        actions << flow->action();
-        flow->act();
-    }
-    EXPECT_EQ(actions,
-              (QList<int>{OnboardingFlow::GetStarted, OnboardingFlow::Skip, OnboardingFlow::Continue,
-                          OnboardingFlow::Continue, OnboardingFlow::Finish}));
-    EXPECT_EQ(flow->step(), 4) << "finishing leaves the flow where it is";
-    ASSERT_TRUE(finished);
-    EXPECT_TRUE(finished->isEmpty());
-    for (int i = 0; i < 9; ++i)
-        flow->back();
-    EXPECT_EQ(flow->step(), 0);
-}
-
 TEST_F(Flow, LooksForThePermissionEverySecondOnTheSecondStepOnly)
 {
     model.setTrusted(false);
-    flow->setActive(true);
+    flow.setActive(true);
     accessibility.trusted = true;
     for (const int step : {0, 2, 3, 4}) {
         goTo(step);
-        dispatch.pass(5);
+        dispatch.advance(5);
     }
     EXPECT_EQ(accessibility.questions, 0);
     EXPECT_EQ(scans, 0);
     EXPECT_FALSE(model.trusted());
 
-    while (flow->step() > 1)
-        flow->back();
+    while (flow.step() > 1)
+        flow.back();
     accessibility.trusted = false;
-    dispatch.pass(2.5);
+    dispatch.advance(2.5);
     EXPECT_EQ(accessibility.questions, 2);
-    EXPECT_EQ(flow->action(), OnboardingFlow::Skip);
+    EXPECT_EQ(flow.action(), OnboardingFlow::Skip);
     accessibility.trusted = true;
-    dispatch.pass(0.4);
+    dispatch.advance(0.4);
     EXPECT_EQ(scans, 0) << "too early";
-    dispatch.pass(0.1);
+    dispatch.advance(0.1);
     EXPECT_TRUE(model.trusted());
-    EXPECT_EQ(flow->action(), OnboardingFlow::Continue);
-    dispatch.pass(10);
+    EXPECT_EQ(flow.action(), OnboardingFlow::Continue);
+    dispatch.advance(10);
     EXPECT_EQ(scans, 1);
     EXPECT_EQ(accessibility.questions, 3) << "nothing more is asked once it is granted";
 }
 
 TEST_F(Flow, RunsNoTimerWhileItsViewIsOffScreen)
 {
-    EXPECT_TRUE(dispatch.isIdle());
-    flow->setActive(true);
-    flow->setActive(true);
-    EXPECT_FALSE(dispatch.isIdle());
-    flow->setActive(false);
-    EXPECT_TRUE(dispatch.isIdle());
-    flow->setActive(true);
-    flow.reset();
-    EXPECT_TRUE(dispatch.isIdle());
-}
-
-TEST_F(Flow, AsksForThePermissionThenOpensItsPage)
-{
-    flow->openAccessibilitySettings();
-    EXPECT_EQ(accessibility.prompts, 1);
-    EXPECT_EQ(workspace.openedURLs,
-              QStringList{u"x-apple.systempreferences:com.apple.preference.security?Privacy_Accessibility"_s});
+    model.setTrusted(false);
+    goTo(1);
+    EXPECT_FALSE(isLooking());
+    flow.setActive(true);
+    flow.setActive(true);
+    EXPECT_TRUE(isLooking());
+    flow.setActive(false);
+    EXPECT_FALSE(isLooking());
 }
 
 TEST_F(Flow, SeedsChoicesAtTheStartAndForEveryNewItem)
 {
     model.setExtras({extra(u"relay"_s, false), extra(u"ledger"_s, true)});
-    start();
-    EXPECT_EQ(flow->choices(), (OnboardingFlow::Choices{{u"relay"_s, false}, {u"ledger"_s, true}}));
+    const OnboardingFlow::Choices seeded{{u"relay"_s, false}, {u"ledger"_s, true}};
+    EXPECT_EQ(flow.choices(), seeded);
+    EXPECT_EQ(OnboardingFlow(model, permission, accessibility, dispatch, nullptr).choices(), seeded);
 
-    flow->toggle(u"relay"_s);
+    flow.toggle(u"relay"_s);
     // A rescan: one new, one gone, and Relay found hidden and shown again.
     model.setExtras({extra(u"atlas"_s, true), extra(u"relay"_s, true)});
     model.setExtras({extra(u"atlas"_s, true), extra(u"relay"_s, false)});
-    EXPECT_EQ(flow->choices(), (OnboardingFlow::Choices{{u"relay"_s, true}, {u"ledger"_s, true}, {u"atlas"_s, true}}));
+    EXPECT_EQ(flow.choices(), (OnboardingFlow::Choices{{u"relay"_s, true}, {u"ledger"_s, true}, {u"atlas"_s, true}}));
     EXPECT_EQ(tiles(), (QStringList{u"atlas tucked"_s, u"relay tucked"_s}));
-}
-
-TEST_F(Flow, AChoiceStaysWhenTheItemItselfMoves)
-{
-    model.setExtras({extra(u"relay"_s, false)});
-    model.setExtras({extra(u"relay"_s, true)});
-    EXPECT_EQ(tiles(), QStringList{u"relay stays"_s});
-    EXPECT_EQ(flow->pendingCount(), 1);
+    EXPECT_EQ(flow.pendingCount(), 1) << "Relay, which is in the menu bar";
 }
 
 TEST_F(Flow, TogglesWhatCanMove)
 {
     model.setExtras({extra(u"relay"_s, false), extra(u"ledger"_s, true), extra(u"clock"_s, false, false)});
-    struct Case {
-        QString id;
-        QStringList tiles;
-        int stay, tucked, pending;
-    };
-    const Case cases[]{
+    const std::tuple<QString, QStringList, int, int, int> cases[]{
         {u"clock"_s, {u"relay stays"_s, u"ledger tucked"_s, u"clock stays"_s}, 2, 1, 0},
         {u"gone"_s, {u"relay stays"_s, u"ledger tucked"_s, u"clock stays"_s}, 2, 1, 0},
         {u"relay"_s, {u"relay tucked"_s, u"ledger tucked"_s, u"clock stays"_s}, 1, 2, 1},
@@ -171,56 +90,44 @@ TEST_F(Flow, TogglesWhatCanMove)
         {u"relay"_s, {u"relay stays"_s, u"ledger stays"_s, u"clock stays"_s}, 3, 0, 1},
     };
     int changes = 0;
-    QObject::connect(&*flow, &OnboardingFlow::choicesChanged, &*flow, [&changes] { ++changes; });
-    for (const Case &each : cases) {
-        flow->toggle(each.id);
-        EXPECT_EQ(tiles(), each.tiles) << qPrintable(each.id);
-        EXPECT_EQ(flow->stayCount(), each.stay) << qPrintable(each.id);
-        EXPECT_EQ(flow->tuckedCount(), each.tucked) << qPrintable(each.id);
-        EXPECT_EQ(flow->pendingCount(), each.pending) << qPrintable(each.id);
+    QObject::connect(&flow, &OnboardingFlow::choicesChanged, &flow, [&changes] { ++changes; });
+    for (const auto &[id, expected, stay, tucked, pending] : cases) {
+        flow.toggle(id);
+        EXPECT_EQ(tiles(), expected) << qPrintable(id);
+        EXPECT_EQ(flow.stayCount(), stay) << qPrintable(id);
+        EXPECT_EQ(flow.tuckedCount(), tucked) << qPrintable(id);
+        EXPECT_EQ(flow.pendingCount(), pending) << qPrintable(id);
     }
     EXPECT_EQ(changes, 3);
     goTo(4);
-    flow->act();
+    flow.act();
     EXPECT_EQ(finished, (OnboardingFlow::Choices{{u"relay"_s, false}, {u"ledger"_s, false}, {u"clock"_s, false}}));
 }
 
 TEST_F(Flow, KeepsRowsOfItemsThatStay)
 {
-    struct Change {
-        int removed = 0, inserted = 0, moved = 0, changed = 0;
-        bool operator==(const Change &) const = default;
-    };
-    Change seen;
-    auto *tiles = flow->tiles();
-    QObject::connect(tiles, &ExtraRows::rowsRemoved, tiles, [&] { ++seen.removed; });
-    QObject::connect(tiles, &ExtraRows::rowsInserted, tiles, [&] { ++seen.inserted; });
-    QObject::connect(tiles, &ExtraRows::rowsMoved, tiles, [&] { ++seen.moved; });
-    QObject::connect(tiles, &ExtraRows::dataChanged, tiles, [&] { ++seen.changed; });
-    QObject::connect(tiles, &ExtraRows::modelReset, tiles, [] { FAIL() << "a reset loses every row"; });
-    struct Case {
-        ExtraList extras;
-        Change expected;
-    };
-    const MenuExtra a = extra(u"a"_s, false), b = extra(u"b"_s, false), c = extra(u"c"_s, false);
-    MenuExtra renamed = b;
-    renamed.name = u"B"_s;
-    const Case cases[]{
-        {{a, b, c}, {0, 3, 0, 0}}, {{a, b, c}, {0, 0, 0, 0}},    {{c, a, b}, {0, 0, 1, 0}},
-        {{c, b}, {1, 0, 0, 0}},    {{c, renamed}, {0, 0, 0, 1}}, {{b, a, c}, {0, 1, 1, 1}},
-    };
-    for (const Case &each : cases) {
-        seen = {};
-        model.setExtras(each.extras);
-        EXPECT_EQ(seen, each.expected) << &each - cases;
-        QStringList ids, rows;
-        for (const MenuExtra &extra : each.extras)
-            ids << extra.id;
+    auto *tiles = flow.tiles();
+    const QAbstractItemModelTester tester(tiles);
+    const MenuExtra a = extra(u"a"_s), b = extra(u"b"_s), c = extra(u"c"_s);
+    model.setExtras({a, b, c});
+    const QPersistentModelIndex kept = tiles->index(1);
+    int changes = 0;
+    QObject::connect(tiles, &ExtraRows::dataChanged, tiles, [&] { ++changes; });
+    for (const ExtraList &extras : {ExtraList{c, a, b}, ExtraList{c, b}, ExtraList{b, a, c}}) {
+        model.setExtras(extras);
+        QStringList expected, rows;
         for (int row = 0; row < tiles->rowCount(); ++row)
             rows << tiles->data(tiles->index(row), ExtraRows::ExtraIDRole).toString();
-        EXPECT_EQ(rows, ids);
+        for (const MenuExtra &extra : extras)
+            expected << extra.id;
+        EXPECT_EQ(rows, expected);
+        EXPECT_EQ(kept.data(ExtraRows::ExtraIDRole), u"b"_s);
     }
+    EXPECT_EQ(changes, 0);
+    MenuExtra renamed = b;
+    renamed.name = u"B"_s;
+    model.setExtras({renamed, a, c});
+    EXPECT_EQ(changes, 1);
 }
 
-} // namespace
 } // namespace brimshade::windows

@@ -1,40 +1,22 @@
 #include "windows/flow/ItemRows.h"
-#include "Fakes.h"
-#include "model/NotchModel.h"
-#include "windows/flow/ShortcutChoice.h"
-
-#include <gtest/gtest.h>
+#include "Context.h"
 
 namespace brimshade::windows {
-namespace {
 
-using namespace Qt::StringLiterals;
-using menubar::MenuExtra;
-
-class Rows : public testing::Test {
+class Rows : public testing::Test, protected Context {
 protected:
-    FakeDefaults defaults;
-    FakeLoginItems loginItems;
-    model::NotchModel model{defaults, loginItems};
     ItemRows rows;
     QStringList log;
 
-    void SetUp() override
+    Rows()
     {
-        MenuExtra relay;
-        relay.id = relay.name = relay.detail = u"relay"_s;
-        MenuExtra ledger = relay;
-        ledger.id = u"ledger"_s;
-        ledger.detail = u"balance"_s;
-        ledger.isHidden = true;
-        MenuExtra clock = relay;
-        clock.id = u"clock"_s;
-        clock.symbol = u"clock.fill"_s;
-        clock.canMove = false;
-        model.setExtras({relay, ledger, clock});
+        menubar::ExtraList extras{extra(u"relay"_s), extra(u"ledger"_s, true), extra(u"clock"_s, false, false)};
+        extras[1].detail = u"balance"_s;
+        extras[2].symbol = u"clock.fill"_s;
+        model.setExtras(extras);
         rows.setModel(&model);
         model.onSettingsChanged = [this] { log << (model.dividerEnabled() ? u"divider on"_s : u"divider off"_s); };
-        model.onSetHidden = [this](const MenuExtra &extra, bool hidden) {
+        model.onSetHidden = [this](const menubar::MenuExtra &extra, bool hidden) {
             log << extra.id + (hidden ? u" hide"_s : u" show"_s);
         };
     }
@@ -56,11 +38,7 @@ protected:
 
 TEST_F(Rows, ShowTheControlThatFits)
 {
-    struct Case {
-        QString moving;
-        QStringList controls;
-    };
-    const Case cases[]{
+    const std::tuple<QString, QStringList> cases[] = {
         {{}, {u"on"_s, u"off"_s, u"pinned"_s}},
         {u"ledger"_s, {u"on disabled"_s, u"spinner"_s, u"pinned"_s}},
         {u"clock"_s, {u"on disabled"_s, u"off disabled"_s, u"spinner"_s}},
@@ -69,9 +47,9 @@ TEST_F(Rows, ShowTheControlThatFits)
     };
     int told = 0;
     QObject::connect(&rows, &ItemRows::dataChanged, &rows, [&told] { ++told; });
-    for (const Case &each : cases) {
-        model.setMovingID(each.moving);
-        EXPECT_EQ((QStringList{control(0), control(1), control(2)}), each.controls) << qPrintable(each.moving);
+    for (const auto &[moving, controls] : cases) {
+        model.setMovingID(moving);
+        EXPECT_EQ((QStringList{control(0), control(1), control(2)}), controls) << qPrintable(moving);
     }
     EXPECT_GE(told, 4) << "views must hear of each change";
 }
@@ -101,21 +79,4 @@ TEST_F(Rows, AskForTheItemTheyShowedEvenIfItVanishesMeanwhile)
     EXPECT_EQ(log, QStringList{u"relay hide"_s});
 }
 
-TEST_F(Rows, ShortcutsAreChosenByIndex)
-{
-    ShortcutChoice choice;
-    choice.setModel(&model);
-    EXPECT_EQ(choice.titles(), (QStringList{u"None"_s, u"⌥⌘N"_s, u"⌃⌥Space"_s, u"⌃⌥⌘M"_s}));
-    EXPECT_EQ(choice.index(), 0);
-    choice.choose(2);
-    EXPECT_EQ(model.shortcut(), model::Shortcut::controlOptionSpace);
-    EXPECT_EQ(choice.index(), 2);
-    choice.choose(4);
-    choice.choose(-1);
-    EXPECT_EQ(choice.index(), 2);
-    choice.choose(0);
-    EXPECT_EQ(defaults.stringForKey(u"shortcut"_s), u"none"_s);
-}
-
-} // namespace
 } // namespace brimshade::windows

@@ -1,19 +1,12 @@
 #include "Context.h"
 
-#include <gtest/gtest.h>
-
 namespace brimshade::windows {
-namespace {
 
-using namespace Qt::StringLiterals;
-
-class SetupView : public testing::Test {
+class SetupView : public testing::Test, protected Context {
 protected:
-    Context context;
-
     QString tip()
     {
-        const QQuickItem *bubble = context.item(u"helpTip"_s);
+        const QQuickItem *bubble = item(u"helpTip"_s);
         for (const QQuickItem *child : bubble->childItems())
             if (bubble->isVisible() && child->property("text").isValid())
                 return child->property("text").toString();
@@ -21,134 +14,39 @@ protected:
     }
     void pointAt(const QQuickItem *item)
     {
-        context.scene().movePointer(context.scene().frameOf(item).center());
-        context.scene().advance(1500);
+        scene().movePointer(scene().frameOf(item).center());
+        scene().advance(1500);
     }
 };
 
 TEST_F(SetupView, LooksForThePermissionOnlyWhileItCanBeSeen)
 {
-    EXPECT_TRUE(context.dispatch.isIdle());
-    context.showSetup();
-    EXPECT_FALSE(context.dispatch.isIdle());
-    context.scene().root()->setVisible(false);
-    EXPECT_TRUE(context.dispatch.isIdle());
-    context.scene().root()->setVisible(true);
-    EXPECT_FALSE(context.dispatch.isIdle());
-    context.showSettings();
-    EXPECT_TRUE(context.dispatch.isIdle());
-}
-
-TEST_F(SetupView, StepsComeFromTheRightAndLeaveToTheLeft)
-{
-    context.showSetup();
-    const auto left = [this](const QString &name) {
-        return context.scene().frameOf(context.item(name)->parentItem()).left();
-    };
-    const double rest = left(u"heroNotch"_s);
-    context.flow.act();
-    context.scene().advance(64);
-    const double leaving = left(u"heroNotch"_s), coming = left(u"accessPill"_s);
-    EXPECT_LT(leaving, rest - 1);
-    EXPECT_GT(leaving, rest - 30);
-    EXPECT_GT(coming, rest + 1);
-    EXPECT_LE(coming, rest + 30);
-    context.scene().advance(1500);
-    EXPECT_NEAR(left(u"accessPill"_s), rest, 0.1);
-    EXPECT_FALSE(context.item(u"heroNotch"_s)) << "the step that left is gone";
-    context.flow.back();
-    context.scene().advance(64);
-    EXPECT_LT(left(u"accessPill"_s), rest) << "going back, too";
-    EXPECT_GT(left(u"heroNotch"_s), rest);
-}
-
-TEST_F(SetupView, HeroOpensAndClosesInItsRhythm)
-{
-    context.setExtras(someExtras());
-    context.showSetup();
-    struct Case {
-        int milliseconds; // since the case before; the view is 100 ms old at the first
-        QSizeF size;
-    };
-    for (const Case &each :
-         {Case{480, {130, 26}}, Case{3200, {360, 150}}, Case{580, {130, 26}}, Case{3200, {360, 150}}}) {
-        context.scene().advance(each.milliseconds);
-        const QSizeF size = context.item(u"heroBody"_s)->size();
-        EXPECT_NEAR(size.width(), each.size.width(), 6) << each.milliseconds;
-        EXPECT_NEAR(size.height(), each.size.height(), 4) << each.milliseconds;
-    }
-}
-
-TEST_F(SetupView, TilesGrowUnderThePointerUnlessPinnedAndExplainThemselves)
-{
-    context.setExtras(someExtras());
-    context.showSetup();
-    context.goTo(2);
-    const auto tiles = context.scene().findAll(u"choiceTile"_s);
-    ASSERT_EQ(tiles.size(), 4);
-    struct Case {
-        int tile;
-        double scale;
-        QString tip;
-    };
-    const Case cases[]{
-        {0, 1.05, u"Tucked into the notch. Click to keep it in the menu bar."_s},
-        {1, 1.05, u"In the menu bar. Click to tuck it away."_s},
-        {3, 1, u"Pinned by macOS"_s},
-    };
-    for (const Case &each : cases) {
-        pointAt(tiles[each.tile]);
-        EXPECT_NEAR(tiles[each.tile]->scale(), each.scale, 0.002) << each.tile;
-        EXPECT_EQ(tip(), each.tip);
-    }
-    EXPECT_NEAR(tiles[0]->scale(), 1, 0.002);
-    context.scene().movePointer({5, 5});
-    context.scene().advance(100);
-    EXPECT_EQ(tip(), QString());
+    model.setTrusted(false);
+    goTo(1);
+    EXPECT_FALSE(isLooking());
+    showSetup();
+    EXPECT_TRUE(isLooking());
+    scene().root()->setVisible(false);
+    EXPECT_FALSE(isLooking());
+    scene().root()->setVisible(true);
+    EXPECT_TRUE(isLooking());
+    showSettings();
+    EXPECT_FALSE(isLooking());
 }
 
 TEST_F(SetupView, ATipIsTrueOrGone)
 {
-    context.setExtras(someExtras());
-    context.showSetup();
-    context.goTo(2);
-    const QQuickItem *relay = context.scene().findAll(u"choiceTile"_s)[1];
+    setExtras(someExtras());
+    showSetup();
+    goTo(2);
+    const QQuickItem *relay = scene().findAll(u"choiceTile"_s)[1];
     pointAt(relay);
     ASSERT_EQ(tip(), u"In the menu bar. Click to tuck it away."_s);
-    context.flow.toggle(u"relay"_s);
-    context.scene().settle();
+    flow.toggle(u"relay"_s);
+    scene().settle();
     EXPECT_EQ(tip(), u"Tucked into the notch. Click to keep it in the menu bar."_s);
-    context.scene().click(context.scene().frameOf(relay).center());
+    scene().click(scene().frameOf(relay).center());
     EXPECT_EQ(tip(), QString());
-}
-
-TEST_F(SetupView, AClickTogglesWhatCanMove)
-{
-    context.setExtras(someExtras());
-    context.showSetup();
-    context.goTo(2);
-    const auto tiles = context.scene().findAll(u"choiceTile"_s);
-    for (const int tile : {1, 3}) {
-        context.scene().click(context.scene().frameOf(tiles[tile]).center());
-        context.scene().advance(800);
-    }
-    EXPECT_TRUE(context.flow.choices().value(u"relay"_s));
-    EXPECT_FALSE(context.flow.choices().value(u"clock"_s));
-    EXPECT_EQ(context.property(u"choiceCounts"_s, "text"), u"2 in the menu bar  ·  2 in the notch"_s);
-}
-
-TEST_F(SetupView, ReopensWhereTheUserLeftIt)
-{
-    context.setExtras(someExtras());
-    context.showSetup();
-    context.goTo(2);
-    context.flow.toggle(u"relay"_s);
-    context.scene().root()->setVisible(false);
-    context.scene().advance(500);
-    context.scene().root()->setVisible(true);
-    context.scene().advance(500);
-    EXPECT_EQ(context.scene().findAll(u"choiceTile"_s).size(), 4);
-    EXPECT_EQ(context.property(u"choiceCounts"_s, "text"), u"2 in the menu bar  ·  2 in the notch"_s);
 }
 
 // More items than the window is high: the grid scrolls, five in a row.
@@ -156,25 +54,24 @@ TEST_F(SetupView, GridHasFiveColumnsAndScrolls)
 {
     menubar::ExtraList many;
     for (int i = 0; i < 43; ++i)
-        many.push_back(extra(u"item-%1"_s.arg(i), u"Item %1"_s.arg(i)));
-    context.setExtras(many);
-    context.showSetup();
-    context.goTo(2);
-    const auto tiles = context.scene().findAll(u"choiceTile"_s);
-    const auto frame = [&](int tile) { return context.scene().frameOf(tiles[tile]); };
+        many.push_back(extra(u"Item %1"_s.arg(i)));
+    setExtras(many);
+    showSetup();
+    goTo(2);
+    const auto tiles = scene().findAll(u"choiceTile"_s);
+    const auto frame = [&](int tile) { return scene().frameOf(tiles[tile]); };
     EXPECT_EQ(frame(0).width(), 96);
     EXPECT_EQ(frame(1).left() - frame(0).right(), 12);
     EXPECT_EQ(frame(4).top(), frame(0).top());
     EXPECT_EQ(frame(5).left(), frame(0).left());
     EXPECT_EQ(frame(5).top() - frame(0).bottom(), 14);
     EXPECT_NEAR(frame(0).left() + frame(4).right(), 640, 0.5) << "centred";
-    EXPECT_TRUE(context.item(u"fade"_s)->isVisible()) << "more below";
-    context.key(Qt::Key_Backtab, Qt::ShiftModifier); // primary button
-    context.key(Qt::Key_Backtab, Qt::ShiftModifier);
-    context.key(Qt::Key_Backtab, Qt::ShiftModifier); // the last tile
-    EXPECT_LE(frame(42).bottom(), context.scene().frameOf(context.item(u"choiceCounts"_s)).top());
-    EXPECT_FALSE(context.item(u"fade"_s)->isVisible());
+    EXPECT_TRUE(item(u"fade"_s)->isVisible()) << "more below";
+    key(Qt::Key_Backtab, Qt::ShiftModifier); // primary button
+    key(Qt::Key_Backtab, Qt::ShiftModifier);
+    key(Qt::Key_Backtab, Qt::ShiftModifier); // the last tile
+    EXPECT_LE(frame(42).bottom(), scene().frameOf(item(u"choiceCounts"_s)).top());
+    EXPECT_FALSE(item(u"fade"_s)->isVisible());
 }
 
-} // namespace
 } // namespace brimshade::windows

@@ -1,11 +1,6 @@
 #include "Context.h"
 
-#include <gtest/gtest.h>
-
 namespace brimshade::windows {
-namespace {
-
-using namespace Qt::StringLiterals;
 
 // Every text that can be read in either window has room, in every language: it is not elided, does not reach out of
 // the window and does not lie over another one. Names of items may be elided.
@@ -96,12 +91,7 @@ TEST_P(Texts, HaveRoomInTheSettings)
 
 TEST(PendingLabel, CountsInTheLanguageOfTheUser)
 {
-    struct Case {
-        const char *language;
-        int pending;
-        QString text;
-    };
-    const Case cases[]{
+    const std::tuple<const char *, int, QString> cases[]{
         {"en", 1,
          u"Finishing moves 1 item for you. Your pointer will jump for a few seconds, so hands off the mouse."_s},
         {"en", 2,
@@ -115,21 +105,20 @@ TEST(PendingLabel, CountsInTheLanguageOfTheUser)
          u"Zum Abschluss werden 2 Objekte für dich verschoben. Der Zeiger springt dabei einige Sekunden lang, also "
          u"Hände weg von der Maus."_s},
     };
-    for (const Case &each : cases) {
-        const Language language{QLocale(QString::fromLatin1(each.language))};
+    for (const auto &[name, pending, text] : cases) {
+        const Language language{QLocale(QString::fromLatin1(name))};
         Context context;
         context.setExtras(someExtras());
         context.showSetup();
         context.goTo(4);
         EXPECT_FALSE(context.item(u"pendingLabel"_s)->isVisible());
         context.flow.toggle(u"relay"_s);
-        if (each.pending == 2)
+        if (pending == 2)
             context.flow.toggle(u"ledger"_s);
         context.scene().settle();
         EXPECT_TRUE(context.item(u"pendingLabel"_s)->isVisible());
-        EXPECT_EQ(context.property(u"pendingLabel"_s, "text"), each.text) << each.language;
+        EXPECT_EQ(context.property(u"pendingLabel"_s, "text"), text) << name;
     }
 }
 
-} // namespace
 } // namespace brimshade::windows

@@ -2,15 +2,13 @@
 """The program as an assistive program sees it: a client of the AT-SPI bus, on a display, a window manager and a
 message bus of their own, reads the settings window, flips a switch, picks a shortcut and presses a tile.
 Usage: atspi_test.py BRIMSHADE"""
-import json
 import os
 import pathlib
-import subprocess
 import sys
 import unittest
 
-sys.path.insert(0, str(pathlib.Path(__file__).resolve().parent.parent / "programs"))
-from session import Session  # noqa: E402
+sys.path.insert(0, str(pathlib.Path(__file__).resolve().parent.parent / "support"))
+from program import Session  # noqa: E402
 
 DESKTOP = {
     "screens": [{"name": "Built-in Display", "frame": [0, 0, 1280, 800], "menuBarHeight": 37, "notch": [540, 740]}],
@@ -23,40 +21,6 @@ DESKTOP = {
     "displayNames": {"/Applications/Relay.app": "Relay"},
     "defaults": {"onboardingDone": True},
 }
-PATIENCE = 40  # tries, 0.25 s of the program's time each
-
-
-class Program:
-    """The program in a window, in real time, which also answers script commands: that is how the test learns what its
-    requests did, and how it lets time pass."""
-
-    def __init__(self, session, binary):
-        session.write("desktop.json", json.dumps(DESKTOP))
-        self._process = session.start(
-            binary, "--window", "--script", "-", "--desktop", str(session.home / "desktop.json"),
-            stdin=subprocess.PIPE, stdout=subprocess.PIPE, text=True)
-
-    def do(self, command, **arguments):
-        self._process.stdin.write(json.dumps({"do": command, **arguments}) + "\n")
-        self._process.stdin.flush()
-        answer = json.loads(self._process.stdout.readline())
-        assert answer["ok"], answer
-        return answer
-
-    def until(self, what, meant):
-        for _ in range(PATIENCE):
-            found = what()
-            if found:
-                return found
-            self.do("advance", seconds=0.25)
-        raise AssertionError(f"never came: {meant}")
-
-    def model(self, field):
-        return self.do("state")["model"][field]
-
-    def status_item(self):
-        x, y, width, height = self.do("state")["statusItem"]["frame"]
-        return [x + width / 2, y + height / 2]
 
 
 class Client:
@@ -65,7 +29,7 @@ class Client:
     def __init__(self, program):
         import pyatspi
         self._pyatspi = pyatspi
-        self._application = program.until(self._find_application, "the application on the accessibility bus")
+        self._application = program.until("the application on the bus", lambda _: self._find_application())
 
     def _find_application(self):
         desktop = self._pyatspi.Registry.getDesktop(0)
@@ -120,8 +84,8 @@ class AccessibilityBus(unittest.TestCase):
         cls.session.environment["QT_LINUX_ACCESSIBILITY_ALWAYS_ON"] = "1"
         os.environ.clear()
         os.environ.update(cls.session.environment)
-        cls.session.start("openbox")
-        cls.program = Program(cls.session, BINARY)
+        cls.session.start_window_manager()
+        cls.program = cls.session.start_program(BINARY, DESKTOP, "--window")
         cls.client = Client(cls.program)
 
     @classmethod
@@ -129,7 +93,7 @@ class AccessibilityBus(unittest.TestCase):
         cls.session.close()
 
     def wait_for(self, role, name):
-        return self.program.until(lambda: self.client.find(role, name), f"{role} {name}")
+        return self.program.until(f"{role} {name}", lambda _: self.client.find(role, name))
 
     def open_settings(self):
         self.program.do("menu", at=self.program.status_item())
@@ -154,23 +118,23 @@ class AccessibilityBus(unittest.TestCase):
         switch = self.wait_for("check box", "Open when the pointer rests on the notch")
         self.assertFalse(self.client.is_checked(switch))
         self.client.press(switch)
-        self.program.until(lambda: self.program.model("hoverToOpen"), "the setting")
-        self.program.until(lambda: self.client.is_checked(switch), "the switch's new state")
+        self.program.until("the setting", lambda s: s["model"]["hoverToOpen"])
+        self.program.until("the switch's new state", lambda _: self.client.is_checked(switch))
 
     def test_3_picks_a_shortcut(self):
         picker = self.wait_for("combo box", "Keyboard shortcut")
         self.client.press(picker)
         self.client.press(self.wait_for("list item", "⌃⌥Space"))
-        self.program.until(lambda: self.program.model("shortcut") == "controlOptionSpace", "the shortcut")
-        self.program.until(lambda: "⌃⌥Space" in picker.description, "the picker's new value")
+        self.program.until("the shortcut", lambda s: s["model"]["shortcut"] == "controlOptionSpace")
+        self.program.until("the picker's new value", lambda _: "⌃⌥Space" in picker.description)
 
     def test_4_presses_a_tile(self):
         self.program.do("click", at=self.program.status_item())
-        self.program.until(lambda: self.program.do("state")["shown"], "the panel")
+        self.program.until("the panel", lambda s: s["shown"])
         # The item in the menu bar has the same name; it is part of the desktop and takes no action.
-        tile = self.program.until(lambda: self.client.find_pressable("push button", "Relay"), "the tile")
+        tile = self.program.until("the tile", lambda _: self.client.find_pressable("push button", "Relay"))
         self.client.press(tile)
-        self.program.until(lambda: "Open Relay" in (self.program.do("state")["menu"] or []), "Relay's menu")
+        self.program.until("Relay's menu", lambda s: "Open Relay" in (s["menu"] or []))
 
 
 if __name__ == "__main__":

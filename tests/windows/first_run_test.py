@@ -8,6 +8,9 @@ import sys
 import tempfile
 import unittest
 
+sys.path.insert(0, str(pathlib.Path(__file__).resolve().parent.parent / "support"))
+import program  # noqa: E402
+
 
 def application(pid, name, *extras):
     return {"pid": pid, "name": name, "bundleIdentifier": f"app.{name.lower()}",
@@ -31,26 +34,13 @@ DESKTOP = {
 }
 
 
-class Program:
-    """Answers script commands; a command that is refused fails the test."""
-
+class Program(program.Program):
     def __init__(self, folder, desktop):
-        self.folder = pathlib.Path(folder)
-        (self.folder / "desktop.json").write_text(json.dumps(desktop))
-        self._process = subprocess.Popen(
-            [BINARY, "--script", "-", "--desktop", str(self.folder / "desktop.json"),
-             "--defaults", str(self.folder / "settings.json")],
-            stdin=subprocess.PIPE, stdout=subprocess.PIPE, stderr=subprocess.DEVNULL, text=True)
-
-    def do(self, command, **arguments):
-        self._process.stdin.write(json.dumps({"do": command, **arguments}) + "\n")
-        self._process.stdin.flush()
-        answer = json.loads(self._process.stdout.readline())
-        assert answer["ok"], (command, arguments, answer)
-        return answer
-
-    def wait(self, seconds):
-        self.do("advance", seconds=seconds)
+        file = pathlib.Path(folder) / "desktop.json"
+        file.write_text(json.dumps(desktop))
+        super().__init__(subprocess.Popen(
+            [BINARY, "--script", "-", "--desktop", file, "--defaults", file.with_name("settings.json")],
+            stdin=subprocess.PIPE, stdout=subprocess.PIPE, stderr=subprocess.DEVNULL, text=True))
 
     def press(self, name, **more):
         self.do("press-element", name=name, **more)
@@ -59,19 +49,11 @@ class Program:
     def sees(self, text):
         return any(text in (e["name"], e["description"]) for e in self.do("find", text=text)["elements"])
 
-    def state(self):
-        return self.do("state")
-
     def windows(self):
         return [w["name"] for w in self.state()["windows"] if w["visible"]]
 
     def hidden(self):
         return sorted(e["name"] for e in self.state()["model"]["extras"] if e["isHidden"])
-
-    def close(self):
-        self._process.stdin.close()
-        self._process.stdout.close()
-        return self._process.wait(timeout=60)
 
 
 class FirstRun(unittest.TestCase):
@@ -83,7 +65,7 @@ class FirstRun(unittest.TestCase):
         return Program(self.folder.name, {**DESKTOP, **changes})
 
     def tearDown(self):
-        self.assertEqual(self.program.close(), 0)
+        self.assertEqual(self.program.end(), 0)
         self.folder.cleanup()
 
     def test_from_welcome_to_the_new_arrangement(self):
@@ -128,7 +110,7 @@ class FirstRun(unittest.TestCase):
         self.assertTrue(state["divider"]["isEnabled"])
         self.assertEqual(program.hidden(), ["Atlas", "Beacon", "Fjord"])
 
-        self.assertEqual(program.close(), 0)
+        self.assertEqual(program.end(), 0)
         self.program = self.start(trusted=True)
         self.program.wait(2)
         self.assertNotIn("setup", self.program.windows())
@@ -161,15 +143,11 @@ class FirstRun(unittest.TestCase):
         program.press("Close")
         self.assertEqual(program.windows(), [])
         program.do("launch", application=application(900, "Glacier", item("glacier")))
-        program.do("menu", at=self.status_item())
+        program.do("menu", at=program.status_item())
         program.do("choose", title="Setup Guide…")
         program.wait(2)
         self.assertTrue(program.sees("What stays in the menu bar?"))
         self.assertTrue(program.sees("4 in the menu bar  ·  4 in the notch"), "the new item is seeded, nothing else changes")
-
-    def status_item(self):
-        x, y, width, height = self.program.state()["statusItem"]["frame"]
-        return [x + width / 2, y + height / 2]
 
 
 if __name__ == "__main__":

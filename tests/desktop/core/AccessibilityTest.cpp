@@ -1,31 +1,16 @@
 #include "World.h"
 
-#include <QColor>
-#include <cmath>
-
 using namespace brimshade::platform;
-using namespace Qt::StringLiterals;
 
 namespace brimshade::desktop {
-namespace {
 
 DesktopDescription difficultDesktop()
 {
     DesktopDescription description = someDesktop();
     auto odd = application(20, {});
-    ExtraDescription group;
-    group.role = u"AXGroup"_s;
-    group.children = {extra(u"grouped"_s)};
-    ExtraDescription button = extra(u"button"_s);
-    button.role = u"AXButton"_s;
-    button.frameKind = ExtraDescription::Frame::fixed;
-    button.frame = QRectF(860, 0, 20, 37);
     ExtraDescription unreadable = extra(u"unreadable"_s);
     unreadable.frameKind = ExtraDescription::Frame::unreadable;
-    ExtraDescription refusing = extra(u"refusing"_s);
-    refusing.actions = {u"AXShowMenu"_s};
-    refusing.pressError = kAXErrorFailure;
-    odd.extras = {group, button, unreadable, refusing};
+    odd.extras = {group({extra(u"grouped"_s)}), button(QRectF(860, 0, 20, 37)), unreadable};
     auto none = application(21, {});
     none.extras.reset();
     description.applications.insert(description.applications.end(), {odd, none, application(22, {})});
@@ -35,30 +20,12 @@ DesktopDescription difficultDesktop()
 class AccessibilityTest : public World {
 protected:
     AccessibilityTest() : World(difficultDesktop()) { }
-    AXError perform(const AXUIElement &element, const QString &action = u"AXPress"_s)
-    {
-        return accessibility().performAction(element, action);
-    }
-    // The seconds that a read of an application takes on another thread, and what it ended with.
-    std::pair<double, AXError> readOnWorker(int pid, double timeout)
-    {
-        std::pair<double, AXError> result;
-        onWorker([&] {
-            const auto element = accessibility().createApplication(pid);
-            if (timeout >= 0)
-                accessibility().setMessagingTimeout(element, timeout);
-            const double start = dispatch.now();
-            result.second = errorOf(element, u"AXExtrasMenuBar"_s);
-            result.first = std::round((dispatch.now() - start) * 1e6) / 1e6; // the clock counts nanoseconds
-        });
-        return result;
-    }
 };
 
 TEST_F(AccessibilityTest, ReadsTheTreeAsListedAndNamesWhatIsMissing)
 {
     const auto odd = children(bar(20));
-    ASSERT_EQ(odd.size(), 4u);
+    ASSERT_EQ(odd.size(), 3u);
     EXPECT_EQ(text(odd[0], u"AXRole"_s), u"AXGroup"_s);
     ASSERT_EQ(children(odd[0]).size(), 1u);
     EXPECT_EQ(text(children(odd[0])[0], u"AXIdentifier"_s), u"grouped"_s);
@@ -85,55 +52,6 @@ TEST_F(AccessibilityTest, ReadsTheTreeAsListedAndNamesWhatIsMissing)
         EXPECT_EQ(errorOf(element, attribute), error) << name << " " << attribute.toStdString();
 }
 
-TEST_F(AccessibilityTest, EndsRequestsAfterTheElementsTimeoutAndNotLater)
-{
-    auto slow = application(11, {extra(u"a.one"_s)});
-    const auto item = World::item(11, 0);
-    const auto waits = [&](bool hangs, double latency, double timeout) {
-        slow.hangs = hangs;
-        slow.latency = latency;
-        desktop.change(11, {.description = slow});
-        return readOnWorker(11, timeout);
-    };
-    using Result = std::pair<double, AXError>;
-    EXPECT_EQ(waits(true, 0, 0.25), Result(0.25, kAXErrorCannotComplete));
-    EXPECT_EQ(waits(true, 0, -1), Result(6, kAXErrorCannotComplete)) << "the system's own";
-    EXPECT_EQ(waits(true, 0, 0), Result(6, kAXErrorCannotComplete)) << "zero restores it";
-    EXPECT_EQ(waits(false, 0.2, 0.25), Result(0.2, kAXErrorSuccess));
-    EXPECT_EQ(waits(false, 0.25, 0.25), Result(0.25, kAXErrorCannotComplete));
-
-    desktop.change(11, {.description = slow});
-    EXPECT_EQ(errorOf(accessibility().createApplication(11), u"AXRole"_s), kAXErrorSuccess)
-        << "the main thread waits for nobody";
-    accessibility().setMessagingTimeout(accessibility().createApplication(11), 0.1);
-    double took = 0;
-    onWorker([&] {
-        const double start = dispatch.now();
-        EXPECT_EQ(errorOf(item, u"AXRole"_s), kAXErrorSuccess) << "an item does not inherit its application's";
-        took = dispatch.now() - start;
-    });
-    EXPECT_DOUBLE_EQ(took, 0.25);
-    EXPECT_EQ(accessibility().setMessagingTimeout(item, -1), kAXErrorFailure);
-    EXPECT_EQ(accessibility().setMessagingTimeout(nullptr, 1), kAXErrorFailure);
-}
-
-TEST_F(AccessibilityTest, AnswersForWhatHappenedWhileARequestWaited)
-{
-    auto hung = application(11, {extra(u"a.one"_s)});
-    const auto item = World::item(11, 0);
-    hung.hangs = true;
-    desktop.change(11, {.description = hung});
-    AXError pressed = kAXErrorSuccess;
-    dispatch.globalAsync(QualityOfService::userInitiated, [&] {
-        accessibility().setMessagingTimeout(item, 0.5);
-        pressed = perform(item);
-    });
-    dispatch.advance(0.2);
-    desktop.quit(11);
-    dispatch.advance(0.3);
-    EXPECT_EQ(pressed, kAXErrorInvalidUIElement);
-}
-
 TEST_F(AccessibilityTest, KeepsElementsOfUnchangedExtrasAndBuriesTheRest)
 {
     const auto two = item(12, 0), three = item(12, 1);
@@ -158,129 +76,4 @@ TEST_F(AccessibilityTest, KeepsElementsOfUnchangedExtrasAndBuriesTheRest)
     EXPECT_FALSE(desktop.quit(99));
 }
 
-TEST_F(AccessibilityTest, RefusesEverythingWithoutThePermissionAndCountsRequests)
-{
-    const auto item = World::item(11, 0);
-    const auto before = desktop.inspection().requestCount();
-    desktop.setTrusted(false);
-    EXPECT_FALSE(accessibility().isProcessTrusted());
-    EXPECT_EQ(errorOf(item, u"AXRole"_s), kAXErrorAPIDisabled);
-    EXPECT_EQ(errorOf(accessibility().createApplication(99), u"AXRole"_s), kAXErrorAPIDisabled);
-    EXPECT_EQ(perform(item), kAXErrorAPIDisabled);
-    EXPECT_EQ(desktop.inspection().requestCount() - before, 2u);
-
-    EXPECT_FALSE(accessibility().isProcessTrustedWithOptions(false));
-    EXPECT_EQ(desktop.inspection().promptCount(), 0);
-    EXPECT_FALSE(accessibility().isProcessTrustedWithOptions(true));
-    EXPECT_EQ(desktop.inspection().promptCount(), 1);
-    dispatch.runDue();
-    EXPECT_TRUE(desktop.permission().isPromptOpen());
-    desktop.setTrusted(true);
-    EXPECT_FALSE(desktop.permission().isPromptOpen());
-    EXPECT_TRUE(accessibility().isProcessTrustedWithOptions(true));
-    EXPECT_EQ(desktop.inspection().promptCount(), 1);
-}
-
-TEST_F(AccessibilityTest, PressesItemsDrawnOrNotAndRecordsWhatEachActionEndedWith)
-{
-    QString notified;
-    QObject::connect(&desktop, &Desktop::notified,
-                     [&](const QString &application, const QString &what) { notified = application + u": "_s + what; });
-    onWorker([&] { EXPECT_EQ(perform(item(11, 0)), kAXErrorSuccess); }, 0);
-    EXPECT_EQ(desktop.menus().titles(), QStringList({u"Open"_s, u"-"_s, u"Quit"_s}));
-    EXPECT_EQ(desktop.menus().anchor(), axFrame(item(11, 0)));
-    EXPECT_TRUE(desktop.menus().choose(u"Open"_s));
-    EXPECT_EQ(notified, u"Application 11: Open"_s);
-
-    const auto refusing = item(20, 3);
-    EXPECT_EQ(perform(refusing), kAXErrorActionUnsupported) << "an action it lacks";
-    EXPECT_EQ(perform(refusing, u"AXShowMenu"_s), kAXErrorFailure);
-    EXPECT_EQ(perform(bar(11)), kAXErrorActionUnsupported);
-    EXPECT_EQ(perform(accessibility().createApplication(99)), kAXErrorInvalidUIElement);
-    const auto actions = desktop.inspection().takeActions();
-    ASSERT_EQ(actions.size(), 5u);
-    EXPECT_EQ(actions[0].identifier, u"a.one"_s);
-    EXPECT_EQ(actions[2].result, kAXErrorFailure);
-    EXPECT_TRUE(desktop.inspection().takeActions().empty());
-}
-
-TEST_F(AccessibilityTest, HandsAPressOnWhereTheApplicationOpensItsMenusItself)
-{
-    QRectF opened;
-    ApplicationSpec spec{.description = application(11, {extra(u"a.one"_s, 40, {u"Unused"_s})})};
-    spec.openItem[u"a.one"_s] = [&](const QRectF &frame) { opened = frame; };
-    desktop.change(11, spec);
-    settle();
-    const QRectF frame = axFrame(item(11, 0));
-    EXPECT_EQ(perform(item(11, 0)), kAXErrorSuccess);
-    EXPECT_TRUE(opened.isNull()) << "a press does not wait for what it opens";
-    dispatch.runDue();
-    EXPECT_EQ(opened, frame);
-
-    perform(item(11, 0));
-    opened = {};
-    desktop.quit(11); // between the press and its turn
-    dispatch.runDue();
-    EXPECT_TRUE(opened.isNull());
-}
-
-TEST_F(AccessibilityTest, ClosesTheMenuOfAnApplicationThatQuits)
-{
-    perform(item(11, 0));
-    dispatch.runDue();
-    ASSERT_TRUE(desktop.menus().openMenu());
-    desktop.quit(12);
-    EXPECT_TRUE(desktop.menus().openMenu());
-    desktop.quit(11);
-    EXPECT_FALSE(desktop.menus().openMenu());
-}
-
-TEST_F(AccessibilityTest, ListsApplicationsInOrderWithItselfAmongThem)
-{
-    const auto pids = [this] {
-        std::vector<int> pids;
-        for (const auto &application : platform.workspace.runningApplications())
-            pids.push_back(application.processIdentifier);
-        return pids;
-    };
-    desktop.launch({.description = application(5, {})});
-    EXPECT_EQ(pids(), (std::vector{10, 11, 12, 20, 21, 22, desktop.ownPid(), 5}));
-    EXPECT_EQ(platform.workspace.bundleIdentifier(), u"org.brimshade.Brimshade"_s);
-
-    // While it is told, an application is in or out already.
-    std::vector<std::size_t> seen;
-    for (const char *name :
-         {kNSWorkspaceDidLaunchApplicationNotification, kNSWorkspaceDidTerminateApplicationNotification})
-        platform.workspace.notificationCenter().addObserver(QLatin1StringView(name), nullptr,
-                                                            [&] { seen.push_back(pids().size()); });
-    desktop.launch({.description = application(6, {})});
-    desktop.quit(6);
-    EXPECT_EQ(seen, (std::vector<std::size_t>{9, 8}));
-}
-
-TEST_F(AccessibilityTest, FindsIconsAndDisplayNamesByBundle)
-{
-    auto outer = application(30, {});
-    outer.bundlePath = u"/Applications/Outer.app"_s;
-    outer.icon = u"#3b82f6"_s;
-    auto helper = application(31, {});
-    helper.bundlePath = u"/Applications/Shell.app/Contents/Helper.app"_s;
-    helper.icon = u"#ef4444"_s;
-    desktop.launch({.description = outer});
-    desktop.launch({.description = helper});
-    const auto icon = [this](const QString &path) { return platform.workspace.iconForFile(path); };
-    const auto color = [](const Image &image) { return QColor(image.bitmap().pixel(20, 64)); };
-
-    EXPECT_TRUE(icon(u"/Applications/Outer.app"_s).isSameObject(icon(u"/Applications/Outer.app/Contents/x"_s)));
-    EXPECT_TRUE(icon(u"/Applications/Shell.app"_s).isSameObject(icon(*helper.bundlePath)));
-    EXPECT_FALSE(icon(u"/Applications/Outer.application"_s).isSameObject(icon(u"/Applications/Outer.app"_s)));
-    EXPECT_GT(color(icon(*outer.bundlePath)).blue(), 200);
-    EXPECT_GT(color(icon(*helper.bundlePath)).red(), 200);
-    EXPECT_FALSE(icon(u"/nowhere"_s).isNull());
-    desktop.quit(30);
-    EXPECT_GT(color(icon(*outer.bundlePath)).blue(), 200) << "a file's icon outlives its process";
-    EXPECT_EQ(platform.workspace.displayNameAtPath(u"/Applications/Outer.app"_s), u"Outer.app"_s);
-}
-
-} // namespace
 } // namespace brimshade::desktop

@@ -1,9 +1,7 @@
 #include "desktop/core/BarLayout.h"
-
-#include <gtest/gtest.h>
+#include "support/Test.h"
 
 namespace brimshade::desktop {
-namespace {
 
 const BarGeometry kNotched{QRectF(0, 0, 1512, 37), std::pair(663., 849.), 420};
 const BarGeometry kPlain{QRectF(0, 0, 1000, 24), {}, 420};
@@ -77,17 +75,4 @@ TEST(BarLayout, KeepsTheOwnItemsDistanceFromTheRightEdge)
     EXPECT_EQ(preferredIndex({}, {30.4}, 38), 1u) << "kept in whole points";
 }
 
-TEST(BarLayout, IsOnTheFirstScreenWithANotchElseOnThePrimaryOne)
-{
-    platform::Screen plain, notched;
-    plain.localizedName = QStringLiteral("plain");
-    notched.localizedName = QStringLiteral("notched");
-    notched.auxiliaryTopLeftArea = QRectF(0, 945, 663, 37);
-    EXPECT_EQ(barScreen({plain, notched})->localizedName, plain.localizedName) << "half a notch is none";
-    notched.auxiliaryTopRightArea = QRectF(849, 945, 663, 37);
-    EXPECT_EQ(barScreen({plain, notched})->localizedName, notched.localizedName);
-    EXPECT_EQ(barScreen({}), nullptr);
-}
-
-} // namespace
 } // namespace brimshade::desktop

@@ -5,20 +5,16 @@
 #include <atomic>
 
 using namespace brimshade::platform;
-using namespace Qt::StringLiterals;
 
 namespace brimshade::desktop {
-namespace {
 
 // Everything that other threads may ask for, as fast as they can, while the main thread turns the display upside down.
 // What is checked here is what the thread sanitizer sees.
 TEST(DesktopThreads, ReadsAndPostsOnAnyThreadWhileTheDisplayChanges)
 {
     RealDispatch dispatch;
-    NoSymbols symbols;
-    auto desktop = std::make_unique<Desktop>(
-        Desktop::Services{.dispatch = dispatch, .symbols = symbols, .defaults = nullptr, .loginItems = nullptr},
-        someDesktop());
+    FakeSymbols symbols;
+    auto desktop = std::make_unique<Desktop>(Desktop::Services{dispatch, symbols, nullptr, nullptr}, someDesktop());
     const Platform platform = desktop->platform();
     const auto own = platform.statusBar.createStatusItem(28);
 
@@ -72,23 +68,4 @@ TEST(DesktopThreads, ReadsAndPostsOnAnyThreadWhileTheDisplayChanges)
     EXPECT_EQ(desktop->inspection().requestCount(), reads);
 }
 
-// Work that threads have queued finds no desktop any more.
-TEST(DesktopThreads, LeavesNothingBehindInTheQueue)
-{
-    VirtualDispatch dispatch;
-    NoSymbols symbols;
-    std::shared_ptr<StatusItem> own;
-    {
-        Desktop desktop({.dispatch = dispatch, .symbols = symbols, .defaults = nullptr, .loginItems = nullptr},
-                        someDesktop());
-        own = desktop.platform().statusBar.createStatusItem(28);
-        desktop.platform().eventServices.post({kCGEventLeftMouseDown, {1400, 10}, kCGEventFlagMaskCommand, 1});
-        desktop.platform().accessibility.isProcessTrustedWithOptions(true);
-    }
-    dispatch.advance(1);
-    own->setLength(50);
-    own.reset();
-}
-
-} // namespace
 } // namespace brimshade::desktop

@@ -1,10 +1,8 @@
 #include "World.h"
 
 using namespace brimshade::platform;
-using namespace Qt::StringLiterals;
 
 namespace brimshade::desktop {
-namespace {
 
 class Strip : public NativeView {
 public:
@@ -78,21 +76,6 @@ TEST_F(WindowTest, StacksByLevelThenByOrderAndPassesTheKeysOn)
     EXPECT_EQ(key(), u"-"_s) << "a panel that does not activate gives the keys back to the active application";
 }
 
-TEST_F(WindowTest, NeverMakesAWindowKeyThatCannotBe)
-{
-    WindowAttributes attributes;
-    attributes.contentRect = QRectF(0, 0, 10, 10);
-    attributes.canBecomeKey = false;
-    const auto strip = platform.windows.createWindow(attributes, HostedView());
-    strip->makeKeyAndOrderFront();
-    EXPECT_EQ(key(), u"-"_s);
-    click({5, 977});
-    EXPECT_FALSE(strip->isKeyWindow());
-    const auto hidden = create(u"hidden"_s);
-    desktop.windows().makeKey(desktop.windows().named(u"hidden"_s));
-    EXPECT_FALSE(hidden->isKeyWindow());
-}
-
 TEST_F(WindowTest, SizesItselfByItsContentAndStaysBelowTheMenuBar)
 {
     auto window = create(u"settings"_s, kNormalWindowLevel, kStyleTitled | kStyleClosable);
@@ -106,13 +89,6 @@ TEST_F(WindowTest, SizesItselfByItsContentAndStaysBelowTheMenuBar)
     EXPECT_DOUBLE_EQ(maxY(window->frame()), 185 + 668) << "the title bar stays";
     window->setFrame(QRectF(0, 900, 480, 100));
     EXPECT_EQ(maxY(window->frame()), 945);
-
-    WindowAttributes attributes;
-    attributes.constrainsFrame = false;
-    attributes.styleMask = kStyleTitled;
-    const auto free = platform.windows.createWindow(attributes, HostedView());
-    free->setFrame(QRectF(0, 900, 480, 100));
-    EXPECT_EQ(maxY(free->frame()), 1000);
 }
 
 TEST_F(WindowTest, KnowsItsScreenAndComesBackFromOneThatIsGone)
@@ -156,17 +132,6 @@ TEST_F(WindowTest, TellsNativeViewsOfThePointerByEventsAlone)
     desktop.input().released(MouseButton::left, 0);
     moveTo({501, 500});
     EXPECT_EQ(strip->take(), u"exited"_s);
-
-    window->setFrame(QRectF(480, 400, 50, 100));
-    EXPECT_EQ(strip->take(), u"areas"_s);
-    window->orderOut();
-    moveTo({0, 0});
-    EXPECT_EQ(strip->take(), QString());
-    window->orderFrontRegardless();
-    EXPECT_EQ(strip->take(), u"areas"_s);
-    platform.eventServices.post({kCGEventMouseMoved, {500, 500}});
-    dispatch.runDue();
-    EXPECT_EQ(strip->take(), u"entered"_s);
 }
 
 TEST_F(WindowTest, MayBeDestroyedByWhatItIsTold)
@@ -187,5 +152,4 @@ TEST_F(WindowTest, MayBeDestroyedByWhatItIsTold)
     EXPECT_EQ(desktop.windows().named(u"strip"_s), nullptr);
 }
 
-} // namespace
 } // namespace brimshade::desktop

@@ -1,57 +1,15 @@
 #include "World.h"
 
 using namespace brimshade::platform;
-using namespace Qt::StringLiterals;
 
 namespace brimshade::desktop {
 
-ExtraDescription extra(const QString &identifier, double width, const QStringList &menu)
-{
-    ExtraDescription extra;
-    extra.role = u"AXMenuBarItem"_s;
-    extra.identifier = identifier;
-    extra.width = width;
-    extra.actions = {u"AXPress"_s};
-    extra.menu = menu;
-    return extra;
-}
-
-ApplicationDescription application(int pid, const std::vector<ExtraDescription> &extras)
-{
-    ApplicationDescription application;
-    application.pid = pid;
-    application.name = u"Application %1"_s.arg(pid);
-    application.bundleIdentifier = u"app.number%1"_s.arg(pid);
-    application.bundlePath = u"/Applications/Number%1.app"_s.arg(pid);
-    application.extras = extras;
-    return application;
-}
-
-ScreenDescription notchedScreen()
-{
-    return {u"Built-in Display"_s, QRectF(0, 0, 1512, 982), 37, 37, std::pair(663., 849.)};
-}
-
-ScreenDescription plainScreen(const QRectF &frame)
-{
-    return {u"External"_s, frame, 24, 0, {}};
-}
-
 DesktopDescription someDesktop()
 {
-    DesktopDescription description;
-    description.screens = {notchedScreen()};
-    auto agent = application(10, {extra(u"com.example.clock"_s, 132)});
-    agent.bundleIdentifier = u"com.apple.MenuBarAgent"_s;
-    description.applications = {agent, application(11, {extra(u"a.one"_s, 30, {u"Open"_s, u"-"_s, u"Quit"_s})}),
-                                application(12, {extra(u"b.two"_s), extra(u"b.three"_s)})};
-    return description;
-}
-
-World::World(const DesktopDescription &description)
-    : desktop({.dispatch = dispatch, .symbols = symbols, .defaults = nullptr, .loginItems = nullptr}, description),
-      platform(desktop.platform())
-{
+    auto agent = systemAgent({extra(u"com.example.clock"_s, 132)});
+    agent.pid = 10;
+    return notchedDesktop({agent, application(11, {extra(u"a.one"_s, 30, {u"Open"_s, u"-"_s, u"Quit"_s})}),
+                           application(12, {extra(u"b.two"_s), extra(u"b.three"_s)})});
 }
 
 AXUIElement World::bar(int pid)
@@ -91,12 +49,12 @@ QRectF World::axFrame(const AXUIElement &element)
     return position && size ? QRectF(std::get<QPointF>(*position), std::get<QSizeF>(*size)) : QRectF();
 }
 
-QStringList World::barOrder()
+QString World::barOrder()
 {
     QStringList order;
     for (const BarItem &item : desktop.menuBar().items())
         order << item.identifier;
-    return order;
+    return order.join(u' ');
 }
 
 QRectF World::barFrame(const QString &identifier)
@@ -106,42 +64,6 @@ QRectF World::barFrame(const QString &identifier)
             return item.frame;
     }
     return {};
-}
-
-void World::settle()
-{
-    dispatch.advance(0.1);
-}
-
-void World::press(QPointF at, MouseButton button, std::uint64_t flags)
-{
-    moveTo(at, flags);
-    desktop.input().pressed(button, flags);
-}
-
-void World::click(QPointF at, MouseButton button, std::uint64_t flags)
-{
-    press(at, button, flags);
-    desktop.input().released(button, flags);
-}
-
-std::optional<Event> World::key(std::uint16_t code, std::uint64_t flags)
-{
-    Event event;
-    event.keyCode = code;
-    event.modifierFlags = flags;
-    return desktop.input().keyDown(event);
-}
-
-void World::onWorker(const Work &work, double limit)
-{
-    bool isDone = false;
-    dispatch.globalAsync(QualityOfService::userInitiated, [&] {
-        work();
-        isDone = true;
-    });
-    dispatch.advance(limit);
-    ASSERT_TRUE(isDone);
 }
 
 } // namespace brimshade::desktop

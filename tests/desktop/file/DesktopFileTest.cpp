@@ -1,20 +1,13 @@
 #include "desktop/file/DesktopFile.h"
+#include "support/Test.h"
 
-#include <QFile>
 #include <QJsonArray>
 #include <QJsonObject>
-#include <QTemporaryDir>
-#include <gmock/gmock.h>
-#include <gtest/gtest.h>
-#include <limits>
 
 namespace brimshade::desktop {
 
-namespace {
-
 using testing::ElementsAre;
 using testing::Pair;
-using namespace Qt::StringLiterals;
 
 constexpr auto kScreens = R"("screens": [{"frame": [0, 0, 1512, 982]}])";
 
@@ -63,57 +56,41 @@ TEST(DesktopFileTest, ReadsEveryKey)
     EXPECT_EQ(screens[0].name, u"Built-in"_s);
     EXPECT_EQ(screens[0].safeAreaTop, 37); // the bar's height, with a notch
     EXPECT_THAT(screens[0].notch, testing::Optional(Pair(663, 849)));
-    EXPECT_EQ(screens[1].frame, QRectF(-1920, 10.5, 1920, 1080));
-    EXPECT_EQ(screens[1].menuBarHeight, 24);
-    EXPECT_EQ(screens[1].safeAreaTop, 0);
+    EXPECT_EQ(std::tie(screens[1].frame, screens[1].menuBarHeight, screens[1].safeAreaTop),
+              std::tuple(QRectF(-1920, 10.5, 1920, 1080), 24, 0));
     EXPECT_EQ(screens[2].safeAreaTop, 12);
 
     ASSERT_EQ(desktop->applications.size(), 3U);
-    const ApplicationDescription &relay = desktop->applications[0];
-    EXPECT_EQ(relay.pid, 2147483647);
-    EXPECT_EQ(relay.name, u"Relay"_s);
-    EXPECT_EQ(relay.bundleIdentifier, u"app.relay"_s);
-    EXPECT_EQ(relay.bundlePath, u"/A/Relay.app"_s);
-    EXPECT_EQ(relay.icon, u"#3b82F6"_s);
-    EXPECT_TRUE(relay.hangs);
-    EXPECT_EQ(relay.latency, 0.25);
-    EXPECT_THAT(desktop->applications[1].extras, testing::Optional(testing::IsEmpty()));
-    EXPECT_EQ(desktop->applications[1].icon, std::nullopt);
-    EXPECT_EQ(desktop->applications[2].extras, std::nullopt);
-    EXPECT_EQ(desktop->applications[2].name, std::nullopt);
+    const ApplicationDescription &relay = desktop->applications[0], &empty = desktop->applications[1];
+    EXPECT_EQ(std::tie(relay.pid, relay.name, relay.bundleIdentifier, relay.bundlePath, relay.icon),
+              std::tuple(2147483647, u"Relay"_s, u"app.relay"_s, u"/A/Relay.app"_s, u"#3b82F6"_s));
+    EXPECT_EQ(std::tie(relay.hangs, relay.latency), std::tuple(true, 0.25));
+    EXPECT_THAT(empty.extras, testing::Optional(testing::IsEmpty()));
+    EXPECT_EQ(empty.icon, std::nullopt);
+    EXPECT_FALSE(desktop->applications[2].extras || desktop->applications[2].name);
 
     ASSERT_EQ(relay.extras->size(), 3U);
-    const ExtraDescription &full = relay.extras->at(0);
-    EXPECT_EQ(full.role, u"AXButton"_s);
-    EXPECT_EQ(full.title, u"T"_s);
-    EXPECT_EQ(full.description, u""_s); // present and empty
-    EXPECT_EQ(full.identifier, u"id"_s);
-    EXPECT_EQ(full.width, 132.5);
-    EXPECT_EQ(full.frameKind, ExtraDescription::Frame::fixed);
-    EXPECT_EQ(full.frame, QRectF(860, 0, 20, 37));
-    EXPECT_TRUE(full.actions.isEmpty());
-    EXPECT_EQ(full.pressError, -25204);
-    EXPECT_EQ(full.menu, QStringList({u"Open"_s, u"-"_s}));
-    EXPECT_EQ(full.symbol, u"eye.fill"_s);
-    EXPECT_EQ(relay.extras->at(1).frameKind, ExtraDescription::Frame::unreadable);
-    EXPECT_EQ(relay.extras->at(1).children.at(0).title, u"inner"_s);
-    const ExtraDescription &bare = relay.extras->at(2);
-    EXPECT_EQ(bare.role, u"AXMenuBarItem"_s);
-    EXPECT_EQ(bare.title, std::nullopt);
-    EXPECT_EQ(bare.width, 30);
-    EXPECT_EQ(bare.frameKind, ExtraDescription::Frame::laidOut);
-    EXPECT_EQ(bare.actions, QStringList(u"AXPress"_s));
-    EXPECT_EQ(bare.pressError, std::nullopt);
+    const ExtraDescription &full = relay.extras->at(0), &unreadable = relay.extras->at(1), &bare = relay.extras->at(2);
+    using Frame = ExtraDescription::Frame;
+    EXPECT_EQ(std::tie(full.role, full.title, full.description, full.identifier, full.symbol),
+              std::tuple(u"AXButton"_s, u"T"_s, u""_s, u"id"_s, u"eye.fill"_s)); // the description is there, and empty
+    EXPECT_EQ(std::tie(full.width, full.frameKind, full.frame, full.actions, full.pressError, full.menu),
+              std::tuple(132.5, Frame::fixed, QRectF(860, 0, 20, 37), QStringList(), -25204,
+                         QStringList({u"Open"_s, u"-"_s})));
+    EXPECT_EQ(unreadable.frameKind, Frame::unreadable);
+    EXPECT_EQ(unreadable.children.at(0).title, u"inner"_s);
+    EXPECT_EQ(std::tie(bare.role, bare.width, bare.frameKind, bare.actions),
+              std::tuple(u"AXMenuBarItem"_s, 30, Frame::laidOut, QStringList(u"AXPress"_s)));
+    EXPECT_FALSE(bare.title || bare.pressError);
 
     EXPECT_THAT(desktop->displayNames, ElementsAre(Pair(u"/A/Relay.app"_s, u"Relay.app"_s)));
     EXPECT_FALSE(desktop->trusted || desktop->menuBarShowing || desktop->movesAccepted);
     EXPECT_EQ(desktop->pointer, QPointF(756, -500.5));
-    EXPECT_EQ(desktop->loginItem->status, 2);
-    EXPECT_EQ(desktop->loginItem->failure, u"no"_s);
-    EXPECT_EQ(desktop->defaults.value(u"onboardingDone"_s).typeId(), QMetaType::Bool);
+    EXPECT_EQ(std::tie(desktop->loginItem->status, desktop->loginItem->failure), std::tuple(2, u"no"_s));
+    const QVariantMap types{
+        {u"onboardingDone"_s, true}, {u"position"_s, 5LL}, {u"scale"_s, 1.5}, {u"shortcut"_s, u"none"_s}};
+    EXPECT_EQ(desktop->defaults, types);
     EXPECT_EQ(desktop->defaults.value(u"position"_s).typeId(), QMetaType::LongLong);
-    EXPECT_EQ(desktop->defaults.value(u"scale"_s).toDouble(), 1.5);
-    EXPECT_EQ(desktop->defaults.value(u"shortcut"_s), u"none"_s);
 }
 
 TEST(DesktopFileTest, FaultsNameTheirPlace)
@@ -204,11 +181,7 @@ TEST(DesktopFileTest, FileFaultsNameTheFile)
     EXPECT_EQ(readDesktopFile(path).error(), path + u": No such file or directory"_s);
     EXPECT_TRUE(readDesktopFile(folder.path()).error().startsWith(folder.path() + u": "_s));
 
-    const auto write = [&](const QByteArray &content) {
-        QFile file(path);
-        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-        file.write(content);
-    };
+    const auto write = [&](const QByteArray &content) { writeFile(path, content); };
     write("{" + QByteArray(kScreens) + "}");
     EXPECT_TRUE(readDesktopFile(path));
     write("{}");
@@ -217,5 +190,4 @@ TEST(DesktopFileTest, FileFaultsNameTheFile)
     EXPECT_EQ(readDesktopFile(path).error(), path + u": larger than 16 MB"_s);
 }
 
-} // namespace
 } // namespace brimshade::desktop

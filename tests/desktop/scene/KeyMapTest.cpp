@@ -1,11 +1,7 @@
 #include "desktop/scene/KeyMap.h"
-
-#include <gtest/gtest.h>
-
-using namespace Qt::StringLiterals;
+#include "support/Test.h"
 
 namespace brimshade::desktop {
-namespace {
 
 std::optional<platform::Event> typed(int key, Qt::KeyboardModifiers modifiers, const QString &text)
 {
@@ -14,13 +10,7 @@ std::optional<platform::Event> typed(int key, Qt::KeyboardModifiers modifiers, c
 
 TEST(KeyMap, GivesEveryKeyItsVirtualCode)
 {
-    const struct {
-        int key;
-        Qt::KeyboardModifiers modifiers;
-        QString text;
-        std::uint16_t code;
-        std::uint64_t flags;
-    } cases[] = {
+    const std::tuple<int, Qt::KeyboardModifiers, QString, std::uint16_t, std::uint64_t> cases[] = {
         {Qt::Key_Escape, {}, u"\x1b"_s, 53, 0},
         {Qt::Key_Return, {}, u"\r"_s, 36, 0},
         {Qt::Key_Enter, Qt::KeypadModifier, u"\r"_s, 76, 0},
@@ -42,13 +32,13 @@ TEST(KeyMap, GivesEveryKeyItsVirtualCode)
         {Qt::Key_Exclam, Qt::ShiftModifier, u"!"_s, 18, platform::kShiftFlag},
         {Qt::Key_Odiaeresis, {}, u"ö"_s, 0x7f, 0},
     };
-    for (const auto &each : cases) {
-        SCOPED_TRACE(each.key);
-        const auto event = typed(each.key, each.modifiers, each.text);
+    for (const auto &[key, modifiers, text, code, flags] : cases) {
+        SCOPED_TRACE(key);
+        const auto event = typed(key, modifiers, text);
         ASSERT_TRUE(event);
-        EXPECT_EQ(event->keyCode, each.code);
-        EXPECT_EQ(event->modifierFlags, each.flags);
-        EXPECT_EQ(event->characters, each.text);
+        EXPECT_EQ(event->keyCode, code);
+        EXPECT_EQ(event->modifierFlags, flags);
+        EXPECT_EQ(event->characters, text);
     }
 }
 
@@ -59,23 +49,4 @@ TEST(KeyMap, HasNoKeyDownForAModifierOrAKeyThatTypesNothing)
         EXPECT_FALSE(typed(key, {}, {})) << key;
 }
 
-TEST(KeyMap, AnswersTheSameKeyForACodeAsItGaveTheCodeFor)
-{
-    int known = 0;
-    for (std::uint16_t code = 0; code < 128; ++code) {
-        const Qt::Key key = keyFor(code);
-        if (key == Qt::Key_unknown)
-            continue;
-        ++known;
-        const bool isKeypad = keyCodeFor(key, true) == code;
-        EXPECT_EQ(keyCodeFor(key, isKeypad), code);
-    }
-    EXPECT_GE(known, 90);
-    const std::uint64_t all =
-        platform::kShiftFlag | platform::kControlFlag | platform::kOptionFlag | platform::kCommandFlag;
-    for (std::uint64_t flags = 0; flags <= all; flags += platform::kShiftFlag)
-        EXPECT_EQ(modifierFlagsFor(modifiersFor(flags)), flags);
-}
-
-} // namespace
 } // namespace brimshade::desktop

@@ -21,7 +21,6 @@ FocusScope {
         onExited: root.recorder.note("leave " + area.name)
         onPressed: mouse => root.recorder.note("press " + area.name + (mouse.button === Qt.RightButton ? " right" : ""))
         onReleased: root.recorder.note("release " + area.name)
-        onDoubleClicked: root.recorder.note("double " + area.name)
     }
 
     Area {

@@ -6,21 +6,9 @@
 Q_IMPORT_QML_PLUGIN(Brimshade_UiPlugin)
 Q_IMPORT_QML_PLUGIN(Brimshade_DesktopPlugin)
 
-using namespace Qt::StringLiterals;
-
 namespace brimshade::desktop {
 
-namespace {
-
 constexpr double kHeight = 700;
-
-void registerProbes()
-{
-    qmlRegisterType(QUrl(u"qrc:/probes/ProbeView.qml"_s), "Brimshade.Probes", 1, 0, "ProbeView");
-    qmlRegisterType(QUrl(u"qrc:/probes/SizedView.qml"_s), "Brimshade.Probes", 1, 0, "SizedView");
-}
-
-} // namespace
 
 MenuEntry entry(int id, const QString &title)
 {
@@ -41,32 +29,18 @@ MenuEntry separator(int id)
 DesktopDescription SceneContext::smallDesktop()
 {
     DesktopDescription description;
-    ScreenDescription screen;
-    screen.name = u"Screen"_s;
-    screen.frame = QRectF(0, 0, 1000, kHeight);
-    screen.menuBarHeight = 30;
-    description.screens = {screen};
+    description.screens = {plainScreen({0, 0, 1000, kHeight})};
+    description.screens[0].menuBarHeight = 30;
     description.pointer = QPointF(500, 600);
-    ExtraDescription extra;
-    extra.role = u"AXMenuBarItem"_s;
-    extra.title = u"Relay"_s;
-    extra.identifier = u"relay.main"_s;
-    extra.menu = {u"Open Relay"_s, u"-"_s, u"Quit"_s};
-    extra.actions = {u"AXPress"_s};
-    ApplicationDescription relay;
-    relay.pid = 812;
-    relay.name = u"Relay"_s;
-    relay.extras = std::vector{extra};
-    description.applications = {relay};
+    description.applications = {
+        application(812, u"Relay"_s, {extra(u"relay.main"_s, 30, {u"Open Relay"_s, u"-"_s, u"Quit"_s})})};
     return description;
 }
 
 SceneContext::SceneContext(const DesktopDescription &description, double scale) : m_scale(scale)
 {
-    registerProbes();
-    m_desktop = std::make_unique<Desktop>(
-        Desktop::Services{.dispatch = m_clock, .symbols = m_symbols, .defaults = nullptr, .loginItems = nullptr},
-        description);
+    qmlRegisterType(QUrl(u"qrc:/probes/ProbeView.qml"_s), "Brimshade.Probes", 1, 0, "ProbeView");
+    m_desktop = std::make_unique<Desktop>(Desktop::Services{m_clock, m_symbols, nullptr, nullptr}, description);
     remakeScene();
 }
 

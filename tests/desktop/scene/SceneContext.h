@@ -1,15 +1,10 @@
 #pragma once
-#include "desktop/core/Desktop.h"
-#include "desktop/core/MenuHost.h"
-#include "desktop/core/WindowStack.h"
 #include "desktop/scene/SceneHost.h"
-#include "desktop/time/VirtualDispatch.h"
+#include "support/TestDesktop.h"
 #include "ui/SymbolService.h"
 
 #include <QQuickItem>
 #include <QQuickWindow>
-#include <QStringList>
-#include <memory>
 
 namespace brimshade::desktop {
 

@@ -1,31 +1,17 @@
 #include "desktop/services/AutostartEntry.h"
 #include "desktop/services/AutostartLoginItem.h"
-#include "desktop/services/ScriptedLoginItem.h"
-
-#include <QDir>
-#include <QFile>
-#include <QProcess>
-#include <QTemporaryDir>
-#include <gmock/gmock.h>
-#include <gtest/gtest.h>
+#include "support/Test.h"
 
 namespace brimshade::desktop {
-namespace {
 
 using platform::LoginItemStatus;
-using namespace Qt::StringLiterals;
 
 class AutostartTest : public testing::Test {
 protected:
-    AutostartTest() { write(program, "#!/bin/sh\n", true); }
-
-    void write(const QString &path, const QByteArray &content, bool isProgram = false)
+    AutostartTest()
     {
-        QDir().mkpath(QFileInfo(path).path());
-        QFile file(path);
-        ASSERT_TRUE(file.open(QIODevice::WriteOnly)) << qPrintable(path);
-        file.write(content);
-        file.setPermissions(file.permissions().setFlag(QFile::ExeUser, isProgram));
+        writeFile(program, "#!/bin/sh\n");
+        QFile(program).setPermissions(QFile::ReadUser | QFile::ExeUser);
     }
     QByteArray entry(const QByteArray &more) const
     {
@@ -65,7 +51,7 @@ TEST_F(AutostartTest, RegistersAndUnregistersTheProgram)
 
 TEST_F(AutostartTest, AnEntryOfTheSystemIsOverruledByTheUsers)
 {
-    write(systemFile, entry({}));
+    writeFile(systemFile, entry({}));
     EXPECT_EQ(item.status(), LoginItemStatus::enabled);
     ASSERT_TRUE(item.unregisterMainApp());
     EXPECT_EQ(item.status(), LoginItemStatus::notRegistered);
@@ -91,14 +77,14 @@ TEST_F(AutostartTest, ReadsEntriesOfOthers)
           Case{entry("[Desktop Action x]\nHidden=true\n"), LoginItemStatus::enabled},
           Case{entry("# Hidden=true\n Hidden = false\n"), LoginItemStatus::enabled},
           Case{"", LoginItemStatus::notRegistered}, Case{QByteArray(100'000, '['), LoginItemStatus::notRegistered}}) {
-        write(userFile, each.content);
+        writeFile(userFile, each.content);
         EXPECT_EQ(item.status(), each.status) << each.content.left(200).constData();
     }
 }
 
 TEST_F(AutostartTest, FailuresAreTheSystemsWords)
 {
-    write(folder.filePath(u"user"_s), "in the way");
+    writeFile(folder.filePath(u"user"_s), "in the way");
     EXPECT_EQ(item.registerMainApp().error(), u"Not a directory"_s);
     EXPECT_EQ(item.status(), LoginItemStatus::notRegistered);
 }
@@ -107,9 +93,7 @@ TEST_F(AutostartTest, FailuresAreTheSystemsWords)
 TEST_F(AutostartTest, ExecNamesTheProgramWhateverItsName)
 {
     ASSERT_TRUE(item.registerMainApp());
-    QFile file(userFile);
-    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
-    QString exec = QString::fromUtf8(file.readAll()).section(u"\nExec="_s, 1).section(u'\n', 0, 0);
+    QString exec = QString::fromUtf8(readFile(userFile)).section(u"\nExec="_s, 1).section(u'\n', 0, 0);
     exec.replace(u"\\\\"_s, u"\\"_s).replace(u"%%"_s, u"%"_s);
     QProcess shell;
     shell.start(u"sh"_s, {u"-c"_s, u"printf %s "_s + exec});
@@ -117,18 +101,4 @@ TEST_F(AutostartTest, ExecNamesTheProgramWhateverItsName)
     EXPECT_EQ(QString::fromUtf8(shell.readAllStandardOutput()), program);
 }
 
-TEST(ScriptedLoginItemTest, AnswersAsTold)
-{
-    ScriptedLoginItem item;
-    EXPECT_TRUE(item.registerMainApp());
-    EXPECT_EQ(item.status(), LoginItemStatus::enabled);
-    item.answer(LoginItemStatus::requiresApproval, u"denied"_s);
-    EXPECT_EQ(item.unregisterMainApp().error(), u"denied"_s);
-    EXPECT_EQ(item.status(), LoginItemStatus::requiresApproval); // a failure changes nothing
-    item.answer(LoginItemStatus::enabled, std::nullopt);
-    EXPECT_TRUE(item.unregisterMainApp());
-    EXPECT_EQ(item.status(), LoginItemStatus::notRegistered);
-}
-
-} // namespace
 } // namespace brimshade::desktop

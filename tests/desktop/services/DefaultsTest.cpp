@@ -1,20 +1,13 @@
 #include "desktop/services/FileDefaults.h"
+#include "support/Test.h"
 
-#include <QDir>
-#include <QFile>
-#include <QFileInfo>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
-#include <QTemporaryDir>
-#include <gmock/gmock.h>
-#include <gtest/gtest.h>
 
 namespace brimshade::desktop {
-namespace {
 
 using testing::ElementsAre;
-using namespace Qt::StringLiterals;
 
 TEST(MemoryDefaultsTest, ReadsConvertAsOnTheMac)
 {
@@ -39,29 +32,10 @@ TEST(MemoryDefaultsTest, ReadsConvertAsOnTheMac)
     }
 }
 
-TEST(MemoryDefaultsTest, FillLeavesWhatIsStored)
-{
-    MemoryDefaults defaults;
-    defaults.setBool(false, u"a"_s);
-    defaults.fill({{u"a"_s, true}, {u"b"_s, 5}});
-    EXPECT_THAT(defaults.all().keys(), ElementsAre(u"a"_s, u"b"_s));
-    EXPECT_EQ(defaults.objectForKey(u"a"_s).typeId(), QMetaType::Bool);
-    EXPECT_FALSE(defaults.boolForKey(u"a"_s));
-}
-
 class FileDefaultsTest : public testing::Test {
 protected:
-    QByteArray content() const
-    {
-        QFile file(path);
-        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-    }
-    void write(const QByteArray &bytes) const
-    {
-        QFile file(path);
-        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-        file.write(bytes);
-    }
+    QByteArray content() const { return readFile(path); }
+    void write(const QByteArray &bytes) const { writeFile(path, bytes); }
     FileDefaults::Report report()
     {
         return [this](const QString &message) { messages.append(message); };
@@ -126,8 +100,7 @@ TEST_F(FileDefaultsTest, ADamagedFileIsMovedAsideAndNeverOverAnother)
 TEST_F(FileDefaultsTest, AFailedWriteIsReportedAndTheValueStays)
 {
     path = folder.filePath(u"file/settings.json"_s);
-    QFile inTheWay(folder.filePath(u"file"_s));
-    ASSERT_TRUE(inTheWay.open(QIODevice::WriteOnly));
+    writeFile(folder.filePath(u"file"_s), "in the way");
     {
         FileDefaults defaults(path, report());
         defaults.setBool(true, u"flag"_s);
@@ -153,14 +126,11 @@ TEST_F(FileDefaultsTest, RemovesOnlyWhatADeadProcessLeft)
     const QString alive = path + u".1.new"_s;
     const QString dead = path + u".999999999.new"_s; // above any process number
     const QString foreign = path + u".backup.new"_s;
-    for (const QString &each : {alive, dead, foreign}) {
-        QFile file(each);
-        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-    }
+    for (const QString &each : {alive, dead, foreign})
+        writeFile(each, {});
     const FileDefaults defaults(path, report());
     EXPECT_TRUE(QFile::exists(alive) && QFile::exists(foreign));
     EXPECT_FALSE(QFile::exists(dead));
 }
 
-} // namespace
 } // namespace brimshade::desktop

@@ -1,13 +1,9 @@
 #include "desktop/services/LogWriter.h"
-
-#include <gmock/gmock.h>
-#include <gtest/gtest.h>
+#include "support/Test.h"
 
 namespace brimshade::desktop {
-namespace {
 
 using platform::LogLevel;
-using namespace Qt::StringLiterals;
 
 TEST(LogTest, FormatsAsTheUnifiedLogDoes)
 {
@@ -44,5 +40,4 @@ TEST(LogTest, IsTakenOnceAndKeepsTheLatest)
     EXPECT_TRUE(log.take().empty());
 }
 
-} // namespace
 } // namespace brimshade::desktop

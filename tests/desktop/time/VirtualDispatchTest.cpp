@@ -1,19 +1,15 @@
 #include "desktop/time/VirtualDispatch.h"
+#include "support/Test.h"
 
 #include <QObject>
 #include <QPointer>
-#include <QString>
-#include <gmock/gmock.h>
-#include <gtest/gtest.h>
 #include <thread>
 
 namespace brimshade::desktop {
-namespace {
 
 using platform::QualityOfService;
 using testing::DoubleEq;
 using testing::ElementsAre;
-using namespace Qt::StringLiterals;
 
 class VirtualDispatchTest : public testing::Test {
 protected:
@@ -47,31 +43,6 @@ TEST_F(VirtualDispatchTest, ADelayEndsExactlyAtItsBound)
     EXPECT_THAT(dispatch.now(), DoubleEq(start + 1));
 }
 
-TEST_F(VirtualDispatchTest, TheClockShowsTheDueTimeWhileWorkRuns)
-{
-    dispatch.mainAfter(0.25, [this] {
-        note("a");
-        dispatch.mainAfter(0.25, [this] { note("c"); });
-        dispatch.mainAsync([this] { note("b"); });
-    });
-    dispatch.mainAfter(0.5, [this] { note("before c"); }); // queued earlier for the same instant
-    dispatch.advance(2);
-    EXPECT_THAT(log, ElementsAre("a 0.250", "b 0.250", "before c 0.500", "c 0.500"));
-    EXPECT_EQ(dispatch.now(), 2);
-}
-
-TEST_F(VirtualDispatchTest, ATimerTicksAtWholeIntervalsUntilItIsInvalidated)
-{
-    auto timer = dispatch.scheduleRepeating(0.25, [this] { note("tick"); });
-    dispatch.advance(0.249);
-    EXPECT_THAT(log, ElementsAre());
-    dispatch.advance(0.501);
-    EXPECT_THAT(log, ElementsAre("tick 0.250", "tick 0.500", "tick 0.750"));
-    timer->invalidate();
-    dispatch.advance(10);
-    EXPECT_EQ(log.size(), 3U);
-}
-
 TEST_F(VirtualDispatchTest, SleepersTakeTurnsByTheClock)
 {
     // Two queues and the main one, always in the same course.
@@ -96,46 +67,6 @@ TEST_F(VirtualDispatchTest, SleepersTakeTurnsByTheClock)
                             "fast 0.600", "slow 0.800", "slow 1.200", "sync 1.200", "slow 1.200"));
 }
 
-TEST_F(VirtualDispatchTest, NothingRunsUntilItIsTold)
-{
-    bool ran = false;
-    dispatch.globalAsync(QualityOfService::userInitiated, [&] { ran = true; });
-    std::thread([&] { dispatch.mainAsync([this] { note("from another thread"); }); }).join();
-    EXPECT_FALSE(ran);
-    dispatch.runDue();
-    EXPECT_TRUE(ran);
-    EXPECT_THAT(log, ElementsAre("from another thread 0.000"));
-}
-
-TEST_F(VirtualDispatchTest, AtMostEightGlobalPiecesAreUnderWay)
-{
-    int ended = 0;
-    for (int i = 0; i < 10; ++i) {
-        dispatch.globalAsync(QualityOfService::userInitiated, [&] {
-            dispatch.sleep(1);
-            ++ended;
-        });
-    }
-    dispatch.advance(1);
-    EXPECT_EQ(ended, 8);
-    dispatch.advance(1);
-    EXPECT_EQ(ended, 10);
-}
-
-TEST_F(VirtualDispatchTest, QtEventsAreDeliveredBetweenTheBlocks)
-{
-    QObject receiver;
-    const QPointer<QObject> doomed = new QObject;
-    dispatch.mainAsync([&] {
-        QMetaObject::invokeMethod(
-            &receiver, [this] { note("queued call"); }, Qt::QueuedConnection);
-        doomed->deleteLater();
-    });
-    dispatch.mainAsync([&] { note(doomed ? "alive" : "deleted"); });
-    dispatch.runDue();
-    EXPECT_THAT(log, ElementsAre("queued call 0.000", "deleted 0.000"));
-}
-
 TEST_F(VirtualDispatchTest, FramesAreMadeOnlyWhileTheyAreWanted)
 {
     std::vector<double> frames;
@@ -158,31 +89,4 @@ TEST_F(VirtualDispatchTest, FramesAreMadeOnlyWhileTheyAreWanted)
     EXPECT_EQ(frames.size(), 120U); // rounding loses none
 }
 
-TEST_F(VirtualDispatchTest, AFrameComesAfterWhatIsDueAndBeforeWhatItCauses)
-{
-    dispatch.setFrames([] { return true; },
-                       [this] {
-                           note("frame");
-                           dispatch.mainAsync([this] { note("caused"); });
-                       });
-    dispatch.mainAfter(0.05, [this] { note("due"); });
-    dispatch.advance(0.04);
-    log.clear();
-    dispatch.advance(0.01);
-    EXPECT_THAT(log, ElementsAre("due 0.050", "frame 0.050", "caused 0.050"));
-}
-
-TEST_F(VirtualDispatchTest, WorkMayAdvanceTheClockItself)
-{
-    dispatch.mainAfter(0.1, [this] {
-        dispatch.advance(5);
-        note("outer");
-    });
-    dispatch.mainAfter(1, [this] { note("inner"); });
-    dispatch.advance(2);
-    EXPECT_THAT(log, ElementsAre("inner 1.000", "outer 5.100"));
-    EXPECT_THAT(dispatch.now(), DoubleEq(5.1)); // never back
-}
-
-} // namespace
 } // namespace brimshade::desktop

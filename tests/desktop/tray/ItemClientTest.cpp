@@ -1,49 +1,37 @@
 #include "desktop/tray/ItemClient.h"
 #include "FakeProgram.h"
-#include "PrivateBus.h"
 #include "desktop/tray/MenuClient.h"
 
 #include <QDBusObjectPath>
 #include <QRegularExpression>
 #include <QSignalSpy>
-#include <QTemporaryDir>
 
 namespace brimshade::desktop::tray {
 
-using namespace Qt::Literals::StringLiterals;
+QVariant path(const QString &path)
+{
+    return QVariant::fromValue(QDBusObjectPath(path));
+}
 
-namespace {
-
-class ItemClientTest : public BusTest {
+class ItemClientTest : public FakeProgramTest {
 protected:
+    void start()
+    {
+        m_client = std::make_unique<ItemClient>(m_own, ItemKey{m_connection.baseService(), u"/StatusNotifierItem"_s},
+                                                m_dispatch, IconFinder());
+    }
     // The client of the scripted program, once it has been read.
     ItemClient &client()
     {
         if (!m_client) {
-            m_client = std::make_unique<ItemClient>(
-                m_own, ItemKey{m_connection.baseService(), u"/StatusNotifierItem"_s}, m_dispatch, IconFinder());
+            start();
             waitUntil([&] { return m_client->item().has_value(); });
         }
         return *m_client;
     }
-    QStringList presses(int count)
-    {
-        client().press({10, 5, 30, 32});
-        const auto pressed = [this] {
-            return m_program.calls().filter(QRegularExpression(u"^(Activate|ContextMenu)"_s));
-        };
-        waitUntil([&] { return pressed().size() >= count; });
-        settle(m_own, m_connection);
-        return pressed();
-    }
 
-    QDBusConnection m_own = m_bus.connection(u"own"_s);
-    QDBusConnection m_connection = m_bus.connection(u"program"_s);
-    FakeProgram m_program{m_connection};
     std::unique_ptr<ItemClient> m_client;
 };
-
-} // namespace
 
 TEST_F(ItemClientTest, ReadsWhatComesOverTheWire)
 {
@@ -55,7 +43,7 @@ TEST_F(ItemClientTest, ReadsWhatComesOverTheWire)
                             {u"Title"_s, u"One"_s},
                             {u"Status"_s, u"NeedsAttention"_s},
                             {u"IconPixmap"_s, QVariant::fromValue(pictures)},
-                            {u"Menu"_s, QVariant::fromValue(QDBusObjectPath(u"/Menu"_s))},
+                            {u"Menu"_s, path(u"/Menu"_s)},
                             {u"ItemIsMenu"_s, true}};
     const auto &item = *client().item();
     EXPECT_EQ(item.id, u"one"_s);
@@ -70,8 +58,7 @@ TEST_F(ItemClientTest, ALyingPixmapIsOneMessageHoweverOftenItIsRead)
 {
     m_program.properties = {{u"Title"_s, u"Liar"_s},
                             {u"IconPixmap"_s, QVariant::fromValue(WirePictures{{500, 500, QByteArray(3, 'x')}})}};
-    m_client = std::make_unique<ItemClient>(m_own, ItemKey{m_connection.baseService(), u"/StatusNotifierItem"_s},
-                                            m_dispatch, IconFinder());
+    start();
     QSignalSpy messages(m_client.get(), &ItemClient::message), changes(m_client.get(), &ItemClient::changed);
     waitUntil([&] { return changes.size() == 1; });
     m_program.properties[u"Title"_s] = u"Still"_s;
@@ -106,15 +93,10 @@ TEST_F(ItemClientTest, APictureDrawnIntoTheSameFileIsANewOne)
 {
     QTemporaryDir folder;
     const auto file = folder.filePath(u"icon.png"_s);
-    const auto draw = [&](Qt::GlobalColor color) {
-        QImage image(8, 8, QImage::Format_ARGB32);
-        image.fill(color);
-        ASSERT_TRUE(image.save(file));
-    };
-    draw(Qt::red);
+    ASSERT_TRUE(filled(8, 8, Qt::red).save(file));
     m_program.properties = {{u"IconName"_s, file}};
     QSignalSpy changes(&client(), &ItemClient::changed);
-    draw(Qt::blue);
+    ASSERT_TRUE(filled(8, 8, Qt::blue).save(file));
     m_program.signalItem(u"NewIcon"_s);
     waitUntil([&] { return !changes.isEmpty(); });
     EXPECT_EQ(client().image().bitmap().pixelColor(0, 0), QColor(Qt::blue));
@@ -122,40 +104,27 @@ TEST_F(ItemClientTest, APictureDrawnIntoTheSameFileIsANewOne)
 
 TEST_F(ItemClientTest, APressReachesTheProgramTheWayItUnderstands)
 {
-    const QString at = u" 10 37"_s; // the item's lower left corner
-    EXPECT_EQ(presses(1), QStringList{u"Activate"_s + at});
-}
-
-TEST_F(ItemClientTest, WithoutActivateTheContextMenuIsAskedFor)
-{
-    m_program.unknownMethods = {u"Activate"_s};
-    EXPECT_EQ(presses(2), (QStringList{u"Activate 10 37"_s, u"ContextMenu 10 37"_s}));
-}
-
-TEST_F(ItemClientTest, AMenuThatOnlyTheProgramShowsIsAskedForFirst)
-{
-    m_program.properties = {{u"Menu"_s, QVariant::fromValue(QDBusObjectPath(u"/NO_DBUSMENU"_s))}};
-    m_program.unknownMethods = {u"ContextMenu"_s};
-    EXPECT_EQ(presses(2), (QStringList{u"ContextMenu 10 37"_s, u"Activate 10 37"_s}));
-}
-
-TEST_F(ItemClientTest, AnEmptyMenuIsNoMenu)
-{
-    m_program.properties = {{u"Menu"_s, QVariant::fromValue(QDBusObjectPath(u"/Menu"_s))}};
-    QSignalSpy ready(&client(), &ItemClient::menuReady);
-    EXPECT_EQ(presses(1), QStringList{u"ContextMenu 10 37"_s});
-    EXPECT_EQ(ready.size(), 0);
-}
-
-TEST_F(ItemClientTest, ItsMenuIsReadyWithTheFrameThatWasPressed)
-{
-    m_program.properties = {{u"Menu"_s, QVariant::fromValue(QDBusObjectPath(u"/Menu"_s))}, {u"ItemIsMenu"_s, false}};
-    m_program.menu.children = {labelled(1, u"Open"_s)};
-    QSignalSpy ready(&client(), &ItemClient::menuReady);
-    client().press({10, 5, 30, 32});
-    waitUntil([&] { return !ready.isEmpty(); });
-    EXPECT_EQ(ready[0][0].toRectF(), QRectF(10, 5, 30, 32));
-    EXPECT_EQ(client().menu()->entries().size(), 1);
+    // At the item's lower left corner.
+    const QString activate = u"Activate 10 37"_s, contextMenu = u"ContextMenu 10 37"_s;
+    const std::tuple<QVariantMap, QSet<QString>, QStringList> cases[] = {
+        {{}, {}, {activate}},
+        {{}, {u"Activate"_s}, {activate, contextMenu}},
+        {{{u"Menu"_s, path(u"/NO_DBUSMENU"_s)}}, {u"ContextMenu"_s}, {contextMenu, activate}},
+        {{{u"Menu"_s, path(u"/Menu"_s)}}, {}, {contextMenu}}, // an empty menu is none
+    };
+    for (const auto &[properties, unknownMethods, presses] : cases) {
+        m_program.properties = properties;
+        m_program.unknownMethods = unknownMethods;
+        m_client.reset();
+        QSignalSpy ready(&client(), &ItemClient::menuReady);
+        m_program.takeEvents();
+        client().press({10, 5, 30, 32});
+        const auto pressed = [&] { return m_program.calls().filter(QRegularExpression(u"^(Activate|ContextMenu)"_s)); };
+        waitUntil([&] { return pressed().size() >= presses.size(); });
+        settle(m_own, m_connection);
+        EXPECT_EQ(pressed(), presses);
+        EXPECT_EQ(ready.size(), 0);
+    }
 }
 
 TEST_F(ItemClientTest, NothingThatCanBePressedIsAMessage)

@@ -1,17 +1,12 @@
 #include "desktop/tray/MenuClient.h"
 #include "FakeProgram.h"
-#include "PrivateBus.h"
 #include "desktop/tray/TrayMenu.h"
 
 #include <QSignalSpy>
 
 namespace brimshade::desktop::tray {
 
-using namespace Qt::Literals::StringLiterals;
-
-namespace {
-
-class MenuClientTest : public BusTest {
+class MenuClientTest : public FakeProgramTest {
 protected:
     MenuClientTest() { m_program.menu.children = {labelled(1, u"Open"_s), labelled(2, u"Quit"_s)}; }
 
@@ -38,14 +33,9 @@ protected:
         return result;
     }
 
-    QDBusConnection m_own = m_bus.connection(u"own"_s);
-    QDBusConnection m_connection = m_bus.connection(u"program"_s);
-    FakeProgram m_program{m_connection};
     std::unique_ptr<MenuClient> m_client;
     std::unique_ptr<QSignalSpy> m_ready, m_changed;
 };
-
-} // namespace
 
 TEST_F(MenuClientTest, WhatWasReadAheadOpensAtOnce)
 {
@@ -53,17 +43,6 @@ TEST_F(MenuClientTest, WhatWasReadAheadOpensAtOnce)
     m_client->open();
     EXPECT_EQ(m_ready->size(), 1);
     EXPECT_EQ(titles(), (QStringList{u"Open"_s, u"Quit"_s}));
-}
-
-TEST_F(MenuClientTest, AChoiceIsToldInTheOrderThatProgramsExpect)
-{
-    start();
-    open();
-    TrayMenu menu(*m_client);
-    menu.choose(2);
-    menu.closed();
-    settle(m_own, m_connection);
-    EXPECT_EQ(m_program.takeEvents(), (QStringList{u"Event 0 opened"_s, u"Event 2 clicked"_s, u"Event 0 closed"_s}));
 }
 
 TEST_F(MenuClientTest, AMenuThatIsFilledWhenAskedForIsReadBeforeItOpens)

@@ -2,14 +2,8 @@
 #include "WireLayout.h"
 
 #include <QBuffer>
-#include <QImage>
-#include <gtest/gtest.h>
 
 namespace brimshade::desktop::tray {
-
-using namespace Qt::Literals::StringLiterals;
-
-namespace {
 
 QStringList titles(const std::vector<MenuEntry> &entries)
 {
@@ -31,15 +25,11 @@ MenuNode nested(int depth)
 
 QByteArray png(int edge)
 {
-    QImage image(edge, edge, QImage::Format_ARGB32);
-    image.fill(Qt::red);
     QBuffer buffer;
     buffer.open(QIODevice::WriteOnly);
-    image.save(&buffer, "PNG");
+    filled(edge, edge, Qt::red).save(&buffer, "PNG");
     return buffer.data();
 }
-
-} // namespace
 
 TEST(MenuLayoutParsing, ReadsEveryKindOfEntry)
 {

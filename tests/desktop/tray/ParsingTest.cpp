@@ -4,18 +4,11 @@
 #include "desktop/tray/ShortcutText.h"
 #include "desktop/tray/TrayItem.h"
 #include "desktop/tray/WireValue.h"
-
-#include <QDir>
-#include <QTemporaryDir>
-#include <gtest/gtest.h>
+#include "support/Test.h"
 
 #include <sys/stat.h>
 
 namespace brimshade::desktop::tray {
-
-using namespace Qt::Literals::StringLiterals;
-
-namespace {
 
 QVariant picture(QVariant width, QVariant height, const QByteArray &bytes)
 {
@@ -27,23 +20,18 @@ QVariantList strings(const QStringList &texts)
     return {QVariant(texts)};
 }
 
-} // namespace
-
 TEST(Registration, TakesEveryFormThatProgramsUseAndNothingElse)
 {
     const auto sender = u":1.7"_s;
-    const struct {
-        QString argument, service, path;
-    } good[] = {
+    const std::tuple<QString, QString, QString> good[] = {
         {u"/org/ayatana/NotificationItem/redshift"_s, sender, u"/org/ayatana/NotificationItem/redshift"_s},
         {u"org.kde.StatusNotifierItem-41-1"_s, u"org.kde.StatusNotifierItem-41-1"_s, u"/StatusNotifierItem"_s},
         {u":1.70"_s, u":1.70"_s, u"/StatusNotifierItem"_s},
         {u":1.70/org/item/1"_s, u":1.70"_s, u"/org/item/1"_s},
         {u"/"_s, sender, u"/"_s},
     };
-    for (const auto &row : good)
-        EXPECT_EQ(parseRegistration(row.argument, sender), (Registration{row.service, row.path}))
-            << row.argument.toStdString();
+    for (const auto &[argument, service, path] : good)
+        EXPECT_EQ(parseRegistration(argument, sender), (Registration{service, path})) << argument.toStdString();
 
     for (const auto &bad : {u""_s, u"word"_s, u"a..b"_s, u"1a.b"_s, u":1"_s, u"org.x/with space"_s, u"//"_s, u"/a/"_s,
                             u"org.x//y"_s, u"a.b\n"_s, u"ä.b"_s, QString(300, u'a') + u".b"_s})
@@ -116,52 +104,12 @@ TEST(TrayItemParsing, TextsBecomeOnePlainBoundedLine)
     EXPECT_EQ(item.toolTipText, u"3&nbsp;new 1 < 2"_s);
 }
 
-TEST(TrayItemParsing, NamesAndIconsFallBackInOrder)
-{
-    TrayItem item;
-    item.id = u"id"_s;
-    EXPECT_EQ(item.nameForPeople(), u"id"_s);
-    item.toolTipTitle = u"tip"_s;
-    EXPECT_EQ(item.nameForPeople(), u"tip"_s);
-    item.title = u"title"_s;
-    EXPECT_EQ(item.nameForPeople(), u"title"_s);
-
-    item.icon.name = u"calm"_s;
-    item.status = TrayItem::Status::needsAttention;
-    EXPECT_EQ(item.shownIcon().name, u"calm"_s);
-    item.attentionIcon.name = u"alarm"_s;
-    EXPECT_EQ(item.shownIcon().name, u"alarm"_s);
-    item.status = TrayItem::Status::passive;
-    EXPECT_EQ(item.shownIcon().name, u"calm"_s);
-}
-
-TEST(TrayItemParsing, APressTriesWhatTheProgramOffers)
-{
-    using enum Press;
-    const struct {
-        QVariantMap properties;
-        std::vector<Press> order;
-    } rows[] = {
-        {{{u"Menu"_s, u"/MenuBar"_s}}, {menu, contextMenu, activate}},
-        {{{u"Menu"_s, u"/MenuBar"_s}, {u"ItemIsMenu"_s, false}}, {menu, contextMenu, activate}},
-        {{{u"Menu"_s, u"/NO_DBUSMENU"_s}}, {contextMenu, activate}},
-        {{{u"Menu"_s, u"/"_s}}, {activate, contextMenu}},
-        {{{u"ItemIsMenu"_s, true}}, {contextMenu, activate}},
-        {{}, {activate, contextMenu}},
-    };
-    for (const auto &row : rows)
-        EXPECT_EQ(pressOrder(parseItem(row.properties).item), row.order);
-}
-
 TEST(Icons, AreFoundInABareFolderAndInAThemeBelowIt)
 {
     QTemporaryDir folder;
     QDir(folder.path()).mkpath(u"hicolor/32x32/apps"_s);
-    QImage red(8, 8, QImage::Format_ARGB32), blue(32, 32, QImage::Format_ARGB32);
-    red.fill(Qt::red);
-    blue.fill(Qt::blue);
-    red.save(folder.filePath(u"bare.png"_s));
-    blue.save(folder.filePath(u"hicolor/32x32/apps/deep-symbolic.png"_s));
+    filled(8, 8, Qt::red).save(folder.filePath(u"bare.png"_s));
+    filled(32, 32, Qt::blue).save(folder.filePath(u"hicolor/32x32/apps/deep-symbolic.png"_s));
 
     const IconFinder finder;
     EXPECT_EQ(finder.find(u"bare"_s, folder.path()).bitmap().size(), QSize(8, 8));
@@ -179,11 +127,9 @@ TEST(Icons, WhatIsNoPictureIsNotOpenedForEver)
     QTemporaryDir folder;
     const auto pipe = folder.filePath(u"pipe.png"_s);
     ASSERT_EQ(mkfifo(pipe.toLocal8Bit().constData(), 0600), 0);
-    QFile text(folder.filePath(u"text.png"_s));
-    ASSERT_TRUE(text.open(QIODevice::WriteOnly));
-    text.write("not a picture");
-    text.close();
-    for (const auto &path : {pipe, text.fileName(), folder.path()})
+    const auto text = folder.filePath(u"text.png"_s);
+    writeFile(text, "not a picture");
+    for (const auto &path : {pipe, text, folder.path()})
         EXPECT_TRUE(IconFinder().find(path, {}).isNull()) << path.toStdString();
 }
 
@@ -191,10 +137,8 @@ TEST(Icons, ThePixelsStandInForAnUnknownNameAndTheOverlayLiesOverThem)
 {
     TrayItem item;
     item.icon.name = u"no-theme-has-this"_s;
-    item.icon.pixmap = QImage(16, 16, QImage::Format_ARGB32);
-    item.icon.pixmap.fill(Qt::green);
-    item.overlayIcon.pixmap = QImage(4, 4, QImage::Format_ARGB32);
-    item.overlayIcon.pixmap.fill(Qt::red);
+    item.icon.pixmap = filled(16, 16, Qt::green);
+    item.overlayIcon.pixmap = filled(4, 4, Qt::red);
     const auto image = IconFinder().itemImage(item);
     EXPECT_EQ(image.size(), QSizeF(22, 22));
     EXPECT_EQ(image.bitmap().pixelColor(2, 2), QColor(Qt::green));
@@ -203,17 +147,14 @@ TEST(Icons, ThePixelsStandInForAnUnknownNameAndTheOverlayLiesOverThem)
 
 TEST(Shortcuts, AreWrittenAsMenusWriteThem)
 {
-    const struct {
-        QStringList keys;
-        QString text;
-    } rows[] = {
+    const std::tuple<QStringList, QString> rows[] = {
         {{u"Control"_s, u"q"_s}, u"⌃Q"_s},
         {{u"Super"_s, u"Shift"_s, u"Alt"_s, u"Control"_s, u"F5"_s}, u"⌃⌥⇧⌘F5"_s},
         {{u"Control"_s, u"plus"_s}, u"⌃+"_s},
         {{u"Return"_s}, u"↩"_s},
     };
-    for (const auto &row : rows)
-        EXPECT_EQ(shortcutText(strings(row.keys)), row.text);
+    for (const auto &[keys, text] : rows)
+        EXPECT_EQ(shortcutText(strings(keys)), text);
     EXPECT_EQ(shortcutText(QVariantList{}), QString());
     EXPECT_EQ(shortcutText(QVariantList{QVariantList{}}), QString());
     EXPECT_EQ(shortcutText(u"Control+Q"_s), QString());

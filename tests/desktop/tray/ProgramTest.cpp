@@ -1,24 +1,10 @@
 #include "desktop/tray/Program.h"
 #include "desktop/tray/HostedApplication.h"
+#include "support/Test.h"
 
 #include <QCoreApplication>
-#include <QDir>
-#include <QTemporaryDir>
-#include <gtest/gtest.h>
 
 namespace brimshade::desktop::tray {
-
-using namespace Qt::Literals::StringLiterals;
-
-namespace {
-
-void write(const QString &path, const QByteArray &content)
-{
-    QDir().mkpath(QFileInfo(path).path());
-    QFile file(path);
-    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-    file.write(content);
-}
 
 HostedItem item(const QString &id, const QString &title, const QString &path, const QString &owner = u":1.1"_s)
 {
@@ -27,8 +13,6 @@ HostedItem item(const QString &id, const QString &title, const QString &path, co
     result.title = title;
     return {{owner, path}, result, {}, [](const QRectF &) {}};
 }
-
-} // namespace
 
 TEST(DesktopEntries, TellNameIconAndProgram)
 {
@@ -51,11 +35,11 @@ TEST(DesktopEntries, TellNameIconAndProgram)
 TEST(DesktopEntries, TheFirstFolderOverridesTheLaterOnes)
 {
     QTemporaryDir user, system;
-    write(user.filePath(u"one.desktop"_s), "[Desktop Entry]\nType=Application\nName=Mine\n");
-    write(user.filePath(u"off.desktop"_s), "[Desktop Entry]\nType=Application\nHidden=true\n");
-    write(system.filePath(u"one.desktop"_s), "[Desktop Entry]\nType=Application\nName=Theirs\n");
-    write(system.filePath(u"off.desktop"_s), "[Desktop Entry]\nType=Application\nName=Off\n");
-    write(system.filePath(u"sub/two.desktop"_s), "[Desktop Entry]\nType=Application\nName=Two\n");
+    writeFile(user.filePath(u"one.desktop"_s), "[Desktop Entry]\nType=Application\nName=Mine\n");
+    writeFile(user.filePath(u"off.desktop"_s), "[Desktop Entry]\nType=Application\nHidden=true\n");
+    writeFile(system.filePath(u"one.desktop"_s), "[Desktop Entry]\nType=Application\nName=Theirs\n");
+    writeFile(system.filePath(u"off.desktop"_s), "[Desktop Entry]\nType=Application\nName=Off\n");
+    writeFile(system.filePath(u"sub/two.desktop"_s), "[Desktop Entry]\nType=Application\nName=Two\n");
     const auto entries = readDesktopEntries({user.path(), system.path()}, {});
     ASSERT_EQ(entries.size(), 2);
     EXPECT_EQ(entries[0].name, u"Mine"_s);
@@ -71,10 +55,7 @@ TEST(Programs, AreMatchedToTheirEntry)
         {u"redshift-gtk"_s, u"Redshift"_s, {}, u"redshift-gtk"_s, true},
         {u"python3.11"_s, u"Python"_s, {}, u"python3.11"_s, true},
     };
-    const struct {
-        Process process;
-        QString id;
-    } rows[] = {
+    const std::tuple<Process, QString> rows[] = {
         {{u"/usr/bin/keepassxc"_s, {u"keepassxc"_s}}, u"org.keepassxc.KeePassXC"_s},
         {{u"/usr/bin/office"_s, {u"office"_s, u"--calc"_s}}, u"office"_s},
         {{u"/usr/bin/python3.11"_s, {u"/usr/bin/python3"_s, u"-u"_s, u"/usr/bin/redshift-gtk"_s}}, u"redshift-gtk"_s},
@@ -83,9 +64,9 @@ TEST(Programs, AreMatchedToTheirEntry)
         {{u"/usr/bin/unheard-of"_s, {}}, {}},
         {{}, {}},
     };
-    for (const auto &row : rows) {
-        const auto entry = findEntry(row.process, entries);
-        EXPECT_EQ(entry ? entry->id : QString(), row.id) << row.process.executable.toStdString();
+    for (const auto &[process, id] : rows) {
+        const auto entry = findEntry(process, entries);
+        EXPECT_EQ(entry ? entry->id : QString(), id) << process.executable.toStdString();
     }
 }
 

@@ -1,14 +1,9 @@
 #include "FakeProgram.h"
-#include "PrivateBus.h"
 #include "desktop/tray/ItemRegistry.h"
 
 #include <QSignalSpy>
 
 namespace brimshade::desktop::tray {
-
-using namespace Qt::Literals::StringLiterals;
-
-namespace {
 
 const auto kWatcher = u"org.kde.StatusNotifierWatcher"_s;
 
@@ -52,8 +47,6 @@ protected:
     QStringList m_events;
 };
 
-} // namespace
-
 TEST_F(RegistryTest, HearsEveryFormOfRegistration)
 {
     startAsWatcher();
@@ -63,17 +56,15 @@ TEST_F(RegistryTest, HearsEveryFormOfRegistration)
     connection.registerService(u"org.kde.StatusNotifierItem-5-1"_s);
     FakeProgram program(connection);
 
-    const struct {
-        QString argument, event;
-    } rows[] = {
+    const std::tuple<QString, QString> rows[] = {
         {u"/org/item"_s, name + u"/org/item"_s},
         {name, name + u"/StatusNotifierItem"_s},
         {other, other + u"/StatusNotifierItem"_s},
         {u"org.kde.StatusNotifierItem-5-1/named"_s, name + u"/named"_s},
     };
-    for (const auto &row : rows) {
-        program.registerItem(row.argument);
-        EXPECT_EQ(waitForEvents(1), QStringList{u"+"_s + row.event});
+    for (const auto &[argument, event] : rows) {
+        program.registerItem(argument);
+        EXPECT_EQ(waitForEvents(1), QStringList{u"+"_s + event});
     }
     program.registerItem(u"org.kde.StatusNotifierItem-5-1"_s); // the second one again, by another name
     program.registerItem(u"org.nobody.has.This"_s);
@@ -98,27 +89,6 @@ TEST_F(RegistryTest, DropsTheItemsOfAProgramThatLeavesOrLetsItsNameGo)
     EXPECT_EQ(waitForEvents(1), QStringList{u"-"_s + left + u"/a"_s});
     staying.unregisterService(u"org.kde.StatusNotifierItem-7-1"_s);
     EXPECT_EQ(waitForEvents(1), QStringList{u"-"_s + stayed + u"/StatusNotifierItem"_s});
-}
-
-TEST_F(RegistryTest, ShowsItsPropertiesToWhoLooksBeforeRegistering)
-{
-    startAsWatcher();
-    QObject context;
-    QString xml;
-    QVariant host;
-    const auto program = m_bus.connection(u"program"_s);
-    callAsync(program, {kWatcher, u"/StatusNotifierWatcher"_s, u"org.freedesktop.DBus.Introspectable"_s},
-              u"Introspect"_s, {}, &context,
-              [&](const BusReply &reply) { xml = reply ? reply->value(0).toString() : u"error"_s; });
-    callAsync(program, {kWatcher, u"/StatusNotifierWatcher"_s, u"org.freedesktop.DBus.Properties"_s}, u"Get"_s,
-              {kWatcher, u"IsStatusNotifierHostRegistered"_s}, &context,
-              [&](const BusReply &reply) { host = reply ? reply->value(0) : u"error"_s; });
-    waitUntil([&] { return !xml.isEmpty() && host.isValid(); });
-    EXPECT_EQ(host, QVariant(true));
-    for (const auto &property : {u"RegisteredStatusNotifierItems\" type=\"as"_s,
-                                 u"IsStatusNotifierHostRegistered\" type=\"b"_s, u"ProtocolVersion\" type=\"i"_s})
-        EXPECT_TRUE(xml.contains(property)) << xml.toStdString();
-    EXPECT_FALSE(xml.contains(u"registrationAsked"_s));
 }
 
 TEST_F(RegistryTest, RefusesWhatNamesNoItem)

@@ -1,42 +1,11 @@
 #include "desktop/tray/TrayHost.h"
 #include "FakeProgram.h"
-#include "PrivateBus.h"
-#include "desktop/core/Desktop.h"
-#include "desktop/core/MenuBar.h"
-#include "desktop/core/MenuHost.h"
-#include "platform/Accessibility.h"
-#include "platform/LoginItems.h"
-#include "platform/Symbol.h"
-#include "platform/UserDefaults.h"
-#include "platform/Workspace.h"
+#include "support/TestDesktop.h"
 
 #include <QDBusConnectionInterface>
 #include <QDBusObjectPath>
 
 namespace brimshade::desktop::tray {
-
-using namespace Qt::Literals::StringLiterals;
-
-namespace {
-
-class NoSymbols : public platform::Symbols {
-public:
-    platform::Image symbolImage(const QString &, const QString &, const platform::SymbolConfiguration &) override
-    {
-        return {};
-    }
-};
-
-DesktopDescription describeDesktop()
-{
-    DesktopDescription description;
-    ScreenDescription screen;
-    screen.frame = {0, 0, 1512, 982};
-    screen.menuBarHeight = screen.safeAreaTop = 37;
-    screen.notch = {{663, 849}};
-    description.screens = {screen};
-    return description;
-}
 
 class TrayHostTest : public BusTest {
 protected:
@@ -98,12 +67,10 @@ protected:
         EXPECT_EQ(accessibility.performAction(item, u"AXPress"_s), platform::kAXErrorSuccess);
     }
 
-    NoSymbols m_symbols;
-    Desktop m_desktop{{m_dispatch, m_symbols, nullptr, nullptr}, describeDesktop()};
+    FakeSymbols m_symbols;
+    Desktop m_desktop{{m_dispatch, m_symbols, nullptr, nullptr}, notchedDesktop({})};
     TrayHost m_host{m_desktop, m_bus.connection(u"own"_s), m_dispatch};
 };
-
-} // namespace
 
 TEST_F(TrayHostTest, AnEntryOfAnItemsMenuReachesItsProgram)
 {

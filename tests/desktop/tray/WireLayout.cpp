@@ -26,15 +26,15 @@ QVariant MenuNode::plain() const
 
 MenuNode labelled(int id, const QString &label, QVariantMap more, std::vector<MenuNode> children)
 {
-    more.insert(QStringLiteral("label"), label);
+    more.insert(u"label"_s, label);
     if (!children.empty())
-        more.insert(QStringLiteral("children-display"), QStringLiteral("submenu"));
+        more.insert(u"children-display"_s, u"submenu"_s);
     return {id, more, std::move(children)};
 }
 
 MenuNode separator(int id)
 {
-    return {id, {{QStringLiteral("type"), QStringLiteral("separator")}}, {}};
+    return {id, {{u"type"_s, u"separator"_s}}, {}};
 }
 
 QDBusArgument &operator<<(QDBusArgument &argument, const MenuNode &node)

@@ -1,9 +1,7 @@
 #pragma once
+#include "support/Test.h"
+
 #include <QDBusArgument>
-#include <QMetaType>
-#include <QString>
-#include <QVariantMap>
-#include <vector>
 
 namespace brimshade::desktop::tray {
 

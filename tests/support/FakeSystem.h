@@ -1,0 +1,186 @@
+#pragma once
+#include "Platform.h"
+
+namespace brimshade {
+
+class Picture : public platform::ImageSource {
+public:
+    explicit Picture(const QImage &image) : m_image(image) { }
+    void draw(QPainter &painter, const QRectF &rect) const override { painter.drawImage(rect, m_image); }
+    QImage bitmap() const override { return m_image; }
+
+private:
+    QImage m_image;
+};
+
+inline platform::Image picture(const QImage &image)
+{
+    return {std::make_shared<Picture>(image), QSizeF(image.size())};
+}
+
+// A square with a margin, as icons of applications are.
+inline platform::Image icon(const QColor &colour)
+{
+    QImage image = filled(128, 128, Qt::transparent);
+    QPainter(&image).fillRect(8, 8, 112, 112, colour);
+    return picture(image);
+}
+
+// Every symbol is empty, and as large as it was asked for.
+class FakeSymbols : public platform::Symbols {
+public:
+    platform::Image symbolImage(const QString &, const QString &, const platform::SymbolConfiguration &wanted) override
+    {
+        return {std::make_shared<Picture>(QImage()), {wanted.pointSize, wanted.pointSize}, true};
+    }
+};
+
+class FakeDefaults : public platform::UserDefaults {
+public:
+    explicit FakeDefaults(QStringList &journal) : m_journal(journal) { }
+    QVariantMap stored;
+
+    QVariant objectForKey(const QString &key) const override { return read(key); }
+    bool boolForKey(const QString &key) const override { return read(key).toBool(); }
+    QString stringForKey(const QString &key) const override
+    {
+        const QVariant value = read(key);
+        return value.typeId() == QMetaType::QString ? value.toString() : QString();
+    }
+    void setBool(bool value, const QString &key) override { write(key, value); }
+    void setInteger(qlonglong value, const QString &key) override { write(key, value); }
+    void setObject(const QString &value, const QString &key) override { write(key, value); }
+
+private:
+    QVariant read(const QString &key) const
+    {
+        m_journal << u"read "_s + key;
+        return stored.value(key);
+    }
+    void write(const QString &key, const QVariant &value)
+    {
+        m_journal << u"store %1 %2"_s.arg(key, value.toString());
+        stored.insert(key, value);
+    }
+
+    QStringList &m_journal;
+};
+
+class FakeLoginItems : public platform::LoginItems {
+public:
+    explicit FakeLoginItems(QStringList &journal) : m_journal(journal) { }
+    platform::LoginItemStatus now = platform::LoginItemStatus::notRegistered;
+    std::optional<QString> failure;
+
+    platform::LoginItemStatus status() const override
+    {
+        m_journal << u"status"_s;
+        return now;
+    }
+    std::expected<void, QString> registerMainApp() override
+    {
+        return change(u"register"_s, platform::LoginItemStatus::enabled);
+    }
+    std::expected<void, QString> unregisterMainApp() override
+    {
+        return change(u"unregister"_s, platform::LoginItemStatus::notRegistered);
+    }
+
+private:
+    std::expected<void, QString> change(const QString &what, platform::LoginItemStatus status)
+    {
+        m_journal << what;
+        if (failure)
+            return std::unexpected(*failure);
+        now = status;
+        return {};
+    }
+
+    QStringList &m_journal;
+};
+
+class FakeMenus : public platform::Menus {
+public:
+    explicit FakeMenus(QStringList &journal) : m_journal(journal) { }
+    platform::Menu menu; // the latest
+
+    void popUpContextMenu(const platform::Menu &opened, platform::Work dismissed) override
+    {
+        menu = opened;
+        QStringList titles;
+        for (const platform::MenuItem &item : menu.items)
+            titles << (item.isEnabled ? item.title : u'-' + item.title);
+        m_journal << u"menu "_s + titles.join(u',');
+        dismissed();
+    }
+
+private:
+    QStringList &m_journal;
+};
+
+class FakeAccessibility : public platform::Accessibility {
+public:
+    explicit FakeAccessibility(QStringList &journal) : m_journal(journal) { }
+    bool trusted = false;
+    int questions = 0;
+
+    platform::AXUIElement createApplication(int) override { return {}; }
+    platform::AXError setMessagingTimeout(const platform::AXUIElement &, double) override { return kFailure; }
+    std::expected<platform::AXAttributeValue, platform::AXError> copyAttributeValue(const platform::AXUIElement &,
+                                                                                    const QString &) override
+    {
+        return std::unexpected(kFailure);
+    }
+    platform::AXError performAction(const platform::AXUIElement &, const QString &) override { return kFailure; }
+    bool isProcessTrusted() override
+    {
+        ++questions;
+        return trusted;
+    }
+    bool isProcessTrustedWithOptions(bool prompt) override
+    {
+        if (prompt)
+            m_journal << u"prompt"_s;
+        return trusted;
+    }
+
+private:
+    static constexpr auto kFailure = platform::kAXErrorFailure;
+    QStringList &m_journal;
+};
+
+class FakeWorkspace : public platform::Workspace, private platform::NotificationCenter {
+public:
+    explicit FakeWorkspace(QStringList &journal) : m_journal(journal) { }
+
+    std::vector<platform::RunningApplication> runningApplications() const override { return {}; }
+    int processIdentifier() const override { return 1; }
+    std::optional<QString> bundleIdentifier() const override { return {}; }
+    QString displayNameAtPath(const QString &path) const override { return path; }
+    platform::Image iconForFile(const QString &) const override { return {}; }
+    bool openURL(const QString &url) override
+    {
+        m_journal << u"open "_s + url;
+        return true;
+    }
+    platform::NotificationCenter &notificationCenter() override { return *this; }
+
+private:
+    void addObserver(const QString &, const void *, platform::Work) override { }
+
+    QStringList &m_journal;
+};
+
+// What models and views ask of the system, in memory, with one journal of it so that its order shows: "read
+// hoverToOpen", "store hoverToOpen true", "status", "menu Open,-Hide from Menu Bar" ("-" marks a disabled entry), "open
+// x-apple…".
+struct FakeSystem {
+    QStringList journal;
+    FakeDefaults defaults{journal};
+    FakeLoginItems loginItems{journal};
+    FakeMenus menus{journal};
+    FakeAccessibility accessibility{journal};
+    FakeWorkspace workspace{journal};
+};
+
+} // namespace brimshade
