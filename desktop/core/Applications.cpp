@@ -67,8 +67,8 @@ bool Applications::change(int pid, const ApplicationSpec &application)
     if (hosted == m_hosted.end() || application.description.pid != pid)
         return false;
     const bool hasSameIcon =
-        application.icon.isNull() && application.description.icon == hosted->second.spec.description.icon;
-    hosted->second.spec = application;
+        application.icon.isNull() && application.description.icon == hosted->second.given.description.icon;
+    hosted->second.given = application;
     if (!hasSameIcon)
         hosted->second.icon = {};
     host(hosted->second);
@@ -110,7 +110,7 @@ void Applications::dismissOrphanedMenu()
 void Applications::host(Hosted &hosted)
 {
     if (hosted.icon.isNull())
-        hosted.icon = hosted.spec.icon.isNull() ? makeIcon(hosted.spec.description) : hosted.spec.icon;
+        hosted.icon = hosted.given.icon.isNull() ? makeIcon(hosted.given.description) : hosted.given.icon;
     const auto extras = publish(hosted);
     auto before = std::exchange(hosted.items, {});
     m_menuBar.update([&] {
@@ -131,7 +131,7 @@ void Applications::host(Hosted &hosted)
 
 std::vector<DescribedExtra> Applications::publish(Hosted &hosted)
 {
-    const ApplicationDescription &description = hosted.spec.description;
+    const ApplicationDescription &description = hosted.given.description;
     return m_state.write([&](DisplayState &state) {
         const auto known =
             std::ranges::find(state.applications, description.pid, &RunningApplication::processIdentifier);
@@ -164,7 +164,7 @@ std::vector<DescribedExtra> Applications::publish(Hosted &hosted)
 
 BarEntryPointer Applications::makeEntry(const Hosted &hosted, const DescribedExtra &extra, BarEntryPointer before)
 {
-    const ApplicationDescription &application = hosted.spec.description;
+    const ApplicationDescription &application = hosted.given.description;
     const ExtraDescription &description = extra.description;
     const auto place = placeOf(application, description);
     if (before && (before->place != place || description.frameKind == ExtraDescription::Frame::unreadable))
@@ -183,9 +183,9 @@ BarEntryPointer Applications::makeEntry(const Hosted &hosted, const DescribedExt
     entry->title = description.title.value_or(QString());
     entry->description = description.description.value_or(QString());
     entry->symbol = description.symbol;
-    entry->toolTip = valueOr(hosted.spec.toolTips, entry->identifier);
+    entry->toolTip = valueOr(hosted.given.toolTips, entry->identifier);
     const bool showsIcon = description.role == "AXMenuBarItem"_L1;
-    entry->image = valueOr(hosted.spec.itemImages, entry->identifier, showsIcon ? hosted.icon : Image());
+    entry->image = valueOr(hosted.given.itemImages, entry->identifier, showsIcon ? hosted.icon : Image());
     if (!before)
         m_menuBar.add(entry);
     return entry;
@@ -212,11 +212,11 @@ void Applications::open(const Hosted &hosted, const Item &item)
 {
     const ExtraDescription &extra = item.extra.description;
     const QRectF frame = item.entry ? item.entry->frame.value_or(QRectF()) : QRectF();
-    if (const OpenItem opens = valueOr(hosted.spec.openItem, extra.identifier.value_or(QString()))) {
+    if (const OpenItem opens = valueOr(hosted.given.openItem, extra.identifier.value_or(QString()))) {
         opens(frame);
         return;
     }
-    const ApplicationDescription &application = hosted.spec.description;
+    const ApplicationDescription &application = hosted.given.description;
     const QString name = application.name.value_or(application.bundleIdentifier.value_or(QString()));
     if (extra.menu.isEmpty()) {
         Q_EMIT notified(name, extra.title.value_or(extra.description.value_or(name)));

@@ -36,7 +36,7 @@ private:
         BarEntryPointer entry; // null: its frame is unreadable, the bar does not have it
     };
     struct Hosted {
-        ApplicationSpec spec;
+        ApplicationSpec given;
         platform::Image icon;
         std::vector<Item> items;
     };

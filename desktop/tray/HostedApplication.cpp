@@ -56,26 +56,26 @@ platform::Image applicationIcon(const std::optional<DesktopEntry> &entry, const 
 ApplicationSpec describeApplication(int pid, const std::optional<DesktopEntry> &entry,
                                     const std::vector<HostedItem> &items, const IconFinder &icons)
 {
-    ApplicationSpec spec;
-    spec.description.pid = pid;
-    spec.description.name = applicationName(entry, items);
+    ApplicationSpec given;
+    given.description.pid = pid;
+    given.description.name = applicationName(entry, items);
     if (entry)
-        spec.description.bundleIdentifier = entry->id;
-    spec.icon = applicationIcon(entry, items, icons);
-    auto &extras = spec.description.extras.emplace();
+        given.description.bundleIdentifier = entry->id;
+    given.icon = applicationIcon(entry, items, icons);
+    auto &extras = given.description.extras.emplace();
     for (const auto &hosted : items) {
         auto identifier = hosted.item.id;
-        if (identifier.isEmpty() || spec.openItem.contains(identifier))
+        if (identifier.isEmpty() || given.openItem.contains(identifier))
             identifier = hosted.key.path;
-        if (spec.openItem.contains(identifier)) // the same path on another connection of the program
+        if (given.openItem.contains(identifier)) // the same path on another connection of the program
             identifier = hosted.key.text();
         extras.push_back(describeExtra(hosted.item, identifier));
-        spec.openItem.emplace(identifier, hosted.open);
+        given.openItem.emplace(identifier, hosted.open);
         if (!hosted.image.isNull())
-            spec.itemImages.emplace(identifier, hosted.image);
-        spec.toolTips.emplace(identifier, toolTipOf(hosted.item));
+            given.itemImages.emplace(identifier, hosted.image);
+        given.toolTips.emplace(identifier, toolTipOf(hosted.item));
     }
-    return spec;
+    return given;
 }
 
 } // namespace brimshade::desktop::tray
