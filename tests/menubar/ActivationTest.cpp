@@ -63,9 +63,9 @@ TEST(Activation, WaitsHalfASecondForAnApplicationThatHangs)
 {
     MenuBarContext bar({application(1, u"Relay"_s, {extra(u"x"_s)})});
     const MenuExtra found = bar.found(u"x"_s);
-    desktop::ApplicationSpec spec;
-    spec.description = hung(application(1, u"Relay"_s, {extra(u"x"_s)}));
-    ASSERT_TRUE(bar.desktop.change(1, spec));
+    desktop::ApplicationSpec given;
+    given.description = hung(application(1, u"Relay"_s, {extra(u"x"_s)}));
+    ASSERT_TRUE(bar.desktop.change(1, given));
     EXPECT_DOUBLE_EQ(bar.onScanQueue([&] { bar.access->press(found.element, found); }), 0.5);
     EXPECT_TRUE(errors(bar).isEmpty());
 }

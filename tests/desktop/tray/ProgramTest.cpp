@@ -80,21 +80,21 @@ TEST(Programs, TheRunningOneIsReadFromTheSystem)
 
 TEST(HostedApplications, SeveralItemsAreSeveralExtrasInTheirOrder)
 {
-    const auto spec = describeApplication(41, DesktopEntry{u"app"_s, u"Program"_s, {}, {}, true},
-                                          {item(u"one"_s, u"One"_s, u"/a"_s), item(u"one"_s, {}, u"/b"_s),
-                                           item({}, u"Three"_s, u"/c"_s), item({}, u"Four"_s, u"/c"_s, u":1.2"_s)},
-                                          {});
-    EXPECT_EQ(spec.description.pid, 41);
-    EXPECT_EQ(spec.description.name, u"Program"_s);
-    EXPECT_EQ(spec.description.bundleIdentifier, u"app"_s);
+    const auto given = describeApplication(41, DesktopEntry{u"app"_s, u"Program"_s, {}, {}, true},
+                                           {item(u"one"_s, u"One"_s, u"/a"_s), item(u"one"_s, {}, u"/b"_s),
+                                            item({}, u"Three"_s, u"/c"_s), item({}, u"Four"_s, u"/c"_s, u":1.2"_s)},
+                                           {});
+    EXPECT_EQ(given.description.pid, 41);
+    EXPECT_EQ(given.description.name, u"Program"_s);
+    EXPECT_EQ(given.description.bundleIdentifier, u"app"_s);
     QStringList identifiers;
-    for (const auto &extra : *spec.description.extras) {
+    for (const auto &extra : *given.description.extras) {
         identifiers.append(*extra.identifier);
-        EXPECT_TRUE(spec.openItem.contains(*extra.identifier));
+        EXPECT_TRUE(given.openItem.contains(*extra.identifier));
     }
     EXPECT_EQ(identifiers, (QStringList{u"one"_s, u"/b"_s, u"/c"_s, u":1.2/c"_s}));
-    EXPECT_EQ(spec.description.extras->at(0).title, u"One"_s);
-    EXPECT_EQ(spec.description.extras->at(1).title, std::nullopt);
+    EXPECT_EQ(given.description.extras->at(0).title, u"One"_s);
+    EXPECT_EQ(given.description.extras->at(1).title, std::nullopt);
 }
 
 TEST(HostedApplications, WithoutAnEntryTheFirstItemThatHasANameGivesIt)
