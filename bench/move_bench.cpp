@@ -2,6 +2,7 @@
 // time and with a window that draws every jump of the pointer. The reference sleeps the move's prescribed pauses, one
 // by one, as nothing can be faster.
 #include "Paired.h"
+#include "SixtyApplications.h"
 #include "app/AppDelegate.h"
 #include "app/composition/Session.h"
 #include "model/NotchModel.h"
@@ -16,28 +17,14 @@ using namespace brimshade;
 
 namespace {
 
-constexpr int kApplications = 60;
 constexpr int kDragSteps = 40;
 
-desktop::DesktopDescription sixtyApplications()
+desktop::DesktopDescription dividedDesktop()
 {
-    desktop::DesktopDescription description;
     // Wide enough that all items find room right of the notch, so that each can be hidden and shown.
-    description.screens = {{u"Built-in Display"_s, QRectF(0, 0, 5120, 1440), 37, 37, std::pair(2467.0, 2653.0)}};
-    description.defaults.insert(u"onboardingDone"_s, true);
+    auto description =
+        bench::sixtyApplications({u"Built-in Display"_s, QRectF(0, 0, 5120, 1440), 37, 37, std::pair(2467.0, 2653.0)});
     description.defaults.insert(u"dividerEnabled"_s, true);
-    for (int i = 0; i < kApplications; ++i) {
-        desktop::ExtraDescription extra;
-        extra.role = u"AXMenuBarItem"_s;
-        extra.identifier = u"item%1"_s.arg(i);
-        desktop::ApplicationDescription application;
-        application.pid = 1000 + i;
-        application.name = u"Application %1"_s.arg(i);
-        application.bundlePath = u"/Applications/Application%1.app"_s.arg(i);
-        application.icon = u"#3b82f6"_s;
-        application.extras = std::vector{extra};
-        description.applications.push_back(application);
-    }
     return description;
 }
 
@@ -74,7 +61,7 @@ class Mover {
 public:
     explicit Mover(benchmark::State &state)
         : m_state(state),
-          m_session({.description = sixtyApplications(), .defaults = {}, .hasWindow = true, .isRealTime = true}),
+          m_session({.description = dividedDesktop(), .defaults = {}, .hasWindow = true, .isRealTime = true}),
           m_model(m_session.delegate().model())
     {
         pass(2000);

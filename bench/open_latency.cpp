@@ -1,6 +1,7 @@
 // From the click on the icon to the first frame that has the tiles of 60 items in it, in a real window. The tiles' own
 // entrance, which begins 0.07 s after the opening by design, is not waited for: the frame counts in which all of them
 // are laid out and drawn in their first state. Prints milliseconds, one opening a line.
+#include "SixtyApplications.h"
 #include "app/AppDelegate.h"
 #include "app/composition/Session.h"
 #include "desktop/core/Desktop.h"
@@ -25,23 +26,7 @@ constexpr int kItems = 60;
 
 desktop::DesktopDescription sixtyItems()
 {
-    desktop::DesktopDescription description;
-    description.screens = {{u"Built-in Display"_s, QRectF(0, 0, 1512, 982), 37, 37, std::pair(663.0, 849.0)}};
-    description.defaults.insert(u"onboardingDone"_s, true);
-    for (int i = 0; i < kItems; ++i) {
-        desktop::ExtraDescription extra;
-        extra.role = u"AXMenuBarItem"_s;
-        extra.identifier = u"item%1"_s.arg(i);
-        extra.actions = {u"AXPress"_s};
-        desktop::ApplicationDescription application;
-        application.pid = 1000 + i;
-        application.name = u"Application %1"_s.arg(i);
-        application.bundlePath = u"/Applications/Application%1.app"_s.arg(i);
-        application.icon = u"#3b82f6"_s;
-        application.extras = std::vector{extra};
-        description.applications.push_back(application);
-    }
-    return description;
+    return bench::sixtyApplications({u"Built-in Display"_s, QRectF(0, 0, 1512, 982), 37, 37, std::pair(663.0, 849.0)});
 }
 
 int tilesIn(const QQuickItem &item)
