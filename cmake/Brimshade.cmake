@@ -11,14 +11,6 @@ if(BRIMSHADE_SANITIZER)
   target_link_options(brimshade_options INTERFACE -fsanitize=${BRIMSHADE_SANITIZER})
 endif()
 
-# Halves the time of a first build. Off for editing: a changed header in it rebuilds a library.
-option(BRIMSHADE_PRECOMPILED "Precompile the headers that nearly every source includes" OFF)
-function(_brimshade_precompile target)
-  if(BRIMSHADE_PRECOMPILED)
-    target_precompile_headers(${target} PRIVATE ${CMAKE_SOURCE_DIR}/cmake/Precompiled.h)
-  endif()
-endfunction()
-
 function(_brimshade_include_root target folder)
   set(root ${CMAKE_BINARY_DIR}/include/${target})
   cmake_path(GET folder PARENT_PATH parent)
@@ -34,7 +26,6 @@ function(brimshade_library folder)
   add_library(brimshade_${name} STATIC ${arg_SOURCES})
   target_link_libraries(brimshade_${name} PUBLIC ${arg_LINK} PRIVATE brimshade_options)
   _brimshade_include_root(brimshade_${name} ${folder} PUBLIC)
-  _brimshade_precompile(brimshade_${name})
 endfunction()
 
 # brimshade_qml_module(panel URI Brimshade.Panel QML_FILES … SOURCES … LINK …): the same as a static QML module.
@@ -58,7 +49,6 @@ function(brimshade_qml_module folder)
   target_link_libraries(${target} PUBLIC ${arg_LINK} PRIVATE brimshade_options)
   target_include_directories(${target} PRIVATE ${CMAKE_CURRENT_SOURCE_DIR})
   _brimshade_include_root(${target} ${folder} PUBLIC)
-  _brimshade_precompile(${target})
 endfunction()
 
 # brimshade_test(model SOURCES … LINK …): a GoogleTest program "model_test", one ctest entry a test case.
@@ -67,7 +57,6 @@ function(brimshade_test name)
   cmake_parse_arguments(arg "NO_MAIN" "" "SOURCES;LINK" ${ARGN})
   add_executable(${name}_test ${arg_SOURCES})
   target_link_libraries(${name}_test PRIVATE ${arg_LINK} GTest::gtest GTest::gmock brimshade_options)
-  _brimshade_precompile(${name}_test)
   if(NOT arg_NO_MAIN)
     target_link_libraries(${name}_test PRIVATE brimshade_testmain)
   endif()
