@@ -1,11 +1,11 @@
-#include "app/composition/CommandLine.h"
-#include "app/composition/ScriptLoop.h"
-#include "app/composition/Session.h"
-#include "desktop/builtin/BuiltInDesktop.h"
+#include "composition/CommandLine.h"
+#include "composition/ScriptLoop.h"
+#include "composition/Session.h"
 #include "desktop/core/Desktop.h"
-#include "desktop/file/DesktopFile.h"
-#include "desktop/scene/SceneHost.h"
 #include "desktop/services/FileDefaults.h"
+#include "desktop/stage/builtin/BuiltInDesktop.h"
+#include "desktop/stage/file/DesktopFile.h"
+#include "desktop/stage/scene/SceneHost.h"
 #include "i18n/Translation.h"
 
 #include <QFile>
@@ -27,7 +27,7 @@ int complain(const QString &message)
 }
 
 // Before the application object: they choose how Qt draws.
-void prepareEnvironment(const app::CommandLine &line)
+void prepareEnvironment(const composition::CommandLine &line)
 {
     if (line.hasWindow)
         return;
@@ -35,7 +35,7 @@ void prepareEnvironment(const app::CommandLine &line)
     qputenv("QT_QUICK_BACKEND", "software");
 }
 
-std::unique_ptr<desktop::FileDefaults> openDefaults(const app::CommandLine &line)
+std::unique_ptr<desktop::FileDefaults> openDefaults(const composition::CommandLine &line)
 {
     if (line.script && !line.defaultsFile)
         return nullptr;
@@ -43,32 +43,33 @@ std::unique_ptr<desktop::FileDefaults> openDefaults(const app::CommandLine &line
     return std::make_unique<desktop::FileDefaults>(path, [](const QString &message) { complain(message); });
 }
 
-std::expected<app::SessionOptions, QString> sessionOptions(const app::CommandLine &line)
+std::expected<composition::SessionOptions, QString> sessionOptions(const composition::CommandLine &line)
 {
     const auto description = line.desktopFile
         ? desktop::readDesktopFile(*line.desktopFile)
         : std::expected<desktop::DesktopDescription, QString>(desktop::builtInDesktop());
     if (!description)
         return std::unexpected(description.error());
-    return app::SessionOptions{.description = *description,
-                               .defaults = openDefaults(line),
-                               .isScripted = line.script.has_value(),
-                               .hasWindow = line.hasWindow,
-                               .isRealTime = line.isRealTime,
-                               .hostsTray = line.hostsTray,
-                               .scale = line.scale};
+    return composition::SessionOptions{.description = *description,
+                                       .defaults = openDefaults(line),
+                                       .isScripted = line.script.has_value(),
+                                       .hasWindow = line.hasWindow,
+                                       .isRealTime = line.isRealTime,
+                                       .hostsTray = line.hostsTray,
+                                       .scale = line.scale};
 }
 
-int runWindow(app::Session &session)
+int runWindow(composition::Session &session)
 {
     QObject::connect(&session.desktop(), &desktop::Desktop::terminated, qApp, &QGuiApplication::quit);
     return QGuiApplication::exec();
 }
 
-int runScript(app::Session &session, const app::CommandLine &line, int fileDescriptor)
+int runScript(composition::Session &session, const composition::CommandLine &line, int fileDescriptor)
 {
     const QString name = *line.script == "-"_L1 ? u"standard input"_s : *line.script;
-    app::ScriptLoop loop(fileDescriptor, name, [&](const QJsonObject &command) { return session.run(command); });
+    composition::ScriptLoop loop(fileDescriptor, name,
+                                 [&](const QJsonObject &command) { return session.run(command); });
     QObject::connect(&session.desktop(), &desktop::Desktop::terminated, qApp, [&] { loop.stop(); });
     return line.isRealTime ? loop.runInEventLoop() : loop.runBlocking();
 }
@@ -80,7 +81,7 @@ int main(int argc, char **argv)
     QStringList arguments;
     for (int i = 0; i < argc; ++i)
         arguments << QString::fromLocal8Bit(argv[i]);
-    const auto line = app::parseCommandLine(arguments);
+    const auto line = composition::parseCommandLine(arguments);
     if (!line)
         return complain(line.error());
     if (line->information) {
@@ -107,7 +108,7 @@ int main(int argc, char **argv)
     auto options = sessionOptions(*line);
     if (!options)
         return complain(options.error());
-    app::Session session(std::move(*options));
+    composition::Session session(std::move(*options));
     if (line->hasWindow)
         session.scene().quickWindow()->show();
     return line->script ? runScript(session, *line, script.handle()) : runWindow(session);

@@ -1,5 +1,5 @@
 #pragma once
-#include "desktop/file/DesktopDescription.h"
+#include "desktop/core/DesktopDescription.h"
 
 namespace brimshade::bench {
 

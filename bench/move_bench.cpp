@@ -4,7 +4,7 @@
 #include "Paired.h"
 #include "SixtyApplications.h"
 #include "app/AppDelegate.h"
-#include "app/composition/Session.h"
+#include "composition/Session.h"
 #include "model/NotchModel.h"
 
 #include <QEventLoop>
@@ -91,7 +91,7 @@ private:
     }
 
     benchmark::State &m_state;
-    app::Session m_session;
+    composition::Session m_session;
     model::NotchModel &m_model;
     QString m_id;
 };

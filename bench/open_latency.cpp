@@ -3,10 +3,10 @@
 // are laid out and drawn in their first state. Prints milliseconds, one opening a line.
 #include "SixtyApplications.h"
 #include "app/AppDelegate.h"
-#include "app/composition/Session.h"
+#include "composition/Session.h"
 #include "desktop/core/Desktop.h"
 #include "desktop/core/MenuBar.h"
-#include "desktop/scene/SceneHost.h"
+#include "desktop/stage/scene/SceneHost.h"
 #include "model/NotchModel.h"
 
 #include <QElapsedTimer>
@@ -53,7 +53,7 @@ void pass(int milliseconds)
 
 class Bench {
 public:
-    explicit Bench(app::Session &session) : m_session(session), m_window(*session.scene().quickWindow()) { }
+    explicit Bench(composition::Session &session) : m_session(session), m_window(*session.scene().quickWindow()) { }
 
     double openOnce()
     {
@@ -86,7 +86,7 @@ private:
         m_session.scene().release(desktop::MouseButton::left);
     }
 
-    app::Session &m_session;
+    composition::Session &m_session;
     QQuickWindow &m_window;
 };
 
@@ -96,7 +96,7 @@ int main(int argc, char **argv)
 {
     QGuiApplication application(argc, argv);
     const int openings = argc > 2 ? QString::fromLatin1(argv[2]).toInt() : 20;
-    app::Session session({.description = sixtyItems(), .defaults = {}, .hasWindow = true, .isRealTime = true});
+    composition::Session session({.description = sixtyItems(), .defaults = {}, .hasWindow = true, .isRealTime = true});
     session.scene().quickWindow()->show();
     pass(1500);
     Bench bench(session);

@@ -1,6 +1,9 @@
-# What every library of the project shares. One folder is one library; another folder's headers are
-# found as "folder/Header.h", and only by those that link it: a library's public include path is a folder
-# that holds nothing but a link to its sources.
+# What every target of the project shares. One folder is one library; another folder's headers are found as
+# "folder/Header.h", and only by those that link it: a library's public include path is a folder that holds nothing but a
+# link to its sources.
+#
+# The link lines are the one table of who may use whom. A folder links what its sources include: PUBLIC what a header of
+# its own includes, PRIVATE the rest. They are written to links.json in the build folder, where tools/rules reads them.
 
 add_library(brimshade_options INTERFACE)
 target_compile_options(brimshade_options INTERFACE -Wall -Wextra -Wpedantic -Werror -Wnon-virtual-dtor -Woverloaded-virtual)
@@ -19,19 +22,40 @@ function(_brimshade_include_root target folder)
   target_include_directories(${target} ${ARGN} ${root})
 endfunction()
 
-# brimshade_library(desktop/time SOURCES … LINK …): the library of that folder, brimshade_desktop_time.
-function(brimshade_library folder)
-  cmake_parse_arguments(arg "" "" "SOURCES;LINK" ${ARGN})
-  string(REPLACE "/" "_" name ${folder})
-  add_library(brimshade_${name} STATIC ${arg_SOURCES})
-  target_link_libraries(brimshade_${name} PUBLIC ${arg_LINK} PRIVATE brimshade_options)
-  _brimshade_include_root(brimshade_${name} ${folder} PUBLIC)
+# owner: the folder of a library or the source file of a program.
+function(_brimshade_note_links owner target module public private)
+  foreach(list public private)
+    list(TRANSFORM ${list} REPLACE "(.+)" "\"\\1\"")
+    list(JOIN ${list} ", " ${list})
+  endforeach()
+  set_property(GLOBAL APPEND PROPERTY BRIMSHADE_LINKS
+    "  { \"owner\": \"${owner}\", \"target\": \"${target}\", \"module\": \"${module}\",\n    \"public\": [${public}], \"private\": [${private}] }")
 endfunction()
 
-# brimshade_qml_module(panel URI Brimshade.Panel QML_FILES … SOURCES … LINK …): the same as a static QML module.
-# Whoever runs it links brimshade_panelplugin and says Q_IMPORT_QML_PLUGIN(Brimshade_PanelPlugin).
+# After the last library.
+function(brimshade_write_links)
+  get_property(links GLOBAL PROPERTY BRIMSHADE_LINKS)
+  list(JOIN links ",\n" text)
+  file(WRITE ${CMAKE_BINARY_DIR}/links.json "[\n${text}\n]\n")
+endfunction()
+
+# brimshade_library(desktop/time MOC SOURCES … PUBLIC … PRIVATE …): the library of that folder, brimshade_desktop_time.
+# MOC where a class of it has Q_OBJECT, Q_GADGET or a like macro.
+function(brimshade_library folder)
+  cmake_parse_arguments(arg "MOC" "" "SOURCES;PUBLIC;PRIVATE" ${ARGN})
+  string(REPLACE "/" "_" name ${folder})
+  set(target brimshade_${name})
+  add_library(${target} STATIC ${arg_SOURCES})
+  set_target_properties(${target} PROPERTIES AUTOMOC ${arg_MOC})
+  target_link_libraries(${target} PUBLIC ${arg_PUBLIC} PRIVATE ${arg_PRIVATE} brimshade_options)
+  _brimshade_include_root(${target} ${folder} PUBLIC)
+  _brimshade_note_links(${folder} ${target} "" "${arg_PUBLIC}" "${arg_PRIVATE}")
+endfunction()
+
+# brimshade_qml_module(panel URI Brimshade.Panel QML_FILES … SOURCES … PUBLIC … PRIVATE …): the same as a static QML
+# module. Whoever runs it links brimshade_panelplugin and says Q_IMPORT_QML_PLUGIN(Brimshade_PanelPlugin).
 function(brimshade_qml_module folder)
-  cmake_parse_arguments(arg "" "URI" "SOURCES;LINK;QML_FILES;IMPORTS;RESOURCES" ${ARGN})
+  cmake_parse_arguments(arg "" "URI" "SOURCES;PUBLIC;PRIVATE;QML_FILES;IMPORTS;RESOURCES" ${ARGN})
   string(REPLACE "." "/" path ${arg_URI})
   string(REPLACE "/" "_" name ${folder})
   set(cachegen)
@@ -40,27 +64,38 @@ function(brimshade_qml_module folder)
   endif()
   set(target brimshade_${name})
   qt_add_library(${target} STATIC)
+  set_target_properties(${target} PROPERTIES AUTOMOC ON)
   qt_add_qml_module(${target}
     URI ${arg_URI} VERSION 1.0
     RESOURCE_PREFIX /qt/qml
     OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/qml/${path}
     SOURCES ${arg_SOURCES} QML_FILES ${arg_QML_FILES} IMPORTS ${arg_IMPORTS} RESOURCES ${arg_RESOURCES}
     ${cachegen})
-  target_link_libraries(${target} PUBLIC ${arg_LINK} PRIVATE brimshade_options)
+  target_link_libraries(${target} PUBLIC ${arg_PUBLIC} PRIVATE ${arg_PRIVATE} brimshade_options)
   target_include_directories(${target} PRIVATE ${CMAKE_CURRENT_SOURCE_DIR})
   _brimshade_include_root(${target} ${folder} PUBLIC)
+  _brimshade_note_links(${folder} ${target} "${arg_URI}" "${arg_PUBLIC}" "${arg_PRIVATE}")
 endfunction()
 
-# brimshade_test(model SOURCES … LINK …): a GoogleTest program "model_test", one ctest entry a test case.
-# NO_MAIN when the sources bring a main of their own; FOLDER marks where its shared headers live.
+# brimshade_program(brimshade app/main.cpp LINK …): a program that people start.
+function(brimshade_program name source)
+  cmake_parse_arguments(arg "" "" "LINK" ${ARGN})
+  add_executable(${name} ${CMAKE_SOURCE_DIR}/${source})
+  target_link_libraries(${name} PRIVATE ${arg_LINK} brimshade_options)
+  _brimshade_note_links(${source} ${name} "" "" "${arg_LINK}")
+endfunction()
+
+# brimshade_test(model MOC SOURCES … LINK …): a GoogleTest program "model_test", which is one ctest entry.
+# NO_MAIN when the sources bring a main of their own.
 function(brimshade_test name)
-  cmake_parse_arguments(arg "NO_MAIN" "" "SOURCES;LINK" ${ARGN})
+  cmake_parse_arguments(arg "MOC;NO_MAIN" "" "SOURCES;LINK" ${ARGN})
   add_executable(${name}_test ${arg_SOURCES})
   target_link_libraries(${name}_test PRIVATE ${arg_LINK} GTest::gtest GTest::gmock brimshade_options)
   if(NOT arg_NO_MAIN)
     target_link_libraries(${name}_test PRIVATE brimshade_testmain)
   endif()
-  set_target_properties(${name}_test PROPERTIES RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/tests)
+  set_target_properties(${name}_test PROPERTIES
+    AUTOMOC ${arg_MOC} RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/tests)
   add_test(NAME ${name} COMMAND ${name}_test)
   set_tests_properties(${name} PROPERTIES
     ENVIRONMENT "QT_QPA_PLATFORM=offscreen;QT_QUICK_BACKEND=software;LC_ALL=C.UTF-8" TIMEOUT 300)

@@ -1,5 +1,5 @@
 #pragma once
-#include "desktop/file/DesktopDescription.h"
+#include "DesktopDescription.h"
 #include "platform/Image.h"
 
 #include <functional>

@@ -1,6 +1,6 @@
 #pragma once
+#include "DesktopDescription.h"
 #include "SharedState.h"
-#include "desktop/file/DesktopDescription.h"
 
 namespace brimshade::desktop {
 

@@ -1,8 +1,8 @@
 #include "ElementFinder.h"
+#include "ScriptHost.h"
 #include "ScriptRunner.h"
 #include "desktop/core/Desktop.h"
 #include "desktop/core/MenuHost.h"
-#include "desktop/scene/SceneHost.h"
 
 #include <QJsonArray>
 #include <algorithm>
@@ -16,9 +16,9 @@ ScriptRunner::Result ScriptRunner::find(Arguments &arguments)
     const QString text = arguments.text(u"text"_s);
     if (const auto fault = arguments.finish())
         return std::unexpected(*fault);
-    m_scene.settle();
+    m_host.settle();
     QJsonArray elements;
-    for (const FoundElement &element : visibleElements(m_scene)) {
+    for (const FoundElement &element : visibleElements(m_host)) {
         if (element.name.contains(text) || element.description.contains(text))
             elements.append(element.toJson());
     }
@@ -32,8 +32,8 @@ ScriptRunner::Result ScriptRunner::pressElement(Arguments &arguments)
     if (const auto fault = arguments.finish())
         return std::unexpected(*fault);
 
-    m_scene.settle();
-    std::vector<FoundElement> elements = visibleElements(m_scene);
+    m_host.settle();
+    std::vector<FoundElement> elements = visibleElements(m_host);
     std::erase_if(elements, [&](const FoundElement &element) {
         return !element.isInteractive || element.name != name || (!role.isEmpty() && element.role != role);
     });

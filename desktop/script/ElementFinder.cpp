@@ -1,6 +1,6 @@
 #include "ElementFinder.h"
 #include "Json.h"
-#include "desktop/scene/SceneHost.h"
+#include "ScriptHost.h"
 
 #include <QAccessible>
 #include <QMetaEnum>
@@ -110,14 +110,19 @@ QJsonObject FoundElement::toJson() const
             {u"opacity"_s, opacity}};
 }
 
-std::vector<FoundElement> visibleElements(const SceneHost &scene)
+std::vector<FoundElement> visibleElements(const ScriptHost &host)
 {
-    QQuickWindow &window = *scene.quickWindow();
-    std::vector<FoundElement> elements;
-    collect(QAccessible::queryAccessibleInterface(&window), QRectF(0, 0, window.width(), window.height()), elements);
-    for (FoundElement &element : elements)
-        element.frame = {scene.toDisplay(element.frame.topLeft()), scene.toDisplay(element.frame.bottomRight())};
-    return elements;
+    std::vector<FoundElement> all;
+    for (const ScriptHost::View &view : host.views()) {
+        std::vector<FoundElement> elements;
+        collect(QAccessible::queryAccessibleInterface(view.window),
+                QRectF(0, 0, view.window->width(), view.window->height()), elements);
+        for (FoundElement &element : elements) {
+            element.frame = {view.toDisplay(element.frame.topLeft()), view.toDisplay(element.frame.bottomRight())};
+            all.push_back(std::move(element));
+        }
+    }
+    return all;
 }
 
 } // namespace brimshade::desktop

@@ -6,7 +6,7 @@
 
 namespace brimshade::desktop {
 
-class SceneHost;
+class ScriptHost;
 
 // One element of the accessibility tree that a person could see now.
 struct FoundElement {
@@ -26,6 +26,6 @@ struct FoundElement {
 
 // Every visible element in reading order: effective opacity above 0.01, some part not clipped away, its window on
 // screen. Main thread; geometry must be settled.
-std::vector<FoundElement> visibleElements(const SceneHost &scene);
+std::vector<FoundElement> visibleElements(const ScriptHost &host);
 
 } // namespace brimshade::desktop

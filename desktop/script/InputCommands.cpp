@@ -1,6 +1,6 @@
+#include "ScriptHost.h"
 #include "ScriptRunner.h"
-#include "desktop/scene/KeyMap.h"
-#include "desktop/scene/SceneHost.h"
+#include "desktop/views/KeyMap.h"
 
 #include <QTextBoundaryFinder>
 
@@ -32,11 +32,11 @@ MouseButton buttonOf(Arguments &arguments)
 void ScriptRunner::clickAt(QPointF at, bool right, std::uint64_t modifiers)
 {
     const MouseButton button = right ? MouseButton::right : MouseButton::left;
-    m_scene.movePointer(at, modifiers);
+    m_host.movePointer(at, modifiers);
     m_clock.settle();
-    m_scene.press(button, modifiers);
+    m_host.press(button, modifiers);
     m_clock.settle();
-    m_scene.release(button, modifiers);
+    m_host.release(button, modifiers);
 }
 
 ScriptRunner::Result ScriptRunner::move(Arguments &arguments)
@@ -45,7 +45,7 @@ ScriptRunner::Result ScriptRunner::move(Arguments &arguments)
     const auto modifiers = arguments.modifiers();
     if (const auto fault = arguments.finish())
         return std::unexpected(*fault);
-    m_scene.movePointer(to, modifiers);
+    m_host.movePointer(to, modifiers);
     return {};
 }
 
@@ -67,9 +67,9 @@ ScriptRunner::Result ScriptRunner::press(Arguments &arguments)
     const auto modifiers = arguments.modifiers();
     if (const auto fault = arguments.finish())
         return std::unexpected(*fault);
-    m_scene.movePointer(at, modifiers);
+    m_host.movePointer(at, modifiers);
     m_clock.settle();
-    m_scene.press(button, modifiers);
+    m_host.press(button, modifiers);
     return {};
 }
 
@@ -82,10 +82,10 @@ ScriptRunner::Result ScriptRunner::release(Arguments &arguments)
     if (const auto fault = arguments.finish())
         return std::unexpected(*fault);
     if (moves) {
-        m_scene.movePointer(at, modifiers);
+        m_host.movePointer(at, modifiers);
         m_clock.settle();
     }
-    m_scene.release(button, modifiers);
+    m_host.release(button, modifiers);
     return {};
 }
 
@@ -96,15 +96,15 @@ ScriptRunner::Result ScriptRunner::drag(Arguments &arguments)
     const auto modifiers = arguments.modifiers();
     if (const auto fault = arguments.finish())
         return std::unexpected(*fault);
-    m_scene.movePointer(from, modifiers);
+    m_host.movePointer(from, modifiers);
     m_clock.settle();
-    m_scene.press(MouseButton::left, modifiers);
+    m_host.press(MouseButton::left, modifiers);
     for (int step = 1; step <= kDragSteps; ++step) {
         m_clock.settle();
-        m_scene.movePointer(from + (to - from) * step / kDragSteps, modifiers);
+        m_host.movePointer(from + (to - from) * step / kDragSteps, modifiers);
     }
     m_clock.settle();
-    m_scene.release(MouseButton::left, modifiers);
+    m_host.release(MouseButton::left, modifiers);
     return {};
 }
 
@@ -119,7 +119,7 @@ ScriptRunner::Result ScriptRunner::key(Arguments &arguments)
     if (const auto fault = arguments.finish())
         return std::unexpected(*fault);
     event.keyCode = static_cast<std::uint16_t>(code);
-    m_scene.key(event);
+    m_host.key(event);
     return {};
 }
 
@@ -133,7 +133,7 @@ ScriptRunner::Result ScriptRunner::type(Arguments &arguments)
         platform::Event event;
         event.characters = text.mid(from, to - from);
         event.keyCode = keyCodeForCharacter(event.characters);
-        m_scene.key(event);
+        m_host.key(event);
         m_clock.settle();
     }
     return {};

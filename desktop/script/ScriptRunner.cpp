@@ -1,10 +1,9 @@
 #include "ScriptRunner.h"
+#include "ScriptHost.h"
 #include "StateAnswer.h"
-#include "desktop/scene/SceneHost.h"
 
 #include <QDir>
 #include <QFileInfo>
-#include <QHash>
 #include <QImage>
 
 using namespace Qt::StringLiterals;
@@ -17,14 +16,21 @@ constexpr double kLongestAdvance = 86400; // a day: a typing error should not ha
 
 } // namespace
 
-ScriptRunner::ScriptRunner(Desktop &desktop, SceneHost &scene, ScriptClock &clock, ProgramState programState)
-    : m_desktop(desktop), m_scene(scene), m_clock(clock), m_programState(std::move(programState))
+ScriptRunner::ScriptRunner(Desktop &desktop, ScriptHost &host, ScriptClock &clock, ProgramState programState)
+    : m_desktop(desktop), m_host(host), m_clock(clock), m_programState(std::move(programState))
 {
+    addOwnCommands();
 }
 
-ScriptRunner::Handler ScriptRunner::handlerFor(const QString &command)
+void ScriptRunner::add(const QString &name, Command command)
 {
-    static const QHash<QString, Handler> handlers{
+    m_commands.insert(name, std::move(command));
+}
+
+void ScriptRunner::addOwnCommands()
+{
+    using Handler = Result (ScriptRunner::*)(Arguments &);
+    const std::pair<QString, Handler> handlers[] = {
         {u"advance"_s, &ScriptRunner::advance}, {u"state"_s, &ScriptRunner::state},
         {u"picture"_s, &ScriptRunner::picture}, {u"move"_s, &ScriptRunner::move},
         {u"click"_s, &ScriptRunner::click},     {u"press"_s, &ScriptRunner::press},
@@ -32,22 +38,20 @@ ScriptRunner::Handler ScriptRunner::handlerFor(const QString &command)
         {u"key"_s, &ScriptRunner::key},         {u"type"_s, &ScriptRunner::type},
         {u"find"_s, &ScriptRunner::find},       {u"press-element"_s, &ScriptRunner::pressElement},
         {u"menu"_s, &ScriptRunner::menu},       {u"choose"_s, &ScriptRunner::choose},
-        {u"launch"_s, &ScriptRunner::launch},   {u"quit"_s, &ScriptRunner::quit},
-        {u"change"_s, &ScriptRunner::change},   {u"screens"_s, &ScriptRunner::screens},
-        {u"trust"_s, &ScriptRunner::trust},     {u"menuBar"_s, &ScriptRunner::menuBar},
-        {u"moves"_s, &ScriptRunner::moves},     {u"loginItem"_s, &ScriptRunner::loginItem},
     };
-    return handlers.value(command, nullptr);
+    for (const auto &[name, handler] : handlers)
+        add(name, [this, handler](Arguments &arguments) { return (this->*handler)(arguments); });
 }
 
 QJsonObject ScriptRunner::run(const QJsonObject &command)
 {
     const QString name = command.value(u"do"_s).toString();
-    const Handler handler = handlerFor(name);
+    const auto handler = m_commands.constFind(name);
     Arguments arguments(command);
-    Result result = handler ? (this->*handler)(arguments)
-                            : Result(std::unexpected(name.isEmpty() ? u"do: expected the name of a command"_s
-                                                                    : u"do: \"%1\" is no command"_s.arg(name)));
+    Result result = handler != m_commands.cend()
+        ? (*handler)(arguments)
+        : Result(std::unexpected(name.isEmpty() ? u"do: expected the name of a command"_s
+                                                : u"do: \"%1\" is no command"_s.arg(name)));
     m_clock.settle();
     if (!result)
         return {{u"ok"_s, false}, {u"error"_s, result.error()}};
@@ -87,8 +91,8 @@ ScriptRunner::Result ScriptRunner::picture(Arguments &arguments)
     if (file.contains(QChar::Null))
         return std::unexpected(u"file: expected a path"_s);
 
-    m_scene.settle();
-    const std::optional<QImage> image = of == "desktop"_L1 ? m_scene.picture() : m_scene.picture(of);
+    m_host.settle();
+    const std::optional<QImage> image = of == "desktop"_L1 ? m_host.picture() : m_host.picture(of);
     if (!image)
         return std::unexpected(u"of: no window \"%1\" is on screen"_s.arg(of));
     if (image->isNull())

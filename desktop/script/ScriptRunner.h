@@ -2,6 +2,7 @@
 #include "Arguments.h"
 #include "ScriptClock.h"
 
+#include <QHash>
 #include <QJsonObject>
 #include <expected>
 #include <functional>
@@ -9,7 +10,7 @@
 namespace brimshade::desktop {
 
 class Desktop;
-class SceneHost;
+class ScriptHost;
 
 // Carries out script commands, one JSON object at a time. docs/DESKTOP.md is the reference. Main thread.
 class ScriptRunner {
@@ -17,16 +18,20 @@ public:
     // What only the program itself can tell: "model", "shown" and "divider" of the state answer.
     using ProgramState = std::function<QJsonObject()>;
 
+    using Result = std::expected<QJsonObject, QString>;
+    using Command = std::function<Result(Arguments &)>;
+
     // All outlive the runner.
-    ScriptRunner(Desktop &desktop, SceneHost &scene, ScriptClock &clock, ProgramState programState);
+    ScriptRunner(Desktop &desktop, ScriptHost &host, ScriptClock &clock, ProgramState programState);
+
+    // One more command, of the particular desktop that is driven; each name once.
+    void add(const QString &name, Command command);
 
     // The answer, "ok" included. Never throws, never ends the program.
     QJsonObject run(const QJsonObject &command);
 
 private:
-    using Result = std::expected<QJsonObject, QString>;
-    using Handler = Result (ScriptRunner::*)(Arguments &);
-    static Handler handlerFor(const QString &command);
+    void addOwnCommands();
 
     Result advance(Arguments &arguments);
     Result state(Arguments &arguments);
@@ -45,21 +50,13 @@ private:
     Result menu(Arguments &arguments);
     Result choose(Arguments &arguments);
 
-    Result launch(Arguments &arguments);
-    Result quit(Arguments &arguments);
-    Result change(Arguments &arguments);
-    Result screens(Arguments &arguments);
-    Result trust(Arguments &arguments);
-    Result menuBar(Arguments &arguments);
-    Result moves(Arguments &arguments);
-    Result loginItem(Arguments &arguments);
-
     void clickAt(QPointF at, bool right, std::uint64_t modifiers);
 
     Desktop &m_desktop;
-    SceneHost &m_scene;
+    ScriptHost &m_host;
     ScriptClock &m_clock;
     ProgramState m_programState;
+    QHash<QString, Command> m_commands;
 };
 
 } // namespace brimshade::desktop

@@ -1,6 +1,6 @@
 #pragma once
 #include "Test.h"
-#include "desktop/file/DesktopDescription.h"
+#include "desktop/core/DesktopDescription.h"
 
 namespace brimshade {
 

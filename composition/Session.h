@@ -1,0 +1,50 @@
+#pragma once
+#include "desktop/core/DesktopDescription.h"
+#include "desktop/services/MemoryDefaults.h"
+
+#include <QJsonObject>
+#include <memory>
+
+namespace brimshade::desktop {
+class Desktop;
+class SceneHost;
+class VirtualDispatch;
+} // namespace brimshade::desktop
+
+namespace brimshade::app {
+class AppDelegate;
+} // namespace brimshade::app
+
+namespace brimshade::composition {
+
+struct SessionOptions {
+    desktop::DesktopDescription description;
+    std::unique_ptr<desktop::MemoryDefaults> defaults; // null: empty, in memory
+    bool isScripted = true; // the login item is the description's, not the user's own
+    bool hasWindow = false; // on the running session
+    bool isRealTime = false; // always, with a window
+    bool hostsTray = false;
+    double scale = 1; // pixels a point, for pictures of a script
+};
+
+// One whole Brimshade on one whole desktop: built, launched and taken down in the right order. Any number may live in
+// a process one after the other; two in virtual time not side by side, as a thread has one animation clock. Main
+// thread; needs a QGuiApplication.
+class Session {
+public:
+    explicit Session(SessionOptions options);
+    ~Session();
+    Q_DISABLE_COPY_MOVE(Session)
+
+    QJsonObject run(const QJsonObject &command); // one script command
+    app::AppDelegate &delegate();
+    desktop::Desktop &desktop();
+    desktop::SceneHost &scene();
+    desktop::VirtualDispatch *virtualTime(); // null in real time
+
+private:
+    class Parts;
+    std::unique_ptr<Parts> m_parts;
+};
+
+} // namespace brimshade::composition

@@ -1,0 +1,78 @@
+pragma ComponentBehavior: Bound
+import QtQuick
+import Brimshade.Desktop
+import Brimshade.Stage
+
+// The whole desktop. The order of what lies over what is the z of the children of `space`; the program's windows join
+// them at their window levels, the bar is at level 24.
+FocusScope {
+    id: root
+
+    required property SceneState desktop
+    readonly property Item space: displays
+
+    width: root.desktop.bounds.width
+    height: root.desktop.bounds.height
+    clip: true
+    focus: true
+
+    Item {
+        id: displays
+        x: -root.desktop.bounds.x
+        y: -root.desktop.bounds.y
+
+        Repeater {
+            model: root.desktop.screens
+
+            Backdrop {
+                required property rect modelData
+                required property int index
+
+                x: modelData.x
+                y: modelData.y
+                z: -3
+                width: modelData.width
+                height: modelData.height
+                isPrimary: index === 0
+                images: root.desktop.dockImages
+            }
+        }
+        MenuBarView {
+            z: 24
+            bar: root.desktop.bar
+        }
+        Repeater {
+            model: root.desktop.banners
+
+            BannerView {
+                required property int index
+
+                z: 100
+                rightEdge: root.desktop.bar.frame.right - 12
+                topEdge: root.desktop.bar.frame.bottom + 10 + index * 80
+            }
+        }
+        AccessibilityPage {
+            z: 200
+            desktop: root.desktop
+        }
+        PermissionPrompt {
+            z: 201
+            desktop: root.desktop
+        }
+        Repeater {
+            model: root.desktop.menu
+
+            MenuView {
+                z: 300
+            }
+        }
+        PointerArrow {
+            objectName: "pointer"
+            z: 400
+            x: root.desktop.pointer.x
+            y: root.desktop.pointer.y
+            visible: root.desktop.isPointerDrawn
+        }
+    }
+}

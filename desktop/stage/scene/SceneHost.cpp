@@ -1,0 +1,243 @@
+#include "SceneHost.h"
+#include "AnimationClock.h"
+#include "OffscreenSurface.h"
+#include "SceneInput.h"
+#include "SceneState.h"
+#include "WindowHosts.h"
+#include "desktop/core/Desktop.h"
+#include "desktop/core/WindowStack.h"
+#include "desktop/time/VirtualDispatch.h"
+
+#include <QGuiApplication>
+#include <QQmlComponent>
+#include <QQmlEngine>
+#include <QQuickItem>
+#include <QScreen>
+#include <algorithm>
+
+using namespace Qt::StringLiterals;
+
+namespace brimshade::desktop {
+
+namespace {
+
+constexpr double kLargestShare = 0.94; // of the session's screen
+
+WallClock::Now clockOf(VirtualDispatch *clock)
+{
+    if (!clock)
+        return [] { return QDateTime::currentDateTime(); };
+    // The same for every run, as the pictures are.
+    static const QDateTime start(QDate(2026, 6, 9), QTime(9, 41));
+    return [clock] { return start.addMSecs(qint64(clock->now() * 1000)); };
+}
+
+std::unique_ptr<QQuickWindow> sessionWindow(QSize desktop)
+{
+    auto window = std::make_unique<QQuickWindow>();
+    window->setTitle(u"Brimshade"_s);
+    window->setColor(Qt::black);
+    // As large as it is where the session's screen has room for it, else as large as fits beside a window manager.
+    const QScreen *screen = QGuiApplication::primaryScreen();
+    const QSize room = screen ? screen->availableGeometry().size() : desktop;
+    const bool hasRoom = desktop.width() <= room.width() && desktop.height() <= room.height();
+    window->resize(hasRoom ? desktop : desktop.scaled(room * kLargestShare, Qt::KeepAspectRatio));
+    window->setMinimumSize({640, 400});
+    return window;
+}
+
+} // namespace
+
+class SceneHost::Private {
+public:
+    Private(Desktop &desktop, VirtualDispatch *clock, std::optional<double> offscreenScale);
+    ~Private();
+
+    QQuickWindow &window() const { return surface ? surface->window() : *ownWindow; }
+    QImage onlyFrame(const QQuickItem &frame);
+
+    Desktop &desktop;
+    const std::optional<double> scale; // of pictures; absent for a window
+    std::unique_ptr<AnimationClock> animations;
+    std::unique_ptr<OffscreenSurface> surface;
+    std::unique_ptr<QQuickWindow> ownWindow;
+    std::unique_ptr<QQmlEngine> engine;
+    SceneState state;
+    std::unique_ptr<QQuickItem> root;
+    QQuickItem *space = nullptr; // laid out in display space; the root's
+    std::unique_ptr<WindowHosts> windows;
+    std::unique_ptr<SceneInput> input;
+
+private:
+    void makeRoot();
+    void fit();
+};
+
+SceneHost::Private::Private(Desktop &desktop_, VirtualDispatch *clock, std::optional<double> offscreenScale)
+    : desktop(desktop_), scale(offscreenScale), animations(clock ? std::make_unique<AnimationClock>(*clock) : nullptr),
+      engine(std::make_unique<QQmlEngine>()), state(desktop, clockOf(clock), scale.has_value())
+{
+    if (scale)
+        surface = std::make_unique<OffscreenSurface>();
+    else
+        ownWindow = sessionWindow(state.bounds().size().toSize());
+    engine->addImportPath(u"qrc:/qt/qml"_s);
+    makeRoot();
+    QObject::connect(&state, &SceneState::screensChanged, &window(), [this] { fit(); });
+    if (ownWindow) {
+        QObject::connect(ownWindow.get(), &QQuickWindow::widthChanged, &state, [this] { fit(); });
+        QObject::connect(ownWindow.get(), &QQuickWindow::heightChanged, &state, [this] { fit(); });
+    }
+    fit();
+    if (!space)
+        return;
+    windows = std::make_unique<WindowHosts>(desktop.windows(), *engine, *space);
+    input = std::make_unique<SceneInput>(window(), *space, desktop.input(), state);
+}
+
+SceneHost::Private::~Private()
+{
+    // What is drawn goes before what it shows, and the items before their window.
+    input.reset();
+    windows.reset();
+    root.reset();
+}
+
+void SceneHost::Private::makeRoot()
+{
+    QQmlComponent component(engine.get());
+    component.setData("import Brimshade.Stage\nDesktopScene {}", {});
+    QObject *object = component.isReady()
+        ? component.createWithInitialProperties({{u"desktop"_s, QVariant::fromValue(&state)}})
+        : nullptr;
+    root.reset(qobject_cast<QQuickItem *>(object));
+    if (!root)
+        qFatal("the desktop's own views cannot be made: %s", qUtf8Printable(component.errorString()));
+    root->setParentItem(window().contentItem());
+    space = root->property("space").value<QQuickItem *>();
+}
+
+// Offscreen the surface is as large as the desktop; in a window the desktop is scaled to fit and centred.
+void SceneHost::Private::fit()
+{
+    const QSizeF size = state.bounds().size();
+    if (surface && !size.isEmpty())
+        surface->setSize(size.toSize(), *scale);
+    const QSizeF room = window().size();
+    const double factor = size.isEmpty() ? 1 : std::min(room.width() / size.width(), room.height() / size.height());
+    root->setTransformOrigin(QQuickItem::TopLeft);
+    root->setScale(factor);
+    root->setPosition({(room.width() - size.width() * factor) / 2, (room.height() - size.height() * factor) / 2});
+}
+
+// With everything beside it invisible, but present: what has focus or is hovered stays so.
+QImage SceneHost::Private::onlyFrame(const QQuickItem &frame)
+{
+    std::vector<std::pair<QQuickItem *, double>> hidden;
+    for (QQuickItem *item : space->childItems()) {
+        if (item == &frame)
+            continue;
+        hidden.emplace_back(item, item->opacity());
+        item->setOpacity(0);
+    }
+    const QImage whole = surface->render();
+    for (const auto &[item, opacity] : hidden)
+        item->setOpacity(opacity);
+    const QRectF rect = frame.mapRectToScene(QRectF({}, frame.size())) & QRectF({}, window().size());
+    return whole.copy(QRectF(rect.topLeft() * *scale, rect.size() * *scale).toAlignedRect());
+}
+
+SceneHost::SceneHost(std::unique_ptr<Private> d_) : d(std::move(d_)) { }
+
+SceneHost::~SceneHost() = default;
+
+std::unique_ptr<SceneHost> SceneHost::offscreen(Desktop &desktop, VirtualDispatch *clock, double scale)
+{
+    return std::unique_ptr<SceneHost>(new SceneHost(std::make_unique<Private>(desktop, clock, scale)));
+}
+
+std::unique_ptr<SceneHost> SceneHost::window(Desktop &desktop)
+{
+    return std::unique_ptr<SceneHost>(new SceneHost(std::make_unique<Private>(desktop, nullptr, std::nullopt)));
+}
+
+QQuickWindow *SceneHost::quickWindow() const
+{
+    return &d->window();
+}
+
+QQmlEngine &SceneHost::engine() const
+{
+    return *d->engine;
+}
+
+void SceneHost::settle()
+{
+    // Laying out asks for events and events for laying out: two rounds reach the end.
+    for (int round = 0; round < 2; ++round) {
+        QCoreApplication::sendPostedEvents();
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        if (d->surface)
+            d->surface->layOut();
+    }
+    if (d->animations)
+        d->animations->catchUp();
+}
+
+std::vector<ScriptHost::View> SceneHost::views() const
+{
+    return {{.window = quickWindow(), .toDisplay = [this](QPointF scene) { return toDisplay(scene); }}};
+}
+
+QImage SceneHost::picture()
+{
+    settle();
+    return d->surface ? d->surface->render() : d->ownWindow->grabWindow();
+}
+
+std::optional<QImage> SceneHost::picture(const QString &windowName)
+{
+    const DesktopWindow *window = d->desktop.windows().named(windowName);
+    const QQuickItem *frame = d->windows->frameOf(window);
+    if (!frame || !window->isVisible() || !d->surface)
+        return {};
+    settle();
+    return d->onlyFrame(*frame);
+}
+
+QQuickItem *SceneHost::contentOf(const DesktopWindow *window) const
+{
+    return d->windows->contentOf(window);
+}
+
+bool SceneHost::isAnimating() const
+{
+    return d->animations && d->animations->isRunning();
+}
+
+QPointF SceneHost::toDisplay(QPointF scene) const
+{
+    return d->space->mapFromScene(scene);
+}
+
+void SceneHost::movePointer(QPointF to, std::uint64_t modifierFlags)
+{
+    d->input->movePointer(to, modifierFlags);
+}
+
+void SceneHost::press(MouseButton button, std::uint64_t modifierFlags)
+{
+    d->input->press(button, modifierFlags);
+}
+
+void SceneHost::release(MouseButton button, std::uint64_t modifierFlags)
+{
+    d->input->release(button, modifierFlags);
+}
+
+void SceneHost::key(const platform::Event &event)
+{
+    d->input->key(event);
+}
+
+} // namespace brimshade::desktop

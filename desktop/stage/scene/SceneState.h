@@ -1,0 +1,79 @@
+#pragma once
+#include "BannerModel.h"
+#include "desktop/views/BarModel.h"
+#include "desktop/views/MenuController.h"
+#include "desktop/views/WallClock.h"
+
+#include <QPointF>
+#include <QRectF>
+#include <qqml.h>
+
+namespace brimshade::desktop {
+
+class Desktop;
+
+// Everything that the desktop's own views show, but the program's windows. Display space. Main thread.
+class SceneState : public QObject {
+    Q_OBJECT
+    QML_ELEMENT
+    QML_UNCREATABLE("belongs to a scene")
+    Q_PROPERTY(QRectF bounds READ bounds NOTIFY screensChanged)
+    Q_PROPERTY(QVariantList screens READ screens NOTIFY screensChanged) // rectangles
+    Q_PROPERTY(brimshade::desktop::BarModel *bar READ bar CONSTANT)
+    Q_PROPERTY(brimshade::desktop::MenuController *menu READ menu CONSTANT)
+    Q_PROPERTY(brimshade::desktop::BannerModel *banners READ banners CONSTANT)
+    Q_PROPERTY(QVariantList dockImages READ dockImages NOTIFY applicationsChanged)
+    Q_PROPERTY(QPointF pointer READ pointer NOTIFY pointerChanged)
+    Q_PROPERTY(bool isPointerDrawn READ isPointerDrawn NOTIFY pointerChanged)
+    Q_PROPERTY(bool isTrusted READ isTrusted NOTIFY permissionChanged)
+    Q_PROPERTY(bool isPromptOpen READ isPromptOpen NOTIFY permissionChanged)
+    Q_PROPERTY(bool isPageOpen READ isPageOpen NOTIFY permissionChanged)
+    Q_PROPERTY(QRectF promptFrame READ promptFrame NOTIFY permissionChanged)
+    Q_PROPERTY(QRectF pageFrame READ pageFrame NOTIFY permissionChanged)
+
+public:
+    // alwaysDrawsPointer: no hand shows where it is.
+    SceneState(Desktop &desktop, WallClock::Now now, bool alwaysDrawsPointer);
+
+    QRectF bounds() const; // of all screens together
+    QVariantList screens() const;
+    BarModel *bar() { return &m_bar; }
+    MenuController *menu() { return &m_menu; }
+    BannerModel *banners() { return &m_banners; }
+    QVariantList dockImages() const;
+    QPointF pointer() const;
+    bool isPointerDrawn() const { return m_alwaysDrawsPointer || m_wasWarped; }
+    bool isTrusted() const;
+    bool isPromptOpen() const;
+    bool isPageOpen() const;
+    QRectF promptFrame() const;
+    QRectF pageFrame() const;
+
+    void handMoved(); // the pointer is where a hand is again
+
+    Q_INVOKABLE void setTrusted(bool trusted);
+    Q_INVOKABLE void closePrompt();
+    Q_INVOKABLE void openSettingsFromPrompt();
+    Q_INVOKABLE void closePage();
+
+Q_SIGNALS:
+    void screensChanged();
+    void applicationsChanged();
+    void pointerChanged();
+    void permissionChanged();
+
+private:
+    QList<QRectF> screenFrames() const;
+    QRectF screenAt(QPointF point) const;
+    void desktopChanged();
+
+    Desktop &m_desktop;
+    const bool m_alwaysDrawsPointer;
+    bool m_wasWarped = false;
+    WallClock m_clock;
+    BarModel m_bar;
+    MenuController m_menu;
+    BannerModel m_banners;
+};
+
+} // namespace brimshade::desktop

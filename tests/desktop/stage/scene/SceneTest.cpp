@@ -1,0 +1,170 @@
+#include "SceneContext.h"
+#include "desktop/stage/builtin/BuiltInDesktop.h"
+
+#include <QImageReader>
+
+namespace brimshade::desktop {
+
+const QRectF kFrame(300, 200, 200, 200); // of the probe: area a, area b right of it
+const QPointF kInA(350, 250);
+const QPointF kInB(450, 250);
+
+TEST(Input, ReachesTheViewUnderThePointerOnly)
+{
+    SceneContext context;
+    const auto low = context.probe(u"low"_s, kFrame);
+    platform::WindowAttributes higher;
+    higher.level = platform::kStatusWindowLevel;
+    const auto high = context.probe(u"high"_s, kFrame.translated(150, 0), higher);
+    context.recorder().take();
+    context.click(kInA);
+    EXPECT_EQ(context.recorder().take(), QStringList({u"enter a"_s, u"press a"_s, u"release a"_s}));
+    context.click(kInB + QPointF(40, 0)); // b of the lower window lies under a of the higher one
+    EXPECT_EQ(context.recorder().take(), QStringList({u"enter a"_s, u"leave a"_s, u"press a"_s, u"release a"_s}));
+    EXPECT_TRUE(high->isKeyWindow());
+    context.click(kInA, MouseButton::right);
+    const QStringList right = context.recorder().take();
+    EXPECT_TRUE(right.contains(u"press a right"_s)) << right.join(u", "_s).toStdString();
+    EXPECT_TRUE(low->isKeyWindow());
+    context.click({200, 600});
+    EXPECT_FALSE(low->isKeyWindow());
+}
+
+TEST(Input, AKeyThatAMonitorSwallowsReachesNoView)
+{
+    SceneContext context;
+    const auto window = context.probe(u"probe"_s, kFrame);
+    bool swallows = true;
+    context.desktop().platform().application.addLocalMonitor(platform::kKeyDownMask, [&](const platform::Event &event) {
+        return swallows ? std::nullopt : std::optional(event);
+    });
+    context.recorder().take();
+    context.key(45, u"n"_s);
+    EXPECT_EQ(context.recorder().take(), QStringList());
+    swallows = false;
+    context.key(45, u"n"_s);
+    EXPECT_EQ(context.recorder().take().size(), 1);
+}
+
+TEST(Animations, AskForNoFrameOnceTheyEnded)
+{
+    SceneContext context;
+    context.settle();
+    EXPECT_FALSE(context.scene().isAnimating());
+    const auto window = context.probe(u"probe"_s, kFrame);
+    EXPECT_FALSE(context.scene().isAnimating());
+    QQuickItem *view = context.scene().contentOf(context.window(u"probe"_s));
+    view->setProperty("isMoved", true);
+    context.settle();
+    EXPECT_TRUE(context.scene().isAnimating());
+    context.advance(0.29);
+    EXPECT_TRUE(context.scene().isAnimating());
+    context.advance(0.05);
+    EXPECT_FALSE(context.scene().isAnimating());
+    // A later one begins when it begins, not where the first one left the clock.
+    context.advance(100);
+    view->setProperty("isMoved", false);
+    context.settle();
+    context.advance(0.15);
+    EXPECT_NEAR(view->property("mark").toDouble(), 50, 0.34);
+}
+
+TEST(Pictures, AreTheSameWhetherDrawnAtOnceOrChangeByChange)
+{
+    SceneContext context;
+    const QImage empty = context.scene().picture();
+    const auto window = context.probe(u"probe"_s, kFrame);
+    const auto menu = std::make_shared<ScriptedMenu>(std::vector{entry(1, u"Open"_s), entry(2, u"Close"_s)});
+    context.desktop().menus().open(menu, QRectF(380, 180, 0, 0));
+    context.settle();
+    EXPECT_NE(context.scene().picture(), empty);
+    window->setFrame(window->frame().translated(37, 21));
+    context.desktop().menus().dismiss();
+    context.settle();
+    const QImage changed = context.scene().picture();
+    window->orderOut();
+    context.settle();
+    EXPECT_EQ(context.scene().picture(), empty) << "nothing stays behind";
+    window->orderFrontRegardless();
+    context.remakeScene();
+    EXPECT_EQ(context.scene().picture(), changed);
+}
+
+QRectF onScreen(const QQuickItem *item)
+{
+    return item->mapRectToScene(QRectF(0, 0, item->width(), item->height()));
+}
+
+TEST(Windows, AreMovedByTheirTitleBarAndClosedByTheirButton)
+{
+    SceneContext context;
+    platform::WindowAttributes attributes;
+    attributes.styleMask = platform::kStyleTitled | platform::kStyleClosable;
+    const auto window = context.probe(u"probe"_s, kFrame, attributes);
+    const QRectF before = context.window(u"probe"_s)->displayFrame();
+    context.move(before.topLeft() + QPointF(150, 10));
+    context.scene().press(MouseButton::left);
+    for (int step = 1; step <= 5; ++step)
+        context.move(before.topLeft() + QPointF(150 + 10 * step, 10 + 4 * step));
+    context.scene().release(MouseButton::left);
+    context.settle();
+    EXPECT_EQ(context.window(u"probe"_s)->displayFrame(), before.translated(50, 20));
+    const auto buttons = context.findAll(u"probeClose"_s);
+    ASSERT_EQ(buttons.size(), 1);
+    context.click(onScreen(buttons.first()).center());
+    EXPECT_FALSE(window->isVisible());
+}
+
+TEST(Windows, DropTheirContentWithThem)
+{
+    SceneContext context;
+    auto window = context.probe(u"probe"_s, kFrame);
+    const QPointer<QQuickItem> content = context.scene().contentOf(context.window(u"probe"_s));
+    ASSERT_TRUE(content);
+    window.reset();
+    EXPECT_FALSE(content);
+    context.settle();
+    context.click(kFrame.center());
+    context.scene().picture();
+}
+
+TEST(Windows, AreTakenOverByASceneMadeLaterAndOutliveIt)
+{
+    SceneContext context;
+    const auto window = context.probe(u"probe"_s, kFrame);
+    const QPointer<QQuickItem> content = context.scene().contentOf(context.window(u"probe"_s));
+    context.remakeScene();
+    EXPECT_FALSE(content);
+    context.recorder().take();
+    context.click(kFrame.topLeft() + QPointF(50, 50));
+    EXPECT_EQ(context.recorder().take(), QStringList({u"enter a"_s, u"press a"_s, u"release a"_s}));
+}
+
+TEST(BuiltInDesktop, HasReadablePicturesAndMenusThatSayWhatWasChosen)
+{
+    QStringList icons;
+    for (const ApplicationDescription &application : builtInDesktop().applications) {
+        if (!application.icon)
+            continue;
+        QImageReader reader(*application.icon);
+        EXPECT_TRUE(reader.canRead()) << application.icon->toStdString();
+        icons << *application.icon;
+        for (const ExtraDescription &extra : application.extras.value_or(std::vector<ExtraDescription>())) {
+            EXPECT_GE(extra.menu.size(), 4) << application.name->toStdString();
+            EXPECT_LE(extra.menu.size(), 8) << application.name->toStdString();
+        }
+    }
+    icons.removeDuplicates();
+    EXPECT_GE(icons.size(), 12);
+
+    SceneContext context(builtInDesktop());
+    const auto items = context.desktop().menuBar().items();
+    context.click(items.back().frame.center());
+    ASSERT_TRUE(context.desktop().menus().choose(u"Show Calendar"_s));
+    context.settle();
+    const auto banners = context.findAll(u"banner"_s);
+    ASSERT_EQ(banners.size(), 1);
+    EXPECT_TRUE(banners.first()->property("what").toString().contains(u"Show Calendar"_s));
+}
+
+} // namespace brimshade::desktop
