@@ -1,0 +1,79 @@
+#pragma once
+#include <QObject>
+#include <QPointer>
+#include <QRect>
+#include <QRegion>
+#include <QScreen>
+
+class QQuickWindow;
+
+namespace brimshade::desktop::session {
+
+// A window's place on the desktop: the bar at the top edge of a screen, or something over everything, full-screen
+// windows included. Main thread. The window is not owned and outlives this; it is shown and hidden by this alone.
+// Lengths are points, from the top left corner of the screen (the place) or of the window (the regions). Everything may
+// be set before it is shown and while it is.
+class ShellSurface : public QObject {
+    Q_OBJECT
+public:
+    enum class Kind {
+        Bar, // as wide as the screen; of its geometry the height counts
+        Overlay, // panel, menu: where its geometry says
+    };
+
+    ~ShellSurface() override;
+    Q_DISABLE_COPY_MOVE(ShellSurface)
+
+    QQuickWindow &window() const { return m_window; }
+    Kind kind() const { return m_kind; }
+    QScreen *screen() const { return m_screen; } // null once that screen is gone
+    QRect geometry() const { return m_geometry; }
+    QRegion inputRegion() const; // never empty: the whole window where none was set
+    bool isShown() const { return m_isShown; } // asked for; the window is visible from configured on
+
+    void setScreen(QScreen *screen);
+    void setGeometry(const QRect &geometry);
+    void setZone(int height); // kept free of other windows at the screen's top edge; 0 for none
+    void setInputRegion(const QRegion &region); // clicks elsewhere go through; empty: the whole window
+    // Where nothing mixes windows (X11 without a compositing manager) the window is cut to this; empty: not cut.
+    void setDrawnRegion(const QRegion &region);
+    // Takes all keys while it is shown; hidden, it gives them back to whoever had them.
+    void setTakesKeyboard(bool takes);
+
+    // Needs a screen. Where the compositor has its say, configured comes later.
+    void show();
+    void hide(); // at once, and without a signal
+
+Q_SIGNALS:
+    void configured(const QSize &size); // the window is visible and has this size
+    void closed(); // hidden because its screen went or the compositor said so; may be shown again
+
+protected:
+    ShellSurface(QQuickWindow &window, Kind kind);
+    int zone() const { return m_zone; }
+    const QRegion &wantedInputRegion() const { return m_inputRegion; } // empty: the whole window
+    const QRegion &drawnRegion() const { return m_drawnRegion; }
+    bool takesKeyboard() const { return m_takesKeyboard; }
+    void close(); // hides and says so
+
+private:
+    // Everything that was set is to be in force after map; the others are called only in between.
+    virtual void map() = 0;
+    virtual void unmap() = 0;
+    virtual void applyGeometry() = 0; // and the zone
+    virtual void applyRegions() = 0;
+    virtual void applyKeyboard() = 0;
+
+    QQuickWindow &m_window;
+    const Kind m_kind;
+    QPointer<QScreen> m_screen;
+    QMetaObject::Connection m_screenGone;
+    QRect m_geometry;
+    int m_zone = 0;
+    QRegion m_inputRegion;
+    QRegion m_drawnRegion;
+    bool m_takesKeyboard = false;
+    bool m_isShown = false;
+};
+
+} // namespace brimshade::desktop::session
