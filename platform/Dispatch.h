@@ -1,5 +1,6 @@
 #pragma once
 #include <QString>
+#include <cstddef>
 #include <functional>
 #include <memory>
 #include <utility>
@@ -60,6 +61,10 @@ public:
 
     virtual std::shared_ptr<SerialQueue> makeSerialQueue(const QString &label, QualityOfService qos) = 0;
     virtual void globalAsync(QualityOfService qos, Work work) = 0; // concurrent; any thread
+    // Runs work(0) to work(iterations - 1) side by side and returns when all have ended. They begin in that order, the
+    // first ones on the calling thread, and wait for no work of any queue, however long that hangs. Any thread but the
+    // main one, and not from within such work itself.
+    virtual void concurrentPerform(std::size_t iterations, const std::function<void(std::size_t)> &work) = 0;
     virtual void sleep(double seconds) = 0; // the calling thread; never the main one
 };
 

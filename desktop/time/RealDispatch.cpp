@@ -1,4 +1,5 @@
 #include "RealDispatch.h"
+#include "Iterations.h"
 #include "RepeatingTimer.h"
 
 #include <chrono>
@@ -11,6 +12,8 @@ namespace {
 
 // A press may wait seconds for its application; enough that a few hanging ones do not hold up the rest.
 constexpr std::size_t kGlobalThreads = 8;
+// As many can wait at a time; made only for those that do.
+constexpr std::size_t kConcurrentThreads = 64;
 
 Nanoseconds steadyNow()
 {
@@ -29,6 +32,12 @@ public:
     {
         return {nullptr, [completion](void *) { completion->finish(); }};
     }
+    void finish()
+    {
+        const std::lock_guard lock(m_mutex);
+        m_finished = true;
+        m_changed.notify_all();
+    }
     void wait()
     {
         std::unique_lock lock(m_mutex);
@@ -36,13 +45,6 @@ public:
     }
 
 private:
-    void finish()
-    {
-        const std::lock_guard lock(m_mutex);
-        m_finished = true;
-        m_changed.notify_all();
-    }
-
     std::mutex m_mutex;
     std::condition_variable m_changed;
     bool m_finished = false;
@@ -64,7 +66,7 @@ private:
 
 RealDispatch::RealDispatch()
     : m_wakeUp(eventfd(0, EFD_CLOEXEC | EFD_NONBLOCK)), m_notifier(m_wakeUp, QSocketNotifier::Read),
-      m_global(kGlobalThreads)
+      m_global(kGlobalThreads), m_concurrent(kConcurrentThreads)
 {
     m_timer.setSingleShot(true);
     m_timer.setTimerType(Qt::PreciseTimer);
@@ -93,6 +95,7 @@ void RealDispatch::stop()
     m_global.join();
     for (const auto &queue : m_queues)
         queue->pool().join();
+    m_concurrent.join();
 }
 
 void RealDispatch::dropQueuedWork()
@@ -103,6 +106,7 @@ void RealDispatch::dropQueuedWork()
     for (const auto &queue : queues)
         queue->pool().close();
     m_global.close();
+    m_concurrent.close(); // whoever waits for its work does the rest of it alone
 }
 
 double RealDispatch::now() const
@@ -154,6 +158,19 @@ std::shared_ptr<platform::SerialQueue> RealDispatch::makeSerialQueue(const QStri
 void RealDispatch::globalAsync(platform::QualityOfService, platform::Work work)
 {
     m_global.async(std::move(work));
+}
+
+void RealDispatch::concurrentPerform(std::size_t iterations, const std::function<void(std::size_t)> &work)
+{
+    Q_ASSERT(!isMainThread());
+    if (iterations == 0)
+        return;
+    const auto completion = std::make_shared<Completion>();
+    const auto shared = std::make_shared<Iterations>(
+        iterations, work, [this](platform::Work run) { m_concurrent.async(std::move(run)); },
+        [completion] { completion->finish(); });
+    shared->run();
+    completion->wait();
 }
 
 void RealDispatch::sleep(double seconds)

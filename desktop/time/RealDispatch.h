@@ -36,6 +36,7 @@ public:
     std::shared_ptr<platform::SerialQueue> makeSerialQueue(const QString &label,
                                                            platform::QualityOfService qos) override;
     void globalAsync(platform::QualityOfService qos, platform::Work work) override;
+    void concurrentPerform(std::size_t iterations, const std::function<void(std::size_t)> &work) override;
     void sleep(double seconds) override;
 
 private:
@@ -61,6 +62,7 @@ private:
     bool m_isStopping = false;
     std::vector<std::shared_ptr<Queue>> m_queues; // kept: each has a thread to join
     WorkerPool m_global;
+    WorkerPool m_concurrent; // of concurrentPerform alone
 };
 
 } // namespace brimshade::desktop

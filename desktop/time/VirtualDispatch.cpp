@@ -1,4 +1,5 @@
 #include "VirtualDispatch.h"
+#include "Iterations.h"
 #include "Lane.h"
 #include "RepeatingTimer.h"
 
@@ -11,6 +12,7 @@ namespace brimshade::desktop {
 namespace {
 
 constexpr std::size_t kGlobalWidth = 8;
+constexpr std::size_t kUnlimited = std::numeric_limits<std::size_t>::max();
 constexpr Nanoseconds kFramesPerSecond = 60;
 
 // Rounded down, so that advancing by 1/60 s again and again meets every frame.
@@ -41,7 +43,7 @@ void deliverQtEvents()
 
 } // namespace
 
-VirtualDispatch::VirtualDispatch() : m_global(makeLane({}, kGlobalWidth)) { }
+VirtualDispatch::VirtualDispatch() : m_concurrent(makeLane({}, kUnlimited)), m_global(makeLane({}, kGlobalWidth)) { }
 
 VirtualDispatch::~VirtualDispatch()
 {
@@ -157,6 +159,26 @@ std::shared_ptr<platform::SerialQueue> VirtualDispatch::makeSerialQueue(const QS
 void VirtualDispatch::globalAsync(platform::QualityOfService, platform::Work work)
 {
     m_global->async(std::move(work));
+}
+
+void VirtualDispatch::concurrentPerform(std::size_t iterations, const std::function<void(std::size_t)> &work)
+{
+    if (iterations == 0)
+        return;
+    Worker &worker = callingWorker();
+    bool isDone = false;
+    bool isWaiting = false;
+    const auto allEnded = [&] {
+        isDone = true;
+        if (isWaiting)
+            m_events.add(m_now, [&worker] { worker.lane().resume(worker); });
+    };
+    std::make_shared<Iterations>(
+        iterations, work, [this](platform::Work run) { m_concurrent->async(std::move(run)); }, allEnded)
+        ->run();
+    isWaiting = !isDone;
+    if (isWaiting)
+        worker.wait();
 }
 
 void VirtualDispatch::sleep(double seconds)

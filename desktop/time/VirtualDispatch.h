@@ -15,11 +15,13 @@ class Lane;
 
 // A clock that moves only when it is told to. Serial and global work runs on threads of its own, but one thread
 // runs at a time: the main thread, or the one it has lent the baton to. A worker keeps the baton until it sleeps,
-// calls mainSync or ends, so every run takes the same course. Hence a worker must hold no lock over those calls
-// and must not wait for another worker by any other means.
+// calls mainSync, waits in concurrentPerform or ends, so every run takes the same course. Hence a worker must hold no
+// lock over those calls and must not wait for another worker by any other means. What runs side by side takes as long
+// as the slowest of it; of what wakes at the same instant, what began earlier goes first.
 //
 // The main queue, the workers' turns and the frames run inside runDue() and advance() only. The thread that
-// makes it is the main one, and the one that destroys it. sleep and mainSync are for the main thread and the workers.
+// makes it is the main one, and the one that destroys it. mainSync is for the main thread and the workers, sleep and
+// concurrentPerform for the workers alone.
 class VirtualDispatch : public platform::Dispatch {
 public:
     VirtualDispatch();
@@ -47,6 +49,7 @@ public:
     std::shared_ptr<platform::SerialQueue> makeSerialQueue(const QString &label,
                                                            platform::QualityOfService qos) override;
     void globalAsync(platform::QualityOfService qos, platform::Work work) override;
+    void concurrentPerform(std::size_t iterations, const std::function<void(std::size_t)> &work) override;
     void sleep(double seconds) override;
 
 private:
@@ -61,7 +64,8 @@ private:
 
     std::mutex m_mutex;
     bool m_isStopping = false;
-    std::vector<std::shared_ptr<Lane>> m_lanes; // all, the global one too
+    std::vector<std::shared_ptr<Lane>> m_lanes; // all, in the order in which they were made
+    std::shared_ptr<Lane> m_concurrent; // made first and stopped first: the others' work waits for its
     std::shared_ptr<Lane> m_global;
 };
 

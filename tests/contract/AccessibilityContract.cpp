@@ -83,6 +83,28 @@ TEST_P(AccessibilityContract, GivesUpOnAHungApplicationAfterTheMessagingTimeout)
     EXPECT_NEAR(pressTook, 0.5, 0.1) << "each element has its own";
 }
 
+TEST_P(AccessibilityContract, AnswersSideBySide)
+{
+    std::vector<int> pids;
+    for (int i = 0; i < 10; ++i)
+        pids.push_back(driver->launch({{u"only"_s}}));
+    for (const int pid : pids)
+        driver->hang(pid);
+    std::vector<AXError> errors(pids.size(), kAXErrorSuccess);
+    double took = 0;
+    onWorker([&] {
+        const double start = platform.dispatch.now();
+        platform.dispatch.concurrentPerform(pids.size(), [&](std::size_t i) {
+            const auto application = platform.accessibility.createApplication(pids[i]);
+            platform.accessibility.setMessagingTimeout(application, 0.25);
+            errors[i] = errorOf(application, u"AXExtrasMenuBar"_s);
+        });
+        took = platform.dispatch.now() - start;
+    });
+    EXPECT_THAT(errors, testing::Each(kAXErrorCannotComplete));
+    EXPECT_NEAR(took, 0.25, 0.1) << "none waits for another";
+}
+
 TEST_P(AccessibilityContract, PressesOpenMenusAndMissingActionsAreRefused)
 {
     const auto elements = items(driver->launch({{u"pressed"_s, {u"AXPress"_s}, {u"Open"_s, u"-"_s, u"Quit"_s}},

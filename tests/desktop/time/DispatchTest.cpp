@@ -5,6 +5,7 @@
 
 #include <QCoreApplication>
 #include <QEventLoop>
+#include <atomic>
 
 namespace brimshade::desktop {
 
@@ -133,6 +134,55 @@ TYPED_TEST(DispatchTest, GlobalWorkOverlaps)
     this->dispatch->globalAsync(QualityOfService::userInitiated,
                                 [&] { this->dispatch->mainSync([&] { secondRan = true; }); });
     this->run(this->done);
+}
+
+TYPED_TEST(DispatchTest, ConcurrentIterationsOverlapWhateverHangsElsewhere)
+{
+    for (int i = 0; i < 100; ++i)
+        this->dispatch->globalAsync(QualityOfService::userInitiated, [&] { this->dispatch->sleep(86400); });
+    // Each waits until all have begun: fewer threads than iterations would never get there.
+    constexpr std::size_t kIterations = 20;
+    std::atomic<std::size_t> begun = 0;
+    std::vector<int> runs(kIterations);
+    bool onMain = false;
+    const auto queue = this->makeQueue();
+    queue->async([&] {
+        this->dispatch->concurrentPerform(0, [](std::size_t) { ADD_FAILURE(); });
+        this->dispatch->concurrentPerform(1, [](std::size_t index) { EXPECT_EQ(index, 0U); });
+        this->dispatch->concurrentPerform(kIterations, [&](std::size_t index) {
+            ++runs[index];
+            if (index == 0)
+                onMain = this->dispatch->isMainThread();
+            for (++begun; begun < kIterations;)
+                this->dispatch->sleep(0.0001);
+        });
+        EXPECT_THAT(runs, testing::Each(1)) << "it returns when all have ended";
+        this->dispatch->mainAsync([&] { this->done = true; });
+    });
+    this->run(this->done);
+    EXPECT_FALSE(onMain);
+}
+
+TYPED_TEST(DispatchTest, DestructionLetsConcurrentIterationsEnd)
+{
+    TypeParam &dispatch = *this->dispatch;
+    std::atomic<int> ended = 0;
+    bool returned = false;
+    this->makeQueue()->async([&] {
+        std::atomic<int> begun = 0;
+        dispatch.concurrentPerform(4, [&](std::size_t) {
+            if (++begun == 3) // the fourth may begin while all ends
+                dispatch.mainAsync([&] { this->done = true; });
+            dispatch.sleep(86400);
+            dispatch.mainSync([] { ADD_FAILURE() << "nothing runs any more"; });
+            ++ended;
+        });
+        returned = true;
+    });
+    this->run(this->done);
+    dispatch.stop();
+    EXPECT_TRUE(returned);
+    EXPECT_EQ(ended, 4);
 }
 
 TYPED_TEST(DispatchTest, DestructionEndsSleepsAndDropsMainSync)

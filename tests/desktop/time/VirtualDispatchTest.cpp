@@ -67,6 +67,28 @@ TEST_F(VirtualDispatchTest, SleepersTakeTurnsByTheClock)
                             "fast 0.600", "slow 0.800", "slow 1.200", "sync 1.200", "slow 1.200"));
 }
 
+TEST_F(VirtualDispatchTest, ConcurrentIterationsTakeAsLongAsTheSlowestAndWakeInTheirOrder)
+{
+    const auto queue = dispatch.makeSerialQueue(u"caller"_s, QualityOfService::userInitiated);
+    const double pauses[] = {0.2, 0.4, 0, 0.2, 0.1};
+    queue->async([&, this] {
+        dispatch.concurrentPerform(std::size(pauses), [&](std::size_t i) {
+            note("begin" + std::to_string(i));
+            if (pauses[i] > 0)
+                dispatch.sleep(pauses[i]);
+            note("end" + std::to_string(i));
+        });
+        note("all");
+        dispatch.concurrentPerform(300, [this](std::size_t) { dispatch.sleep(0.25); });
+        note("many");
+    });
+    dispatch.advance(0.65);
+    EXPECT_THAT(log,
+                ElementsAre("begin0 0.000", "begin1 0.000", "begin2 0.000", "end2 0.000", "begin3 0.000",
+                            "begin4 0.000", "end4 0.100", "end0 0.200", "end3 0.200", "end1 0.400", "all 0.400",
+                            "many 0.650"));
+}
+
 TEST_F(VirtualDispatchTest, FramesAreMadeOnlyWhileTheyAreWanted)
 {
     std::vector<double> frames;
