@@ -1,8 +1,10 @@
 #include "MenuBarAccess.h"
-#include "ItemWalk.h"
+#include "BarReading.h"
+#include "ElementReader.h"
 #include "Labels.h"
 #include "Owner.h"
 #include "Text.h"
+#include "platform/Dispatch.h"
 #include "platform/Platform.h"
 
 #include <QStringBuilder>
@@ -13,14 +15,6 @@ namespace brimshade::menubar {
 namespace {
 
 using namespace Qt::StringLiterals;
-
-const QString kTitle = u"AXTitle"_s;
-const QString kDescription = u"AXDescription"_s;
-const QString kIdentifier = u"AXIdentifier"_s;
-
-// Seconds, for each application element.
-constexpr double kScanTimeout = 0.25;
-constexpr double kButtonTimeout = 0.2;
 
 bool isSystemAgent(const platform::RunningApplication &application)
 {
@@ -63,14 +57,17 @@ MenuBarAccess::~MenuBarAccess() = default;
 
 ExtraList MenuBarAccess::scan(const platform::Screen &screen, std::optional<QRectF> dividerFrame)
 {
-    const int ownProcess = m_workspace.processIdentifier();
-    const std::optional<QString> ownBundle = m_workspace.bundleIdentifier();
-    HidingEdges edges{notchExtent(screen), platform::minX(screen.frame), std::nullopt, dividerFrame};
+    const std::vector<platform::RunningApplication> applications = otherApplications();
+    std::vector<BarReading> bars(applications.size());
+    m_dispatch.concurrentPerform(
+        bars.size(), [&](std::size_t i) { bars[i] = readBar(m_accessibility, applications[i].processIdentifier); });
+    HidingEdges edges{menubar::notchExtent(screen), platform::minX(screen.frame), std::nullopt, dividerFrame};
     ExtraList extras;
-    for (const platform::RunningApplication &application : m_workspace.runningApplications()) {
-        // By the bundle identifier too: a second instance of this program is not listed either.
-        if (application.processIdentifier != ownProcess && application.bundleIdentifier != ownBundle)
-            readApplication(application, extras, edges.buttonEdge);
+    for (std::size_t i = 0; i < bars.size(); ++i) {
+        if (bars[i].buttonEdge)
+            edges.buttonEdge = bars[i].buttonEdge;
+        if (!bars[i].items.empty())
+            addItems(applications[i], std::move(bars[i]), extras);
     }
     // Only now is the last button known.
     for (MenuExtra &extra : extras)
@@ -78,47 +75,53 @@ ExtraList MenuBarAccess::scan(const platform::Screen &screen, std::optional<QRec
     return leftToRight(std::move(extras));
 }
 
-void MenuBarAccess::readApplication(const platform::RunningApplication &application, ExtraList &extras,
-                                    std::optional<double> &buttonEdge)
+std::vector<platform::RunningApplication> MenuBarAccess::otherApplications() const
 {
-    const AXUIElement menuBar = extrasMenuBar(m_accessibility, application.processIdentifier, kScanTimeout);
-    std::vector<AXUIElement> items;
-    if (menuBar)
-        items = collectItems(m_accessibility, menuBar, buttonEdge);
-    if (items.empty())
-        return;
+    std::vector<platform::RunningApplication> applications = m_workspace.runningApplications();
+    // By the bundle identifier too: a second instance of this program is not listed either.
+    std::erase_if(applications,
+                  [process = m_workspace.processIdentifier(),
+                   bundle = m_workspace.bundleIdentifier()](const platform::RunningApplication &application) {
+                      return application.processIdentifier == process || application.bundleIdentifier == bundle;
+                  });
+    return applications;
+}
+
+void MenuBarAccess::addItems(const platform::RunningApplication &application, BarReading bar, ExtraList &extras)
+{
     const auto &path = application.bundlePath;
     const Owner owner{application, isSystemAgent(application), QString::number(application.processIdentifier) + u'-',
                       path ? outerBundle(*path) : std::nullopt};
     const Icon icon = appIcon(owner);
-    for (int position = 0; AXUIElement & item : items) {
+    for (int position = 0; ItemReading & item : bar.items) {
         MenuExtra &extra = extras.emplace_back();
         extra.icon = icon.image;
         extra.tint = icon.tint;
-        readItem(owner, std::move(item), position++, extra);
+        describe(owner, std::move(item), position++, extra);
     }
 }
 
-void MenuBarAccess::readItem(const Owner &owner, AXUIElement item, int position, MenuExtra &extra) const
+void MenuBarAccess::describe(const Owner &owner, ItemReading item, int position, MenuExtra &extra) const
 {
-    const QString title = stringAttribute(m_accessibility, item, kTitle);
-    const QString description = stringAttribute(m_accessibility, item, kDescription);
-    const QString identifier = stringAttribute(m_accessibility, item, kIdentifier);
-    extra.id = owner.idPrefix % QString::number(position) % u'-' % identifier;
+    extra.id = owner.idPrefix % QString::number(position) % u'-' % item.identifier;
     extra.name = appName(owner);
-    extra.detail = detailText(title, description, extra.name);
+    extra.detail = detailText(item.title, item.description, extra.name);
     if (owner.isSystemAgent) {
-        extra.name = description.isEmpty() ? u"System"_s : description;
-        extra.symbol = symbolName(identifier);
+        extra.name = item.description.isEmpty() ? u"System"_s : item.description;
+        extra.symbol = symbolName(item.identifier);
     }
-    extra.frame = frameOf(m_accessibility, item);
-    extra.canMove = canMoveItem(owner.isSystemAgent, identifier);
-    extra.element = std::move(item);
+    extra.frame = item.frame;
+    extra.canMove = canMoveItem(owner.isSystemAgent, item.identifier);
+    extra.element = std::move(item.element);
 }
 
 QRectF MenuBarAccess::frame(const AXUIElement &element) const
 {
-    return element ? frameOf(m_accessibility, element) : QRectF();
+    if (!element)
+        return {};
+    ElementReader reader(m_accessibility);
+    reader.adopt(element);
+    return reader.frame(element);
 }
 
 std::optional<NotchExtent> MenuBarAccess::notchExtent(const platform::Screen &screen) const
@@ -132,8 +135,7 @@ std::optional<QRectF> MenuBarAccess::firstSystemButtonFrame() const
     const auto agent = std::ranges::find_if(applications, isSystemAgent);
     if (agent == applications.end())
         return std::nullopt;
-    const AXUIElement menuBar = extrasMenuBar(m_accessibility, agent->processIdentifier, kButtonTimeout);
-    return menuBar ? firstButtonFrame(m_accessibility, menuBar) : std::nullopt;
+    return readFirstButton(m_accessibility, agent->processIdentifier);
 }
 
 } // namespace brimshade::menubar

@@ -16,9 +16,13 @@ class Workspace;
 
 namespace brimshade::menubar {
 
+struct BarReading;
+struct ItemReading;
+
 // What the program reads of, and does to, other applications' menu bar items. Each call blocks its thread for what
 // the applications take to answer. scan belongs to the scan queue, where calls never overlap: its
-// cache has no lock. The rest may be called on any thread.
+// cache has no lock. It asks the applications side by side, each for as long as its first time-out at the most, and
+// names and pictures their items on its own thread. The rest may be called on any thread.
 class MenuBarAccess {
 public:
     // The platform's services outlive this object.
@@ -48,9 +52,9 @@ private:
 
     struct Owner;
 
-    void readApplication(const platform::RunningApplication &application, ExtraList &extras,
-                         std::optional<double> &buttonEdge);
-    void readItem(const Owner &owner, platform::AXUIElement item, int position, MenuExtra &extra) const;
+    std::vector<platform::RunningApplication> otherApplications() const;
+    void addItems(const platform::RunningApplication &application, BarReading bar, ExtraList &extras);
+    void describe(const Owner &owner, ItemReading item, int position, MenuExtra &extra) const;
     QString appName(const Owner &owner) const;
     Icon appIcon(const Owner &owner);
     const Icon &cachedIcon(const QString &bundlePath);

@@ -125,12 +125,61 @@ TEST(Scan, NamesAnAuxiliaryApplicationAfterTheOneThatHoldsIt)
     EXPECT_TRUE(bar.found(u"x"_s).icon.isSameObject(bar.found(u"y"_s).icon)); // the outer one's, made once
 }
 
-TEST(Scan, SpendsAQuarterOfASecondOnEachApplicationThatHangs)
+ApplicationDescription slow(ApplicationDescription application, double latency)
 {
-    MenuBarContext bar({hung(application(1, u"One"_s, {extra(u"a"_s)})), application(2, u"Two"_s, {extra(u"b"_s)}),
-                        hung(application(3, u"Three"_s, {extra(u"c"_s)}))});
-    EXPECT_EQ(ids(bar.scan()), QStringList{u"2-0-b"_s});
-    EXPECT_DOUBLE_EQ(bar.secondsOfLastScan, 0.5);
+    application.latency = latency;
+    return application;
+}
+
+TEST(Scan, TakesAsLongAsTheSlowestApplication)
+{
+    const auto sluggish = [](int pid) {
+        return slow(application(pid, u"Sluggish"_s, {extra(u"a"_s), extra(u"b"_s), extra(u"c"_s)}), 0.1);
+    };
+    std::vector<ApplicationDescription> hanging;
+    for (int pid = 1; pid <= 8; ++pid)
+        hanging.push_back(hung(application(pid, u"Hung"_s, {extra(u"x"_s)})));
+    hanging.push_back(application(9, u"Well"_s, {extra(u"y"_s)}));
+    const std::tuple<std::vector<ApplicationDescription>, double, std::uint64_t, std::size_t> cases[] = {
+        {hanging, 0.25, 8 + 2 + 1 + 5, 1},
+        {{sluggish(1)}, 2, 2 + 3 + 15, 3}, // a tenth for each read
+        {{sluggish(1), sluggish(2), sluggish(3), sluggish(4)}, 2, 4 * 20, 12},
+    };
+    for (const auto &[applications, seconds, reads, items] : cases) {
+        MenuBarContext bar(applications);
+        EXPECT_EQ(bar.scan().size(), items);
+        EXPECT_DOUBLE_EQ(bar.secondsOfLastScan, seconds);
+        EXPECT_EQ(bar.desktop.inspection().requestCount(), reads);
+    }
+}
+
+TEST(Scan, AsksNoMoreOfAnApplicationThatHangsInTheMiddle)
+{
+    // Its thirteenth read, the size of its first item, begins at 0.24 s.
+    auto sluggish =
+        slow(application(1, u"Sluggish"_s, {extra(u"a"_s), extra(u"b"_s), extra(u"c"_s), button(kSomewhere)}), 0.02);
+    MenuBarContext bar({sluggish, application(2, u"Well"_s, {extra(u"y"_s)})});
+    bar.dispatch.mainAfter(0.23, [&] {
+        sluggish.hangs = true;
+        bar.desktop.change(1, {.description = sluggish});
+    });
+    EXPECT_EQ(ids(bar.scan()), (QStringList{u"1-1-"_s, u"1-2-"_s, u"2-0-y"_s, u"1-0-a"_s}));
+    EXPECT_DOUBLE_EQ(bar.secondsOfLastScan, 0.24 + 0.25);
+}
+
+// Whoever answers first, the workspace's order decides: of items that look alike, and of buttons which is the last.
+TEST(Scan, MergesInTheOrderOfTheWorkspace)
+{
+    const auto each = [](int pid, double edge, double latency) {
+        return slow(application(pid, u"Twin"_s, {extraAt(u"x"_s, kSomewhere), button({edge - 20, 0, 20, 37})}),
+                    latency);
+    };
+    for (const auto &[first, second] : {std::pair(0.1, 0.), std::pair(0., 0.1), std::pair(0.1, 0.1)}) {
+        MenuBarContext bar({each(1, 1100, first), each(2, 900, second)});
+        const ExtraList extras = bar.scan();
+        EXPECT_EQ(ids(extras), (QStringList{u"1-0-x"_s, u"2-0-x"_s})) << first << second;
+        EXPECT_FALSE(extras.at(0).isHidden) << first << second;
+    }
 }
 
 TEST(Scan, ReadsEachAttributeOnce)
