@@ -10,6 +10,7 @@
 #include "controls/HoverZone.h"
 #include "controls/Weakly.h"
 #include "menubar/MenuBarAccess.h"
+#include "menubar/NotchGeometry.h"
 #include "model/NotchModel.h"
 #include "platform/Accessibility.h"
 #include "platform/Dispatch.h"
@@ -121,7 +122,7 @@ void AppDelegate::applySettings()
         m_hotkey = std::make_unique<controls::Hotkey>(m_platform.hotkeyCenter,
                                                       weakly(std::weak_ptr(m_panel), &PanelPresenter::toggle));
     m_hotkey->set(m_model->shortcut());
-    m_hoverZone->update(m_model->hoverToOpen(), notchedScreen(m_platform.screens));
+    m_hoverZone->update(m_model->hoverToOpen(), menubar::notchedScreen(m_platform.screens.screens()));
 }
 
 void AppDelegate::screensChanged()

@@ -1,5 +1,7 @@
 #include "MoveMessages.h"
 
+#include "menubar/Text.h"
+
 #include <QCoreApplication>
 #include <QStringList>
 #include <algorithm>
@@ -29,12 +31,6 @@ QString sentence(menubar::MenuBarMover::Failure failure)
     return {};
 }
 
-// By code points, where QString's own order would put the astral ones before the end of the basic plane.
-bool comesBefore(const QString &a, const QString &b)
-{
-    return std::ranges::lexicographical_compare(a.toUcs4(), b.toUcs4());
-}
-
 } // namespace
 
 QString failureMessage(const menubar::MenuExtra &extra, menubar::MenuBarMover::Failure failure)
@@ -45,7 +41,7 @@ QString failureMessage(const menubar::MenuExtra &extra, menubar::MenuBarMover::F
 QString failureSummary(const MoveMessages &messages)
 {
     QStringList sorted = messages.values();
-    std::ranges::sort(sorted, comesBefore);
+    std::ranges::sort(sorted, menubar::isOrderedBefore);
     return Text::tr("Some items didn't move.") + u' ' + sorted.join(u' ');
 }
 

@@ -24,13 +24,6 @@ platform::Screen initialScreen(const platform::Screens &screens)
 
 } // namespace
 
-std::optional<platform::Screen> notchedScreen(const platform::Screens &screens)
-{
-    const std::vector<platform::Screen> all = screens.screens();
-    const auto notched = std::ranges::find_if(all, [](const auto &s) { return menubar::notchExtent(s).has_value(); });
-    return notched == all.end() ? std::nullopt : std::optional(*notched);
-}
-
 PanelPlacement::PanelPlacement(const platform::Screens &screens, const platform::Application &application)
     : m_screens(screens), m_application(application), m_screen(initialScreen(screens))
 {
@@ -38,7 +31,7 @@ PanelPlacement::PanelPlacement(const platform::Screens &screens, const platform:
 
 void PanelPlacement::chooseScreen()
 {
-    std::optional<platform::Screen> chosen = notchedScreen(m_screens);
+    std::optional<platform::Screen> chosen = menubar::notchedScreen(m_screens.screens());
     if (!chosen)
         chosen = screenUnderPointer();
     if (!chosen)

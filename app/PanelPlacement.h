@@ -7,9 +7,6 @@ class Application;
 
 namespace brimshade::app {
 
-// The first screen whose menu bar leaves a gap for the camera housing; absent without one.
-std::optional<platform::Screen> notchedScreen(const platform::Screens &screens);
-
 // The screen that the panel opens on, and where on it. Main thread; screen space.
 class PanelPlacement {
 public:

@@ -2,6 +2,7 @@
 #include "BarReading.h"
 #include "ElementReader.h"
 #include "Labels.h"
+#include "NotchGeometry.h"
 #include "Owner.h"
 #include "Text.h"
 #include "platform/Dispatch.h"
@@ -122,11 +123,6 @@ QRectF MenuBarAccess::frame(const AXUIElement &element) const
     ElementReader reader(m_accessibility);
     reader.adopt(element);
     return reader.frame(element);
-}
-
-std::optional<NotchExtent> MenuBarAccess::notchExtent(const platform::Screen &screen) const
-{
-    return menubar::notchExtent(screen);
 }
 
 std::optional<QRectF> MenuBarAccess::firstSystemButtonFrame() const

@@ -1,7 +1,7 @@
 #pragma once
 #include "MenuExtra.h"
-#include "NotchGeometry.h"
 #include "platform/Accessibility.h"
+#include "platform/Screens.h"
 
 #include <QHash>
 #include <optional>
@@ -36,7 +36,6 @@ public:
 
     // Display space; a part that cannot be read is 0.
     QRectF frame(const platform::AXUIElement &element) const;
-    std::optional<NotchExtent> notchExtent(const platform::Screen &screen) const;
     // Of the system's menu bar agent; absent where there is none or it cannot be read.
     std::optional<QRectF> firstSystemButtonFrame() const;
 

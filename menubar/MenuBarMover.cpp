@@ -1,6 +1,7 @@
 #include "MenuBarMover.h"
 #include "DragPlan.h"
 #include "MenuBarAccess.h"
+#include "NotchGeometry.h"
 #include "Text.h"
 #include "platform/Dispatch.h"
 #include "platform/EventServices.h"
@@ -60,10 +61,9 @@ std::optional<platform::Screen> MenuBarMover::chooseScreen() const
     std::optional<platform::Screen> chosen;
     m_platform.dispatch.mainSync([&] {
         const std::vector<platform::Screen> screens = m_platform.screens.screens();
-        const auto notched = std::ranges::find_if(
-            screens, [](const platform::Screen &screen) { return notchExtent(screen).has_value(); });
-        if (!screens.empty())
-            chosen = notched == screens.end() ? screens.front() : *notched;
+        chosen = notchedScreen(screens);
+        if (!chosen && !screens.empty())
+            chosen = screens.front();
     });
     return chosen;
 }

@@ -1,5 +1,6 @@
 #include "NotchGeometry.h"
 
+#include <algorithm>
 #include <cmath>
 
 namespace brimshade::menubar {
@@ -38,6 +39,13 @@ std::optional<NotchExtent> notchExtent(const platform::Screen &screen)
     if (!left || !right || maxX(*left) >= minX(*right))
         return std::nullopt;
     return NotchExtent{maxX(*left) - minX(screen.frame), minX(*right) - minX(screen.frame)};
+}
+
+std::optional<platform::Screen> notchedScreen(const std::vector<platform::Screen> &screens)
+{
+    const auto notched =
+        std::ranges::find_if(screens, [](const auto &screen) { return notchExtent(screen).has_value(); });
+    return notched == screens.end() ? std::nullopt : std::optional(*notched);
 }
 
 bool isHiddenItem(const QRectF &frame, const HidingEdges &edges)

@@ -4,6 +4,7 @@
 #include <QRectF>
 #include <QString>
 #include <optional>
+#include <vector>
 
 // Which items count as hidden or movable. Pure functions, any thread.
 namespace brimshade::menubar {
@@ -21,6 +22,8 @@ struct NotchExtent {
 
 // Absent for a screen without a notch.
 std::optional<NotchExtent> notchExtent(const platform::Screen &screen);
+// The first that has one; absent where none has.
+std::optional<platform::Screen> notchedScreen(const std::vector<platform::Screen> &screens);
 
 // What an item's frame is compared with. All of it in display space, but screenLeft is the same in both.
 struct HidingEdges {

@@ -32,11 +32,16 @@ const Screen *barScreen(const std::vector<Screen> &screens)
     return screens.empty() ? nullptr : &screens.front();
 }
 
-BarGeometry barGeometry(const Screen &screen, double primaryHeight)
+QRectF barFrame(const Screen &screen, double primaryHeight)
 {
     const double height = maxY(screen.frame) - maxY(screen.visibleFrame);
+    return {minX(screen.frame), primaryHeight - maxY(screen.frame), screen.frame.width(), height};
+}
+
+BarGeometry barGeometry(const Screen &screen, double primaryHeight)
+{
     BarGeometry bar;
-    bar.frame = {minX(screen.frame), primaryHeight - maxY(screen.frame), screen.frame.width(), height};
+    bar.frame = barFrame(screen, primaryHeight);
     if (hasNotch(screen))
         bar.notch = {maxX(*screen.auxiliaryTopLeftArea), minX(*screen.auxiliaryTopRightArea)};
     bar.applicationMenusEnd = minX(bar.frame) + std::min(kApplicationMenusWidth, bar.frame.width() / 2);

@@ -18,6 +18,8 @@ struct BarGeometry {
 
 // The screen with the bar: the first one with a notch, else the primary one; null without any screen.
 const platform::Screen *barScreen(const std::vector<platform::Screen> &screens);
+// Every screen has a bar, at its top.
+QRectF barFrame(const platform::Screen &screen, double primaryHeight);
 // Of the bar on that screen.
 BarGeometry barGeometry(const platform::Screen &screen, double primaryHeight);
 

@@ -1,6 +1,7 @@
 #include "Desktop.h"
 #include "AccessibilityService.h"
 #include "Applications.h"
+#include "BarLayout.h"
 #include "InputRouter.h"
 #include "Inspection.h"
 #include "MenuBar.h"
@@ -119,11 +120,8 @@ void Desktop::Parts::publishBars()
         if (!showing || display.screens.empty())
             return;
         const double primaryHeight = display.screens.front().frame.height();
-        for (const Screen &screen : display.screens) {
-            const double height = maxY(screen.frame) - maxY(screen.visibleFrame);
-            const QRectF bar(minX(screen.frame), primaryHeight - maxY(screen.frame), screen.frame.width(), height);
-            display.menuBarInfo.push_back(desktop::windowInfo(kMainMenuWindowLevel, bar));
-        }
+        for (const Screen &screen : display.screens)
+            display.menuBarInfo.push_back(desktop::windowInfo(kMainMenuWindowLevel, barFrame(screen, primaryHeight)));
     });
 }
 

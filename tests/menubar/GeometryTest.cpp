@@ -19,6 +19,7 @@ TEST(NotchExtent, IsTheGapBetweenTheAreasBesideIt)
         screen.auxiliaryTopLeftArea = left;
         screen.auxiliaryTopRightArea = right;
         EXPECT_EQ(notchExtent(screen), extent) << what;
+        EXPECT_EQ(notchedScreen({platform::Screen(), screen}), extent ? std::optional(screen) : std::nullopt) << what;
     }
 }
 
