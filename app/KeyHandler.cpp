@@ -1,6 +1,7 @@
 #include "KeyHandler.h"
 
 #include "model/NotchModel.h"
+#include "platform/KeyCodes.h"
 
 #include <QTextBoundaryFinder>
 #include <algorithm>
@@ -8,18 +9,6 @@
 namespace brimshade::app {
 
 namespace {
-
-// Virtual key codes, the same on every keyboard layout.
-enum Key : std::uint16_t {
-    returnKey = 36,
-    deleteKey = 51,
-    escapeKey = 53,
-    keypadEnter = 76,
-    leftArrow = 123,
-    rightArrow = 124,
-    downArrow = 125,
-    upArrow = 126,
-};
 
 bool isSearchCharacter(char32_t character)
 {
@@ -63,26 +52,26 @@ std::optional<platform::Event> KeyHandler::handle(const platform::Event &event) 
 bool KeyHandler::command(std::uint16_t keyCode) const
 {
     switch (keyCode) {
-    case escapeKey:
+    case platform::kVK_Escape:
         escape();
         return true;
-    case returnKey:
-    case keypadEnter:
+    case platform::kVK_Return:
+    case platform::kVK_ANSI_KeypadEnter:
         choose();
         return true;
-    case deleteKey:
+    case platform::kVK_Delete:
         deleteBackward();
         return true;
-    case leftArrow:
+    case platform::kVK_LeftArrow:
         m_model.moveSelection(-1);
         return true;
-    case rightArrow:
+    case platform::kVK_RightArrow:
         m_model.moveSelection(1);
         return true;
-    case downArrow:
+    case platform::kVK_DownArrow:
         m_model.moveSelection(m_model.columns());
         return true;
-    case upArrow:
+    case platform::kVK_UpArrow:
         m_model.moveSelection(-m_model.columns());
         return true;
     default:

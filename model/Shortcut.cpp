@@ -1,5 +1,6 @@
 #include "Shortcut.h"
 #include "platform/HotkeyCenter.h"
+#include "platform/KeyCodes.h"
 
 #include <algorithm>
 
@@ -11,11 +12,6 @@ using namespace Qt::StringLiterals;
 using platform::kCarbonCommand;
 using platform::kCarbonControl;
 using platform::kCarbonOption;
-
-// Layout-independent virtual key codes of the ANSI keyboard.
-constexpr std::uint32_t kKeyN = 45;
-constexpr std::uint32_t kKeyM = 46;
-constexpr std::uint32_t kKeySpace = 49;
 
 } // namespace
 
@@ -55,11 +51,11 @@ std::optional<KeyCombination> keyCombination(Shortcut shortcut)
     case Shortcut::none:
         break;
     case Shortcut::optionCommandN:
-        return KeyCombination{kKeyN, kCarbonCommand | kCarbonOption};
+        return KeyCombination{platform::kVK_ANSI_N, kCarbonCommand | kCarbonOption};
     case Shortcut::controlOptionSpace:
-        return KeyCombination{kKeySpace, kCarbonOption | kCarbonControl};
+        return KeyCombination{platform::kVK_Space, kCarbonOption | kCarbonControl};
     case Shortcut::controlOptionCommandM:
-        return KeyCombination{kKeyM, kCarbonCommand | kCarbonOption | kCarbonControl};
+        return KeyCombination{platform::kVK_ANSI_M, kCarbonCommand | kCarbonOption | kCarbonControl};
     }
     return std::nullopt;
 }

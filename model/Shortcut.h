@@ -15,7 +15,7 @@ Q_ENUM_NS(Shortcut)
 inline constexpr std::array allShortcuts{Shortcut::none, Shortcut::optionCommandN, Shortcut::controlOptionSpace,
                                          Shortcut::controlOptionCommandM};
 
-// A layout-independent virtual key code and Carbon modifier bits.
+// A virtual key code (platform/KeyCodes.h) and Carbon modifier bits.
 struct KeyCombination {
     std::uint32_t keyCode = 0;
     std::uint32_t modifiers = 0;

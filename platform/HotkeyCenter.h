@@ -8,6 +8,7 @@ namespace brimshade::platform {
 
 // Carbon event modifier bits.
 inline constexpr std::uint32_t kCarbonCommand = 0x0100;
+inline constexpr std::uint32_t kCarbonShift = 0x0200;
 inline constexpr std::uint32_t kCarbonOption = 0x0800;
 inline constexpr std::uint32_t kCarbonControl = 0x1000;
 

@@ -4,8 +4,6 @@
 
 namespace brimshade::desktop {
 
-inline constexpr std::uint32_t kCarbonShift = 0x0200;
-
 // A key event's modifiers as hotkeys are registered with them.
 inline std::uint32_t carbonModifiers(std::uint64_t modifierFlags)
 {
@@ -13,7 +11,7 @@ inline std::uint32_t carbonModifiers(std::uint64_t modifierFlags)
     if (modifierFlags & platform::kCommandFlag)
         modifiers |= platform::kCarbonCommand;
     if (modifierFlags & platform::kShiftFlag)
-        modifiers |= kCarbonShift;
+        modifiers |= platform::kCarbonShift;
     if (modifierFlags & platform::kOptionFlag)
         modifiers |= platform::kCarbonOption;
     if (modifierFlags & platform::kControlFlag)

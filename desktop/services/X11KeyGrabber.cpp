@@ -1,5 +1,6 @@
 #include "X11KeyGrabber.h"
 
+#include "Keysyms.h"
 #include "platform/HotkeyCenter.h"
 
 #include <QObject>
@@ -20,11 +21,9 @@ template <class T> using Reply = std::unique_ptr<T, decltype([](void *reply) { s
 
 using Keys = std::vector<xcb_grab_key_request_t>;
 
-// The Mac's virtual key codes of the combinations that can be chosen, as keysyms.
-constexpr std::array<std::pair<std::uint32_t, xcb_keysym_t>, 3> kKeysyms{{{45, 'n'}, {46, 'm'}, {49, ' '}}};
-
-constexpr std::array<std::pair<std::uint32_t, std::uint16_t>, 3> kModifiers{
+constexpr std::array<std::pair<std::uint32_t, std::uint16_t>, 4> kModifiers{
     {{platform::kCarbonCommand, XCB_MOD_MASK_4},
+     {platform::kCarbonShift, XCB_MOD_MASK_SHIFT},
      {platform::kCarbonOption, XCB_MOD_MASK_1},
      {platform::kCarbonControl, XCB_MOD_MASK_CONTROL}}};
 
@@ -115,11 +114,8 @@ void X11KeyGrabber::Private::release(KeyCombination combination)
 
 Key X11KeyGrabber::Private::keyOf(KeyCombination combination) const
 {
-    for (const auto &[code, keysym] : kKeysyms) {
-        if (code == combination.keyCode)
-            return {keycodeOf(keysym), x11Modifiers(combination.modifiers)};
-    }
-    return {};
+    const xcb_keysym_t keysym = keysymOf(combination.keyCode);
+    return keysym ? Key{keycodeOf(keysym), x11Modifiers(combination.modifiers)} : Key();
 }
 
 // The first column counts most: other groups have the letter too on a keyboard of another script.

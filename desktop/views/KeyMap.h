@@ -8,16 +8,6 @@
 // types, so that a shortcut is where the letter is.
 namespace brimshade::desktop {
 
-// HIToolbox/Events.h
-inline constexpr std::uint16_t kVK_Return = 36;
-inline constexpr std::uint16_t kVK_Space = 49;
-inline constexpr std::uint16_t kVK_Escape = 53;
-inline constexpr std::uint16_t kVK_ANSI_KeypadEnter = 76;
-inline constexpr std::uint16_t kVK_LeftArrow = 123;
-inline constexpr std::uint16_t kVK_RightArrow = 124;
-inline constexpr std::uint16_t kVK_DownArrow = 125;
-inline constexpr std::uint16_t kVK_UpArrow = 126;
-
 std::optional<std::uint16_t> keyCodeFor(Qt::Key key, bool isKeypad);
 Qt::Key keyFor(std::uint16_t keyCode); // Key_unknown when there is none
 

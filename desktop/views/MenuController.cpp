@@ -1,5 +1,8 @@
 #include "MenuController.h"
-#include "KeyMap.h"
+
+#include "platform/KeyCodes.h"
+
+using namespace brimshade::platform;
 
 namespace brimshade::desktop {
 

@@ -1,6 +1,8 @@
 // Against a real X server, started for the test, with keys pressed by another client.
 #include "desktop/services/X11KeyGrabber.h"
+#include "model/Shortcut.h"
 #include "platform/HotkeyCenter.h"
+#include "platform/KeyCodes.h"
 #include "support/Test.h"
 
 #include <QCoreApplication>
@@ -11,9 +13,10 @@ namespace brimshade::desktop {
 
 using testing::ElementsAre;
 
-constexpr KeyCombination kOptionCommandN{45, platform::kCarbonOption | platform::kCarbonCommand};
-constexpr KeyCombination kControlOptionSpace{49, platform::kCarbonControl | platform::kCarbonOption};
-constexpr KeyCombination kControlOptionCommandM{46, platform::kCarbonControl | kOptionCommandN.modifiers};
+constexpr KeyCombination kOptionCommandN{platform::kVK_ANSI_N, platform::kCarbonOption | platform::kCarbonCommand};
+constexpr KeyCombination kControlOptionSpace{platform::kVK_Space, platform::kCarbonControl | platform::kCarbonOption};
+constexpr KeyCombination kControlOptionCommandM{platform::kVK_ANSI_M,
+                                                platform::kCarbonControl | kOptionCommandN.modifiers};
 
 class X11KeyGrabberTest : public testing::Test {
 protected:
@@ -65,7 +68,7 @@ TEST_F(X11KeyGrabberTest, TellsWhichCombinationWasPressed)
 {
     for (const KeyCombination &each : {kOptionCommandN, kControlOptionSpace, kControlOptionCommandM})
         EXPECT_TRUE(grabber->grab(each));
-    EXPECT_FALSE(grabber->grab({0, platform::kCarbonCommand})); // no key that can be chosen
+    EXPECT_FALSE(grabber->grab({1000, platform::kCarbonCommand})); // no key at all
 
     EXPECT_THAT(press({u"super+alt+n"_s, u"super+alt+ctrl+m"_s}), ElementsAre(kOptionCommandN, kControlOptionCommandM));
     EXPECT_THAT(press({u"n"_s, u"super+n"_s, u"super+alt+m"_s, u"super+alt+shift+n"_s}), ElementsAre());
@@ -75,6 +78,20 @@ TEST_F(X11KeyGrabberTest, TellsWhichCombinationWasPressed)
 
     grabber->release(kOptionCommandN);
     EXPECT_THAT(press({u"super+alt+n"_s}), ElementsAre());
+}
+
+// One that is added and cannot be grabbed would work nowhere but in the desktop's own window.
+TEST_F(X11KeyGrabberTest, GrabsEveryShortcutThatCanBeChosen)
+{
+    for (const model::Shortcut shortcut : model::allShortcuts) {
+        if (const auto keys = model::keyCombination(shortcut)) {
+            EXPECT_TRUE(grabber->grab({keys->keyCode, keys->modifiers})) << qPrintable(displayTitle(shortcut));
+        }
+    }
+    constexpr KeyCombination shiftCommandSlash{platform::kVK_ANSI_Slash,
+                                               platform::kCarbonShift | platform::kCarbonCommand};
+    EXPECT_TRUE(grabber->grab(shiftCommandSlash));
+    EXPECT_THAT(press({u"super+slash"_s, u"super+shift+slash"_s}), ElementsAre(shiftCommandSlash));
 }
 
 TEST_F(X11KeyGrabberTest, ATakenCombinationIsRefusedAndFreedWithItsOwner)

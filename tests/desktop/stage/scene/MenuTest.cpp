@@ -1,8 +1,10 @@
 #include "SceneContext.h"
-#include "desktop/views/KeyMap.h"
 #include "desktop/views/MenuGeometry.h"
+#include "platform/KeyCodes.h"
 
 #include <QWheelEvent>
+
+using namespace brimshade::platform;
 
 namespace brimshade::desktop {
 
