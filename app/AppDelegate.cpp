@@ -8,7 +8,6 @@
 #include "controls/Divider.h"
 #include "controls/Hotkey.h"
 #include "controls/HoverZone.h"
-#include "controls/Weakly.h"
 #include "menubar/MenuBarAccess.h"
 #include "menubar/NotchGeometry.h"
 #include "model/NotchModel.h"
@@ -18,12 +17,13 @@
 #include "platform/StatusBar.h"
 #include "platform/Symbol.h"
 #include "platform/UserDefaults.h"
+#include "platform/Weakly.h"
 
 using namespace Qt::StringLiterals;
 
 namespace brimshade::app {
 
-using controls::weakly;
+using platform::weakly;
 
 namespace {
 
@@ -74,7 +74,6 @@ void AppDelegate::createDivider()
                                                                   {14, platform::SymbolWeight::semibold});
     m_divider = controls::Divider::create(m_platform, m_access, m_statusItem, symbol);
     m_divider->setEnabled(m_model->dividerEnabled());
-    m_divider->reanchor();
 }
 
 void AppDelegate::createParts()
@@ -82,8 +81,9 @@ void AppDelegate::createParts()
     const ScanScheduler::Parts parts{m_model, m_access, m_scanQueue, m_placement, m_divider};
     m_scans = std::make_shared<ScanScheduler>(m_platform, parts);
     m_panel = std::make_shared<PanelPresenter>(m_platform, parts, m_scans, m_statusItem);
-    m_windows = std::make_shared<SecondaryWindows>(m_platform, m_model, m_panel, m_scans,
-                                                   weakly(weak_from_this(), &AppDelegate::finishOnboarding));
+    const auto finish = [](AppDelegate &self, const Choices &choices) { self.m_moves->finishOnboarding(choices); };
+    m_windows =
+        std::make_shared<SecondaryWindows>(m_platform, m_model, m_panel, m_scans, weakly(weak_from_this(), finish));
     m_moves = std::make_shared<ItemMoves>(m_platform, parts, m_scans, m_panel, m_windows);
     m_statusMenu =
         std::make_shared<StatusMenu>(m_platform, StatusMenu::Parts{m_model, m_statusItem, m_panel, m_windows, m_scans});
@@ -96,28 +96,27 @@ void AppDelegate::configureButton()
         return;
     button->setAccessibilityLabel(u"Brimshade"_s);
     button->setAction(platform::kLeftMouseUpMask | platform::kRightMouseUpMask,
-                      weakly(weak_from_this(), &AppDelegate::statusClicked));
+                      weakly(std::weak_ptr(m_statusMenu), &StatusMenu::clicked));
 }
 
 void AppDelegate::installCallbacks()
 {
     const std::weak_ptr panel = m_panel;
+    const std::weak_ptr windows = m_windows;
     m_model->onSelect = weakly(panel, &PanelPresenter::select);
     m_model->onDismiss = weakly(panel, &PanelPresenter::close);
     m_model->onSetHidden = weakly(std::weak_ptr(m_moves), &ItemMoves::setHidden);
-    m_model->onOpenSettings = weakly(weak_from_this(), &AppDelegate::openSettings);
+    m_model->onOpenSettings = weakly(windows, &SecondaryWindows::openSettings);
     m_model->onSettingsChanged = weakly(weak_from_this(), &AppDelegate::applySettings);
-    m_model->onRefresh = weakly(weak_from_this(), &AppDelegate::refresh);
-    m_model->onShowOnboarding = weakly(weak_from_this(), &AppDelegate::showOnboarding);
+    m_model->onRefresh = weakly(std::weak_ptr(m_scans), &ScanScheduler::scan);
+    m_model->onShowOnboarding = weakly(windows, &SecondaryWindows::showOnboarding);
     m_hoverZone->setOnHover(weakly(panel, &PanelPresenter::hovered));
 }
 
 void AppDelegate::applySettings()
 {
-    if (m_divider->isEnabled() != m_model->dividerEnabled()) {
+    if (m_divider->isEnabled() != m_model->dividerEnabled())
         m_divider->setEnabled(m_model->dividerEnabled());
-        m_divider->reanchor();
-    }
     if (!m_hotkey)
         m_hotkey = std::make_unique<controls::Hotkey>(m_platform.hotkeyCenter,
                                                       weakly(std::weak_ptr(m_panel), &PanelPresenter::toggle));
@@ -135,34 +134,9 @@ void AppDelegate::screensChanged()
 void AppDelegate::welcome()
 {
     if (!m_platform.userDefaults.boolForKey(u"onboardingDone"_s))
-        showOnboarding();
+        m_windows->showOnboarding();
     else if (!m_platform.accessibility.isProcessTrusted())
         m_platform.accessibility.isProcessTrustedWithOptions(true);
-}
-
-void AppDelegate::finishOnboarding(const Choices &choices)
-{
-    m_moves->finishOnboarding(choices);
-}
-
-void AppDelegate::statusClicked()
-{
-    m_statusMenu->clicked();
-}
-
-void AppDelegate::refresh()
-{
-    m_scans->scan();
-}
-
-void AppDelegate::openSettings()
-{
-    m_windows->openSettings();
-}
-
-void AppDelegate::showOnboarding()
-{
-    m_windows->showOnboarding();
 }
 
 bool AppDelegate::shown() const

@@ -1,8 +1,6 @@
 #pragma once
 #include "platform/Platform.h"
 
-#include <QHash>
-#include <QString>
 #include <memory>
 
 namespace brimshade::platform {
@@ -34,8 +32,9 @@ class SecondaryWindows;
 class StatusMenu;
 
 // The coordinator: owns the model and every long-lived object, wires them at launch and turns what the views and the
-// system report into calls on them. Main thread only. Made by std::make_shared; every closure it hands out
-// holds it, or the part of it that the closure is about, weakly.
+// system report into calls on them. Main thread only. Made by std::make_shared; every closure it hands out holds it, or
+// the part of it that the closure is about, weakly. Two hold it strongly, by design, until the next turn has run them:
+// the launch's second measurement and an opening's news to the views.
 class AppDelegate : public std::enable_shared_from_this<AppDelegate> {
 public:
     // The services outlive the delegate. At least one screen exists.
@@ -45,10 +44,6 @@ public:
     // Once, before anything else; the first scan comes with the first opening of the panel.
     void applicationDidFinishLaunching();
 
-    void statusClicked(); // a click on the status item: left toggles the panel, right opens the menu
-    void refresh();
-    void openSettings();
-    void showOnboarding();
     void applySettings(); // brings the divider, the hotkey and the hover zone in line with the model
 
     model::NotchModel &model() { return *m_model; }
@@ -63,7 +58,6 @@ private:
     void installCallbacks();
     void screensChanged();
     void welcome(); // the setup flow on a first run, else the permission prompt where it is needed
-    void finishOnboarding(const QHash<QString, bool> &choices);
 
     const platform::Platform m_platform;
     std::shared_ptr<model::NotchModel> m_model;

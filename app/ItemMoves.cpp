@@ -8,12 +8,15 @@
 #include "model/NotchModel.h"
 #include "platform/Dispatch.h"
 #include "platform/UserDefaults.h"
+#include "platform/Weakly.h"
 
 #include <algorithm>
 
 using namespace Qt::StringLiterals;
 
 namespace brimshade::app {
+
+using platform::weakly;
 
 namespace {
 
@@ -39,21 +42,15 @@ void ItemMoves::setHidden(const menubar::MenuExtra &extra, bool hidden)
     m_panel->close();
     m_parts.model->setMovingID(extra.id);
     m_parts.model->setMessage({});
-    m_platform.dispatch.mainAfter(kMoveDelay, [weak = weak_from_this(), extra, hidden] {
-        if (const auto self = weak.lock())
-            self->queueMove(extra, hidden);
-    });
+    m_platform.dispatch.mainAfter(kMoveDelay, weakly(weak_from_this(), &ItemMoves::queueMove, extra, hidden));
 }
 
 void ItemMoves::queueMove(const menubar::MenuExtra &extra, bool hidden)
 {
-    m_parts.queue->async([weak = weak_from_this(), &dispatch = m_platform.dispatch,
-                          mover = menubar::MenuBarMover(m_platform, m_parts.access),
+    m_parts.queue->async([finished = weakly(weak_from_this(), &ItemMoves::moveFinished, extra),
+                          &dispatch = m_platform.dispatch, mover = menubar::MenuBarMover(m_platform, m_parts.access),
                           divider = std::weak_ptr(m_parts.divider), extra, hidden] {
-        dispatch.mainAsync([weak, extra, result = mover.move(extra, hidden, divider)] {
-            if (const auto self = weak.lock())
-                self->moveFinished(extra, result);
-        });
+        dispatch.mainAsync([finished, result = mover.move(extra, hidden, divider)] { finished(result); });
     });
 }
 
@@ -82,23 +79,18 @@ void ItemMoves::finishOnboarding(const Choices &choices)
     if (std::ranges::any_of(model.extras(), toHide))
         model.setDividerEnabled(true);
     model.setMovingID(u"onboarding"_s);
-    m_platform.dispatch.mainAfter(kBulkDelay,
-                                  [weak = weak_from_this(), job = BulkMove::Job{choices, m_parts.placement->screen()}] {
-                                      if (const auto self = weak.lock())
-                                          self->applyChoices(job);
-                                  });
+    m_platform.dispatch.mainAfter(
+        kBulkDelay,
+        weakly(weak_from_this(), &ItemMoves::applyChoices, BulkMove::Job{choices, m_parts.placement->screen()}));
 }
 
 void ItemMoves::applyChoices(BulkMove::Job job)
 {
     job.passLimit = 2 * m_parts.model->itemCount();
     m_parts.queue->async(
-        [weak = weak_from_this(), &dispatch = m_platform.dispatch,
+        [applied = weakly(weak_from_this(), &ItemMoves::choicesApplied), &dispatch = m_platform.dispatch,
          bulk = std::make_shared<BulkMove>(m_platform, m_parts.access, m_scans, m_parts.divider, std::move(job))] {
-            dispatch.mainAsync([weak, messages = bulk->run()] {
-                if (const auto self = weak.lock())
-                    self->choicesApplied(messages);
-            });
+            dispatch.mainAsync([applied, messages = bulk->run()] { applied(messages); });
         });
 }
 

@@ -99,8 +99,10 @@ void KeyHandler::escape() const
 
 void KeyHandler::choose() const
 {
-    if (const model::MenuExtra *selected = m_model.selectedMatch())
-        m_model.onSelect(*selected);
+    if (const model::MenuExtra *selected = m_model.selectedMatch()) {
+        const model::MenuExtra extra = *selected; // the callback may replace the list
+        m_model.onSelect(extra);
+    }
 }
 
 // Takes what a person sees as one character, however many code points it is made of.

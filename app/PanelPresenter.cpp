@@ -2,7 +2,6 @@
 
 #include "NotchPanel.h"
 #include "PanelPlacement.h"
-#include "controls/Weakly.h"
 #include "menubar/MenuBarAccess.h"
 #include "model/NotchModel.h"
 #include "model/PermissionRequest.h"
@@ -12,6 +11,7 @@
 #include "platform/Log.h"
 #include "platform/Platform.h"
 #include "platform/StatusBar.h"
+#include "platform/Weakly.h"
 
 #include <QLocale>
 
@@ -19,8 +19,8 @@ using namespace Qt::StringLiterals;
 
 namespace brimshade::app {
 
-using controls::weakly;
 using platform::LogLevel;
+using platform::weakly;
 
 namespace {
 
@@ -128,10 +128,8 @@ void PanelPresenter::toggle()
 void PanelPresenter::select(const menubar::MenuExtra &extra)
 {
     close();
-    m_platform.dispatch.mainAfter(kSelectDelay, [weak = weak_from_this(), extra] {
-        if (const auto self = weak.lock())
-            self->m_access->activate(extra);
-    });
+    m_platform.dispatch.mainAfter(kSelectDelay,
+                                  weakly(std::weak_ptr(m_access), &menubar::MenuBarAccess::activate, extra));
 }
 
 void PanelPresenter::hovered()
@@ -146,18 +144,15 @@ void PanelPresenter::hovered()
 void PanelPresenter::installMonitors()
 {
     m_monitors.removeAll();
-    const std::weak_ptr<PanelPresenter> weak = weak_from_this();
-    m_monitors.addGlobal(platform::kLeftMouseDownMask | platform::kRightMouseDownMask, [weak](const platform::Event &) {
-        if (const auto self = weak.lock())
-            self->handleOutsideClick();
-    });
-    m_monitors.addLocal(platform::kKeyDownMask, [weak](const platform::Event &event) {
+    m_monitors.addGlobal(platform::kLeftMouseDownMask | platform::kRightMouseDownMask,
+                         weakly(weak_from_this(), &PanelPresenter::handleOutsideClick));
+    m_monitors.addLocal(platform::kKeyDownMask, [weak = weak_from_this()](const platform::Event &event) {
         const auto self = weak.lock();
         return self ? self->handleKey(event) : event;
     });
 }
 
-void PanelPresenter::handleOutsideClick()
+void PanelPresenter::handleOutsideClick(const platform::Event &)
 {
     // A click on the status item is its own action's to judge.
     platform::StatusBarButton *button = m_statusItem->button();

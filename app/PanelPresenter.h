@@ -43,7 +43,7 @@ private:
     void show(bool byHover);
     void orderOutIfClosed();
     void installMonitors();
-    void handleOutsideClick();
+    void handleOutsideClick(const platform::Event &event);
     std::optional<platform::Event> handleKey(const platform::Event &event);
     void startPointerWatch();
     void stopPointerWatch();

@@ -6,6 +6,7 @@
 #include "model/NotchModel.h"
 #include "platform/Dispatch.h"
 #include "platform/Platform.h"
+#include "platform/Weakly.h"
 
 namespace brimshade::app {
 
@@ -24,15 +25,17 @@ void ScanScheduler::scan()
     }
     if (m_parts.model->movingID().isEmpty())
         m_parts.divider->expand();
-    m_parts.queue->async([weak = weak_from_this(), access = m_parts.access, &dispatch = m_dispatch,
-                          screen = m_parts.placement->screen(), divider = dividerFrame()] {
-        dispatch.mainAsync([weak, extras = access->scan(screen, divider)]() mutable {
-            if (const auto self = weak.lock()) {
-                self->m_parts.model->setExtras(std::move(extras));
-                self->m_parts.model->setScanned(true);
-            }
-        });
+    m_parts.queue->async([publish = platform::weakly(weak_from_this(), &ScanScheduler::publish),
+                          access = m_parts.access, &dispatch = m_dispatch, screen = m_parts.placement->screen(),
+                          divider = dividerFrame()] {
+        dispatch.mainAsync([publish, extras = access->scan(screen, divider)]() mutable { publish(std::move(extras)); });
     });
+}
+
+void ScanScheduler::publish(menubar::ExtraList extras)
+{
+    m_parts.model->setExtras(std::move(extras));
+    m_parts.model->setScanned(true);
 }
 
 std::optional<QRectF> ScanScheduler::dividerFrame() const

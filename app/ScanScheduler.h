@@ -1,4 +1,6 @@
 #pragma once
+#include "menubar/MenuExtra.h"
+
 #include <QRectF>
 #include <memory>
 #include <optional>
@@ -46,6 +48,8 @@ public:
     std::optional<QRectF> dividerFrame() const;
 
 private:
+    void publish(menubar::ExtraList extras);
+
     platform::Accessibility &m_accessibility;
     platform::Dispatch &m_dispatch;
     const Parts m_parts;

@@ -3,17 +3,17 @@
 #include "PanelPresenter.h"
 #include "ScanScheduler.h"
 #include "SecondaryWindows.h"
-#include "controls/Weakly.h"
 #include "model/NotchModel.h"
 #include "platform/Log.h"
 #include "platform/Platform.h"
 #include "platform/StatusBar.h"
+#include "platform/Weakly.h"
 
 using namespace Qt::StringLiterals;
 
 namespace brimshade::app {
 
-using controls::weakly;
+using platform::weakly;
 
 namespace {
 

@@ -1,18 +1,20 @@
 #include "Divider.h"
 
-#include "Weakly.h"
 #include "menubar/MenuBarAccess.h"
 #include "menubar/NotchGeometry.h"
 #include "platform/Dispatch.h"
 #include "platform/NotificationCenter.h"
 #include "platform/Screens.h"
 #include "platform/StatusBar.h"
+#include "platform/Weakly.h"
 #include "platform/Workspace.h"
 
 #include <algorithm>
 #include <cmath>
 
 namespace brimshade::controls {
+
+using platform::weakly;
 
 namespace {
 
@@ -90,6 +92,12 @@ void Divider::observe()
         m_platform.workspace.notificationCenter().addObserver(QString::fromLatin1(name), nullptr,
                                                               weakly(weak_from_this(), &Divider::applicationsChanged));
     }
+}
+
+void Divider::setEnabled(bool enabled)
+{
+    m_isEnabled = enabled;
+    reanchor();
 }
 
 void Divider::applicationsChanged()
@@ -174,13 +182,13 @@ void Divider::checkClearance()
     if (!m_isExpanded || m_slack >= kSlackLimit)
         return;
     // The probe asks another program and may wait for it.
-    m_platform.dispatch.globalAsync(
-        platform::QualityOfService::userInitiated,
-        [weak = weak_from_this(), access = m_access, &dispatch = m_platform.dispatch, frame = axFrame()] {
-            const std::optional<QRectF> button = access->firstSystemButtonFrame();
-            if (button && isTooLong(frame, *button))
-                dispatch.mainAsync(weakly(weak, &Divider::giveWay));
-        });
+    m_platform.dispatch.globalAsync(platform::QualityOfService::userInitiated,
+                                    [giveWay = weakly(weak_from_this(), &Divider::giveWay), access = m_access,
+                                     &dispatch = m_platform.dispatch, frame = axFrame()] {
+                                        const std::optional<QRectF> button = access->firstSystemButtonFrame();
+                                        if (button && isTooLong(frame, *button))
+                                            dispatch.mainAsync(giveWay);
+                                    });
 }
 
 void Divider::giveWay()

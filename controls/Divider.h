@@ -29,7 +29,7 @@ public:
 
     bool isExpanded() const { return m_isExpanded; } // expand() was the last word
     bool isEnabled() const { return m_isEnabled; } // divider mode
-    void setEnabled(bool enabled) { m_isEnabled = enabled; } // takes effect with the next reanchor()
+    void setEnabled(bool enabled); // and measures anew
     // x of the right edge of the item while it has its resting length, screen space; absent until measured.
     std::optional<double> anchor() const { return m_anchor; }
     double slack() const { return m_slack; } // kept free beside the notch after failed clearance checks

@@ -1,5 +1,7 @@
 #include "HoverView.h"
 
+#include "platform/Weakly.h"
+
 namespace brimshade::controls {
 
 namespace {
@@ -21,10 +23,8 @@ std::vector<platform::TrackingArea> HoverView::updateTrackingAreas(QSizeF size)
 
 void HoverView::mouseEntered()
 {
-    m_pending = std::make_shared<platform::DispatchWorkItem>([weak = weak_from_this()] {
-        if (const auto self = weak.lock())
-            self->m_onHover();
-    });
+    m_pending = std::make_shared<platform::DispatchWorkItem>(
+        platform::weakly(weak_from_this(), [](const HoverView &view) { view.m_onHover(); }));
     m_dispatch.mainAfter(kRestDelay, [pending = m_pending] { pending->perform(); });
 }
 

@@ -4,6 +4,7 @@
 #include "StripPanel.h"
 #include "menubar/NotchGeometry.h"
 #include "platform/Platform.h"
+#include "platform/Weakly.h"
 
 namespace brimshade::controls {
 
@@ -26,10 +27,8 @@ void HoverZone::update(bool enabled, const std::optional<platform::Screen> &scre
 
 void HoverZone::build(const QRectF &frame)
 {
-    auto view = std::make_shared<HoverView>(m_dispatch, [weak = weak_from_this()] {
-        if (const auto self = weak.lock())
-            self->m_onHover();
-    });
+    auto view = std::make_shared<HoverView>(
+        m_dispatch, platform::weakly(weak_from_this(), [](const HoverZone &zone) { zone.m_onHover(); }));
     m_window = m_windows.createWindow(stripPanelAttributes(frame), std::move(view));
     m_window->orderFrontRegardless();
 }

@@ -5,6 +5,7 @@
 #include "Text.h"
 #include "platform/Dispatch.h"
 #include "platform/EventServices.h"
+#include "platform/Weakly.h"
 #include "platform/WindowServer.h"
 
 #include <algorithm>
@@ -48,10 +49,7 @@ MenuBarMover::Result MenuBarMover::move(const MenuExtra &extra, bool hide,
     if (isAlreadyThere(extra, hide, *screen, divider))
         return {};
     const Result result = moveAcross(extra, hide, *screen, divider);
-    m_platform.dispatch.mainAsync([divider] {
-        if (const auto control = divider.lock())
-            control->reanchor();
-    });
+    m_platform.dispatch.mainAsync(platform::weakly(divider, &DividerControl::reanchor));
     return result;
 }
 
@@ -102,16 +100,12 @@ MenuBarMover::Result MenuBarMover::moveAcross(const MenuExtra &extra, bool hide,
 // Makes every item reachable, and lets the bar lay them out again.
 MenuBarMover::Collapsed MenuBarMover::collapse(const std::weak_ptr<DividerControl> &divider) const
 {
-    const auto onDivider = [&](const std::function<void(DividerControl &)> &step) {
-        m_platform.dispatch.mainSync([&] {
-            if (const auto control = divider.lock())
-                step(*control);
-        });
-    };
-    Collapsed collapsed;
-    onDivider([](DividerControl &control) { control.collapse(); });
+    m_platform.dispatch.mainSync(platform::weakly(divider, &DividerControl::collapse));
     m_platform.dispatch.sleep(kSettleAfterCollapse);
-    onDivider([&](DividerControl &control) { collapsed = {control.axFrame(), control.isWindowVisible()}; });
+    Collapsed collapsed;
+    m_platform.dispatch.mainSync(platform::weakly(divider, [&collapsed](const DividerControl &control) {
+        collapsed = {control.axFrame(), control.isWindowVisible()};
+    }));
     return collapsed;
 }
 
@@ -155,10 +149,8 @@ void MenuBarMover::drag(QPointF from, QPointF to) const
 QRectF MenuBarMover::axFrame(const std::weak_ptr<DividerControl> &divider) const
 {
     QRectF frame;
-    m_platform.dispatch.mainSync([&] {
-        if (const auto control = divider.lock())
-            frame = control->axFrame();
-    });
+    m_platform.dispatch.mainSync(
+        platform::weakly(divider, [&frame](const DividerControl &control) { frame = control.axFrame(); }));
     return frame;
 }
 

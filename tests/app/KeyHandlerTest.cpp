@@ -111,4 +111,16 @@ TEST_F(Keys, ReturnChoosesWhatIsSelectedAndListed)
     EXPECT_EQ(chosen, QStringList(u"2"_s));
 }
 
+TEST_F(Keys, WhatWasChosenOutlivesTheList)
+{
+    list(0, 2);
+    model.setSelectedID(u"1"_s);
+    model.onSelect = [&](const model::MenuExtra &extra) {
+        list(3, 0);
+        EXPECT_EQ(extra.id, u"1"_s);
+        EXPECT_FALSE(extra.isHidden);
+    };
+    EXPECT_TRUE(press(36));
+}
+
 } // namespace brimshade::app::tests

@@ -86,7 +86,6 @@ void Brimshade::type(const QString &text)
 
 void Brimshade::move(const QString &name, bool hide)
 {
-    model().setDividerEnabled(true);
     model().onSetHidden(item(name), hide);
     m_on.dispatch.runDue();
 }
@@ -99,7 +98,7 @@ void Brimshade::chooseFromMenu(const QString &title)
 
 void Brimshade::finishSetup(const QHash<QString, bool> &hiddenByName)
 {
-    m_delegate->showOnboarding();
+    model().onShowOnboarding();
     m_on.dispatch.runDue();
     const auto &view = std::get<platform::HostedView>(m_on.desktop.windows().named(u"setup"_s)->content());
     auto *flow = view.properties.value(u"flow"_s).value<windows::OnboardingFlow *>();
@@ -167,7 +166,7 @@ QString Brimshade::bar()
 
 QString Brimshade::hiddenItems()
 {
-    m_delegate->refresh();
+    model().onRefresh();
     m_on.dispatch.runDue();
     QStringList names;
     for (const menubar::MenuExtra &extra : model().extras()) {

@@ -39,6 +39,7 @@ public:
     void click(QPointF at, desktop::MouseButton button);
     void drag(QPointF from, QPointF to, std::uint64_t flags) { m_on.drag(from, to, flags), wait(1); }
     void clickStatusItem() { click(symbol(), desktop::MouseButton::left); }
+    void clickStatusItemNow() { m_on.click(symbol()); } // and nothing that is due runs
     void rightClickStatusItem() { click(symbol(), desktop::MouseButton::right); }
     void clickElsewhere() { click(kEmptySpot, desktop::MouseButton::left); }
     void open(); // with a click, until the views are open and the list is there

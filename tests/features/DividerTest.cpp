@@ -72,7 +72,7 @@ TEST(Divider, IsNoneWhileTheModeIsOff)
     EXPECT_EQ(brimshade.statusItem().width(), 1332 - 830);
     brimshade.model().setDividerEnabled(false);
     EXPECT_EQ(widthsOver(brimshade, 5), QStringList(u"28 at 0.1"_s));
-    brimshade.delegate().refresh();
+    brimshade.model().onRefresh();
     EXPECT_EQ(widthsOver(brimshade, 5), QStringList());
 }
 
@@ -89,7 +89,7 @@ TEST(Divider, IsLeftAloneByScansAndByOtherSettings)
 {
     Brimshade brimshade(dividedDesktop());
     brimshade.open();
-    brimshade.delegate().refresh();
+    brimshade.model().onRefresh();
     brimshade.model().setHoverToOpen(true);
     brimshade.model().setShortcut(model::Shortcut::optionCommandN);
     brimshade.model().setDividerEnabled(true);

@@ -9,13 +9,13 @@ TEST(Lifetime, NothingHappensOnceTheCoordinatorIsGone)
     desktop.defaults.insert(u"hoverToOpen"_s, true);
     desktop.defaults.insert(u"shortcut"_s, u"controlOptionSpace"_s);
     const std::function<void(Brimshade &)> beginnings[] = {
-        [](Brimshade &b) { b.delegate().statusClicked(); },
+        [](Brimshade &b) { b.clickStatusItemNow(); },
         [](Brimshade &b) { b.open(); },
         [](Brimshade &b) { b.movePointer(kOnNotch); },
         [](Brimshade &b) { b.movePointer(kOnNotch), b.wait(1); },
         [](Brimshade &b) { b.rightClickStatusItem(); },
-        [](Brimshade &b) { b.delegate().openSettings(); },
-        [](Brimshade &b) { b.delegate().showOnboarding(); },
+        [](Brimshade &b) { b.model().onOpenSettings(); },
+        [](Brimshade &b) { b.model().onShowOnboarding(); },
         [](Brimshade &b) { b.open(), b.model().onSelect(b.item(u"Relay"_s)); },
         [](Brimshade &b) { b.open(), b.show(u"Relay"_s); },
         [](Brimshade &b) { b.open(), b.show(u"Relay"_s), b.wait(1.5); },
@@ -47,7 +47,7 @@ TEST(Lifetime, AnOpeningIsFinishedByItsNextTurn)
     bool isOpen = false;
     model::NotchModel &model = brimshade.model();
     QObject::connect(&model, &model::NotchModel::isOpenChanged, [&] { isOpen = model.isOpen(); });
-    brimshade.delegate().statusClicked();
+    brimshade.clickStatusItemNow();
     brimshade.vanish();
     brimshade.wait(0);
     EXPECT_TRUE(isOpen);

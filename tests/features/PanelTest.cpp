@@ -19,10 +19,10 @@ TEST(Panel, OpensUnderTheNotchWithTheKeysAndTheList)
 TEST(Panel, IsClosedForTheViewsUntilTheNextTurn)
 {
     Brimshade brimshade;
-    brimshade.delegate().statusClicked();
+    brimshade.clickStatusItemNow();
     EXPECT_TRUE(brimshade.isOnScreen(u"panel"_s));
     EXPECT_FALSE(brimshade.model().isOpen());
-    brimshade.delegate().statusClicked(); // closed again before that turn
+    brimshade.clickStatusItemNow(); // closed again before that turn
     brimshade.wait(0);
     EXPECT_FALSE(brimshade.model().isOpen());
 }

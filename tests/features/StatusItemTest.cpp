@@ -91,7 +91,7 @@ TEST(Settings, OneWindowForAllOpenings)
     EXPECT_TRUE(brimshade.hasKeys(u"settings"_s));
     EXPECT_TRUE(brimshade.model().scanned());
     brimshade.desktop().windows().named(u"settings"_s)->close();
-    brimshade.delegate().openSettings();
+    brimshade.model().onOpenSettings();
     EXPECT_TRUE(brimshade.hasKeys(u"settings"_s));
     EXPECT_EQ(brimshade.windowCount(u"settings"_s), 1);
 
