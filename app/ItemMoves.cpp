@@ -39,6 +39,8 @@ void ItemMoves::setHidden(const menubar::MenuExtra &extra, bool hidden)
 {
     if (!m_parts.model->movingID().isEmpty())
         return;
+    // An item can only be hidden, or shown again, across the widened icon; re-applies the settings even when it is on.
+    m_parts.model->setDividerEnabled(true);
     m_panel->close();
     m_parts.model->setMovingID(extra.id);
     m_parts.model->setMessage({});

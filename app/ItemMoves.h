@@ -15,7 +15,7 @@ public:
               std::shared_ptr<PanelPresenter> panel, std::shared_ptr<SecondaryWindows> windows);
     ~ItemMoves();
 
-    // Ignored while anything moves. A failure ends in the model's message.
+    // Turns the divider on first. Ignored while anything moves. A failure ends in the model's message.
     void setHidden(const menubar::MenuExtra &extra, bool hidden);
     // The setup flow is done: remembers that, and brings every item where it was chosen to be.
     void finishOnboarding(const Choices &choices);

@@ -31,11 +31,8 @@ platform::MenuItem moveEntry(const Model &model, const MenuExtra &extra)
                                  : QCoreApplication::translate("Tile", "Hide from Menu Bar");
     entry.isEnabled = extra.canMove;
     entry.action = [model, extra] {
-        if (!model)
-            return;
-        // A move needs the divider, and re-applies the settings even when it is on already.
-        model->setDividerEnabled(true);
-        model->onSetHidden(extra, !extra.isHidden);
+        if (model)
+            model->onSetHidden(extra, !extra.isHidden);
     };
     return entry;
 }

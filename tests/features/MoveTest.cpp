@@ -73,6 +73,17 @@ TEST_F(Move, PostsNothingForAnItemThatIsThereAlready)
     EXPECT_TRUE(brimshade.divider().isExpanded());
 }
 
+TEST(FirstMove, TurnsTheDividerOn)
+{
+    Brimshade brimshade;
+    brimshade.open();
+    brimshade.hide(u"Relay"_s);
+    EXPECT_TRUE(brimshade.model().dividerEnabled());
+    brimshade.wait(10);
+    EXPECT_TRUE(brimshade.divider().isExpanded());
+    EXPECT_EQ(brimshade.hiddenItems(), u"Quill Vault Relay"_s);
+}
+
 TEST_F(Move, RefusesOpeningsAndOtherMovesMeanwhile)
 {
     brimshade.show(u"Vault"_s);
@@ -90,7 +101,7 @@ TEST_F(Move, LetsAScanWaitAndSeeTheBarAfterIt)
 {
     brimshade.show(u"Vault"_s);
     brimshade.wait(1);
-    brimshade.delegate().refresh();
+    brimshade.model().onRefresh();
     brimshade.wait(1);
     EXPECT_FALSE(brimshade.divider().isExpanded()); // the scan leaves it as the move needs it
     EXPECT_TRUE(brimshade.item(u"Vault"_s).isHidden);
@@ -136,7 +147,7 @@ TEST(FailedMove, SaysWhyAndLetsTheDividerGrowAgain)
 TEST_F(Move, LeavesAVisibleSettingsWindowWhereItIsAndBringsAClosedOneBack)
 {
     brimshade.desktop().setMovesAccepted(false);
-    brimshade.delegate().openSettings();
+    brimshade.model().onOpenSettings();
     brimshade.wait(1);
     brimshade.clickElsewhere(); // the keys go to another program
     brimshade.show(u"Vault"_s);

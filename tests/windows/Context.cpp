@@ -51,7 +51,7 @@ Context::Context()
     model.onRefresh = [this] { ++scans; };
     model.onShowOnboarding = [this] { ++setups; };
     model.onSetHidden = [this](const MenuExtra &extra, bool hidden) {
-        moves << extra.id + (hidden ? u" hide"_s : u" show"_s) + (model.dividerEnabled() ? u""_s : u" too early"_s);
+        moves << extra.id + (hidden ? u" hide"_s : u" show"_s);
     };
 }
 

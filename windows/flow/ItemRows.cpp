@@ -51,14 +51,13 @@ void ItemRows::setModel(NotchModel *model)
     Q_EMIT modelChanged();
 }
 
-// One at a time. The divider first: an item can only be hidden across the widened icon.
+// One at a time.
 void ItemRows::setInMenuBar(const QString &id, bool inMenuBar)
 {
     const MenuExtra *found = find(id);
     if (!found || !m_model || !m_model->movingID().isEmpty())
         return;
-    const MenuExtra extra = *found; // applying the setting may change the rows
-    m_model->setDividerEnabled(true);
+    const MenuExtra extra = *found; // the callback may change the rows
     m_model->onSetHidden(extra, !inMenuBar);
 }
 
