@@ -110,6 +110,7 @@ void Desktop::Parts::applyScreens(const std::vector<ScreenDescription> &descript
         statusBar.barChanged();
     });
     windows.screensChanged();
+    permission.screensChanged();
     publishBars();
 }
 

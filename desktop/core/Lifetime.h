@@ -1,17 +1,18 @@
 #pragma once
-#include "platform/Dispatch.h"
+#include <memory>
+#include <utility>
 
 namespace brimshade::desktop {
 
-// For work of an object that may be gone when the work's turn comes. The object is destroyed on the thread that
-// runs the work; guard() may be called on any.
+// For work of an object that may be gone when the work's turn comes, and that nobody shares. The object is destroyed on
+// the thread that runs the work; guard() may be called on any while the object is there.
 class Lifetime {
 public:
-    platform::Work guard(platform::Work work) const
+    template <class Work> auto guard(Work work) const
     {
-        return [alive = std::weak_ptr(m_token), work = std::move(work)] {
+        return [alive = std::weak_ptr(m_token), work = std::move(work)](auto &&...arguments) {
             if (!alive.expired())
-                work();
+                work(std::forward<decltype(arguments)>(arguments)...);
         };
     }
 

@@ -11,6 +11,12 @@ class SharedState;
 // display space.
 class Permission : public QObject {
     Q_OBJECT
+    Q_PROPERTY(bool isTrusted READ isTrusted WRITE setTrusted NOTIFY changed)
+    Q_PROPERTY(bool isPromptOpen READ isPromptOpen NOTIFY changed)
+    Q_PROPERTY(bool isPageOpen READ isPageOpen NOTIFY changed)
+    Q_PROPERTY(QRectF promptFrame READ promptFrame NOTIFY changed)
+    Q_PROPERTY(QRectF pageFrame READ pageFrame NOTIFY changed)
+
 public:
     explicit Permission(SharedState &state) : m_state(state) { }
 
@@ -19,12 +25,14 @@ public:
 
     bool isPromptOpen() const { return m_isPromptOpen; }
     void openPrompt(); // once more is no second one
-    void closePrompt(); // the prompt's own button: not now
-    void openSettingsFromPrompt(); // its other button: closes it and opens the page
+    Q_INVOKABLE void closePrompt(); // the prompt's own button: not now
+    Q_INVOKABLE void openSettingsFromPrompt(); // its other button: closes it and opens the page
 
     bool isPageOpen() const { return m_isPageOpen; }
     void openPage();
-    void closePage();
+    Q_INVOKABLE void closePage();
+
+    void screensChanged() { Q_EMIT changed(); } // the frames follow the primary one
 
     QRectF promptFrame() const; // on the primary screen, also while closed
     QRectF pageFrame() const;

@@ -17,10 +17,7 @@ void Refresh::request()
     if (m_state != State::idle)
         return;
     m_state = State::waiting;
-    m_dispatch.mainAfter(kDebounceSeconds, [this, alive = std::weak_ptr(m_alive)] {
-        if (!alive.expired())
-            fetchIfWaiting();
-    });
+    m_dispatch.mainAfter(kDebounceSeconds, m_lifetime.guard([this] { fetchIfWaiting(); }));
 }
 
 void Refresh::requestNow()

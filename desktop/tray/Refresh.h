@@ -1,7 +1,6 @@
 #pragma once
+#include "desktop/core/Lifetime.h"
 #include "platform/Dispatch.h"
-
-#include <memory>
 
 namespace brimshade::desktop::tray {
 
@@ -23,7 +22,7 @@ private:
     platform::Dispatch &m_dispatch;
     platform::Work m_fetch;
     State m_state = State::idle;
-    std::shared_ptr<bool> m_alive = std::make_shared<bool>(true);
+    Lifetime m_lifetime;
 };
 
 } // namespace brimshade::desktop::tray

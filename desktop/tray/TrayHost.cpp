@@ -5,6 +5,7 @@
 #include "Program.h"
 #include "TrayMenu.h"
 #include "desktop/core/Desktop.h"
+#include "desktop/core/Lifetime.h"
 #include "desktop/core/MenuHost.h"
 #include "platform/Dispatch.h"
 
@@ -37,6 +38,7 @@ private:
     void place(const ItemKey &key, int pid);
     bool isPlaced(const ItemKey &key) const;
     void lookUp(int pid);
+    void lookedUp(int pid, const std::optional<DesktopEntry> &entry);
     void update(int pid);
     void show(int pid, Program &program, const std::vector<HostedItem> &items);
     void openMenu(MenuClient *menu, const QRectF &frame);
@@ -49,7 +51,7 @@ private:
     ItemRegistry m_registry;
     IconFinder m_icons;
     std::map<int, Program> m_programs; // by process id
-    std::shared_ptr<bool> m_alive = std::make_shared<bool>(true);
+    Lifetime m_lifetime;
 };
 
 TrayHost::TrayHost(Desktop &desktop, const QDBusConnection &bus, platform::Dispatch &dispatch)
@@ -113,16 +115,21 @@ bool TrayHost::Private::isPlaced(const ItemKey &key) const
 // Off the main thread: it reads some hundred small files.
 void TrayHost::Private::lookUp(int pid)
 {
+    const auto found = [this, pid](const std::optional<DesktopEntry> &entry) { lookedUp(pid, entry); };
     m_dispatch.globalAsync(platform::QualityOfService::utility,
-                           [this, pid, alive = std::weak_ptr(m_alive), &dispatch = m_dispatch] {
-                               dispatch.mainAsync([this, pid, alive, entry = lookUpProgram(pid)] {
-                                   if (alive.expired() || !m_programs.contains(pid))
-                                       return;
-                                   m_programs[pid].entry = entry;
-                                   m_programs[pid].isLookedUp = true;
-                                   update(pid);
-                               });
+                           [pid, found = m_lifetime.guard(found), &dispatch = m_dispatch] {
+                               dispatch.mainAsync([found, entry = lookUpProgram(pid)] { found(entry); });
                            });
+}
+
+void TrayHost::Private::lookedUp(int pid, const std::optional<DesktopEntry> &entry)
+{
+    const auto program = m_programs.find(pid);
+    if (program == m_programs.end())
+        return;
+    program->second.entry = entry;
+    program->second.isLookedUp = true;
+    update(pid);
 }
 
 void TrayHost::Private::remove(const ItemKey &key)

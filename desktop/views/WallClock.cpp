@@ -3,7 +3,6 @@
 #include <QFont>
 #include <QFontMetricsF>
 #include <QLocale>
-#include <QPointer>
 
 using namespace Qt::StringLiterals;
 
@@ -18,12 +17,11 @@ void WallClock::waitForMinute()
 {
     constexpr int minute = 60'000; // milliseconds
     const int left = minute - m_now().time().msecsSinceStartOfDay() % minute;
-    m_dispatch.mainAfter(left / 1000.0, [self = QPointer(this)] {
-        if (!self)
-            return;
-        Q_EMIT self->changed();
-        self->waitForMinute();
-    });
+    const auto minuteIsOver = [this] {
+        Q_EMIT changed();
+        waitForMinute();
+    };
+    m_dispatch.mainAfter(left / 1000.0, m_lifetime.guard(minuteIsOver));
 }
 
 QString WallClock::text(double width) const

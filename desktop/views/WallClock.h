@@ -1,4 +1,5 @@
 #pragma once
+#include "desktop/core/Lifetime.h"
 #include "platform/Dispatch.h"
 
 #include <QDateTime>
@@ -26,6 +27,7 @@ private:
 
     platform::Dispatch &m_dispatch;
     const Now m_now;
+    Lifetime m_lifetime;
 };
 
 } // namespace brimshade::desktop

@@ -8,14 +8,14 @@ import Brimshade.Ui
 Item {
     id: root
 
-    required property SceneState desktop
+    required property Permission permission
 
     objectName: "accessibilityPage"
-    x: root.desktop.pageFrame.x
-    y: root.desktop.pageFrame.y
-    width: root.desktop.pageFrame.width
-    height: root.desktop.pageFrame.height
-    visible: root.desktop.isPageOpen
+    x: root.permission.pageFrame.x
+    y: root.permission.pageFrame.y
+    width: root.permission.pageFrame.width
+    height: root.permission.pageFrame.height
+    visible: root.permission.isPageOpen
     palette {
         highlight: "#34c759"
         dark: Qt.rgba(0, 0, 0, 0.16)
@@ -33,7 +33,7 @@ Item {
         height: 38
         title: qsTr("Accessibility")
         windowName: "accessibilityPage"
-        onCloseRequested: root.desktop.closePage()
+        onCloseRequested: root.permission.closePage()
     }
     StyledText {
         x: 20
@@ -89,9 +89,9 @@ Item {
             anchors.right: parent.right
             anchors.verticalCenter: parent.verticalCenter
             text: qsTr("Allow Brimshade")
-            value: root.desktop.isTrusted
+            value: root.permission.isTrusted
             focusPolicy: Qt.NoFocus
-            onValueRequested: value => root.desktop.setTrusted(value)
+            onValueRequested: value => root.permission.isTrusted = value
         }
     }
 }

@@ -2,7 +2,6 @@
 #include "desktop/core/Desktop.h"
 #include "platform/Workspace.h"
 
-#include <QPointer>
 #include <algorithm>
 
 namespace brimshade::desktop {
@@ -41,10 +40,7 @@ void BannerModel::show(const QString &application, const QString &what)
 
 void BannerModel::after(double seconds, void (BannerModel::*step)(int), int number)
 {
-    m_desktop.platform().dispatch.mainAfter(seconds, [self = QPointer(this), step, number] {
-        if (self)
-            (self->*step)(number);
-    });
+    m_desktop.platform().dispatch.mainAfter(seconds, m_lifetime.guard([this, step, number] { (this->*step)(number); }));
 }
 
 void BannerModel::leave(int number)

@@ -1,4 +1,5 @@
 #pragma once
+#include "desktop/core/Lifetime.h"
 #include "platform/Dispatch.h"
 #include "platform/Image.h"
 
@@ -42,6 +43,7 @@ private:
     Desktop &m_desktop;
     std::vector<Banner> m_banners;
     int m_lastNumber = 0;
+    Lifetime m_lifetime;
 };
 
 } // namespace brimshade::desktop

@@ -54,11 +54,11 @@ FocusScope {
         }
         AccessibilityPage {
             z: 200
-            desktop: root.desktop
+            permission: root.desktop.permission
         }
         PermissionPrompt {
             z: 201
-            desktop: root.desktop
+            permission: root.desktop.permission
         }
         Repeater {
             model: root.desktop.menu

@@ -8,14 +8,14 @@ import Brimshade.Ui
 Item {
     id: root
 
-    required property SceneState desktop
+    required property Permission permission
 
     objectName: "permissionPrompt"
-    x: root.desktop.promptFrame.x
-    y: root.desktop.promptFrame.y
-    width: root.desktop.promptFrame.width
-    height: root.desktop.promptFrame.height
-    visible: root.desktop.isPromptOpen
+    x: root.permission.promptFrame.x
+    y: root.permission.promptFrame.y
+    width: root.permission.promptFrame.width
+    height: root.permission.promptFrame.height
+    visible: root.permission.isPromptOpen
     palette {
         button: "white"
         buttonText: Qt.rgba(0, 0, 0, 0.85)
@@ -77,14 +77,14 @@ Item {
             objectName: "promptDeny"
             text: qsTr("Deny")
             focusPolicy: Qt.NoFocus
-            onClicked: root.desktop.closePrompt()
+            onClicked: root.permission.closePrompt()
         }
         PushButton {
             objectName: "promptOpenSettings"
             style: PushButton.Prominent
             text: qsTr("Open System Settings")
             focusPolicy: Qt.NoFocus
-            onClicked: root.desktop.openSettingsFromPrompt()
+            onClicked: root.permission.openSettingsFromPrompt()
         }
     }
 }

@@ -1,7 +1,6 @@
 #include "SceneState.h"
 #include "desktop/core/Desktop.h"
 #include "desktop/core/InputRouter.h"
-#include "desktop/core/Permission.h"
 #include "platform/Screens.h"
 #include "platform/Workspace.h"
 
@@ -13,7 +12,6 @@ SceneState::SceneState(Desktop &desktop, WallClock::Now now, bool alwaysDrawsPoi
       m_menu(desktop.menus(), [this](QPointF point) { return screenAt(point); }), m_banners(desktop)
 {
     connect(&desktop, &Desktop::changed, this, &SceneState::desktopChanged);
-    connect(&desktop.permission(), &Permission::changed, this, &SceneState::permissionChanged);
     connect(&desktop.input(), &InputRouter::pointerWarped, this, [this] {
         m_wasWarped = true;
         Q_EMIT pointerChanged();
@@ -24,7 +22,6 @@ void SceneState::desktopChanged()
 {
     Q_EMIT screensChanged();
     Q_EMIT applicationsChanged();
-    Q_EMIT permissionChanged();
 }
 
 QList<QRectF> SceneState::screenFrames() const
@@ -87,49 +84,9 @@ void SceneState::handMoved()
     Q_EMIT pointerChanged();
 }
 
-bool SceneState::isTrusted() const
+Permission *SceneState::permission() const
 {
-    return m_desktop.permission().isTrusted();
-}
-
-bool SceneState::isPromptOpen() const
-{
-    return m_desktop.permission().isPromptOpen();
-}
-
-bool SceneState::isPageOpen() const
-{
-    return m_desktop.permission().isPageOpen();
-}
-
-QRectF SceneState::promptFrame() const
-{
-    return m_desktop.permission().promptFrame();
-}
-
-QRectF SceneState::pageFrame() const
-{
-    return m_desktop.permission().pageFrame();
-}
-
-void SceneState::setTrusted(bool trusted)
-{
-    m_desktop.setTrusted(trusted);
-}
-
-void SceneState::closePrompt()
-{
-    m_desktop.permission().closePrompt();
-}
-
-void SceneState::openSettingsFromPrompt()
-{
-    m_desktop.permission().openSettingsFromPrompt();
-}
-
-void SceneState::closePage()
-{
-    m_desktop.permission().closePage();
+    return &m_desktop.permission();
 }
 
 } // namespace brimshade::desktop

@@ -1,5 +1,6 @@
 #pragma once
 #include "BannerModel.h"
+#include "ForeignTypes.h"
 #include "desktop/views/BarModel.h"
 #include "desktop/views/MenuController.h"
 #include "desktop/views/WallClock.h"
@@ -22,14 +23,10 @@ class SceneState : public QObject {
     Q_PROPERTY(brimshade::desktop::BarModel *bar READ bar CONSTANT)
     Q_PROPERTY(brimshade::desktop::MenuController *menu READ menu CONSTANT)
     Q_PROPERTY(brimshade::desktop::BannerModel *banners READ banners CONSTANT)
+    Q_PROPERTY(brimshade::desktop::Permission *permission READ permission CONSTANT)
     Q_PROPERTY(QVariantList dockImages READ dockImages NOTIFY applicationsChanged)
     Q_PROPERTY(QPointF pointer READ pointer NOTIFY pointerChanged)
     Q_PROPERTY(bool isPointerDrawn READ isPointerDrawn NOTIFY pointerChanged)
-    Q_PROPERTY(bool isTrusted READ isTrusted NOTIFY permissionChanged)
-    Q_PROPERTY(bool isPromptOpen READ isPromptOpen NOTIFY permissionChanged)
-    Q_PROPERTY(bool isPageOpen READ isPageOpen NOTIFY permissionChanged)
-    Q_PROPERTY(QRectF promptFrame READ promptFrame NOTIFY permissionChanged)
-    Q_PROPERTY(QRectF pageFrame READ pageFrame NOTIFY permissionChanged)
 
 public:
     // alwaysDrawsPointer: no hand shows where it is.
@@ -40,27 +37,17 @@ public:
     BarModel *bar() { return &m_bar; }
     MenuController *menu() { return &m_menu; }
     BannerModel *banners() { return &m_banners; }
+    Permission *permission() const;
     QVariantList dockImages() const;
     QPointF pointer() const;
     bool isPointerDrawn() const { return m_alwaysDrawsPointer || m_wasWarped; }
-    bool isTrusted() const;
-    bool isPromptOpen() const;
-    bool isPageOpen() const;
-    QRectF promptFrame() const;
-    QRectF pageFrame() const;
 
     void handMoved(); // the pointer is where a hand is again
-
-    Q_INVOKABLE void setTrusted(bool trusted);
-    Q_INVOKABLE void closePrompt();
-    Q_INVOKABLE void openSettingsFromPrompt();
-    Q_INVOKABLE void closePage();
 
 Q_SIGNALS:
     void screensChanged();
     void applicationsChanged();
     void pointerChanged();
-    void permissionChanged();
 
 private:
     QList<QRectF> screenFrames() const;

@@ -1,0 +1,16 @@
+#pragma once
+// The desktop's own types under their names in QML: the desktop itself knows nothing of QML.
+#include "desktop/core/Permission.h"
+
+#include <qqml.h>
+
+namespace brimshade::desktop {
+
+struct PermissionForeign {
+    Q_GADGET
+    QML_FOREIGN(brimshade::desktop::Permission)
+    QML_NAMED_ELEMENT(Permission)
+    QML_UNCREATABLE("belongs to a desktop")
+};
+
+} // namespace brimshade::desktop
