@@ -88,6 +88,8 @@ int main(int argc, char **argv)
         std::fputs(qUtf8Printable(*line->information), stdout);
         return 0;
     }
+    if (line->isSession || line->request)
+        return complain(u"a session's menu bar: not yet"_s);
 
     QFile script;
     if (line->script) {

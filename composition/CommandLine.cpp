@@ -9,12 +9,23 @@ namespace brimshade::composition {
 namespace {
 
 constexpr double kLargestScale = 4;
+constexpr double kWidestScreen = 32767; // points; no display server has a wider one
 
 struct Options {
+    QCommandLineOption session{u"session"_s, u"Be the menu bar of the session that it is started in."_s};
+    QCommandLineOption screen{u"screen"_s, u"With --session: the screen with the bar, \"eDP-1\"."_s, u"name"_s};
+    QCommandLineOption notch{
+        u"notch"_s,
+        u"With --session: the notch, <lower,upper> in points from the screen's left edge, \"drawn\" or \"none\"."_s,
+        u"notch"_s};
+    QCommandLineOption toggle{u"toggle"_s, u"Open or close the panel of the Brimshade that runs in this session."_s};
+    QCommandLineOption settings{u"settings"_s, u"Open its settings."_s};
+    QCommandLineOption quit{u"quit"_s, u"End it."_s};
     QCommandLineOption desktop{u"desktop"_s, u"Use the desktop that <file> describes."_s, u"file"_s};
     QCommandLineOption noTray{u"no-tray"_s, u"Do not host the session's tray items."_s};
     QCommandLineOption tray{u"tray"_s, u"With --script: host the session's tray items."_s};
     QCommandLineOption defaults{u"defaults"_s, u"Keep the settings in <file>."_s, u"file"_s};
+    QCommandLineOption state{u"state"_s, u"Keep the order of the tray items in <file>."_s, u"file"_s};
     QCommandLineOption script{
         u"script"_s, u"Carry out the commands in <file>, - for standard input, without a window."_s, u"file"_s};
     QCommandLineOption window{u"window"_s, u"With --script: show the window too, in real time."_s};
@@ -25,31 +36,128 @@ struct Options {
 
     QList<QCommandLineOption> all() const
     {
-        return {desktop, noTray, tray, defaults, script, window, realTime, scale, help, version};
+        return {session,  screen, notch,  toggle, settings, quit,  desktop, noTray, tray,
+                defaults, state,  script, window, realTime, scale, help,    version};
+    }
+    QList<std::pair<QCommandLineOption, Request>> requests() const
+    {
+        return {{toggle, Request::toggle}, {settings, Request::settings}, {quit, Request::quit}};
     }
 };
+
+using Fault = std::optional<QString>;
+
+QString written(const QCommandLineOption &option)
+{
+    return u"--"_s + option.names().constFirst();
+}
 
 std::optional<QString> valueOf(const QCommandLineParser &parser, const QCommandLineOption &option)
 {
     return parser.isSet(option) ? std::optional(parser.value(option)) : std::nullopt;
 }
 
-std::optional<QString> faultIn(const QCommandLineParser &parser, const Options &options)
+std::optional<NotchOption> parseNotch(const QString &text)
 {
-    if (!parser.positionalArguments().isEmpty())
-        return u"unexpected argument \"%1\""_s.arg(parser.positionalArguments().constFirst());
-    const bool isScript = parser.isSet(options.script);
-    for (const QCommandLineOption &scriptOnly : {options.tray, options.window, options.realTime, options.scale}) {
-        if (parser.isSet(scriptOnly) && !isScript)
-            return u"--%1 goes with --script"_s.arg(scriptOnly.names().constFirst());
+    if (text == "drawn"_L1)
+        return DrawnNotch{};
+    if (text == "none"_L1)
+        return NoNotch{};
+    const QStringList numbers = text.split(u',');
+    if (numbers.size() != 2)
+        return {};
+    bool isLower = false, isUpper = false;
+    const NotchBounds bounds{numbers[0].toDouble(&isLower), numbers[1].toDouble(&isUpper)};
+    // Written so that no comparison with a NaN passes.
+    const bool isSpan = bounds.lower >= 0 && bounds.lower < bounds.upper && bounds.upper <= kWidestScreen;
+    return isLower && isUpper && isSpan ? std::optional<NotchOption>(bounds) : std::nullopt;
+}
+
+// A request has the command line to itself.
+Fault faultInRequest(const QCommandLineParser &parser, const Options &options)
+{
+    for (const auto &[option, request] : options.requests()) {
+        if (parser.isSet(option) && parser.optionNames().size() > 1)
+            return u"%1 goes alone"_s.arg(written(option));
     }
-    if (parser.isSet(options.tray) && parser.isSet(options.noTray))
-        return u"--tray and --no-tray exclude each other"_s;
+    return {};
+}
+
+Fault faultInCompany(const QCommandLineParser &parser, const Options &options)
+{
+    const QCommandLineOption &session = options.session, &script = options.script;
+    const auto needs = [&](const QList<QCommandLineOption> &dependents, const QCommandLineOption &needed) -> Fault {
+        for (const QCommandLineOption &each : dependents) {
+            if (parser.isSet(each) && !parser.isSet(needed))
+                return u"%1 goes with %2"_s.arg(written(each), written(needed));
+        }
+        return {};
+    };
+    const auto excludes = [&](const QCommandLineOption &one, const QList<QCommandLineOption> &others) -> Fault {
+        for (const QCommandLineOption &each : others) {
+            if (parser.isSet(one) && parser.isSet(each))
+                return u"%1 and %2 exclude each other"_s.arg(written(one), written(each));
+        }
+        return {};
+    };
+    if (const Fault fault = needs({options.screen, options.notch}, session))
+        return fault;
+    if (const Fault fault = excludes(session, {options.desktop, options.tray, options.window, options.scale}))
+        return fault;
+    if (const Fault fault = needs({options.tray, options.window, options.realTime, options.scale}, script))
+        return fault;
+    if (const Fault fault = excludes(options.tray, {options.noTray}))
+        return fault;
+    // Other programs do not know virtual time.
+    return parser.isSet(session) ? needs({script}, options.realTime) : std::nullopt;
+}
+
+Fault faultInValues(const QCommandLineParser &parser, const Options &options)
+{
+    for (const auto &each : {options.screen, options.desktop, options.defaults, options.state, options.script}) {
+        if (parser.isSet(each) && parser.value(each).isEmpty())
+            return u"%1: expected a %2"_s.arg(written(each), each.valueName());
+    }
+    if (parser.isSet(options.notch) && !parseNotch(parser.value(options.notch)))
+        return u"--notch: expected LOWER,UPPER with 0 ≤ LOWER < UPPER, \"drawn\" or \"none\""_s;
     bool isNumber = false;
     const double scale = parser.value(options.scale).toDouble(&isNumber);
     if (!isNumber || !(scale >= 1 && scale <= kLargestScale))
         return u"--scale: expected a number from 1 to 4"_s;
     return {};
+}
+
+Fault faultIn(const QCommandLineParser &parser, const Options &options)
+{
+    if (!parser.positionalArguments().isEmpty())
+        return u"unexpected argument \"%1\""_s.arg(parser.positionalArguments().constFirst());
+    for (const auto check : {faultInRequest, faultInCompany, faultInValues}) {
+        if (const Fault fault = check(parser, options))
+            return fault;
+    }
+    return {};
+}
+
+CommandLine read(const QCommandLineParser &parser, const Options &options)
+{
+    CommandLine line;
+    for (const auto &[option, request] : options.requests()) {
+        if (parser.isSet(option))
+            line.request = request;
+    }
+    const bool isScript = parser.isSet(options.script);
+    line.isSession = parser.isSet(options.session);
+    line.screen = valueOf(parser, options.screen);
+    line.notch = parseNotch(parser.value(options.notch));
+    line.desktopFile = valueOf(parser, options.desktop);
+    line.defaultsFile = valueOf(parser, options.defaults);
+    line.stateFile = valueOf(parser, options.state);
+    line.script = valueOf(parser, options.script);
+    line.hostsTray = isScript && !line.isSession ? parser.isSet(options.tray) : !parser.isSet(options.noTray);
+    line.hasWindow = !isScript || line.isSession || parser.isSet(options.window);
+    line.isRealTime = line.hasWindow || parser.isSet(options.realTime);
+    line.scale = parser.value(options.scale).toDouble();
+    return line;
 }
 
 } // namespace
@@ -63,23 +171,16 @@ std::expected<CommandLine, QString> parseCommandLine(const QStringList &argument
     if (!parser.parse(arguments))
         return std::unexpected(parser.errorText());
 
-    CommandLine line;
+    CommandLine information;
     if (parser.isSet(options.help))
-        line.information = parser.helpText();
+        information.information = parser.helpText();
     else if (parser.isSet(options.version))
-        line.information = u"Brimshade " BRIMSHADE_VERSION "\n"_s;
-    else if (const auto fault = faultIn(parser, options))
+        information.information = u"Brimshade " BRIMSHADE_VERSION "\n"_s;
+    if (information.information)
+        return information;
+    if (const Fault fault = faultIn(parser, options))
         return std::unexpected(*fault);
-
-    const bool isScript = parser.isSet(options.script);
-    line.desktopFile = valueOf(parser, options.desktop);
-    line.defaultsFile = valueOf(parser, options.defaults);
-    line.script = valueOf(parser, options.script);
-    line.hostsTray = isScript ? parser.isSet(options.tray) : !parser.isSet(options.noTray);
-    line.hasWindow = !isScript || parser.isSet(options.window);
-    line.isRealTime = line.hasWindow || parser.isSet(options.realTime);
-    line.scale = parser.value(options.scale).toDouble();
-    return line;
+    return read(parser, options);
 }
 
 } // namespace brimshade::composition
