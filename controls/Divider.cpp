@@ -100,20 +100,24 @@ void Divider::setEnabled(bool enabled)
     reanchor();
 }
 
+// A second after the last of several, which so share one measurement.
 void Divider::applicationsChanged()
 {
-    later(kApplicationChangeDelay, &Divider::reanchor);
+    later(m_applicationChange, kApplicationChangeDelay, &Divider::reanchor);
 }
 
 void Divider::reanchor()
 {
+    if (m_isMoving)
+        return;
     m_slack = 0;
-    collapse();
-    later(kRemeasureDelay, &Divider::measure);
+    shrink();
+    later(m_measurement, kRemeasureDelay, &Divider::measure);
 }
 
 void Divider::measure()
 {
+    m_measurement.reset();
     if (const platform::Window *window = this->window()) {
         m_anchor = platform::maxX(window->frame());
         expand();
@@ -123,12 +127,14 @@ void Divider::measure()
 void Divider::expand()
 {
     m_isExpanded = true;
+    if (!mayWiden())
+        return;
     const std::optional<Room> room = this->room();
     if (!room || std::abs(m_item->length() - room->length) <= kLengthTolerance)
         return;
     resize(room->length);
     if (room->reachesNotch)
-        later(kClearanceDelay, &Divider::checkClearance);
+        later(m_clearanceCheck, kClearanceDelay, &Divider::checkClearance);
 }
 
 std::optional<Divider::Room> Divider::room() const
@@ -148,6 +154,20 @@ std::optional<Divider::Room> Divider::room() const
 }
 
 void Divider::collapse()
+{
+    m_isMoving = true;
+    if (m_measurement)
+        std::exchange(m_measurement, nullptr)->cancel();
+    shrink();
+}
+
+void Divider::release()
+{
+    m_isMoving = false;
+    reanchor();
+}
+
+void Divider::shrink()
 {
     m_isExpanded = false;
     resize(kRestingLength);
@@ -179,7 +199,7 @@ bool Divider::isWindowVisible() const
 
 void Divider::checkClearance()
 {
-    if (!m_isExpanded || m_slack >= kSlackLimit)
+    if (!m_isExpanded || !mayWiden() || m_slack >= kSlackLimit)
         return;
     // The probe asks another program and may wait for it.
     m_platform.dispatch.globalAsync(platform::QualityOfService::userInitiated,
@@ -193,15 +213,18 @@ void Divider::checkClearance()
 
 void Divider::giveWay()
 {
-    if (!m_isExpanded)
+    if (!m_isExpanded || !mayWiden())
         return;
     m_slack += kSlackStep;
     expand();
 }
 
-void Divider::later(double seconds, void (Divider::*step)())
+void Divider::later(Step &pending, double seconds, void (Divider::*step)())
 {
-    m_platform.dispatch.mainAfter(seconds, weakly(weak_from_this(), step));
+    if (pending)
+        pending->cancel();
+    pending = std::make_shared<platform::DispatchWorkItem>(weakly(weak_from_this(), step));
+    m_platform.dispatch.mainAfter(seconds, [item = pending] { item->perform(); });
 }
 
 platform::Window *Divider::window() const

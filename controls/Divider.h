@@ -6,6 +6,7 @@
 #include <optional>
 
 namespace brimshade::platform {
+class DispatchWorkItem;
 class StatusItem;
 class Window;
 } // namespace brimshade::platform
@@ -27,21 +28,24 @@ public:
                                            std::shared_ptr<platform::StatusItem> item, const platform::Image &symbol);
     ~Divider() override;
 
-    bool isExpanded() const { return m_isExpanded; } // expand() was the last word
+    bool isExpanded() const { return m_isExpanded; } // expand() was the last word, even where it has to wait
     bool isEnabled() const { return m_isEnabled; } // divider mode
     void setEnabled(bool enabled); // and measures anew
     // x of the right edge of the item while it has its resting length, screen space; absent until measured.
     std::optional<double> anchor() const { return m_anchor; }
     double slack() const { return m_slack; } // kept free beside the notch after failed clearance checks
 
-    void reanchor() override; // collapses, measures 0.3 s later, then expands
-    void expand(); // as far as anchor, slack and notch allow; nothing when that is how it is
-    void collapse() override;
+    void reanchor(); // collapses, measures 0.3 s later, then expands; while a move has the item, once that is over
+    void expand(); // as far as anchor, slack and notch allow; a measurement that is still to come does it itself
+    void collapse() override; // for a move: nothing widens it until release()
+    void release() override;
     void resize(double length);
     QRectF axFrame() const override;
     bool isWindowVisible() const override;
 
 private:
+    using Step = std::shared_ptr<platform::DispatchWorkItem>; // one that is still to come; null for none
+
     struct Room {
         double length;
         bool reachesNotch; // there is room beside the notch: worth checking that the bar gave it
@@ -56,7 +60,9 @@ private:
     std::optional<Room> room() const; // absent when there is nothing to go by
     void checkClearance();
     void giveWay();
-    void later(double seconds, void (Divider::*step)());
+    bool mayWiden() const { return !m_isMoving && !m_measurement; }
+    void shrink();
+    void later(Step &pending, double seconds, void (Divider::*step)()); // instead of what was pending
     platform::Window *window() const;
 
     const platform::Platform m_platform;
@@ -67,6 +73,8 @@ private:
     bool m_isEnabled = false;
     std::optional<double> m_anchor;
     double m_slack = 0;
+    bool m_isMoving = false; // from collapse() to release()
+    Step m_measurement, m_clearanceCheck, m_applicationChange;
 };
 
 } // namespace brimshade::controls

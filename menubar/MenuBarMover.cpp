@@ -49,7 +49,7 @@ MenuBarMover::Result MenuBarMover::move(const MenuExtra &extra, bool hide,
     if (isAlreadyThere(extra, hide, *screen, divider))
         return {};
     const Result result = moveAcross(extra, hide, *screen, divider);
-    m_platform.dispatch.mainAsync(platform::weakly(divider, &DividerControl::reanchor));
+    m_platform.dispatch.mainAsync(platform::weakly(divider, &DividerControl::release));
     return result;
 }
 

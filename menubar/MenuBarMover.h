@@ -15,8 +15,8 @@ class DividerControl {
 public:
     virtual ~DividerControl() = default;
     virtual QRectF axFrame() const = 0; // display space; zero without a window
-    virtual void collapse() = 0;
-    virtual void reanchor() = 0;
+    virtual void collapse() = 0; // and stays so, whatever happens meanwhile, until release()
+    virtual void release() = 0; // measures and widens anew
     virtual bool isWindowVisible() const = 0; // its button's window reports the visible occlusion state
 };
 
@@ -35,7 +35,7 @@ public:
 
     // Blocks its thread for two scans and about 2.3 seconds: call it on the scan queue. A divider that is gone
     // counts as one without a window. Unless the item was on the right side already, the divider is collapsed
-    // meanwhile, and left to reanchor on a later turn of the main queue.
+    // meanwhile, and released on a later turn of the main queue.
     Result move(const MenuExtra &extra, bool hide, const std::weak_ptr<DividerControl> &divider) const;
 
     // Display space. Blocks for about 1.5 seconds.

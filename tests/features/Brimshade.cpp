@@ -40,6 +40,11 @@ desktop::DesktopDescription dividedDesktop()
     return notchedDesktop({{u"dividerEnabled"_s, true}});
 }
 
+desktop::DesktopDescription sharedDesktop()
+{
+    return notchedDesktop({{u"dividerEnabled"_s, true}, {u"NSStatusItem Preferred Position BrimshadeButton"_s, 240}});
+}
+
 Brimshade::Brimshade(const desktop::DesktopDescription &description)
     : m_on(description), m_delegate(std::make_shared<app::AppDelegate>(m_on.platform))
 {
@@ -144,6 +149,13 @@ QRectF Brimshade::statusItem()
     const auto items = m_on.desktop.menuBar().items();
     const auto own = std::ranges::find(items, true, &desktop::BarItem::isOwn);
     return own == items.end() ? QRectF() : own->frame;
+}
+
+bool Brimshade::isDrawn(const QString &identifier)
+{
+    const auto items = m_on.desktop.menuBar().items();
+    const auto item = std::ranges::find(items, identifier, &desktop::BarItem::identifier);
+    return item != items.end() && item->drawn;
 }
 
 QPointF Brimshade::symbol()

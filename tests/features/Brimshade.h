@@ -23,6 +23,8 @@ desktop::ApplicationDescription agentWithButton(const QRectF &frame);
 desktop::DesktopDescription notchedDesktop(const QVariantMap &defaults = {});
 // The same with divider mode on: all three are tucked away.
 desktop::DesktopDescription dividedDesktop();
+// And with Relay and Vault right of Brimshade's item: only Quill is tucked away.
+desktop::DesktopDescription sharedDesktop();
 
 inline constexpr QPointF kEmptySpot(100, 800); // of the display, top-left origin: no window of the program is there
 inline constexpr QPointF kOnNotch(756, 10);
@@ -64,6 +66,7 @@ public:
     std::optional<QRectF> frameOf(const QString &window); // screen space; absent while it is not on screen
     int windowCount(const QString &name);
     QRectF statusItem();
+    bool isDrawn(const QString &identifier); // of an item of the bar; Brimshade's own by its autosave name
     QString bar(); // left to right, without the system's items; Brimshade's own is "|"
     QString hiddenItems(); // as a fresh scan lists them
     int dragCount(); // since last asked

@@ -21,6 +21,21 @@ TEST(BulkMove, BringsEveryItemWhereItWasChosenToBeAndThenOpensThePanel)
     EXPECT_EQ(brimshade.hiddenItems(), u"Quill Relay"_s);
 }
 
+// At any moment: before the first move, in the middle of a drag and between two.
+TEST(BulkMove, IsNotDisturbedByAnApplicationThatComes)
+{
+    for (int tenths = 0; tenths < 80; tenths += 2) {
+        Brimshade brimshade(sharedDesktop());
+        brimshade.finishSetup({{u"Relay"_s, true}, {u"Vault"_s, true}});
+        brimshade.wait(0.1 * tenths);
+        brimshade.desktop().launch({application(900, u"Late"_s)});
+        brimshade.wait(kLong);
+        EXPECT_EQ(brimshade.model().message(), QString()) << tenths;
+        EXPECT_TRUE(brimshade.bar().endsWith(u'|')) << tenths;
+        EXPECT_EQ(brimshade.dragCount(), 2) << tenths << ": each at the first try";
+    }
+}
+
 TEST(BulkMove, WaitsBeforeItBeginsAndBetweenItems)
 {
     Brimshade brimshade(dividedDesktop());

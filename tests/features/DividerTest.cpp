@@ -85,6 +85,17 @@ TEST(Divider, IsMeasuredAgainASecondAfterAnApplicationComesOrGoes)
     EXPECT_EQ(widthsOver(brimshade, 5), QStringList({u"28 at 1.1"_s, u"453 at 1.4"_s}));
 }
 
+TEST(Divider, IsMeasuredOnceForApplicationsThatComeAndGoTogether)
+{
+    Brimshade brimshade(dividedDesktop());
+    brimshade.desktop().launch({application(900, u"Late"_s)});
+    brimshade.wait(0.3);
+    brimshade.desktop().launch({application(901, u"Later"_s)});
+    brimshade.wait(0.3);
+    brimshade.desktop().quit(900);
+    EXPECT_EQ(widthsOver(brimshade, 5), QStringList({u"28 at 1.1"_s, u"453 at 1.4"_s}));
+}
+
 TEST(Divider, IsLeftAloneByScansAndByOtherSettings)
 {
     Brimshade brimshade(dividedDesktop());

@@ -109,6 +109,71 @@ TEST_F(Move, LetsAScanWaitAndSeeTheBarAfterIt)
     EXPECT_FALSE(brimshade.item(u"Vault"_s).isHidden);
 }
 
+// At any moment: before the request, while the panel closes, in the middle of the drag and after it.
+TEST(MoveAmongOthers, IsNotDisturbedByApplicationsThatComeAndGo)
+{
+    for (int tenths = -13; tenths <= 30; ++tenths) {
+        SCOPED_TRACE(tenths);
+        auto desktop = sharedDesktop();
+        desktop.applications.push_back(application(820, u"Early"_s));
+        Brimshade b(desktop);
+        b.open();
+        const auto disturb = [&] {
+            b.desktop().launch({application(900, u"Late"_s)});
+            b.desktop().quit(820);
+        };
+        if (tenths < 0) {
+            disturb();
+            b.wait(-0.1 * tenths);
+        }
+        b.hide(u"Vault"_s);
+        if (tenths >= 0) {
+            b.wait(0.1 * tenths);
+            disturb();
+        }
+        b.wait(10);
+        EXPECT_EQ(b.model().message(), QString());
+        EXPECT_EQ(b.bar(), u"late quill vault | relay"_s);
+        EXPECT_EQ(b.statusItem().left(), 879);
+    }
+}
+
+TEST_F(Move, KeepsTheDividerCollapsedUntilItIsOver)
+{
+    brimshade.desktop().launch({application(900, u"Late"_s)}); // would be measured in the middle of the drag
+    brimshade.wait(0.2);
+    brimshade.show(u"Vault"_s);
+    brimshade.wait(0.35 + 0.1);
+    for (double passed = 0.45; passed < kMove; passed += 0.01) {
+        ASSERT_EQ(brimshade.statusItem().width(), 28) << passed;
+        if (std::abs(passed - 2) < 0.001)
+            brimshade.desktop().setScreens({notchedScreen()}); // and so would this
+        brimshade.wait(0.01);
+    }
+    brimshade.wait(1);
+    EXPECT_EQ(brimshade.hiddenItems(), u"Late Quill Relay"_s);
+    EXPECT_EQ(brimshade.statusItem().left(), 879);
+}
+
+// The place that the divider had before the move would be too far right.
+TEST(WideMove, LeavesTheIconInTheBar)
+{
+    auto desktop = dividedDesktop();
+    desktop.applications.at(2) = application(812, u"Vault"_s, 120);
+    Brimshade b(desktop);
+    b.open();
+    b.show(u"Vault"_s);
+    b.wait(kMove);
+    ASSERT_EQ(b.model().movingID(), QString());
+    for (int hundredths = 0; hundredths < 200; ++hundredths) {
+        if (hundredths == 10)
+            b.model().onRefresh(); // as an opening does
+        ASSERT_TRUE(b.isDrawn(u"BrimshadeButton"_s)) << hundredths;
+        b.wait(0.01);
+    }
+    EXPECT_EQ(b.statusItem(), QRectF(879, 0, 1332 - 120 - 879, 37));
+}
+
 TEST(FailedMove, SaysWhyAndLetsTheDividerGrowAgain)
 {
     const std::tuple<QString, std::function<void(Brimshade &)>, bool, std::size_t> cases[] = {
