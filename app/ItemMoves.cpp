@@ -35,6 +35,18 @@ ItemMoves::ItemMoves(const platform::Platform &platform, ScanScheduler::Parts pa
 
 ItemMoves::~ItemMoves() = default;
 
+ItemMoves::Mark ItemMoves::mark(const QString &movingID)
+{
+    m_parts.model->setMovingID(movingID);
+    return ++m_lastMark;
+}
+
+void ItemMoves::unmark(Mark mark)
+{
+    if (mark == m_lastMark)
+        m_parts.model->setMovingID({});
+}
+
 void ItemMoves::setHidden(const menubar::MenuExtra &extra, bool hidden)
 {
     if (!m_parts.model->movingID().isEmpty())
@@ -42,23 +54,23 @@ void ItemMoves::setHidden(const menubar::MenuExtra &extra, bool hidden)
     // An item can only be hidden, or shown again, across the widened icon; re-applies the settings even when it is on.
     m_parts.model->setDividerEnabled(true);
     m_panel->close();
-    m_parts.model->setMovingID(extra.id);
+    const Mark mark = this->mark(extra.id);
     m_parts.model->setMessage({});
-    m_platform.dispatch.mainAfter(kMoveDelay, weakly(weak_from_this(), &ItemMoves::queueMove, extra, hidden));
+    m_platform.dispatch.mainAfter(kMoveDelay, weakly(weak_from_this(), &ItemMoves::queueMove, extra, hidden, mark));
 }
 
-void ItemMoves::queueMove(const menubar::MenuExtra &extra, bool hidden)
+void ItemMoves::queueMove(const menubar::MenuExtra &extra, bool hidden, Mark mark)
 {
-    m_parts.queue->async([finished = weakly(weak_from_this(), &ItemMoves::moveFinished, extra),
+    m_parts.queue->async([finished = weakly(weak_from_this(), &ItemMoves::moveFinished, extra, mark),
                           &dispatch = m_platform.dispatch, mover = menubar::MenuBarMover(m_platform, m_parts.access),
                           divider = std::weak_ptr(m_parts.divider), extra, hidden] {
         dispatch.mainAsync([finished, result = mover.move(extra, hidden, divider)] { finished(result); });
     });
 }
 
-void ItemMoves::moveFinished(const menubar::MenuExtra &extra, const menubar::MenuBarMover::Result &result)
+void ItemMoves::moveFinished(const menubar::MenuExtra &extra, Mark mark, const menubar::MenuBarMover::Result &result)
 {
-    m_parts.model->setMovingID({});
+    unmark(mark);
     if (!result) {
         m_parts.model->setMessage(failureMessage(extra, result.error()));
         if (!m_windows->isSettingsVisible())
@@ -80,25 +92,24 @@ void ItemMoves::finishOnboarding(const Choices &choices)
     const auto toHide = [&](const menubar::MenuExtra &extra) { return pending(extra) && !extra.isHidden; };
     if (std::ranges::any_of(model.extras(), toHide))
         model.setDividerEnabled(true);
-    model.setMovingID(u"onboarding"_s);
-    m_platform.dispatch.mainAfter(
-        kBulkDelay,
-        weakly(weak_from_this(), &ItemMoves::applyChoices, BulkMove::Job{choices, m_parts.placement->screen()}));
+    const BulkMove::Job job{choices, m_parts.placement->screen()};
+    m_platform.dispatch.mainAfter(kBulkDelay,
+                                  weakly(weak_from_this(), &ItemMoves::applyChoices, job, mark(u"onboarding"_s)));
 }
 
-void ItemMoves::applyChoices(BulkMove::Job job)
+void ItemMoves::applyChoices(BulkMove::Job job, Mark mark)
 {
     job.passLimit = 2 * m_parts.model->itemCount();
     m_parts.queue->async(
-        [applied = weakly(weak_from_this(), &ItemMoves::choicesApplied), &dispatch = m_platform.dispatch,
+        [applied = weakly(weak_from_this(), &ItemMoves::choicesApplied, mark), &dispatch = m_platform.dispatch,
          bulk = std::make_shared<BulkMove>(m_platform, m_parts.access, m_scans, m_parts.divider, std::move(job))] {
             dispatch.mainAsync([applied, messages = bulk->run()] { applied(messages); });
         });
 }
 
-void ItemMoves::choicesApplied(const MoveMessages &messages)
+void ItemMoves::choicesApplied(Mark mark, const MoveMessages &messages)
 {
-    m_parts.model->setMovingID({});
+    unmark(mark);
     if (messages.isEmpty()) {
         m_panel->open(false);
         return;

@@ -21,16 +21,23 @@ public:
     void finishOnboarding(const Choices &choices);
 
 private:
-    void queueMove(const menubar::MenuExtra &extra, bool hidden);
-    void moveFinished(const menubar::MenuExtra &extra, const menubar::MenuBarMover::Result &result);
-    void applyChoices(BulkMove::Job job);
-    void choicesApplied(const MoveMessages &messages);
+    // What stands in the model's movingID from a move's request to its end. A later move's takes its place, and is then
+    // that move's alone to take away.
+    using Mark = int;
+    Mark mark(const QString &movingID);
+    void unmark(Mark mark);
+
+    void queueMove(const menubar::MenuExtra &extra, bool hidden, Mark mark);
+    void moveFinished(const menubar::MenuExtra &extra, Mark mark, const menubar::MenuBarMover::Result &result);
+    void applyChoices(BulkMove::Job job, Mark mark);
+    void choicesApplied(Mark mark, const MoveMessages &messages);
 
     const platform::Platform m_platform;
     const ScanScheduler::Parts m_parts;
     const std::shared_ptr<ScanScheduler> m_scans;
     const std::shared_ptr<PanelPresenter> m_panel;
     const std::shared_ptr<SecondaryWindows> m_windows;
+    Mark m_lastMark = 0;
 };
 
 } // namespace brimshade::app

@@ -36,6 +36,25 @@ TEST(BulkMove, IsNotDisturbedByAnApplicationThatComes)
     }
 }
 
+TEST(BulkMove, KeepsThePanelClosedWhenAMoveThatWasUnderWayEnds)
+{
+    Brimshade brimshade(dividedDesktop());
+    brimshade.model().setShortcut(model::Shortcut::controlOptionSpace);
+    brimshade.open();
+    brimshade.show(u"Quill"_s);
+    brimshade.wait(1);
+    brimshade.finishSetup({{u"Relay"_s, false}, {u"Vault"_s, false}, {u"Quill"_s, false}});
+    brimshade.wait(2.5); // the single move has ended, the first of the others is under way
+    EXPECT_EQ(brimshade.model().movingID(), u"onboarding"_s);
+    brimshade.model().onSetHidden(brimshade.item(u"Quill"_s), true);
+    brimshade.pressShortcut(); // no click, which would disturb the drag
+    EXPECT_FALSE(brimshade.delegate().shown());
+    brimshade.wait(kLong);
+    EXPECT_EQ(brimshade.model().movingID(), QString());
+    EXPECT_EQ(brimshade.hiddenItems(), QString());
+    EXPECT_TRUE(brimshade.delegate().shown());
+}
+
 TEST(BulkMove, WaitsBeforeItBeginsAndBetweenItems)
 {
     Brimshade brimshade(dividedDesktop());
