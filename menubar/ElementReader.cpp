@@ -23,6 +23,7 @@ template <typename T> T ElementReader::value(const AXUIElement &element, const Q
     auto value = m_accessibility.copyAttributeValue(element, attribute);
     m_isHung = !value && value.error() == platform::kAXErrorCannotComplete;
     T *wanted = value ? std::get_if<T>(&*value) : nullptr;
+    m_hasFailed = m_hasFailed || !wanted;
     return wanted ? std::move(*wanted) : otherwise;
 }
 

@@ -25,12 +25,14 @@ public:
     QString string(const AXUIElement &element, const QString &attribute);
     std::vector<AXUIElement> elements(const AXUIElement &element, const QString &attribute);
     QRectF frame(const AXUIElement &element); // display space; a part that is not finite is 0 too
+    bool hasFailed() const { return m_hasFailed; } // something so far reads so for want of a value
 
 private:
     template <typename T> T value(const AXUIElement &element, const QString &attribute, T otherwise = {});
 
     Accessibility &m_accessibility;
     bool m_isHung = false;
+    bool m_hasFailed = false;
 };
 
 } // namespace brimshade::menubar

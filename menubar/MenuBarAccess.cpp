@@ -116,13 +116,14 @@ void MenuBarAccess::describe(const Owner &owner, ItemReading item, int position,
     extra.element = std::move(item.element);
 }
 
-QRectF MenuBarAccess::frame(const AXUIElement &element) const
+std::optional<QRectF> MenuBarAccess::frame(const AXUIElement &element) const
 {
     if (!element)
-        return {};
+        return std::nullopt;
     ElementReader reader(m_accessibility);
     reader.adopt(element);
-    return reader.frame(element);
+    const QRectF frame = reader.frame(element);
+    return reader.hasFailed() ? std::nullopt : std::optional(frame);
 }
 
 std::optional<QRectF> MenuBarAccess::firstSystemButtonFrame() const

@@ -34,8 +34,8 @@ public:
     // no divider tells hidden items from others.
     ExtraList scan(const platform::Screen &screen, std::optional<QRectF> dividerFrame);
 
-    // Display space; a part that cannot be read is 0.
-    QRectF frame(const platform::AXUIElement &element) const;
+    // Display space; absent when a part of it cannot be read.
+    std::optional<QRectF> frame(const platform::AXUIElement &element) const;
     // Of the system's menu bar agent; absent where there is none or it cannot be read.
     std::optional<QRectF> firstSystemButtonFrame() const;
 

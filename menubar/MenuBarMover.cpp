@@ -82,17 +82,19 @@ MenuBarMover::Result MenuBarMover::moveAcross(const MenuExtra &extra, bool hide,
     if (!isMenuBarShowing(collapsed))
         return std::unexpected(Failure::menuBarHidden);
 
-    const QRectF item = m_access->frame(extra.element);
+    const std::optional<QRectF> item = m_access->frame(extra.element);
     const std::optional<QRectF> button = m_access->firstSystemButtonFrame();
-    if (!hide && !canBeShown(item, collapsed.frame, button))
+    if (!hide && !canBeShown(item.value_or(QRectF()), collapsed.frame, button))
         return std::unexpected(Failure::noRoom);
+    if (!item)
+        return std::unexpected(Failure::didNotMove);
 
     const auto candidates = dropCandidates(m_access->scan(screen, std::nullopt), extra.id, button);
-    dragAndPutPointerBack(centre(item), dropPoint(candidates, collapsed.frame, hide));
+    dragAndPutPointerBack(centre(*item), dropPoint(candidates, collapsed.frame, hide));
     m_platform.dispatch.sleep(kSettleAfterDrag);
 
-    const QRectF moved = m_access->frame(extra.element);
-    if (isRightOfDivider(moved, axFrame(divider)) == hide)
+    const std::optional<QRectF> moved = m_access->frame(extra.element);
+    if (!moved || isRightOfDivider(*moved, axFrame(divider)) == hide)
         return std::unexpected(Failure::didNotMove);
     return {};
 }

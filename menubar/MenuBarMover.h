@@ -26,7 +26,7 @@ public:
     enum class Failure {
         menuBarHidden, // the divider's menu bar is not showing
         noRoom, // the item cannot be reached to be shown
-        didNotMove, // after the drag it was not on the side asked for
+        didNotMove, // after the drag it was not on the side asked for; or there was no reading where it is
     };
     using Result = std::expected<void, Failure>;
 

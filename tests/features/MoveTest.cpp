@@ -209,6 +209,49 @@ TEST(FailedMove, SaysWhyAndLetsTheDividerGrowAgain)
     }
 }
 
+// Nobody knows where to drag from, or whether it went.
+TEST(FailedMove, DragsNothingThatCannotBeRead)
+{
+    const auto unreadable = [] {
+        auto vault = application(812, u"Vault"_s);
+        vault.extras->at(0).frameKind = desktop::ExtraDescription::Frame::unreadable;
+        return vault;
+    };
+    struct Case {
+        const char *name;
+        std::function<void(Brimshade &)> strike;
+        double timeout; // what a scan or the reading of a frame costs then
+        std::vector<double> moments; // before the first scan, before the drag and in the middle of it
+    };
+    const Case cases[] = {
+        {"the application quits", [](Brimshade &b) { b.desktop().quit(812); }, 0, {0.1, 0.5, 1.5}},
+        {"the permission is withdrawn", [](Brimshade &b) { b.desktop().setTrusted(false); }, 0, {0.1, 0.5, 1.5}},
+        {"the item loses its frame", [&](Brimshade &b) { b.desktop().change(812, {unreadable()}); }, 0, {0.5, 1.5}},
+        {"the application hangs",
+         [](Brimshade &b) { b.desktop().change(812, {hung(application(812, u"Vault"_s))}); },
+         0.25,
+         {0.1, 0.5, 1.5}},
+    };
+    for (const auto &[name, strike, timeout, moments] : cases) {
+        for (const double moment : moments) {
+            SCOPED_TRACE(std::string(name) + " at " + std::to_string(moment));
+            Brimshade b(sharedDesktop());
+            b.open();
+            b.hide(u"Vault"_s);
+            b.wait(moment);
+            strike(b);
+            const bool isDragged = moment == 1.5;
+            const double ends = (isDragged ? kMove : 0.35 + 0.45) + (moment == 0.1 ? 2 : 1) * timeout;
+            b.wait(ends - moment - 0.001);
+            EXPECT_NE(b.model().movingID(), QString());
+            b.wait(0.001);
+            EXPECT_EQ(b.model().movingID(), QString());
+            EXPECT_EQ(b.model().message(), u"Vault: "_s + kDidNotMove);
+            EXPECT_EQ(b.desktop().inspection().takeEvents().size(), isDragged ? 43u : 0u);
+        }
+    }
+}
+
 TEST_F(Move, LeavesAVisibleSettingsWindowWhereItIsAndBringsAClosedOneBack)
 {
     brimshade.desktop().setMovesAccepted(false);
