@@ -7,6 +7,9 @@
 // Where a bar's items stand. Pure functions; lengths in points, rectangles in display space.
 namespace brimshade::desktop {
 
+inline constexpr double kItemPicture = 18; // a side of the picture that an item shows
+inline constexpr double kItemPadding = 8; // at each side of it
+
 // The bar with status items on its screen.
 struct BarGeometry {
     QRectF frame; // of the bar

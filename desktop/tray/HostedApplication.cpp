@@ -1,10 +1,12 @@
 #include "HostedApplication.h"
 
+#include "desktop/core/BarLayout.h"
+
 namespace brimshade::desktop::tray {
 
 namespace {
 
-constexpr double kItemWidth = 30; // points
+constexpr double kItemWidth = kItemPadding + kItemPicture + kItemPadding;
 
 QString toolTipOf(const TrayItem &item)
 {

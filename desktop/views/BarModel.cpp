@@ -1,5 +1,6 @@
 #include "BarModel.h"
 #include "WallClock.h"
+#include "desktop/core/BarLayout.h"
 
 using namespace Qt::StringLiterals;
 
@@ -7,7 +8,6 @@ namespace brimshade::desktop {
 
 namespace {
 
-constexpr double kImageSide = 18;
 constexpr double kTextMargin = 6; // left and right of an item's text
 
 QString nameOf(const BarItem &item)
@@ -22,7 +22,7 @@ QString nameOf(const BarItem &item)
 // The program draws its own image to measure; others come in any size.
 QSizeF imageSize(const BarItem &item)
 {
-    return item.isOwn ? item.image.size() : QSizeF(kImageSide, kImageSide);
+    return item.isOwn ? item.image.size() : QSizeF(kItemPicture, kItemPicture);
 }
 
 } // namespace

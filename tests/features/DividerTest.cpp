@@ -96,6 +96,25 @@ TEST(Divider, IsMeasuredOnceForApplicationsThatComeAndGoTogether)
     EXPECT_EQ(widthsOver(brimshade, 5), QStringList({u"28 at 1.1"_s, u"453 at 1.4"_s}));
 }
 
+// Between the notch and the divider 30 points stay free.
+TEST(Divider, TucksAwayWhatIsWiderThanItsGap)
+{
+    for (int width = 22; width <= 64; ++width) {
+        auto desktop = sharedDesktop();
+        desktop.applications.at(2) = application(812, u"Vault"_s, width);
+        desktop.defaults.insert(u"NSStatusItem Preferred Position BrimshadeButton"_s, 210 + width);
+        Brimshade brimshade(desktop);
+        ASSERT_EQ(brimshade.bar(), u"quill | vault relay"_s);
+        brimshade.open();
+        brimshade.hide(u"Vault"_s);
+        brimshade.wait(5);
+        ASSERT_EQ(brimshade.bar(), u"quill vault | relay"_s);
+        EXPECT_EQ(brimshade.hiddenItems(), u"Quill Vault"_s) << width;
+        EXPECT_EQ(brimshade.isDrawn(u"vault.main"_s), width <= 30) << width;
+        EXPECT_FALSE(brimshade.isDrawn(u"quill.main"_s)) << width;
+    }
+}
+
 TEST(Divider, IsLeftAloneByScansAndByOtherSettings)
 {
     Brimshade brimshade(dividedDesktop());

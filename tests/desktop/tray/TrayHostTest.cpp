@@ -106,6 +106,15 @@ TEST_F(TrayHostTest, SeveralItemsAreOneApplicationBesideTheOneThatHasTheirProces
     EXPECT_EQ(m_desktop.platform().workspace.runningApplications().size(), before);
 }
 
+TEST_F(TrayHostTest, ItemsAreAsWideAsTheirPictureAndItsPadding)
+{
+    const auto first = start(u"first"_s, u"First"_s);
+    const auto second = start(u"second"_s, u"Second"_s);
+    waitUntil([&] { return titles().size() == 2; });
+    for (const BarItem &item : m_desktop.menuBar().items())
+        EXPECT_EQ(item.frame.width(), 18 + 2 * 8);
+}
+
 TEST_F(TrayHostTest, TheOpenMenuOfAProgramThatEndsCloses)
 {
     auto program = start(u"short"_s, u"Short"_s);
