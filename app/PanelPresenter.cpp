@@ -91,6 +91,8 @@ void PanelPresenter::logOpening(bool byHover) const
 
 void PanelPresenter::show(bool byHover)
 {
+    if (m_orderOut)
+        m_orderOut->cancel();
     if (byHover)
         panel().orderFrontRegardless();
     else
@@ -108,13 +110,13 @@ void PanelPresenter::close()
     m_model->setIsOpen(false);
     m_model->setHoveredID({});
     m_monitors.removeAll();
-    m_platform.dispatch.mainAfter(kOrderOutDelay, weakly(weak_from_this(), &PanelPresenter::orderOutIfClosed));
+    m_orderOut = std::make_shared<platform::DispatchWorkItem>(weakly(weak_from_this(), &PanelPresenter::orderOut));
+    m_platform.dispatch.mainAfter(kOrderOutDelay, [orderOut = m_orderOut] { orderOut->perform(); });
 }
 
-void PanelPresenter::orderOutIfClosed()
+void PanelPresenter::orderOut()
 {
-    if (!m_shown)
-        panel().orderOut();
+    panel().orderOut();
 }
 
 void PanelPresenter::toggle()

@@ -8,6 +8,7 @@
 #include <memory>
 
 namespace brimshade::platform {
+class DispatchWorkItem;
 class Log;
 class StatusItem;
 class Timer;
@@ -41,7 +42,7 @@ private:
     void placePanel();
     void logOpening(bool byHover) const;
     void show(bool byHover);
-    void orderOutIfClosed();
+    void orderOut();
     void installMonitors();
     void handleOutsideClick(const platform::Event &event);
     std::optional<platform::Event> handleKey(const platform::Event &event);
@@ -61,6 +62,7 @@ private:
     const std::unique_ptr<model::PermissionRequest> m_permission;
     const KeyHandler m_keys;
     std::unique_ptr<platform::Window> m_panel; // from the first opening on
+    std::shared_ptr<platform::DispatchWorkItem> m_orderOut; // of the last closing; an opening cancels it
     EventMonitors m_monitors;
     std::unique_ptr<platform::Timer> m_pointerWatch; // only while a panel opened by hover is shown
     std::optional<double> m_awaySince; // Dispatch seconds; absent while the pointer is inside

@@ -79,6 +79,20 @@ TEST(Panel, StaysOnScreenWhenReopenedWhileItCloses)
     EXPECT_EQ(brimshade.windowCount(u"panel"_s), 1);
 }
 
+TEST(Panel, KeepsTheWholeOfItsLastClosing)
+{
+    Brimshade brimshade;
+    brimshade.open();
+    brimshade.clickStatusItem();
+    brimshade.wait(0.2);
+    brimshade.open();
+    brimshade.clickStatusItem();
+    brimshade.wait(0.349); // the first closing's time was up at 0.15
+    EXPECT_TRUE(brimshade.isOnScreen(u"panel"_s));
+    brimshade.wait(0.001);
+    EXPECT_FALSE(brimshade.isOnScreen(u"panel"_s));
+}
+
 TEST(Panel, StartsAfreshAtEachOpening)
 {
     Brimshade brimshade;
