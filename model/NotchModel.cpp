@@ -69,6 +69,7 @@ void NotchModel::setExtras(ExtraList extras)
     m_derived.reset();
     Q_EMIT extrasChanged();
     listsChanged();
+    reselect();
 }
 
 void NotchModel::setScanned(bool scanned)
@@ -89,6 +90,7 @@ void NotchModel::setHoveredID(const QString &id)
 
 void NotchModel::setSelectedID(const QString &id)
 {
+    m_wantsSelection = m_wantsSelection || !id.isEmpty();
     assign(m_selectedID, id, &NotchModel::selectedIDChanged);
 }
 
@@ -242,7 +244,18 @@ void NotchModel::setQuery(const QString &text)
 {
     assignQuery(text);
     setHoveredID({});
+    selectFirst();
+}
+
+void NotchModel::selectFirst()
+{
     setSelectedID(resultCount() == 0 ? QString() : result(0).id);
+}
+
+void NotchModel::reselect()
+{
+    if ((m_wantsSelection || !m_query.isEmpty()) && resultCount() > 0 && !selectedMatch())
+        selectFirst();
 }
 
 void NotchModel::resetSearch()
@@ -250,6 +263,7 @@ void NotchModel::resetSearch()
     setHoveredID({});
     assignQuery({});
     setSelectedID({});
+    m_wantsSelection = false;
 }
 
 void NotchModel::moveSelection(int step)

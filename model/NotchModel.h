@@ -21,7 +21,8 @@ using menubar::MenuExtra;
 // The one observable state of the program: written by the coordinator and by the views' bindings, read by every
 // view. Main thread only. objectWillChange comes before every assignment to a published field, the field's own signal
 // after one that changed it (extras: after every one).
-// Ids and the message are empty where absent. Derived lists keep the scanner's order.
+// Ids and the message are empty where absent. Derived lists keep the scanner's order. With a query, or after there was
+// a selection, new extras find a match selected as soon as there is one: the first where the selected one has gone.
 class NotchModel : public QObject {
     Q_OBJECT
     Q_PROPERTY(bool isOpen READ isOpen WRITE setIsOpen NOTIFY isOpenChanged)
@@ -154,6 +155,8 @@ private:
     int resultCount() const;
     const MenuExtra &result(int position) const; // among the hidden matches, then the visible ones
     int selectedPosition() const; // -1 when none is
+    void selectFirst(); // nothing where there are no matches
+    void reselect();
 
     platform::UserDefaults &m_defaults;
     platform::LoginItems &m_loginItems;
@@ -165,6 +168,7 @@ private:
     QString m_hoveredID;
     QString m_query;
     QString m_selectedID;
+    bool m_wantsSelection = false; // there was one since resetSearch()
     QSizeF m_notch{200, 32};
     QString m_movingID;
     QString m_message;

@@ -56,6 +56,44 @@ TEST(Selection, WithoutItemsNothingIsSelectedAndAStepChangesNothing)
     EXPECT_EQ(model.hoveredID(), u"gone"_s);
 }
 
+TEST(Selection, FallsToTheFirstMatchWhereAKeyOrASelectionAskedForOne)
+{
+    const std::tuple<const char *, std::function<void(NotchModel &)>, QString> cases[] = {
+        {"nothing asked", [](NotchModel &) {}, {}},
+        {"a query before the first result", [](NotchModel &m) { m.setQuery(u"visible"_s); }, u"v0"_s},
+        {"a query of no item", [](NotchModel &m) { m.setQuery(u"nothing"_s); }, {}},
+        {"a selected item that stays", [](NotchModel &m) { m.setSelectedID(u"v1"_s); }, u"v1"_s},
+        {"a selected item that goes", [](NotchModel &m) { m.setSelectedID(u"gone"_s); }, u"h0"_s},
+        {"a query taken back, without a result", [](NotchModel &m) { m.setQuery(u"visible"_s), m.setQuery({}); }, {}},
+        {"a new opening",
+         [](NotchModel &m) {
+             m.setSelectedID(u"gone"_s), m.setQuery(u"visible"_s);
+             m.resetSearch();
+         },
+         {}},
+    };
+    for (const auto &[what, ask, selected] : cases) {
+        ModelContext context;
+        NotchModel &model = context.model();
+        ask(model);
+        model.setExtras(items(2, 2));
+        EXPECT_EQ(model.selectedID(), selected) << what;
+    }
+    // As soon as there is one, though there was none in between.
+    ModelContext context;
+    NotchModel &model = context.model();
+    model.setExtras(items(1, 1));
+    model.setSelectedID(u"v0"_s);
+    model.setExtras({});
+    model.setExtras(items(0, 3));
+    EXPECT_EQ(model.selectedID(), u"v0"_s) << "it came back";
+    model.setQuery(u"nothing"_s);
+    model.setQuery({});
+    model.setShowVisible(false);
+    model.setExtras(items(1, 1));
+    EXPECT_EQ(model.selectedID(), u"h0"_s);
+}
+
 TEST(Selection, ComparesIdsByCanonicalEquivalence)
 {
     const std::pair<QString, QString> same[] = {
