@@ -3,6 +3,7 @@
 #include "ItemMoves.h"
 #include "PanelPlacement.h"
 #include "PanelPresenter.h"
+#include "ScanQueue.h"
 #include "SecondaryWindows.h"
 #include "StatusMenu.h"
 #include "controls/Divider.h"
@@ -34,7 +35,8 @@ constexpr qlonglong kFirstPosition = 5; // right of every other item that can mo
 AppDelegate::AppDelegate(const platform::Platform &platform)
     : m_platform(platform), m_model(std::make_shared<model::NotchModel>(platform.userDefaults, platform.loginItems)),
       m_access(std::make_shared<menubar::MenuBarAccess>(platform)),
-      m_scanQueue(platform.dispatch.makeSerialQueue(u"brimshade.scan"_s, platform::QualityOfService::userInitiated)),
+      m_scanQueue(std::make_shared<ScanQueue>(
+          platform.dispatch.makeSerialQueue(u"brimshade.scan"_s, platform::QualityOfService::userInitiated))),
       m_placement(std::make_shared<PanelPlacement>(platform.screens, platform.application)),
       m_hoverZone(std::make_shared<controls::HoverZone>(platform))
 {

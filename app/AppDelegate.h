@@ -4,9 +4,8 @@
 #include <memory>
 
 namespace brimshade::platform {
-class SerialQueue;
 class StatusItem;
-} // namespace brimshade::platform
+}
 
 namespace brimshade::menubar {
 class MenuBarAccess;
@@ -27,6 +26,7 @@ namespace brimshade::app {
 class ItemMoves;
 class PanelPlacement;
 class PanelPresenter;
+class ScanQueue;
 class ScanScheduler;
 class SecondaryWindows;
 class StatusMenu;
@@ -62,7 +62,7 @@ private:
     const platform::Platform m_platform;
     std::shared_ptr<model::NotchModel> m_model;
     std::shared_ptr<menubar::MenuBarAccess> m_access;
-    std::shared_ptr<platform::SerialQueue> m_scanQueue;
+    std::shared_ptr<ScanQueue> m_scanQueue;
     std::shared_ptr<PanelPlacement> m_placement;
     std::shared_ptr<controls::HoverZone> m_hoverZone;
     std::unique_ptr<controls::Hotkey> m_hotkey; // from the first applySettings() on

@@ -50,17 +50,14 @@ bool BulkMove::move(const menubar::MenuExtra &extra)
 
 std::optional<menubar::MenuExtra> BulkMove::nextPending()
 {
-    std::optional<QRectF> dividerFrame;
-    bool isWanted = false; // not any more once the program is going down
+    std::optional<ScanBasis> basis; // absent once the program is going down
     m_dispatch.mainSync([&] {
-        if (const auto scans = m_scans.lock()) {
-            dividerFrame = scans->dividerFrame();
-            isWanted = true;
-        }
+        if (const auto scans = m_scans.lock())
+            basis = scans->basis();
     });
-    if (!isWanted)
+    if (!basis)
         return {};
-    const menubar::ExtraList extras = m_access->scan(m_job.screen, dividerFrame);
+    const menubar::ExtraList extras = m_access->scan(basis->screen, basis->dividerFrame);
     const auto next = std::ranges::find_if(extras, [this](const menubar::MenuExtra &extra) {
         return isPending(extra, m_job.choices) && !m_messages.contains(extra.id);
     });

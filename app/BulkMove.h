@@ -17,7 +17,6 @@ class BulkMove {
 public:
     struct Job {
         Choices choices;
-        platform::Screen screen;
         int passLimit = 0; // ends a bar that takes every move and does none
     };
     BulkMove(const platform::Platform &platform, std::shared_ptr<menubar::MenuBarAccess> access,

@@ -1,7 +1,7 @@
 #include "ItemMoves.h"
 
-#include "PanelPlacement.h"
 #include "PanelPresenter.h"
+#include "ScanQueue.h"
 #include "SecondaryWindows.h"
 #include "controls/Divider.h"
 #include "menubar/MenuBarAccess.h"
@@ -61,9 +61,9 @@ void ItemMoves::setHidden(const menubar::MenuExtra &extra, bool hidden)
 
 void ItemMoves::queueMove(const menubar::MenuExtra &extra, bool hidden, Mark mark)
 {
-    m_parts.queue->async([finished = weakly(weak_from_this(), &ItemMoves::moveFinished, extra, mark),
-                          &dispatch = m_platform.dispatch, mover = menubar::MenuBarMover(m_platform, m_parts.access),
-                          divider = std::weak_ptr(m_parts.divider), extra, hidden] {
+    m_parts.queue->move([finished = weakly(weak_from_this(), &ItemMoves::moveFinished, extra, mark),
+                         &dispatch = m_platform.dispatch, mover = menubar::MenuBarMover(m_platform, m_parts.access),
+                         divider = std::weak_ptr(m_parts.divider), extra, hidden] {
         dispatch.mainAsync([finished, result = mover.move(extra, hidden, divider)] { finished(result); });
     });
 }
@@ -92,19 +92,18 @@ void ItemMoves::finishOnboarding(const Choices &choices)
     const auto toHide = [&](const menubar::MenuExtra &extra) { return pending(extra) && !extra.isHidden; };
     if (std::ranges::any_of(model.extras(), toHide))
         model.setDividerEnabled(true);
-    const BulkMove::Job job{choices, m_parts.placement->screen()};
     m_platform.dispatch.mainAfter(kBulkDelay,
-                                  weakly(weak_from_this(), &ItemMoves::applyChoices, job, mark(u"onboarding"_s)));
+                                  weakly(weak_from_this(), &ItemMoves::applyChoices, choices, mark(u"onboarding"_s)));
 }
 
-void ItemMoves::applyChoices(BulkMove::Job job, Mark mark)
+void ItemMoves::applyChoices(const Choices &choices, Mark mark)
 {
-    job.passLimit = 2 * m_parts.model->itemCount();
-    m_parts.queue->async(
-        [applied = weakly(weak_from_this(), &ItemMoves::choicesApplied, mark), &dispatch = m_platform.dispatch,
-         bulk = std::make_shared<BulkMove>(m_platform, m_parts.access, m_scans, m_parts.divider, std::move(job))] {
-            dispatch.mainAsync([applied, messages = bulk->run()] { applied(messages); });
-        });
+    m_parts.queue->move([applied = weakly(weak_from_this(), &ItemMoves::choicesApplied, mark),
+                         &dispatch = m_platform.dispatch,
+                         bulk = std::make_shared<BulkMove>(m_platform, m_parts.access, m_scans, m_parts.divider,
+                                                           BulkMove::Job{choices, 2 * m_parts.model->itemCount()})] {
+        dispatch.mainAsync([applied, messages = bulk->run()] { applied(messages); });
+    });
 }
 
 void ItemMoves::choicesApplied(Mark mark, const MoveMessages &messages)

@@ -29,7 +29,7 @@ private:
 
     void queueMove(const menubar::MenuExtra &extra, bool hidden, Mark mark);
     void moveFinished(const menubar::MenuExtra &extra, Mark mark, const menubar::MenuBarMover::Result &result);
-    void applyChoices(BulkMove::Job job, Mark mark);
+    void applyChoices(const Choices &choices, Mark mark);
     void choicesApplied(Mark mark, const MoveMessages &messages);
 
     const platform::Platform m_platform;

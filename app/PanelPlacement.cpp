@@ -29,15 +29,14 @@ PanelPlacement::PanelPlacement(const platform::Screens &screens, const platform:
 {
 }
 
-void PanelPlacement::chooseScreen()
+platform::Screen PanelPlacement::currentScreen() const
 {
     std::optional<platform::Screen> chosen = menubar::notchedScreen(m_screens.screens());
     if (!chosen)
         chosen = screenUnderPointer();
     if (!chosen)
         chosen = m_screens.mainScreen();
-    if (chosen)
-        m_screen = *chosen;
+    return chosen.value_or(m_screen);
 }
 
 std::optional<platform::Screen> PanelPlacement::screenUnderPointer() const

@@ -14,8 +14,10 @@ public:
 
     // Of the last opening, as it was then; the main screen before the first.
     const platform::Screen &screen() const { return m_screen; }
-    // The notched screen, else the one under the pointer, else the main one, else the one of last time.
-    void chooseScreen();
+    // The one that an opening would take now: the notched screen, else the one under the pointer, else the main one,
+    // else the one of last time.
+    platform::Screen currentScreen() const;
+    void chooseScreen() { m_screen = currentScreen(); }
 
     QSizeF notchSize() const; // a stand-in's where the screen has none
     QRectF panelFrame() const; // hangs from the top of the screen, centred on the notch

@@ -1,6 +1,7 @@
 #include "ScanScheduler.h"
 
 #include "PanelPlacement.h"
+#include "ScanQueue.h"
 #include "controls/Divider.h"
 #include "menubar/MenuBarAccess.h"
 #include "model/NotchModel.h"
@@ -19,16 +20,16 @@ ScanScheduler::~ScanScheduler() = default;
 
 void ScanScheduler::scan()
 {
-    if (!m_accessibility.isProcessTrusted()) {
-        m_parts.model->setTrusted(false);
+    m_parts.model->setTrusted(m_accessibility.isProcessTrusted());
+    if (!m_parts.model->trusted())
         return;
-    }
     if (m_parts.model->movingID().isEmpty())
         m_parts.divider->expand();
-    m_parts.queue->async([publish = platform::weakly(weak_from_this(), &ScanScheduler::publish),
-                          access = m_parts.access, &dispatch = m_dispatch, screen = m_parts.placement->screen(),
-                          divider = dividerFrame()] {
-        dispatch.mainAsync([publish, extras = access->scan(screen, divider)]() mutable { publish(std::move(extras)); });
+    m_parts.queue->scan([publish = platform::weakly(weak_from_this(), &ScanScheduler::publish), access = m_parts.access,
+                         &dispatch = m_dispatch, basis = basis()] {
+        dispatch.mainAsync([publish, extras = access->scan(basis.screen, basis.dividerFrame)]() mutable {
+            publish(std::move(extras));
+        });
     });
 }
 
@@ -38,9 +39,10 @@ void ScanScheduler::publish(menubar::ExtraList extras)
     m_parts.model->setScanned(true);
 }
 
-std::optional<QRectF> ScanScheduler::dividerFrame() const
+ScanBasis ScanScheduler::basis() const
 {
-    return m_parts.model->dividerEnabled() ? std::optional(m_parts.divider->axFrame()) : std::nullopt;
+    return {m_parts.placement->currentScreen(),
+            m_parts.model->dividerEnabled() ? std::optional(m_parts.divider->axFrame()) : std::nullopt};
 }
 
 } // namespace brimshade::app

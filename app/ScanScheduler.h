@@ -1,5 +1,6 @@
 #pragma once
 #include "menubar/MenuExtra.h"
+#include "platform/Screens.h"
 
 #include <QRectF>
 #include <memory>
@@ -9,7 +10,6 @@ namespace brimshade::platform {
 class Accessibility;
 class Dispatch;
 struct Platform;
-class SerialQueue;
 } // namespace brimshade::platform
 
 namespace brimshade::menubar {
@@ -27,6 +27,13 @@ class Divider;
 namespace brimshade::app {
 
 class PanelPlacement;
+class ScanQueue;
+
+// What a scan judges the items by, as it is at one moment.
+struct ScanBasis {
+    platform::Screen screen;
+    std::optional<QRectF> dividerFrame; // display space; absent while divider mode is off
+};
 
 // Runs menu bar scans off the main thread, one after the other, and publishes each result in the model.
 class ScanScheduler : public std::enable_shared_from_this<ScanScheduler> {
@@ -35,17 +42,16 @@ public:
     struct Parts {
         std::shared_ptr<model::NotchModel> model;
         std::shared_ptr<menubar::MenuBarAccess> access;
-        std::shared_ptr<platform::SerialQueue> queue;
+        std::shared_ptr<ScanQueue> queue;
         std::shared_ptr<PanelPlacement> placement;
         std::shared_ptr<controls::Divider> divider;
     };
     ScanScheduler(const platform::Platform &platform, Parts parts);
     ~ScanScheduler();
 
-    // Main thread; returns at once. Without the permission nothing is scanned, and the model says so.
+    // Main thread; returns at once. The model learns whether the permission is there; without it nothing is scanned.
     void scan();
-    // What tells hidden items from others; absent while divider mode is off. Main thread, display space.
-    std::optional<QRectF> dividerFrame() const;
+    ScanBasis basis() const; // now; main thread
 
 private:
     void publish(menubar::ExtraList extras);

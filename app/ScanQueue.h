@@ -1,0 +1,23 @@
+#pragma once
+#include "platform/Dispatch.h"
+
+namespace brimshade::app {
+
+// The serial queue of scans and moves. A scan that waits gives way to the next one asked for: nobody needs both. Not
+// across a move, so that a scan asked for after one sees the bar after it. Main thread.
+class ScanQueue {
+public:
+    explicit ScanQueue(std::shared_ptr<platform::SerialQueue> queue);
+    ~ScanQueue();
+
+    void move(platform::Work work);
+    void scan(platform::Work work);
+
+private:
+    class Scan;
+
+    const std::shared_ptr<platform::SerialQueue> m_queue;
+    std::shared_ptr<Scan> m_last; // null when a move was queued last
+};
+
+} // namespace brimshade::app
