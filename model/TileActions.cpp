@@ -2,9 +2,9 @@
 #include "NotchModel.h"
 #include "menubar/Text.h"
 #include "platform/Menu.h"
+#include "platform/Weakly.h"
 
 #include <QCoreApplication>
-#include <QPointer>
 
 namespace brimshade::model {
 
@@ -17,10 +17,8 @@ platform::MenuItem openEntry(const Model &model, const MenuExtra &extra)
 {
     platform::MenuItem entry;
     entry.title = QCoreApplication::translate("Tile", "Open");
-    entry.action = [model, extra] {
-        if (model)
-            model->onSelect(extra);
-    };
+    entry.action = platform::weakly(
+        model, [](NotchModel &self, const MenuExtra &chosen) { self.onSelect(chosen); }, extra);
     return entry;
 }
 
@@ -30,10 +28,8 @@ platform::MenuItem moveEntry(const Model &model, const MenuExtra &extra)
     entry.title = extra.isHidden ? QCoreApplication::translate("Tile", "Show in Menu Bar")
                                  : QCoreApplication::translate("Tile", "Hide from Menu Bar");
     entry.isEnabled = extra.canMove;
-    entry.action = [model, extra] {
-        if (model)
-            model->onSetHidden(extra, !extra.isHidden);
-    };
+    entry.action = platform::weakly(
+        model, [](NotchModel &self, const MenuExtra &chosen) { self.onSetHidden(chosen, !chosen.isHidden); }, extra);
     return entry;
 }
 
