@@ -1,31 +1,14 @@
 #pragma once
 #include "WireLayout.h"
 #include "desktop/time/VirtualDispatch.h"
+#include "support/PrivateBus.h"
 
 #include <QCoreApplication>
-#include <QDBusConnection>
 #include <QDBusVirtualObject>
 #include <QEventLoop>
 #include <QSet>
 
 namespace brimshade::desktop::tray {
-
-// A message bus that nobody else is on. Connections made here are closed with it.
-class PrivateBus {
-public:
-    PrivateBus();
-    ~PrivateBus();
-
-    QDBusConnection connection(const QString &name);
-    void disconnect(const QString &name);
-
-private:
-    QString qualified(const QString &name) const;
-
-    QProcess m_daemon;
-    QString m_address;
-    QSet<QString> m_names;
-};
 
 class BusTest : public testing::Test {
 protected:

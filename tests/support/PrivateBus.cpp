@@ -1,0 +1,62 @@
+#include "PrivateBus.h"
+
+namespace brimshade {
+
+namespace {
+
+// Everybody may own and send everything, as on a session's bus.
+const char *const kConfiguration = R"(<!DOCTYPE busconfig PUBLIC "-//freedesktop//DTD D-Bus Bus Configuration 1.0//EN"
+ "http://www.freedesktop.org/standards/dbus/1.0/busconfig.dtd">
+<busconfig>
+  <type>session</type>
+  <listen>unix:tmpdir=%1</listen>
+  <auth>EXTERNAL</auth>
+  %2
+  <policy context="default">
+    <allow send_destination="*" eavesdrop="true"/>
+    <allow eavesdrop="true"/>
+    <allow own="*"/>
+  </policy>
+</busconfig>
+)";
+
+} // namespace
+
+PrivateBus::PrivateBus(const QString &serviceFolder)
+{
+    const QString services = serviceFolder.isEmpty() ? QString() : u"<servicedir>%1</servicedir>"_s.arg(serviceFolder);
+    const QString configuration = m_folder.filePath(u"bus.conf"_s);
+    writeFile(configuration, QString::fromLatin1(kConfiguration).arg(m_folder.path(), services).toUtf8());
+    m_daemon.start(u"dbus-daemon"_s, {u"--config-file="_s + configuration, u"--nofork"_s, u"--print-address=1"_s});
+    while (!m_daemon.canReadLine() && m_daemon.waitForReadyRead())
+        ;
+    m_address = QString::fromLatin1(m_daemon.readLine()).trimmed();
+    EXPECT_FALSE(m_address.isEmpty()) << "no dbus-daemon";
+}
+
+PrivateBus::~PrivateBus()
+{
+    for (const auto &name : std::as_const(m_names))
+        QDBusConnection::disconnectFromBus(name);
+    m_daemon.terminate();
+    m_daemon.waitForFinished();
+}
+
+QString PrivateBus::qualified(const QString &name) const
+{
+    return name + m_address;
+}
+
+QDBusConnection PrivateBus::connection(const QString &name)
+{
+    m_names.insert(qualified(name));
+    return QDBusConnection::connectToBus(m_address, qualified(name));
+}
+
+void PrivateBus::disconnect(const QString &name)
+{
+    m_names.remove(qualified(name));
+    QDBusConnection::disconnectFromBus(qualified(name));
+}
+
+} // namespace brimshade
