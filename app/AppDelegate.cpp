@@ -141,6 +141,21 @@ void AppDelegate::welcome()
         m_platform.accessibility.isProcessTrustedWithOptions(true);
 }
 
+void AppDelegate::openPanel()
+{
+    m_panel->present();
+}
+
+void AppDelegate::togglePanel()
+{
+    m_panel->toggle();
+}
+
+void AppDelegate::openSettings()
+{
+    m_windows->openSettings();
+}
+
 bool AppDelegate::shown() const
 {
     return m_panel && m_panel->shown();

@@ -46,6 +46,11 @@ public:
 
     void applySettings(); // brings the divider, the hotkey and the hover zone in line with the model
 
+    // What other programs may ask for; from the launch on.
+    void openPanel(); // with the keys
+    void togglePanel();
+    void openSettings();
+
     model::NotchModel &model() { return *m_model; }
     bool shown() const; // from the ordering in of the panel until its closing begins
     const controls::Divider *divider() const { return m_divider.get(); } // null before the launch

@@ -71,6 +71,14 @@ void PanelPresenter::open(bool byHover)
     installMonitors();
 }
 
+void PanelPresenter::present()
+{
+    const bool wasOpenedByHover = m_pointerWatch != nullptr;
+    stopPointerWatch();
+    if (!m_shown || wasOpenedByHover)
+        open(false);
+}
+
 void PanelPresenter::prepareModel()
 {
     m_model->setNotch(m_placement->notchSize());

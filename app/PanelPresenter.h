@@ -32,6 +32,7 @@ public:
     bool shown() const { return m_shown; }
     // Refused while an item is being moved. By hover the panel leaves the keys where they are.
     void open(bool byHover);
+    void present(); // open and with the keys, whatever it was before
     void close(); // the panel goes off screen 0.35 s later, unless reopened
     void toggle();
     void select(const menubar::MenuExtra &extra); // closes, then presses the item

@@ -88,7 +88,7 @@ int main(int argc, char **argv)
         std::fputs(qUtf8Printable(*line->information), stdout);
         return 0;
     }
-    if (line->isSession || line->request)
+    if (line->isSession)
         return complain(u"a session's menu bar: not yet"_s);
 
     QFile script;

@@ -39,10 +39,6 @@ struct Options {
         return {session,  screen, notch,  toggle, settings, quit,  desktop, noTray, tray,
                 defaults, state,  script, window, realTime, scale, help,    version};
     }
-    QList<std::pair<QCommandLineOption, Request>> requests() const
-    {
-        return {{toggle, Request::toggle}, {settings, Request::settings}, {quit, Request::quit}};
-    }
 };
 
 using Fault = std::optional<QString>;
@@ -73,12 +69,12 @@ std::optional<NotchOption> parseNotch(const QString &text)
     return isLower && isUpper && isSpan ? std::optional<NotchOption>(bounds) : std::nullopt;
 }
 
-// A request has the command line to itself.
+// What goes to the Brimshade that runs never comes here, unless it is not alone: the launcher takes it.
 Fault faultInRequest(const QCommandLineParser &parser, const Options &options)
 {
-    for (const auto &[option, request] : options.requests()) {
-        if (parser.isSet(option) && parser.optionNames().size() > 1)
-            return u"%1 goes alone"_s.arg(written(option));
+    for (const QCommandLineOption &each : {options.toggle, options.settings, options.quit}) {
+        if (parser.isSet(each))
+            return u"%1 goes alone"_s.arg(written(each));
     }
     return {};
 }
@@ -141,10 +137,6 @@ Fault faultIn(const QCommandLineParser &parser, const Options &options)
 CommandLine read(const QCommandLineParser &parser, const Options &options)
 {
     CommandLine line;
-    for (const auto &[option, request] : options.requests()) {
-        if (parser.isSet(option))
-            line.request = request;
-    }
     const bool isScript = parser.isSet(options.script);
     line.isSession = parser.isSet(options.session);
     line.screen = valueOf(parser, options.screen);

@@ -21,11 +21,7 @@ struct NotchBounds { // points from the screen's left edge, 0 ≤ lower < upper
 };
 using NotchOption = std::variant<DrawnNotch, NoNotch, NotchBounds>;
 
-// What the Brimshade that runs in this session is asked for.
-enum class Request { toggle, settings, quit };
-
 struct CommandLine {
-    std::optional<Request> request; // instead of starting; nothing else is set then
     bool isSession = false; // the session's own menu bar, not a desktop in a window
     std::optional<QString> screen; // of a session: the name of its connector
     std::optional<NotchOption> notch; // of a session; absent: as the settings say

@@ -27,7 +27,7 @@ TEST(CommandLineTest, WhatIsAskedForTogetherIsRefused)
              Case{u"--screen eDP-1"_s, u"--screen goes with --session"_s},
              Case{u"--script - --notch none"_s, u"--notch goes with --session"_s},
              Case{u"--session --toggle"_s, u"--toggle goes alone"_s},
-             Case{u"--quit --settings"_s, u"--settings goes alone"_s},
+             Case{u"--quit --quit"_s, u"--quit goes alone"_s},
              Case{u"--quit --state s"_s, u"--quit goes alone"_s},
              Case{u"--session --toggle now"_s, u"unexpected argument \"now\""_s},
              Case{u"--session --screen="_s, u"--screen: expected a name"_s},
@@ -42,7 +42,7 @@ TEST(CommandLineTest, ASessionHasADisplayAndTheTray)
 {
     const CommandLine plain = parse(u"--session"_s).value();
     EXPECT_TRUE(plain.isSession && plain.hasWindow && plain.isRealTime && plain.hostsTray);
-    EXPECT_FALSE(plain.screen || plain.notch || plain.stateFile || plain.script || plain.request);
+    EXPECT_FALSE(plain.screen || plain.notch || plain.stateFile || plain.script);
 
     const CommandLine full =
         parse(u"--session --screen eDP-1 --no-tray --defaults d --state s --script - --real-time"_s).value();
@@ -60,13 +60,6 @@ TEST(CommandLineTest, ADesktopOfItsOwnKeepsItsState)
     const CommandLine script = parse(u"--script - --state s"_s).value();
     EXPECT_EQ(script.stateFile, u"s"_s);
     EXPECT_FALSE(script.isSession || script.hasWindow || script.hostsTray || script.isRealTime);
-}
-
-TEST(CommandLineTest, RequestsGoToTheOneThatRuns)
-{
-    EXPECT_EQ(parse(u"--toggle"_s).value().request, Request::toggle);
-    EXPECT_EQ(parse(u"--settings"_s).value().request, Request::settings);
-    EXPECT_EQ(parse(u"--quit"_s).value().request, Request::quit);
 }
 
 TEST(CommandLineTest, TheNotchIsDrawnNoneOrASpanOfPoints)

@@ -110,6 +110,22 @@ TEST_F(Hover, KeepsNoWatchOverTheNextOpening)
     EXPECT_TRUE(brimshade.delegate().shown());
 }
 
+TEST_F(Hover, StaysWithTheKeysOnceTheProgramWasAskedForItsPanel)
+{
+    openByHover();
+    brimshade.delegate().openPanel();
+    EXPECT_TRUE(brimshade.hasKeys(u"panel"_s));
+    brimshade.movePointer(kEmptySpot);
+    brimshade.wait(30);
+    EXPECT_TRUE(brimshade.delegate().shown());
+
+    brimshade.type(u"rel"_s);
+    brimshade.delegate().openPanel(); // it is
+    EXPECT_EQ(brimshade.model().query(), u"rel"_s);
+    brimshade.delegate().togglePanel();
+    EXPECT_FALSE(brimshade.delegate().shown());
+}
+
 TEST_F(Hover, FollowsTheSettingAndTheScreens)
 {
     brimshade.desktop().setScreens({notchedScreen(800)});

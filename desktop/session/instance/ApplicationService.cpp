@@ -1,0 +1,44 @@
+#include "ApplicationService.h"
+
+#include "desktop/session/remote/Remote.h"
+
+#include <QDBusError>
+
+using namespace Qt::StringLiterals;
+
+namespace brimshade::desktop::session {
+
+void ApplicationService::Activate(const QVariantMap &)
+{
+    run(m_actions.openPanel);
+}
+
+void ApplicationService::Open(const QStringList &, const QVariantMap &)
+{
+    sendErrorReply(QDBusError::NotSupported, u"Brimshade opens no files"_s);
+}
+
+void ApplicationService::ActivateAction(const QString &name, const QVariantList &parameter, const QVariantMap &)
+{
+    if (!parameter.isEmpty())
+        return sendErrorReply(QDBusError::InvalidArgs, u"actions take no parameter"_s);
+    if (name == QLatin1String(remote::kToggle))
+        run(m_actions.togglePanel);
+    else if (name == QLatin1String(remote::kSettings))
+        run(m_actions.openSettings);
+    else if (name == QLatin1String(remote::kQuit))
+        run(m_actions.quit);
+    else
+        sendErrorReply(QDBusError::InvalidArgs, u"no such action; there are toggle, settings and quit"_s);
+}
+
+// On a later turn: whoever asked has the answer by then, even if the program ends.
+void ApplicationService::run(const std::function<void()> &action)
+{
+    if (action)
+        QMetaObject::invokeMethod(this, action, Qt::QueuedConnection);
+    else
+        sendErrorReply(QDBusError::Failed, u"Brimshade is starting"_s);
+}
+
+} // namespace brimshade::desktop::session

@@ -1,0 +1,31 @@
+#include "Instance.h"
+
+#include "desktop/session/remote/Remote.h"
+
+#include <QDBusConnectionInterface>
+
+namespace brimshade::desktop::session {
+
+Instance::Instance(const QDBusConnection &bus) : m_bus(bus) { }
+
+Instance::~Instance()
+{
+    if (!m_bus.isConnected()) // Qt follows a null pointer then
+        return;
+    m_bus.unregisterService(QString::fromLatin1(remote::kService));
+    m_bus.unregisterObject(QString::fromLatin1(remote::kPath));
+}
+
+Instance::Claim Instance::claim()
+{
+    if (!m_bus.isConnected())
+        return Claim::noBus;
+    // First the object: once the name is there, it is called.
+    m_bus.registerObject(QString::fromLatin1(remote::kPath), &m_service, QDBusConnection::ExportScriptableSlots);
+    if (m_bus.registerService(QString::fromLatin1(remote::kService)))
+        return Claim::ours;
+    m_bus.unregisterObject(QString::fromLatin1(remote::kPath));
+    return Claim::anothers;
+}
+
+} // namespace brimshade::desktop::session

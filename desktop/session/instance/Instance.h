@@ -1,0 +1,30 @@
+#pragma once
+#include "ApplicationService.h"
+
+#include <QDBusConnection>
+
+namespace brimshade::desktop::session {
+
+// The one Brimshade of a session: whoever has the name on its message bus. Main thread; needs an application object.
+class Instance {
+public:
+    explicit Instance(const QDBusConnection &bus);
+    ~Instance(); // gives the name up
+    Q_DISABLE_COPY_MOVE(Instance)
+
+    enum class Claim {
+        ours,
+        anothers, // ask that one: desktop/session/remote
+        noBus, // nobody can ask for anything
+    };
+    Claim claim();
+
+    // Before the event loop runs: what the session asks for waits for it.
+    void serve(const ApplicationService::Actions &actions) { m_service.setActions(actions); }
+
+private:
+    QDBusConnection m_bus;
+    ApplicationService m_service;
+};
+
+} // namespace brimshade::desktop::session

@@ -1,0 +1,21 @@
+#pragma once
+#include <expected>
+#include <string>
+
+// The Brimshade that runs in this session, as other programs reach it on the session's message bus.
+namespace brimshade::desktop::session::remote {
+
+inline constexpr char kService[] = "org.brimshade.Brimshade";
+inline constexpr char kPath[] = "/org/brimshade/Brimshade";
+inline constexpr char kInterface[] = "org.freedesktop.Application";
+
+inline constexpr char kToggle[] = "toggle"; // opens the panel or closes it
+inline constexpr char kSettings[] = "settings";
+inline constexpr char kQuit[] = "quit";
+
+// Both wait for the answer, at most five seconds, and never start a Brimshade. The error is for standard error. Any
+// thread.
+std::expected<void, std::string> activate(); // opens the panel
+std::expected<void, std::string> activateAction(const char *action);
+
+} // namespace brimshade::desktop::session::remote
