@@ -121,8 +121,10 @@ void Desktop::Parts::publishBars()
         if (!showing || display.screens.empty())
             return;
         const double primaryHeight = display.screens.front().frame.height();
-        for (const Screen &screen : display.screens)
-            display.menuBarInfo.push_back(desktop::windowInfo(kMainMenuWindowLevel, barFrame(screen, primaryHeight)));
+        for (const Screen &screen : display.screens) {
+            if (const QRectF bar = barFrame(screen, primaryHeight); !bar.isEmpty()) // not every screen has one
+                display.menuBarInfo.push_back(desktop::windowInfo(kMainMenuWindowLevel, bar));
+        }
     });
 }
 

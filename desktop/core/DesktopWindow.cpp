@@ -33,6 +33,12 @@ QRectF DesktopWindow::displayFrame() const
     return flipped(m_frame, m_stack ? m_stack->m_state.primaryHeight() : 0);
 }
 
+bool DesktopWindow::takesClickAt(QPointF displayPoint) const
+{
+    const QRectF frame = displayFrame();
+    return containsPoint(m_hitArea.isNull() ? frame : m_hitArea.translated(frame.topLeft()), displayPoint);
+}
+
 double DesktopWindow::titleBarHeight() const
 {
     const bool isTitled = m_attributes.styleMask & kStyleTitled;

@@ -20,6 +20,9 @@ public:
     const platform::ContentView &content() const { return m_content; }
     QRectF displayFrame() const; // frame() in display space, title bar included
     double titleBarHeight() const; // above the content; 0 with a full-size content view or without a title bar
+    // What of the window takes clicks, from its top left corner; null, as at first, for all of it.
+    void setHitArea(const QRectF &area) { m_hitArea = area; }
+    bool takesClickAt(QPointF displayPoint) const;
     void setContentSize(QSizeF size); // the scene: what a hosted view measures, where it sizes the window
 
     QRectF frame() const override { return m_frame; }
@@ -47,6 +50,7 @@ private:
     const platform::WindowAttributes m_attributes;
     const platform::ContentView m_content;
     QRectF m_frame;
+    QRectF m_hitArea;
     bool m_isVisible = false;
     bool m_isCentred = false; // by center(), and neither moved nor shown since
 };

@@ -28,7 +28,7 @@ std::unique_ptr<Window> WindowStack::createWindow(const WindowAttributes &attrib
 DesktopWindow *WindowStack::windowAt(QPointF displayPoint) const
 {
     const auto found = std::find_if(m_onScreen.rbegin(), m_onScreen.rend(), [&](const DesktopWindow *window) {
-        return containsPoint(window->displayFrame(), displayPoint);
+        return window->takesClickAt(displayPoint);
     });
     return found == m_onScreen.rend() ? nullptr : *found;
 }

@@ -1,12 +1,12 @@
 #include "SceneHost.h"
 #include "AnimationClock.h"
 #include "OffscreenSurface.h"
-#include "SceneInput.h"
 #include "SceneState.h"
 #include "WindowHosts.h"
 #include "desktop/core/Desktop.h"
 #include "desktop/core/WindowStack.h"
 #include "desktop/time/VirtualDispatch.h"
+#include "desktop/views/ScriptHands.h"
 
 #include <QGuiApplication>
 #include <QQmlComponent>
@@ -66,11 +66,14 @@ public:
     std::unique_ptr<QQuickItem> root;
     QQuickItem *space = nullptr; // laid out in display space; the root's
     std::unique_ptr<WindowHosts> windows;
-    std::unique_ptr<SceneInput> input;
+    std::unique_ptr<WindowInput> input;
+    std::unique_ptr<ScriptHands> hands;
 
 private:
     void makeRoot();
+    void makeInput();
     void fit();
+    QPointF toDisplay(QPointF inWindow) const; // clamped to the screens
 };
 
 SceneHost::Private::Private(Desktop &desktop_, VirtualDispatch *clock, std::optional<double> offscreenScale)
@@ -92,12 +95,13 @@ SceneHost::Private::Private(Desktop &desktop_, VirtualDispatch *clock, std::opti
     if (!space)
         return;
     windows = std::make_unique<WindowHosts>(desktop.windows(), *engine, *space);
-    input = std::make_unique<SceneInput>(window(), *space, desktop.input(), state);
+    makeInput();
 }
 
 SceneHost::Private::~Private()
 {
     // What is drawn goes before what it shows, and the items before their window.
+    hands.reset();
     input.reset();
     windows.reset();
     root.reset();
@@ -115,6 +119,25 @@ void SceneHost::Private::makeRoot()
         qFatal("the desktop's own views cannot be made: %s", qUtf8Printable(component.errorString()));
     root->setParentItem(window().contentItem());
     space = root->property("space").value<QQuickItem *>();
+}
+
+void SceneHost::Private::makeInput()
+{
+    input = std::make_unique<WindowInput>(
+        window(), [this](QPointF inWindow) { return toDisplay(inWindow); }, desktop.input(), *state.menu());
+    QObject::connect(input.get(), &WindowInput::handMoved, &state, &SceneState::handMoved);
+    hands = std::make_unique<ScriptHands>(
+        [this](QPointF display, const WindowInput *) {
+            return ScriptHands::Aim{input.get(), space->mapToScene(display)};
+        },
+        [this] { return input.get(); }, desktop.input());
+}
+
+QPointF SceneHost::Private::toDisplay(QPointF inWindow) const
+{
+    const QRectF bounds = state.bounds();
+    const QPointF point = space->mapFromScene(inWindow);
+    return {std::clamp(point.x(), bounds.left(), bounds.right()), std::clamp(point.y(), bounds.top(), bounds.bottom())};
 }
 
 // Offscreen the surface is as large as the desktop; in a window the desktop is scaled to fit and centred.
@@ -222,22 +245,22 @@ QPointF SceneHost::toDisplay(QPointF scene) const
 
 void SceneHost::movePointer(QPointF to, std::uint64_t modifierFlags)
 {
-    d->input->movePointer(to, modifierFlags);
+    d->hands->movePointer(to, modifierFlags);
 }
 
 void SceneHost::press(MouseButton button, std::uint64_t modifierFlags)
 {
-    d->input->press(button, modifierFlags);
+    d->hands->press(button, modifierFlags);
 }
 
 void SceneHost::release(MouseButton button, std::uint64_t modifierFlags)
 {
-    d->input->release(button, modifierFlags);
+    d->hands->release(button, modifierFlags);
 }
 
 void SceneHost::key(const platform::Event &event)
 {
-    d->input->key(event);
+    d->hands->key(event);
 }
 
 } // namespace brimshade::desktop

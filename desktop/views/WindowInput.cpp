@@ -1,10 +1,10 @@
-#include "SceneInput.h"
-#include "SceneState.h"
-#include "desktop/views/KeyMap.h"
+#include "WindowInput.h"
+#include "KeyMap.h"
+#include "MenuController.h"
+#include "MenuGeometry.h"
 
 #include <QCoreApplication>
 #include <QMouseEvent>
-#include <QQuickItem>
 #include <QQuickWindow>
 #include <QScopedValueRollback>
 #include <QWheelEvent>
@@ -29,14 +29,14 @@ std::optional<MouseButton> buttonOf(const QMouseEvent &event)
 
 } // namespace
 
-SceneInput::SceneInput(QQuickWindow &window, QQuickItem &space, InputRouter &router, SceneState &state)
-    : m_window(window), m_space(space), m_router(router), m_state(state), m_menu(*state.menu())
+WindowInput::WindowInput(QQuickWindow &window, ToDisplay toDisplay, InputRouter &router, MenuController &menu)
+    : m_window(window), m_toDisplay(std::move(toDisplay)), m_router(router), m_menu(menu)
 {
     window.installEventFilter(this);
-    connect(&m_menu, &MenuController::isOpenChanged, this, &SceneInput::hoverAnew, Qt::QueuedConnection);
+    connect(&m_menu, &MenuController::isOpenChanged, this, &WindowInput::hoverAnew, Qt::QueuedConnection);
 }
 
-bool SceneInput::eventFilter(QObject *watched, QEvent *event)
+bool WindowInput::eventFilter(QObject *watched, QEvent *event)
 {
     if (watched != &m_window)
         return false;
@@ -49,6 +49,9 @@ bool SceneInput::eventFilter(QObject *watched, QEvent *event)
         return !isForViews(m_pressTarget);
     case QEvent::MouseButtonRelease:
         return takeRelease(*static_cast<QMouseEvent *>(event));
+    case QEvent::Leave:
+        m_hand.reset();
+        return false;
     case QEvent::Wheel:
         return takeWheel(*static_cast<QWheelEvent *>(event));
     case QEvent::KeyPress:
@@ -60,12 +63,12 @@ bool SceneInput::eventFilter(QObject *watched, QEvent *event)
     }
 }
 
-bool SceneInput::takeMove(const QMouseEvent &event)
+bool WindowInput::takeMove(const QMouseEvent &event)
 {
     m_hand = event.position();
-    const QPointF to = toDisplay(event.position());
+    const QPointF to = m_toDisplay(event.position());
     m_router.pointerMoved(to, modifierFlagsFor(event.modifiers()));
-    m_state.handMoved();
+    Q_EMIT handMoved();
     if (m_menu.isOpen()) { // also while the button that opened it is held
         m_menu.pointerMoved(to);
         return true; // what is under the menu stays as it is
@@ -73,12 +76,12 @@ bool SceneInput::takeMove(const QMouseEvent &event)
     return event.buttons() != Qt::NoButton && !isForViews(m_pressTarget);
 }
 
-bool SceneInput::takePress(const QMouseEvent &event)
+bool WindowInput::takePress(const QMouseEvent &event)
 {
     const auto button = buttonOf(event);
     if (!button)
         return true;
-    const QPointF at = toDisplay(event.position());
+    const QPointF at = m_toDisplay(event.position());
     const std::uint64_t flags = modifierFlagsFor(event.modifiers());
     if (at != m_router.pointer())
         m_router.pointerMoved(at, flags);
@@ -88,18 +91,18 @@ bool SceneInput::takePress(const QMouseEvent &event)
     return !isForViews(m_pressTarget);
 }
 
-bool SceneInput::takeRelease(const QMouseEvent &event)
+bool WindowInput::takeRelease(const QMouseEvent &event)
 {
     const auto button = buttonOf(event);
     if (!button)
         return true;
     const Target target = m_router.released(*button, modifierFlagsFor(event.modifiers()));
     if (m_menu.isOpen())
-        m_menu.released(toDisplay(event.position()));
+        m_menu.released(m_toDisplay(event.position()));
     return !isForViews(target);
 }
 
-bool SceneInput::takeKey(QEvent &event)
+bool WindowInput::takeKey(QEvent &event)
 {
     const auto key = m_verbatim ? m_verbatim : keyDownFor(static_cast<QKeyEvent &>(event));
     if (!key)
@@ -112,62 +115,37 @@ bool SceneInput::takeKey(QEvent &event)
     return !m_router.keyDown(*key);
 }
 
-bool SceneInput::takeWheel(const QWheelEvent &event)
+bool WindowInput::takeWheel(const QWheelEvent &event)
 {
     if (!m_menu.isOpen())
         return false;
     const QPoint pixels = event.pixelDelta();
     constexpr double pointsPerStep = 3 * kMenuRowHeight / 120; // three rows for a notch of the wheel
-    m_menu.wheel(toDisplay(event.position()), pixels.isNull() ? event.angleDelta().y() * pointsPerStep : pixels.y());
+    m_menu.wheel(m_toDisplay(event.position()), pixels.isNull() ? event.angleDelta().y() * pointsPerStep : pixels.y());
     return true;
 }
 
-QPointF SceneInput::toDisplay(QPointF inWindow) const
-{
-    const QRectF bounds = m_state.bounds();
-    const QPointF point = m_space.mapFromScene(inWindow);
-    return {std::clamp(point.x(), bounds.left(), bounds.right()), std::clamp(point.y(), bounds.top(), bounds.bottom())};
-}
-
 // Views saw no move while the menu was open.
-void SceneInput::hoverAnew()
+void WindowInput::hoverAnew()
 {
-    if (m_menu.isOpen() || m_hand.isNull())
+    if (m_menu.isOpen() || !m_hand)
         return;
-    QMouseEvent move(QEvent::MouseMove, m_hand, m_hand, m_window.mapToGlobal(m_hand), Qt::NoButton, Qt::NoButton,
+    QMouseEvent move(QEvent::MouseMove, *m_hand, *m_hand, m_window.mapToGlobal(*m_hand), Qt::NoButton, Qt::NoButton,
                      Qt::NoModifier);
     m_window.removeEventFilter(this); // nothing has moved: the router is not asked
     QCoreApplication::sendEvent(&m_window, &move);
     m_window.installEventFilter(this);
 }
 
-void SceneInput::send(QEvent::Type type, Qt::MouseButton button, Qt::MouseButtons held, std::uint64_t modifierFlags)
+void WindowInput::send(QEvent::Type type, QPointF inWindow, Qt::MouseButton button, Qt::MouseButtons held,
+                       std::uint64_t modifierFlags)
 {
-    QMouseEvent event(type, m_hand, m_hand, m_window.mapToGlobal(m_hand), button, held, modifiersFor(modifierFlags));
+    QMouseEvent event(type, inWindow, inWindow, m_window.mapToGlobal(inWindow), button, held,
+                      modifiersFor(modifierFlags));
     QCoreApplication::sendEvent(&m_window, &event);
 }
 
-void SceneInput::movePointer(QPointF display, std::uint64_t modifierFlags)
-{
-    m_hand = m_space.mapToScene(display);
-    send(QEvent::MouseMove, Qt::NoButton, m_held, modifierFlags);
-}
-
-void SceneInput::press(MouseButton button, std::uint64_t modifierFlags)
-{
-    const Qt::MouseButton pressed = button == MouseButton::left ? Qt::LeftButton : Qt::RightButton;
-    m_held |= pressed;
-    send(QEvent::MouseButtonPress, pressed, m_held, modifierFlags);
-}
-
-void SceneInput::release(MouseButton button, std::uint64_t modifierFlags)
-{
-    const Qt::MouseButton released = button == MouseButton::left ? Qt::LeftButton : Qt::RightButton;
-    m_held &= ~Qt::MouseButtons(released);
-    send(QEvent::MouseButtonRelease, released, m_held, modifierFlags);
-}
-
-void SceneInput::key(const platform::Event &event)
+void WindowInput::sendKey(const platform::Event &event)
 {
     const Qt::KeyboardModifiers modifiers = modifiersFor(event.modifierFlags);
     const int key = keyFor(event.keyCode);

@@ -1,0 +1,57 @@
+#pragma once
+#include "desktop/core/InputRouter.h"
+
+#include <QEvent>
+#include <QObject>
+#include <QPointF>
+#include <functional>
+#include <optional>
+
+class QMouseEvent;
+class QQuickWindow;
+class QWheelEvent;
+
+namespace brimshade::desktop {
+
+class MenuController;
+
+// Takes every input event of one of the toolkit's windows before Qt Quick does: asks the router what it means, and lets
+// through what is for a view. Also sends such events, for a script. Main thread.
+class WindowInput : public QObject {
+    Q_OBJECT
+public:
+    using ToDisplay =
+        std::function<QPointF(QPointF inWindow)>; // also of points outside the window, while it has a grab
+
+    WindowInput(QQuickWindow &window, ToDisplay toDisplay, InputRouter &router, MenuController &menu);
+
+    // button: none for a move; held: those that are down after the event.
+    void send(QEvent::Type type, QPointF inWindow, Qt::MouseButton button, Qt::MouseButtons held,
+              std::uint64_t modifierFlags);
+    void sendKey(const platform::Event &event); // down and up; code and characters arrive as they stand here
+
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
+Q_SIGNALS:
+    void handMoved(); // the pointer is where a hand is again
+
+private:
+    // Each answers whether Qt Quick shall not see the event.
+    bool takeMove(const QMouseEvent &event);
+    bool takePress(const QMouseEvent &event);
+    bool takeRelease(const QMouseEvent &event);
+    bool takeKey(QEvent &event);
+    bool takeWheel(const QWheelEvent &event);
+
+    void hoverAnew();
+
+    QQuickWindow &m_window;
+    const ToDisplay m_toDisplay;
+    InputRouter &m_router;
+    MenuController &m_menu;
+    Target m_pressTarget = Target::elsewhere;
+    std::optional<QPointF> m_hand; // where the hand left the pointer, in the window; absent: it was not here, or left
+    std::optional<platform::Event> m_verbatim; // of the script's key that is being sent
+};
+
+} // namespace brimshade::desktop
