@@ -50,6 +50,8 @@ SecondaryWindows::SecondaryWindows(const platform::Platform &platform, std::shar
       m_permission(std::make_unique<model::PermissionRequest>(platform.accessibility, platform.workspace)),
       m_onFinish(std::move(onFinish))
 {
+    if (platform.menuBarPreferences)
+        m_menuBarChoices = std::make_unique<windows::MenuBarChoices>(*platform.menuBarPreferences);
 }
 
 SecondaryWindows::~SecondaryWindows() = default;
@@ -88,10 +90,11 @@ void SecondaryWindows::closeOnboarding()
 
 void SecondaryWindows::createSettings()
 {
+    QVariantMap properties{{u"model"_s, QVariant::fromValue(m_model.get())}};
+    if (m_menuBarChoices)
+        properties.insert(u"menuBar"_s, QVariant::fromValue(m_menuBarChoices.get()));
     m_settings = m_windows.createWindow(settingsAttributes(),
-                                        platform::HostedView{u"Brimshade.Windows"_s,
-                                                             u"SettingsView"_s,
-                                                             {{u"model"_s, QVariant::fromValue(m_model.get())}}});
+                                        platform::HostedView{u"Brimshade.Windows"_s, u"SettingsView"_s, properties});
     m_settings->center();
 }
 

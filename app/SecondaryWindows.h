@@ -1,4 +1,5 @@
 #pragma once
+#include "windows/flow/MenuBarChoices.h"
 #include "windows/flow/OnboardingFlow.h"
 
 #include <memory>
@@ -43,6 +44,7 @@ private:
     const std::shared_ptr<ScanScheduler> m_scans;
     const std::unique_ptr<model::PermissionRequest> m_permission;
     const windows::OnboardingFlow::FinishAction m_onFinish;
+    std::unique_ptr<windows::MenuBarChoices> m_menuBarChoices; // null where there is nothing to choose
     std::unique_ptr<windows::OnboardingFlow> m_flow; // as old as the setup window
     std::unique_ptr<platform::Window> m_settings;
     std::unique_ptr<platform::Window> m_onboarding;

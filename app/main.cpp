@@ -1,12 +1,19 @@
+#include "app/AppDelegate.h"
 #include "composition/CommandLine.h"
+#include "composition/LiveSession.h"
 #include "composition/ScriptLoop.h"
 #include "composition/Session.h"
 #include "desktop/core/Desktop.h"
 #include "desktop/services/FileDefaults.h"
+#include "desktop/session/instance/Instance.h"
+#include "desktop/session/remote/Remote.h"
+#include "desktop/session/surface/ShellBackend.h"
 #include "desktop/stage/builtin/BuiltInDesktop.h"
 #include "desktop/stage/file/DesktopFile.h"
 #include "desktop/stage/scene/SceneHost.h"
 #include "i18n/Translation.h"
+#include "platform/Application.h"
+#include "platform/Platform.h"
 
 #include <QFile>
 #include <QGuiApplication>
@@ -18,6 +25,7 @@ using namespace brimshade;
 
 namespace {
 
+constexpr int kFailed = 1;
 constexpr int kBadUse = 2;
 
 int complain(const QString &message)
@@ -26,13 +34,16 @@ int complain(const QString &message)
     return kBadUse;
 }
 
-// Before the application object: they choose how Qt draws.
-void prepareEnvironment(const composition::CommandLine &line)
+// Before the application object: they choose how Qt draws. The error is for standard error.
+std::expected<void, QString> prepareEnvironment(const composition::CommandLine &line)
 {
+    if (line.isSession)
+        return desktop::session::ShellBackend::prepareEnvironment();
     if (line.hasWindow)
-        return;
+        return {};
     qputenv("QT_QPA_PLATFORM", "offscreen");
     qputenv("QT_QUICK_BACKEND", "software");
+    return {};
 }
 
 std::unique_ptr<desktop::FileDefaults> openDefaults(const composition::CommandLine &line)
@@ -59,19 +70,67 @@ std::expected<composition::SessionOptions, QString> sessionOptions(const composi
                                        .scale = line.scale};
 }
 
-int runWindow(composition::Session &session)
+template <typename AnySession> int runWindow(AnySession &session)
 {
     QObject::connect(&session.desktop(), &desktop::Desktop::terminated, qApp, &QGuiApplication::quit);
     return QGuiApplication::exec();
 }
 
-int runScript(composition::Session &session, const composition::CommandLine &line, int fileDescriptor)
+template <typename AnySession>
+int runScript(AnySession &session, const composition::CommandLine &line, int fileDescriptor)
 {
     const QString name = *line.script == "-"_L1 ? u"standard input"_s : *line.script;
     composition::ScriptLoop loop(fileDescriptor, name,
                                  [&](const QJsonObject &command) { return session.run(command); });
     QObject::connect(&session.desktop(), &desktop::Desktop::terminated, qApp, [&] { loop.stop(); });
     return line.isRealTime ? loop.runInEventLoop() : loop.runBlocking();
+}
+
+int runStage(const composition::CommandLine &line, int scriptDescriptor)
+{
+    auto options = sessionOptions(line);
+    if (!options)
+        return complain(options.error());
+    composition::Session session(std::move(*options));
+    if (line.hasWindow)
+        session.scene().quickWindow()->show();
+    return line.script ? runScript(session, line, scriptDescriptor) : runWindow(session);
+}
+
+// Another Brimshade is this session's already.
+int openAnothersPanel()
+{
+    const auto answer = desktop::session::remote::activate();
+    if (answer)
+        return 0;
+    complain(QString::fromStdString(answer.error()));
+    return kFailed;
+}
+
+int runSession(const composition::CommandLine &line, int scriptDescriptor)
+{
+    using desktop::session::Instance;
+    Instance instance(QDBusConnection::sessionBus());
+    const Instance::Claim claim = instance.claim();
+    if (claim == Instance::Claim::anothers)
+        return openAnothersPanel();
+    if (claim == Instance::Claim::noBus)
+        complain(u"there is no message bus: no tray items, and nothing can open the panel but the bar"_s);
+    composition::LiveSessionOptions options;
+    options.defaults = openDefaults(line);
+    options.screen.name = line.screen.value_or(QString());
+    options.hostsTray = line.hostsTray;
+    options.isNotchSaid = line.notch.has_value();
+    options.screen.notch = line.notch.value_or(desktop::session::NotchChoice());
+    auto session = composition::LiveSession::create(std::move(options));
+    if (!session)
+        return complain(session.error());
+    app::AppDelegate &delegate = (*session)->delegate();
+    instance.serve({.openPanel = [&delegate] { delegate.openPanel(); },
+                    .togglePanel = [&delegate] { delegate.togglePanel(); },
+                    .openSettings = [&delegate] { delegate.openSettings(); },
+                    .quit = [&session] { (*session)->desktop().platform().application.terminate(); }});
+    return line.script ? runScript(**session, line, scriptDescriptor) : runWindow(**session);
 }
 
 } // namespace
@@ -88,8 +147,6 @@ int main(int argc, char **argv)
         std::fputs(qUtf8Printable(*line->information), stdout);
         return 0;
     }
-    if (line->isSession)
-        return complain(u"a session's menu bar: not yet"_s);
 
     QFile script;
     if (line->script) {
@@ -100,18 +157,16 @@ int main(int argc, char **argv)
             return complain(u"%1: %2"_s.arg(*line->script, script.errorString()));
     }
 
-    prepareEnvironment(*line);
+    if (const auto prepared = prepareEnvironment(*line); !prepared)
+        return complain(prepared.error());
     QGuiApplication application(argc, argv);
     application.setApplicationName(u"brimshade"_s);
-    application.setApplicationDisplayName(u"Brimshade"_s);
+    if (!line->isSession) // there it would stand once more in every window's title
+        application.setApplicationDisplayName(u"Brimshade"_s);
     application.setDesktopFileName(u"org.brimshade.Brimshade"_s);
     i18n::installTranslation(application, QLocale());
+    if (line->isSession)
+        i18n::installSessionTexts(application, QLocale());
 
-    auto options = sessionOptions(*line);
-    if (!options)
-        return complain(options.error());
-    composition::Session session(std::move(*options));
-    if (line->hasWindow)
-        session.scene().quickWindow()->show();
-    return line->script ? runScript(session, *line, script.handle()) : runWindow(session);
+    return line->isSession ? runSession(*line, script.handle()) : runStage(*line, script.handle());
 }

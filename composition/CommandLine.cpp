@@ -53,20 +53,14 @@ std::optional<QString> valueOf(const QCommandLineParser &parser, const QCommandL
     return parser.isSet(option) ? std::optional(parser.value(option)) : std::nullopt;
 }
 
-std::optional<NotchOption> parseNotch(const QString &text)
+std::optional<desktop::session::NotchChoice> parseNotch(const QString &text)
 {
-    if (text == "drawn"_L1)
-        return DrawnNotch{};
-    if (text == "none"_L1)
-        return NoNotch{};
-    const QStringList numbers = text.split(u',');
-    if (numbers.size() != 2)
-        return {};
-    bool isLower = false, isUpper = false;
-    const NotchBounds bounds{numbers[0].toDouble(&isLower), numbers[1].toDouble(&isUpper)};
-    // Written so that no comparison with a NaN passes.
-    const bool isSpan = bounds.lower >= 0 && bounds.lower < bounds.upper && bounds.upper <= kWidestScreen;
-    return isLower && isUpper && isSpan ? std::optional<NotchOption>(bounds) : std::nullopt;
+    using Kind = desktop::session::NotchChoice::Kind;
+    const auto choice = desktop::session::parseNotchChoice(text);
+    const bool isOffered = choice
+        && (choice->kind == Kind::drawn || choice->kind == Kind::none
+            || (choice->kind == Kind::given && choice->upper <= kWidestScreen));
+    return isOffered ? choice : std::nullopt;
 }
 
 // What goes to the Brimshade that runs never comes here, unless it is not alone: the launcher takes it.

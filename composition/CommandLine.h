@@ -1,30 +1,17 @@
 #pragma once
+#include "desktop/session/ScreenArrangement.h"
+
 #include <QString>
 #include <QStringList>
 #include <expected>
 #include <optional>
-#include <variant>
 
 namespace brimshade::composition {
-
-// The notch that a session's screen is to have.
-struct DrawnNotch { // a black tab in the middle of the bar
-    bool operator==(const DrawnNotch &) const = default;
-};
-struct NoNotch {
-    bool operator==(const NoNotch &) const = default;
-};
-struct NotchBounds { // points from the screen's left edge, 0 ≤ lower < upper
-    double lower = 0;
-    double upper = 0;
-    bool operator==(const NotchBounds &) const = default;
-};
-using NotchOption = std::variant<DrawnNotch, NoNotch, NotchBounds>;
 
 struct CommandLine {
     bool isSession = false; // the session's own menu bar, not a desktop in a window
     std::optional<QString> screen; // of a session: the name of its connector
-    std::optional<NotchOption> notch; // of a session; absent: as the settings say
+    std::optional<desktop::session::NotchChoice> notch; // of a session; absent: as the settings say
     std::optional<QString> desktopFile; // absent: the built-in desktop
     std::optional<QString> defaultsFile; // absent: the user's settings, or memory in a script
     std::optional<QString> stateFile; // absent: the user's state, or none in a script

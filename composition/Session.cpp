@@ -1,4 +1,5 @@
 #include "Session.h"
+#include "RealClock.h"
 #include "StateReport.h"
 #include "app/AppDelegate.h"
 #include "desktop/core/Desktop.h"
@@ -13,10 +14,8 @@
 #include "desktop/tray/TrayHost.h"
 #include "ui/SymbolService.h"
 
-#include <QEventLoop>
 #include <QGuiApplication>
 #include <QQuickWindow>
-#include <QTimer>
 #include <cstdio>
 
 namespace brimshade::composition {
@@ -42,31 +41,6 @@ public:
 private:
     desktop::VirtualDispatch &m_dispatch;
     desktop::SceneHost &m_scene;
-};
-
-class RealClock : public desktop::ScriptClock {
-public:
-    RealClock(desktop::RealDispatch &dispatch, desktop::SceneHost &scene)
-        : m_dispatch(dispatch), m_scene(scene), m_start(dispatch.now())
-    {
-    }
-    void settle() override
-    {
-        QCoreApplication::processEvents();
-        m_scene.settle();
-    }
-    void advance(double seconds) override
-    {
-        QEventLoop loop;
-        QTimer::singleShot(static_cast<int>(seconds * 1000), Qt::PreciseTimer, &loop, &QEventLoop::quit);
-        loop.exec();
-    }
-    double now() const override { return m_dispatch.now() - m_start; }
-
-private:
-    desktop::RealDispatch &m_dispatch;
-    desktop::SceneHost &m_scene;
-    const double m_start;
 };
 
 } // namespace

@@ -14,13 +14,27 @@ namespace brimshade::i18n {
 
 using namespace Qt::StringLiterals;
 
-void installTranslation(QCoreApplication &application, const QLocale &locale)
+namespace {
+
+void install(QCoreApplication &application, const QLocale &locale, const QString &name)
 {
     initTranslations();
     auto *translator = new QTranslator(&application);
-    if (translator->load(locale, u"brimshade"_s, u"_"_s, u":/i18n"_s)
-        || translator->load(QLocale(QLocale::English), u"brimshade"_s, u"_"_s, u":/i18n"_s))
+    if (translator->load(locale, name, u"_"_s, u":/i18n"_s)
+        || translator->load(QLocale(QLocale::English), name, u"_"_s, u":/i18n"_s))
         application.installTranslator(translator);
+}
+
+} // namespace
+
+void installTranslation(QCoreApplication &application, const QLocale &locale)
+{
+    install(application, locale, u"brimshade"_s);
+}
+
+void installSessionTexts(QCoreApplication &application, const QLocale &locale)
+{
+    install(application, locale, u"session"_s);
 }
 
 } // namespace brimshade::i18n

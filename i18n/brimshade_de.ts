@@ -138,6 +138,25 @@
     </message>
 </context>
 <context>
+    <name>MenuBarSection</name>
+    <message>
+        <source>Menu Bar</source>
+        <translation>Menüleiste</translation>
+    </message>
+    <message>
+        <source>Screen</source>
+        <translation>Bildschirm</translation>
+    </message>
+    <message>
+        <source>Notch</source>
+        <translation>Notch</translation>
+    </message>
+    <message>
+        <source>Width of the notch</source>
+        <translation>Breite der Notch</translation>
+    </message>
+</context>
+<context>
     <name>MessageRow</name>
     <message>
         <source>Dismiss</source>
@@ -281,6 +300,13 @@ Nichts verlässt deinen Mac.</translation>
     </message>
 </context>
 <context>
+    <name>SessionBar</name>
+    <message>
+        <source>Menu bar</source>
+        <translation>Menüleiste</translation>
+    </message>
+</context>
+<context>
     <name>SettingsView</name>
     <message>
         <source>Panel</source>
@@ -301,6 +327,25 @@ Nichts verlässt deinen Mac.</translation>
     <message>
         <source>Run Setup Again…</source>
         <translation>Einrichtung erneut starten …</translation>
+    </message>
+</context>
+<context>
+    <name>Shortcut</name>
+    <message>
+        <source>⌥⌘N</source>
+        <translation>⌥⌘N</translation>
+    </message>
+    <message>
+        <source>⌃⌥Space</source>
+        <translation>⌃⌥Space</translation>
+    </message>
+    <message>
+        <source>⌃⌥⌘M</source>
+        <translation>⌃⌥⌘M</translation>
+    </message>
+    <message>
+        <source>⌘%1</source>
+        <translation>⌘%1</translation>
     </message>
 </context>
 <context>
@@ -365,6 +410,31 @@ Brimshade öffnet die Notch und zeigt sie alle.</translation>
     </message>
 </context>
 <context>
+    <name>brimshade::desktop::session::SessionPreferences</name>
+    <message>
+        <source>Plasma shows the same tray items. Remove the System Tray from its panel to see them only here; everything else works side by side.</source>
+        <translation>Plasma zeigt dieselben Symbole. Entferne dort den Systemabschnitt der Kontrollleiste, damit sie nur hier stehen; alles andere verträgt sich.</translation>
+    </message>
+    <message>
+        <source>waybar shows the same tray items. Take “tray” out of its modules to see them only here; the rest of waybar works below this bar.</source>
+        <translation>waybar zeigt dieselben Symbole. Nimm dort „tray“ aus den Modulen, damit sie nur hier stehen; der Rest von waybar läuft unter dieser Leiste weiter.</translation>
+    </message>
+    <message>
+        <source>The Xfce panel shows the same tray items. Remove its Status Tray Plugin to see them only here; the rest of the panel works side by side.</source>
+        <translation>Die Xfce-Leiste zeigt dieselben Symbole. Entferne dort das Modul für Statussymbole, damit sie nur hier stehen; alles andere verträgt sich.</translation>
+    </message>
+    <message>
+        <source>Another tray host (%1) shows the same items. Switch its tray off to see them only here.</source>
+        <translation>Ein anderes Programm (%1) zeigt dieselben Symbole. Schalte sie dort aus, damit sie nur hier stehen.</translation>
+    </message>
+    <message>
+        <source>Here no program may take a shortcut by itself. Bind a key to “brimshade --toggle”; in sway:
+%1</source>
+        <translation>Hier darf kein Programm selbst einen Kurzbefehl belegen. Lege „brimshade --toggle“ auf eine Taste, in sway:
+%1</translation>
+    </message>
+</context>
+<context>
     <name>brimshade::model::NotchModel</name>
     <message>
         <source>Couldn&apos;t change Launch at Login: </source>
@@ -388,6 +458,33 @@ Brimshade öffnet die Notch und zeigt sie alle.</translation>
     <message>
         <source>Type to search  ·  ↩ to open  ·  right-click to hide or show  ·  esc to close</source>
         <translation>Tippen sucht  ·  ↩ öffnet  ·  Rechtsklick blendet aus oder ein  ·  esc schließt</translation>
+    </message>
+</context>
+<context>
+    <name>brimshade::windows::MenuBarChoices</name>
+    <message>
+        <source>Automatic</source>
+        <translation>Automatisch</translation>
+    </message>
+    <message>
+        <source>The machine’s own</source>
+        <translation>Die des Geräts</translation>
+    </message>
+    <message>
+        <source>Drawn</source>
+        <translation>Gezeichnet</translation>
+    </message>
+    <message>
+        <source>Drawn, of a width</source>
+        <translation>Gezeichnet, mit Breite</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>Keine</translation>
+    </message>
+    <message>
+        <source>%1 points</source>
+        <translation>%1 Punkte</translation>
     </message>
 </context>
 <context>

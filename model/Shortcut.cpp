@@ -2,6 +2,7 @@
 #include "platform/HotkeyCenter.h"
 #include "platform/KeyCodes.h"
 
+#include <QCoreApplication>
 #include <algorithm>
 
 namespace brimshade::model {
@@ -36,11 +37,11 @@ QString displayTitle(Shortcut shortcut)
     case Shortcut::none:
         break;
     case Shortcut::optionCommandN:
-        return u"⌥⌘N"_s;
+        return QCoreApplication::translate("Shortcut", "⌥⌘N");
     case Shortcut::controlOptionSpace:
-        return u"⌃⌥Space"_s;
+        return QCoreApplication::translate("Shortcut", "⌃⌥Space");
     case Shortcut::controlOptionCommandM:
-        return u"⌃⌥⌘M"_s;
+        return QCoreApplication::translate("Shortcut", "⌃⌥⌘M");
     }
     return u"None"_s;
 }

@@ -16,6 +16,14 @@ Item {
     // From the beginning of the opening to the end of the closing. At other times nothing moves or is read out.
     readonly property bool presented: root.open || openness.running
 
+    // For whoever shows the panel in a window that is not as large as this: what takes clicks, nothing while it is
+    // closed, and how far shadow and springs reach beyond it.
+    readonly property rect hitArea: root.open
+        ? Qt.rect((root.width - geometry.openSize.width) / 2 + 14, 0, geometry.openSize.width - 28, geometry.openSize.height)
+        : Qt.rect(0, 0, 0, 0)
+    readonly property real hitRadius: 32 // of its lower corners
+    readonly property real drawnMargin: 64
+
     implicitWidth: 1000
     implicitHeight: 720
     focus: true

@@ -48,6 +48,8 @@ public:
                                                                         const QString &attribute) = 0;
     virtual AXError performAction(const AXUIElement &element, const QString &action) = 0;
 
+    // Whether a program needs the user's permission at all. False: it is always trusted.
+    virtual bool needsPermission() const { return true; }
     virtual bool isProcessTrusted() = 0;
     // kAXTrustedCheckOptionPrompt: with prompt true the system shows its permission prompt when the
     // permission is missing. Returns at once with the present state.

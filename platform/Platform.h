@@ -9,6 +9,7 @@ class EventServices;
 class HotkeyCenter;
 class Log;
 class LoginItems;
+class MenuBarPreferences;
 class Menus;
 class NotificationCenter;
 class Screens;
@@ -37,6 +38,7 @@ struct Platform {
     Windows &windows;
     WindowServer &windowServer;
     Workspace &workspace;
+    MenuBarPreferences *menuBarPreferences; // null where the menu bar is the system's own affair
 };
 
 } // namespace brimshade::platform

@@ -29,7 +29,7 @@ Item {
         objectName: "stepDots"
         anchors.verticalCenter: parent.verticalCenter
         steps: root.flow.steps
-        step: root.flow.step
+        step: root.flow.position
     }
     PushButton {
         objectName: "backButton"

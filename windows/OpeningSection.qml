@@ -9,8 +9,10 @@ SettingsSection {
 
     required property NotchModel model
     required property Item surface
+    property string shortcutAdvice // where the shortcut needs something of the user's own
 
     title: qsTr("Opening")
+    footer: root.shortcutAdvice
 
     SettingsRow {
         first: true

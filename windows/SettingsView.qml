@@ -9,6 +9,7 @@ FocusScope {
     id: root
 
     required property NotchModel model
+    property MenuBarChoices menuBar: null // where the menu bar is this program's
 
     implicitWidth: 480
     implicitHeight: 640
@@ -68,9 +69,18 @@ FocusScope {
             ItemsSection {
                 model: root.model
             }
+            Repeater {
+                model: root.menuBar ? 1 : 0
+
+                MenuBarSection {
+                    choices: root.menuBar
+                    surface: root
+                }
+            }
             OpeningSection {
                 model: root.model
                 surface: root
+                shortcutAdvice: root.menuBar?.shortcutAdvice ?? ""
             }
             SettingsSection {
                 title: qsTr("Panel")

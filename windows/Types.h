@@ -1,5 +1,6 @@
 #pragma once
 #include "windows/flow/ItemRows.h"
+#include "windows/flow/MenuBarChoices.h"
 #include "windows/flow/OnboardingFlow.h"
 #include "windows/flow/SettingsActions.h"
 #include "windows/flow/ShortcutChoice.h"
@@ -13,6 +14,13 @@ struct ItemRowsType {
     Q_GADGET
     QML_FOREIGN(brimshade::windows::ItemRows)
     QML_NAMED_ELEMENT(ItemRows)
+};
+
+struct MenuBarChoicesType {
+    Q_GADGET
+    QML_FOREIGN(brimshade::windows::MenuBarChoices)
+    QML_NAMED_ELEMENT(MenuBarChoices)
+    QML_UNCREATABLE("Made by the coordinator where there is something to choose.")
 };
 
 struct SettingsActionsType {

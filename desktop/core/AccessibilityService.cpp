@@ -69,6 +69,11 @@ void AccessibilityService::wait(double seconds) const
         m_dispatch.sleep(seconds);
 }
 
+bool AccessibilityService::needsPermission() const
+{
+    return m_permission.isNeeded();
+}
+
 bool AccessibilityService::isProcessTrusted()
 {
     return isProcessTrustedWithOptions(false);

@@ -20,6 +20,7 @@ public:
     copyAttributeValue(const platform::AXUIElement &element, const QString &attribute) override;
     platform::AXError performAction(const platform::AXUIElement &element, const QString &action) override;
 
+    bool needsPermission() const override;
     bool isProcessTrusted() override;
     bool isProcessTrustedWithOptions(bool prompt) override;
 

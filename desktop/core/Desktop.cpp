@@ -50,7 +50,7 @@ struct Desktop::Parts {
     HotkeyRegistry hotkeys;
     Notifications notifications;
     Inspection inspection{state};
-    Permission permission{state};
+    Permission permission{state, services.needsPermission};
     ScreensService screens{state};
     WindowInfoService windowInfo{state};
     WindowStack windows{state};
@@ -158,9 +158,23 @@ Desktop::~Desktop() = default;
 Platform Desktop::platform()
 {
     Parts &p = *m_parts;
-    return {p.accessibility,        p.application, p.services.dispatch, p.events,   p.hotkeys,   p.log,
-            *p.services.loginItems, p.menus,       p.notifications,     p.screens,  p.statusBar, p.services.symbols,
-            *p.services.defaults,   p.windows,     p.windowInfo,        p.workspace};
+    return {p.accessibility,
+            p.application,
+            p.services.dispatch,
+            p.events,
+            p.hotkeys,
+            p.log,
+            *p.services.loginItems,
+            p.menus,
+            p.notifications,
+            p.screens,
+            p.statusBar,
+            p.services.symbols,
+            *p.services.defaults,
+            p.windows,
+            p.windowInfo,
+            p.workspace,
+            p.services.menuBarPreferences};
 }
 
 HotkeyRegistry &Desktop::hotkeys()

@@ -30,6 +30,8 @@ public:
         platform::Symbols &symbols;
         std::unique_ptr<MemoryDefaults> defaults; // null: empty, in memory
         std::unique_ptr<platform::LoginItems> loginItems; // null: what the description and scripts say
+        bool needsPermission = true; // for Accessibility
+        platform::MenuBarPreferences *menuBarPreferences = nullptr; // of a bar that can be chosen; outlives the desktop
     };
     // The description's applications run and its bar has settled when this returns; what its defaults name is
     // stored where the store has nothing under that key.

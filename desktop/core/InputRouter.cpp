@@ -202,12 +202,15 @@ std::optional<Event> InputRouter::keyDown(const Event &event)
 void InputRouter::synthetic(const CGMouseEvent &event)
 {
     m_d->at = event.location;
-    if (event.type == kCGEventLeftMouseDown)
+    if (event.type == kCGEventLeftMouseDown) {
         press(MouseButton::left, event.flags);
-    else if (event.type == kCGEventLeftMouseUp)
+        Q_EMIT syntheticHeld(true);
+    } else if (event.type == kCGEventLeftMouseUp) {
         release(MouseButton::left, event.flags);
-    else
+        Q_EMIT syntheticHeld(false);
+    } else {
         moved(event.location);
+    }
     Q_EMIT pointerWarped();
 }
 

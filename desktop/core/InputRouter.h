@@ -64,6 +64,7 @@ public:
 
 Q_SIGNALS:
     void pointerWarped(); // moved by the program, not by a hand
+    void syntheticHeld(bool held); // the program pressed the mouse button, or let it go
 
 private:
     struct Press;

@@ -18,7 +18,9 @@ class Permission : public QObject {
     Q_PROPERTY(QRectF pageFrame READ pageFrame NOTIFY changed)
 
 public:
-    explicit Permission(SharedState &state) : m_state(state) { }
+    Permission(SharedState &state, bool isNeeded) : m_state(state), m_isNeeded(isNeeded) { }
+
+    bool isNeeded() const { return m_isNeeded; } // not where every program may read the bar: then it is always given
 
     bool isTrusted() const;
     void setTrusted(bool trusted); // granting closes the prompt
@@ -45,6 +47,7 @@ private:
     void set(bool &flag, bool value);
 
     SharedState &m_state;
+    const bool m_isNeeded;
     bool m_isPromptOpen = false;
     bool m_isPageOpen = false;
 };

@@ -1,5 +1,6 @@
 #include "MenuHost.h"
 
+#include <QCoreApplication>
 #include <utility>
 
 namespace brimshade::desktop {
@@ -17,7 +18,7 @@ public:
             entry.isSeparator = item.isSeparator;
             entry.isEnabled = item.isEnabled;
             if (!item.keyEquivalent.isEmpty())
-                entry.shortcut = QStringLiteral("⌘") + item.keyEquivalent.toUpper();
+                entry.shortcut = QCoreApplication::translate("Shortcut", "⌘%1").arg(item.keyEquivalent.toUpper());
             m_entries.push_back(std::move(entry));
         }
     }

@@ -25,7 +25,7 @@ public:
     ~MenuController() override;
 
     bool isOpen() const { return !m_levels.empty(); }
-    const MenuLevel &level(int depth) const { return *m_levels[depth]; }
+    MenuLevel &level(int depth) const { return *m_levels[depth]; }
 
     void pointerMoved(QPointF to);
     void pressed(QPointF at); // outside of every list it dismisses the menu

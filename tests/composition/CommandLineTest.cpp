@@ -3,6 +3,9 @@
 
 namespace brimshade::composition {
 
+using desktop::session::NotchChoice;
+using Kind = NotchChoice::Kind;
+
 namespace {
 
 std::expected<CommandLine, QString> parse(const QString &arguments)
@@ -66,13 +69,13 @@ TEST(CommandLineTest, TheNotchIsDrawnNoneOrASpanOfPoints)
 {
     struct Case {
         QString text;
-        std::optional<NotchOption> notch;
+        std::optional<NotchChoice> notch;
     };
     for (const Case &each : {
-             Case{u"drawn"_s, DrawnNotch{}},
-             Case{u"none"_s, NoNotch{}},
-             Case{u"663,849"_s, NotchBounds{663, 849}},
-             Case{u"0,0.5"_s, NotchBounds{0, 0.5}},
+             Case{u"drawn"_s, NotchChoice{Kind::drawn, 0, 0}},
+             Case{u"none"_s, NotchChoice{Kind::none, 0, 0}},
+             Case{u"663,849"_s, NotchChoice{Kind::given, 663, 849}},
+             Case{u"0,0.5"_s, NotchChoice{Kind::given, 0, 0.5}},
              Case{u"663"_s, {}},
              Case{u"663,849,900"_s, {}},
              Case{u"849,663"_s, {}},

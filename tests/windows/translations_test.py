@@ -3,13 +3,14 @@
 translation files, which must then hold nothing unfinished and nothing that no source uses.
 Usage: translations_test.py LUPDATE ROOT"""
 import pathlib
+import re
 import shutil
 import subprocess
 import sys
 import tempfile
 import xml.etree.ElementTree as ElementTree
 
-SOURCES = ["app", "model", "panel", "ui", "windows"]
+SOURCES = ["app", "model", "panel", "ui", "windows", "desktop/core", "desktop/session"]
 LANGUAGES = {"de": [], "en": ["-pluralonly"]}
 lupdate, root = sys.argv[1], pathlib.Path(sys.argv[2])
 
@@ -31,10 +32,26 @@ def faults_of(language, options, folder):
                 yield f"lost {lost}: {source}"
 
 
+def session_faults_of(language):
+    """Where the program is a session's menu bar, no text speaks of the Mac; and none is replaced that is not there."""
+    def texts(name):
+        tree = ElementTree.parse(root / "i18n" / name)
+        return {(context.findtext("name"), message.findtext("source"))
+                for context in tree.iter("context") for message in context.iter("message")}
+
+    there, replaced = texts("brimshade_de.ts"), texts(f"session_{language}.ts")
+    for context, source in replaced - there:
+        yield f"session: no such text: {context}: {source}"
+    of_permission = {"PermissionCard", "PermissionStep"}  # never shown there
+    for context, source in there - replaced:
+        if re.search(r"\bmacOS\b|\bMac\b|Cmd|[⌘⌥]|pointer (will )?jump", source) and context not in of_permission:
+            yield f"session: speaks of the Mac: {context}: {source}"
+
+
 failed = False
 with tempfile.TemporaryDirectory() as folder:
     for language, options in LANGUAGES.items():
-        for fault in faults_of(language, options, folder):
+        for fault in [*faults_of(language, options, folder), *session_faults_of(language)]:
             print(f"{language}: {fault}")
             failed = True
 sys.exit(failed)

@@ -25,7 +25,8 @@ OnboardingFlow::OnboardingFlow(NotchModel &model, model::PermissionRequest &perm
                                platform::Accessibility &accessibility, platform::Dispatch &dispatch,
                                FinishAction onFinish, QObject *parent)
     : QObject(parent), m_model(model), m_permission(permission), m_accessibility(accessibility), m_dispatch(dispatch),
-      m_onFinish(std::move(onFinish)), m_tiles([this](const MenuExtra &extra) { return effectiveChoice(extra); })
+      m_onFinish(std::move(onFinish)), m_asksForPermission(accessibility.needsPermission()),
+      m_tiles([this](const MenuExtra &extra) { return effectiveChoice(extra); })
 {
     connect(&model, &NotchModel::extrasChanged, this, &OnboardingFlow::extrasChanged);
     connect(&model, &NotchModel::trustedChanged, this, &OnboardingFlow::actionChanged);
@@ -83,13 +84,19 @@ void OnboardingFlow::act()
     if (m_step == Final)
         m_onFinish(m_choices);
     else
-        setStep(m_step + 1);
+        moveBy(1);
 }
 
 void OnboardingFlow::back()
 {
     if (m_step > Welcome)
-        setStep(m_step - 1);
+        moveBy(-1);
+}
+
+void OnboardingFlow::moveBy(int direction)
+{
+    const int next = m_step + direction;
+    setStep(next == Permission && !m_asksForPermission ? next + direction : next);
 }
 
 void OnboardingFlow::toggle(const QString &extraID)

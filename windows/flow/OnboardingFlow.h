@@ -26,6 +26,7 @@ class OnboardingFlow : public QObject {
     Q_OBJECT
     Q_PROPERTY(int step READ step NOTIFY stepChanged)
     Q_PROPERTY(int steps READ steps CONSTANT)
+    Q_PROPERTY(int position READ position NOTIFY stepChanged)
     Q_PROPERTY(Action action READ action NOTIFY actionChanged)
     Q_PROPERTY(bool active READ isActive WRITE setActive NOTIFY activeChanged)
     Q_PROPERTY(brimshade::windows::ChoiceTiles *tiles READ tiles CONSTANT)
@@ -50,7 +51,12 @@ public:
     ~OnboardingFlow() override;
 
     int step() const { return m_step; }
-    int steps() const { return Final + 1; }
+    // Where nothing needs a permission there is no such step.
+    int steps() const { return Final + (m_asksForPermission ? 1 : 0); }
+    int position() const
+    {
+        return m_step - (m_step > Permission && !m_asksForPermission ? 1 : 0);
+    } // from 0, among those
     Action action() const;
     // True while the view is on screen: set by the view. The permission is then looked at every 1.0 s.
     bool isActive() const { return m_timer != nullptr; }
@@ -78,6 +84,7 @@ Q_SIGNALS:
     void heroIconsChanged();
 
 private:
+    void moveBy(int direction);
     void setStep(int step);
     void extrasChanged();
     void seedChoices();
@@ -88,6 +95,7 @@ private:
     platform::Accessibility &m_accessibility;
     platform::Dispatch &m_dispatch;
     FinishAction m_onFinish;
+    const bool m_asksForPermission;
     int m_step = Welcome;
     Choices m_choices;
     ChoiceTiles m_tiles;

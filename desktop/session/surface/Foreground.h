@@ -1,6 +1,8 @@
 #pragma once
 #include <QObject>
+#include <QSet>
 #include <QString>
+#include <QTimer>
 
 class QScreen;
 
@@ -12,15 +14,26 @@ namespace brimshade::desktop::session {
 class Foreground : public QObject {
     Q_OBJECT
 public:
-    using QObject::QObject;
-
     // Of the application with the focus, as its desktop entry says, else as it calls itself; empty for none.
-    virtual QString applicationName() const = 0;
-    virtual bool coversScreen(const QScreen *screen) const = 0; // by a full-screen window that is seen
+    QString applicationName() const { return m_applicationName; }
+    bool coversScreen(const QScreen *screen) const { return m_covered.contains(screen); } // by a full-screen window
 
 Q_SIGNALS:
     void applicationNameChanged();
     void coveredScreensChanged();
+
+protected:
+    Foreground();
+    void setApplication(const QString &id); // its app_id or class
+    void setCoveredScreens(const QSet<const QScreen *> &screens);
+
+private:
+    void showApplication();
+
+    QString m_application; // now
+    QTimer m_settled;
+    QString m_applicationName;
+    QSet<const QScreen *> m_covered;
 };
 
 } // namespace brimshade::desktop::session

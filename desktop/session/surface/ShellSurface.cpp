@@ -2,7 +2,6 @@
 
 #include <QGuiApplication>
 #include <QQuickWindow>
-#include <utility>
 
 namespace brimshade::desktop::session {
 
@@ -10,9 +9,14 @@ ShellSurface::ShellSurface(QQuickWindow &window, Kind kind) : m_window(window), 
 
 ShellSurface::~ShellSurface() = default;
 
+QRect ShellSurface::geometry() const
+{
+    return m_kind == Kind::Bar && m_screen ? QRect(0, 0, m_screen->size().width(), m_geometry.height()) : m_geometry;
+}
+
 QRegion ShellSurface::inputRegion() const
 {
-    return m_inputRegion.isEmpty() ? QRegion(QRect({}, m_window.size())) : m_inputRegion;
+    return m_inputRegion.isEmpty() ? QRegion(QRect({}, geometry().size())) : m_inputRegion;
 }
 
 void ShellSurface::setScreen(QScreen *screen)
@@ -30,37 +34,44 @@ void ShellSurface::setScreen(QScreen *screen)
     if (m_isShown) {
         unmap();
         map();
+        Q_EMIT changed();
     }
+}
+
+template <class Value> void ShellSurface::set(Value &member, const Value &value, void (ShellSurface::*apply)())
+{
+    if (member == value)
+        return;
+    member = value;
+    if (!m_isShown)
+        return;
+    (this->*apply)();
+    Q_EMIT changed();
 }
 
 void ShellSurface::setGeometry(const QRect &geometry)
 {
-    if (std::exchange(m_geometry, geometry) != geometry && m_isShown)
-        applyGeometry();
+    set(m_geometry, geometry, &ShellSurface::applyGeometry);
 }
 
 void ShellSurface::setZone(int height)
 {
-    if (std::exchange(m_zone, height) != height && m_isShown)
-        applyGeometry();
+    set(m_zone, height, &ShellSurface::applyGeometry);
 }
 
 void ShellSurface::setInputRegion(const QRegion &region)
 {
-    if (std::exchange(m_inputRegion, region) != region && m_isShown)
-        applyRegions();
+    set(m_inputRegion, region, &ShellSurface::applyRegions);
 }
 
 void ShellSurface::setDrawnRegion(const QRegion &region)
 {
-    if (std::exchange(m_drawnRegion, region) != region && m_isShown)
-        applyRegions();
+    set(m_drawnRegion, region, &ShellSurface::applyRegions);
 }
 
 void ShellSurface::setTakesKeyboard(bool takes)
 {
-    if (std::exchange(m_takesKeyboard, takes) != takes && m_isShown)
-        applyKeyboard();
+    set(m_takesKeyboard, takes, &ShellSurface::applyKeyboard);
 }
 
 void ShellSurface::show()
@@ -69,12 +80,16 @@ void ShellSurface::show()
         return;
     m_isShown = true;
     map();
+    Q_EMIT changed();
 }
 
 void ShellSurface::hide()
 {
-    if (std::exchange(m_isShown, false))
-        unmap();
+    if (!m_isShown)
+        return;
+    m_isShown = false;
+    unmap();
+    Q_EMIT changed();
 }
 
 void ShellSurface::close()

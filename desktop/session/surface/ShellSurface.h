@@ -27,8 +27,9 @@ public:
     QQuickWindow &window() const { return m_window; }
     Kind kind() const { return m_kind; }
     QScreen *screen() const { return m_screen; } // null once that screen is gone
-    QRect geometry() const { return m_geometry; }
+    QRect geometry() const; // of a bar: the width of its screen, and the height that was set
     QRegion inputRegion() const; // never empty: the whole window where none was set
+    bool takesKeyboard() const { return m_takesKeyboard; }
     bool isShown() const { return m_isShown; } // asked for; the window is visible from configured on
 
     void setScreen(QScreen *screen);
@@ -47,16 +48,17 @@ public:
 Q_SIGNALS:
     void configured(const QSize &size); // the window is visible and has this size
     void closed(); // hidden because its screen went or the compositor said so; may be shown again
+    void changed(); // whether it is shown, where, what it takes
 
 protected:
     ShellSurface(QQuickWindow &window, Kind kind);
     int zone() const { return m_zone; }
     const QRegion &wantedInputRegion() const { return m_inputRegion; } // empty: the whole window
     const QRegion &drawnRegion() const { return m_drawnRegion; }
-    bool takesKeyboard() const { return m_takesKeyboard; }
     void close(); // hides and says so
 
 private:
+    template <class Value> void set(Value &member, const Value &value, void (ShellSurface::*apply)());
     // Everything that was set is to be in force after map; the others are called only in between.
     virtual void map() = 0;
     virtual void unmap() = 0;

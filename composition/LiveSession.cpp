@@ -1,0 +1,164 @@
+#include "LiveSession.h"
+#include "RealClock.h"
+#include "StateReport.h"
+#include "app/AppDelegate.h"
+#include "desktop/core/Desktop.h"
+#include "desktop/script/ScriptRunner.h"
+#include "desktop/services/AutostartLoginItem.h"
+#include "desktop/services/HotkeyRegistry.h"
+#include "desktop/services/X11KeyGrabber.h"
+#include "desktop/session/SessionClock.h"
+#include "desktop/session/SessionHost.h"
+#include "desktop/session/SessionPreferences.h"
+#include "desktop/session/SessionScreens.h"
+#include "desktop/session/surface/ShellBackend.h"
+#include "desktop/time/RealDispatch.h"
+#include "desktop/tray/TrayHost.h"
+#include "ui/SymbolService.h"
+
+#include <QFile>
+#include <QGuiApplication>
+#include <cstdio>
+
+using namespace Qt::StringLiterals;
+
+namespace brimshade::composition {
+
+using desktop::session::SessionHost;
+using desktop::session::SessionPreferences;
+using desktop::session::SessionScreens;
+using desktop::session::ShellBackend;
+
+namespace {
+
+QList<QByteArray> deviceTreeNames()
+{
+    constexpr qint64 most = 4096;
+    QFile file(u"/proc/device-tree/compatible"_s);
+    return file.open(QIODevice::ReadOnly) ? file.read(most).split('\0') : QList<QByteArray>();
+}
+
+void complain(const QString &text)
+{
+    std::fprintf(stderr, "brimshade: %s\n", qUtf8Printable(text));
+}
+
+} // namespace
+
+// In the order in which they come to life; taken down in the opposite one.
+class LiveSession::Parts {
+public:
+    Parts(LiveSessionOptions options, std::unique_ptr<ShellBackend> shell);
+    ~Parts();
+
+    desktop::RealDispatch dispatch;
+    ui::SymbolService symbols;
+    std::unique_ptr<ShellBackend> shell;
+    std::unique_ptr<desktop::MemoryDefaults> defaults; // the desktop's, from its making on
+    SessionScreens screens;
+    SessionPreferences preferences;
+    desktop::Desktop desktop;
+    SessionHost host;
+    std::shared_ptr<app::AppDelegate> delegate;
+    std::unique_ptr<desktop::TrayHost> tray;
+    RealClock clock;
+    desktop::ScriptRunner script;
+
+private:
+    desktop::session::ScreenChoice screenChoice(const LiveSessionOptions &options) const;
+    static desktop::DesktopDescription described(const SessionScreens &screens);
+    void refuseInvented();
+    void grabKeys();
+};
+
+desktop::session::ScreenChoice LiveSession::Parts::screenChoice(const LiveSessionOptions &options) const
+{
+    auto choice = SessionPreferences::kept(*defaults, options.screen, options.isNotchSaid);
+    choice.machine = desktop::session::machineNotch(deviceTreeNames());
+    return choice;
+}
+
+desktop::DesktopDescription LiveSession::Parts::described(const SessionScreens &screens)
+{
+    desktop::DesktopDescription description;
+    description.screens = screens.descriptions();
+    return description;
+}
+
+LiveSession::Parts::Parts(LiveSessionOptions options, std::unique_ptr<ShellBackend> shell_)
+    : shell(std::move(shell_)),
+      defaults(options.defaults ? std::move(options.defaults) : std::make_unique<desktop::MemoryDefaults>()),
+      screens(screenChoice(options)), preferences(screens, *defaults, QDBusConnection::sessionBus()),
+      desktop(desktop::Desktop::Services{.dispatch = dispatch,
+                                         .symbols = symbols,
+                                         .defaults = std::move(defaults),
+                                         .loginItems = std::make_unique<desktop::AutostartLoginItem>(),
+                                         .needsPermission = false,
+                                         .menuBarPreferences = &preferences},
+              described(screens)),
+      host(desktop, screens, *shell), delegate(std::make_shared<app::AppDelegate>(desktop.platform())),
+      clock(dispatch, host), script(desktop, host, clock, [this] { return stateReport(*delegate); })
+{
+    desktop::session::launchClock(desktop);
+    if (options.hostsTray) {
+        tray = std::make_unique<desktop::TrayHost>(desktop, QDBusConnection::sessionBus(), dispatch);
+        QObject::connect(tray.get(), &desktop::TrayHost::message, tray.get(), complain);
+    }
+    refuseInvented();
+    grabKeys();
+    desktop.platform().application.setActivationPolicyAccessory();
+    delegate->applicationDidFinishLaunching();
+}
+
+// What a script can do to an invented desktop only.
+void LiveSession::Parts::refuseInvented()
+{
+    for (const QString &name :
+         {u"launch"_s, u"quit"_s, u"change"_s, u"screens"_s, u"trust"_s, u"menuBar"_s, u"moves"_s, u"loginItem"_s}) {
+        script.add(name, [name](desktop::Arguments &) {
+            return std::unexpected(u"do: only an invented desktop can \"%1\", this is a real session"_s.arg(name));
+        });
+    }
+}
+
+void LiveSession::Parts::grabKeys()
+{
+    if (QGuiApplication::platformName() == "xcb"_L1)
+        desktop.hotkeys().setGrabber(desktop::X11KeyGrabber::create(0)); // the panel takes the keys by itself
+    else
+        preferences.setShortcutsWork(false);
+}
+
+LiveSession::Parts::~Parts()
+{
+    dispatch.stop(); // workers may be in the middle of a scan or a move: they end before anything that they use does
+}
+
+std::expected<std::unique_ptr<LiveSession>, QString> LiveSession::create(LiveSessionOptions options)
+{
+    auto shell = ShellBackend::create();
+    if (!shell)
+        return std::unexpected(shell.error());
+    return std::unique_ptr<LiveSession>(
+        new LiveSession(std::make_unique<Parts>(std::move(options), std::move(*shell))));
+}
+
+LiveSession::LiveSession(std::unique_ptr<Parts> parts) : m_parts(std::move(parts)) { }
+LiveSession::~LiveSession() = default;
+
+QJsonObject LiveSession::run(const QJsonObject &command)
+{
+    return m_parts->script.run(command);
+}
+
+app::AppDelegate &LiveSession::delegate()
+{
+    return *m_parts->delegate;
+}
+
+desktop::Desktop &LiveSession::desktop()
+{
+    return m_parts->desktop;
+}
+
+} // namespace brimshade::composition

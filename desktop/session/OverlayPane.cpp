@@ -1,0 +1,131 @@
+#include "OverlayPane.h"
+#include "SessionScreens.h"
+
+#include <QMetaProperty>
+
+using namespace Qt::StringLiterals;
+
+namespace brimshade::desktop::session {
+
+namespace {
+
+const QRegion kNoInput(-2, -2, 1, 1); // an empty region would be the whole window
+
+// The rectangle with its lower corners rounded.
+QRegion roundedBelow(const QRect &rect, int radius)
+{
+    if (radius <= 0 || rect.height() < 2 * radius || rect.width() < 2 * radius)
+        return rect;
+    const QRect corner(0, 0, 2 * radius, 2 * radius);
+    QRegion region(rect.adjusted(0, 0, 0, -radius));
+    region += rect.adjusted(radius, 0, -radius, 0);
+    region += QRegion(corner.translated(rect.left(), rect.bottom() + 1 - 2 * radius), QRegion::Ellipse);
+    region +=
+        QRegion(corner.translated(rect.right() + 1 - 2 * radius, rect.bottom() + 1 - 2 * radius), QRegion::Ellipse);
+    return region;
+}
+
+} // namespace
+
+OverlayPane::OverlayPane(DesktopWindow &window, const Parts &parts)
+    : m_window(window), m_parts(parts), m_pane(window.attributes().name, parts.router, parts.menu),
+      m_surface(parts.shell.createSurface(m_pane.window(), ShellSurface::Kind::Overlay))
+{
+    makeTransparent(m_pane.window());
+    m_holder.setParentItem(m_pane.window().contentItem());
+    m_holder.setFlag(QQuickItem::ItemIsFocusScope);
+    m_holder.setSize(window.frame().size());
+    m_content = std::make_unique<HostedContent>(window, parts.engine, m_holder);
+    followView();
+    connect(&window, &DesktopWindow::changed, this, &OverlayPane::update);
+    connect(&parts.screens, &SessionScreens::changed, this, &OverlayPane::update);
+    update();
+}
+
+OverlayPane::~OverlayPane() = default;
+
+void OverlayPane::followView()
+{
+    const QQuickItem *view = m_content->view();
+    const int index = view ? view->metaObject()->indexOfProperty("hitArea") : -1;
+    if (index < 0)
+        return;
+    const QMetaMethod changed = view->metaObject()->property(index).notifySignal();
+    connect(view, changed, this, metaObject()->method(metaObject()->indexOfSlot("update()")));
+}
+
+std::optional<QRectF> OverlayPane::hitArea() const
+{
+    const QQuickItem *view = m_content->view();
+    const QVariant area = view ? view->property("hitArea") : QVariant();
+    return area.isValid() ? std::optional(area.toRectF()) : std::nullopt;
+}
+
+QRect OverlayPane::drawnArea() const
+{
+    const QRect whole({}, m_window.frame().size().toSize());
+    const auto hit = hitArea();
+    if (!hit)
+        return whole;
+    const double margin = m_content->view()->property("drawnMargin").toDouble();
+    return hit->isEmpty() ? QRect() : hit->adjusted(-margin, -margin, margin, margin).toAlignedRect() & whole;
+}
+
+void OverlayPane::update()
+{
+    m_holder.setSize(m_window.frame().size());
+    QScreen *screen = m_parts.screens.screenAt(m_window.displayFrame().center());
+    m_drawn |= drawnArea();
+    if (!m_window.isVisible() || !screen || m_drawn.isEmpty()) {
+        m_surface->hide();
+        m_drawn = {};
+        takeInput(false);
+        return;
+    }
+    place(*screen);
+    takeInput(!hitArea() || !hitArea()->isEmpty());
+    if (!m_surface->isShown())
+        m_surface->show();
+}
+
+void OverlayPane::place(QScreen &screen)
+{
+    const QPointF origin = m_window.displayFrame().topLeft();
+    m_holder.setPosition(-m_drawn.topLeft());
+    m_pane.setOrigin(origin + m_drawn.topLeft());
+    m_surface->setScreen(&screen);
+    m_surface->setGeometry(m_drawn.translated((origin - m_parts.screens.originOf(&screen)).toPoint()));
+    const QRectF hit = hitArea().value_or(QRectF());
+    if (hit.isEmpty()) {
+        m_surface->setInputRegion(hitArea() ? kNoInput : QRegion());
+        return;
+    }
+    m_window.setHitArea(hit);
+    m_pane.setHitArea(hit.translated(-m_drawn.topLeft()));
+    const QRect inWindow = hit.translated(-m_drawn.topLeft()).toAlignedRect();
+    m_surface->setInputRegion(inWindow);
+    m_surface->setDrawnRegion(roundedBelow(inWindow, m_content->view()->property("hitRadius").toInt()));
+}
+
+void OverlayPane::setKey(bool key)
+{
+    m_isKey = key;
+    giveKeys();
+}
+
+void OverlayPane::takeInput(bool takes)
+{
+    const bool did = std::exchange(m_takesInput, takes);
+    giveKeys();
+    if (did != takes)
+        Q_EMIT takesInputChanged();
+}
+
+// Without the focus no caret blinks on in a window that is not shown.
+void OverlayPane::giveKeys()
+{
+    m_surface->setTakesKeyboard(takesKeyboard());
+    m_holder.setFocus(m_isKey && m_window.isVisible());
+}
+
+} // namespace brimshade::desktop::session

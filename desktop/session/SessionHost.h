@@ -1,0 +1,79 @@
+#pragma once
+#include "BarState.h"
+#include "Pane.h"
+#include "desktop/script/ScriptHost.h"
+#include "desktop/session/surface/ShellBackend.h"
+#include "desktop/views/MenuController.h"
+
+#include <map>
+#include <memory>
+
+class QQmlEngine;
+
+namespace brimshade::desktop {
+class Desktop;
+class DesktopWindow;
+class ScriptHands;
+} // namespace brimshade::desktop
+
+namespace brimshade::desktop::session {
+
+class MenuPanes;
+class SessionBar;
+class SessionScreens;
+class WindowPane;
+
+// The desktop in the session that the program was started in: the bar at the top edge of a screen, the open menu and
+// the program's windows, each in a window of its own. Main thread. Destroy it before the desktop and the screens.
+class SessionHost : public QObject, public ScriptHost {
+    Q_OBJECT
+public:
+    SessionHost(Desktop &desktop, SessionScreens &screens, ShellBackend &shell);
+    ~SessionHost() override;
+
+    bool takesKeyboard() const; // all keys of the session come to this program: panel or menu are open
+
+    void settle() override;
+    std::vector<View> views() const override;
+    QImage picture() override; // what this program shows of the screens, on nothing
+    std::optional<QImage> picture(const QString &windowName) override; // also of "bar" and "menu"
+    void movePointer(QPointF to, std::uint64_t modifierFlags) override;
+    void press(MouseButton button, std::uint64_t modifierFlags) override;
+    void release(MouseButton button, std::uint64_t modifierFlags) override;
+    void key(const platform::Event &event) override;
+
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
+Q_SIGNALS:
+    void takesKeyboardChanged();
+
+private:
+    void addWindow(DesktopWindow *window);
+    void removeWindow(DesktopWindow *window);
+    void giveKeys();
+    void update(); // what follows from the panel or a menu being open
+    void pressedOutside();
+    void followForeground();
+    void pointerLeft(QObject *window);
+    std::vector<Pane *> panes() const; // shown ones, front to back
+    Pane *paneAt(QPointF display) const;
+    Pane *paneOf(const WindowInput *input) const;
+    WindowInput *keyInput() const; // of the window that has the keys; null while another program has them
+    QRectF screenFrameAt(QPointF display) const;
+
+    Desktop &m_desktop;
+    SessionScreens &m_screens;
+    ShellBackend &m_shell;
+    std::unique_ptr<QQmlEngine> m_engine;
+    WallClock m_clock;
+    BarState m_barState;
+    MenuController m_menu;
+    std::unique_ptr<SessionBar> m_bar;
+    std::unique_ptr<MenuPanes> m_menus;
+    std::map<DesktopWindow *, std::unique_ptr<WindowPane>> m_windows;
+    std::unique_ptr<ScriptHands> m_hands;
+    QObject *m_hovered = nullptr; // the window that the pointer is in; only compared
+    bool m_tookKeyboard = false;
+};
+
+} // namespace brimshade::desktop::session

@@ -1,0 +1,21 @@
+#pragma once
+#include <QtGlobal>
+#include <thread>
+
+namespace brimshade::desktop::session {
+
+// Ends the process with exit status 1 and a message as soon as the other end of a connection is closed: without a
+// display there is nothing left to do, and nothing left unsaved. At once and without destructors: threads of Qt and of
+// ours still use what those would destroy.
+class ConnectionWatch {
+public:
+    explicit ConnectionWatch(int fileDescriptor); // of a socket, open for as long as this lives
+    ~ConnectionWatch();
+    Q_DISABLE_COPY_MOVE(ConnectionWatch)
+
+private:
+    const int m_stop; // an eventfd
+    std::thread m_thread;
+};
+
+} // namespace brimshade::desktop::session

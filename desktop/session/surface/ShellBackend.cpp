@@ -1,0 +1,98 @@
+#include "ShellBackend.h"
+
+#include "WaylandBackend.h"
+#include "X11Backend.h"
+
+#include <QGuiApplication>
+#include <chrono>
+#include <qpa/qplatformnativeinterface.h>
+#include <qpa/qplatformscreen.h>
+#include <thread>
+#include <wayland-client-core.h>
+#include <xcb/xcb.h>
+
+using namespace Qt::StringLiterals;
+
+namespace brimshade::desktop::session {
+
+namespace {
+
+constexpr std::chrono::milliseconds kWatchPatience{500};
+constexpr auto kPlatform = "QT_QPA_PLATFORM";
+
+bool hasCompositor()
+{
+    wl_display *display = wl_display_connect(nullptr);
+    if (display)
+        wl_display_disconnect(display);
+    return display;
+}
+
+bool hasXServer()
+{
+    xcb_connection_t *connection = xcb_connect(nullptr, nullptr);
+    const bool answers = !xcb_connection_has_error(connection);
+    xcb_disconnect(connection);
+    return answers;
+}
+
+bool isDisplayGone()
+{
+    QPlatformNativeInterface *native = qGuiApp ? QGuiApplication::platformNativeInterface() : nullptr;
+    if (!native)
+        return false;
+    if (const auto *x11 = qGuiApp->nativeInterface<QNativeInterface::QX11Application>())
+        return xcb_connection_has_error(x11->connection());
+    auto *wayland = static_cast<wl_display *>(native->nativeResourceForIntegration("wl_display"));
+    return wayland && wl_display_get_error(wayland);
+}
+
+std::unexpected<QString> noDisplay()
+{
+    return std::unexpected(u"no display: neither a Wayland compositor nor an X server answers"_s);
+}
+
+} // namespace
+
+std::expected<void, QString> ShellBackend::prepareEnvironment()
+{
+    // Windows with Qt::BypassWindowManagerHint get no role from Qt then, so they can get that of a layer surface.
+    qputenv("QT_WAYLAND_USE_BYPASSWINDOWMANAGERHINT", "1");
+    const QByteArray wanted = qgetenv(kPlatform);
+    if (!wanted.isEmpty() && !wanted.startsWith("wayland") && wanted != "xcb")
+        return std::unexpected(
+            u"a session needs X11 or Wayland, and QT_QPA_PLATFORM is %1"_s.arg(QString::fromLocal8Bit(wanted)));
+    if (wanted != "xcb" && hasCompositor()) {
+        qputenv(kPlatform, "wayland");
+        return {};
+    }
+    if (wanted.startsWith("wayland") || !hasXServer())
+        return noDisplay();
+    qputenv(kPlatform, "xcb");
+    return {};
+}
+
+std::expected<std::unique_ptr<ShellBackend>, QString> ShellBackend::create()
+{
+    if (QGuiApplication::platformName().startsWith("wayland"_L1))
+        return WaylandBackend::create();
+    if (QGuiApplication::platformName() == "xcb"_L1)
+        return X11Backend::create();
+    return noDisplay();
+}
+
+// The connection's watch is about to end the process, if it is not faster anyway.
+void ShellBackend::endIfDisplayIsGone()
+{
+    if (isDisplayGone())
+        std::this_thread::sleep_for(kWatchPatience);
+}
+
+QList<QScreen *> ShellBackend::screens()
+{
+    auto screens = QGuiApplication::screens();
+    screens.removeIf([](const QScreen *screen) { return screen->handle()->isPlaceholder(); });
+    return screens;
+}
+
+} // namespace brimshade::desktop::session

@@ -1,0 +1,31 @@
+#pragma once
+#include <QByteArray>
+#include <QSocketNotifier>
+#include <QString>
+#include <memory>
+
+namespace brimshade::desktop::session {
+
+// Sway's version, asked on its own socket without waiting. Main thread.
+class SwayVersion {
+public:
+    explicit SwayVersion(const QString &socketPath); // empty, and nothing else is: not sway
+    ~SwayVersion();
+    Q_DISABLE_COPY_MOVE(SwayVersion)
+
+    // Of the surfaces of one layer the one that came last is the lowest and the last to get the keys; every other
+    // compositor, and sway from 1.10 on, does it the other way round. The protocol leaves it open. False until the
+    // answer is there.
+    bool stacksDownwards() const { return m_stacksDownwards; }
+
+private:
+    void read();
+    void end();
+
+    int m_socket = -1;
+    std::unique_ptr<QSocketNotifier> m_notifier;
+    QByteArray m_answer;
+    bool m_stacksDownwards = false;
+};
+
+} // namespace brimshade::desktop::session

@@ -1,0 +1,38 @@
+#pragma once
+#include "Foreground.h"
+
+#include <cstdint>
+#include <memory>
+#include <vector>
+
+struct zwlr_foreign_toplevel_handle_v1;
+struct zwlr_foreign_toplevel_manager_v1;
+
+namespace brimshade::desktop::session {
+
+class ShownSurfaces;
+class WaylandGlobals;
+
+// From wlr-foreign-toplevel-management. It does not tell which windows are seen: a full-screen one may be on another
+// workspace. So a screen is covered when the window on it that was activated last is a full-screen one, and some window
+// of the session is activated still, or was until Brimshade took the keys.
+class WaylandForeground : public Foreground {
+    Q_OBJECT
+public:
+    WaylandForeground(const WaylandGlobals &globals, const ShownSurfaces &shown);
+    ~WaylandForeground() override;
+
+private:
+    class Toplevel;
+
+    void add(zwlr_foreign_toplevel_handle_v1 *handle);
+    void remove(const Toplevel *toplevel);
+    void update();
+
+    const ShownSurfaces &m_shown;
+    zwlr_foreign_toplevel_manager_v1 *const m_manager; // may be null
+    std::uint64_t m_activations = 0;
+    std::vector<std::unique_ptr<Toplevel>> m_toplevels;
+};
+
+} // namespace brimshade::desktop::session

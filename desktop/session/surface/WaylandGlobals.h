@@ -1,0 +1,71 @@
+#pragma once
+#include "WaylandSeat.h"
+
+#include <QString>
+#include <cstdint>
+#include <expected>
+#include <functional>
+#include <map>
+#include <memory>
+#include <utility>
+#include <vector>
+
+struct wl_compositor;
+struct wl_display;
+struct wl_output;
+struct wl_registry;
+struct wl_shm;
+struct wp_viewporter;
+struct zwlr_foreign_toplevel_manager_v1;
+struct zwlr_layer_shell_v1;
+class QScreen;
+
+namespace brimshade::desktop::session {
+
+// What the compositor offers, bound anew beside what Qt has bound on the same connection. Qt reads the connection and
+// calls all listeners on the main thread.
+class WaylandGlobals {
+public:
+    // Waits for one answer of the compositor.
+    static std::expected<std::unique_ptr<WaylandGlobals>, QString> bind(wl_display *display);
+    ~WaylandGlobals();
+    Q_DISABLE_COPY_MOVE(WaylandGlobals)
+
+    wl_display *display() const { return m_display; }
+    wl_compositor *compositor() const { return m_compositor; }
+    wl_shm *shm() const { return m_shm; }
+    wp_viewporter *viewporter() const { return m_viewporter; }
+    zwlr_layer_shell_v1 *layerShell() const { return m_layerShell; }
+    // Tells of all windows from then on, so whoever wants it binds it when the listener is there. The caller's; may be
+    // null.
+    zwlr_foreign_toplevel_manager_v1 *bindToplevelManager() const;
+
+    // Called with the surface that a button was pressed on or a finger put down on.
+    void setPressed(std::function<void(wl_surface *)> pressed) { m_pressed = std::move(pressed); }
+    // Called when an output has changed, which Qt knows by then.
+    void setOutputChanged(std::function<void()> changed) { m_outputChanged = std::move(changed); }
+
+private:
+    explicit WaylandGlobals(wl_display *display);
+    void addOutput(std::uint32_t name);
+    void add(std::uint32_t name, const char *interface, std::uint32_t version);
+    void remove(std::uint32_t name);
+    QString missing() const; // the name of a protocol, or empty
+
+    wl_display *const m_display;
+    wl_registry *const m_registry;
+    wl_compositor *m_compositor = nullptr;
+    wl_shm *m_shm = nullptr;
+    wp_viewporter *m_viewporter = nullptr;
+    zwlr_layer_shell_v1 *m_layerShell = nullptr;
+    std::pair<std::uint32_t, std::uint32_t> m_toplevelManager; // name and version; 0 for none
+    std::vector<std::unique_ptr<WaylandSeat>> m_seats;
+    std::map<std::uint32_t, wl_output *> m_outputs; // by the name in the registry
+    std::function<void(wl_surface *)> m_pressed;
+    std::function<void()> m_outputChanged;
+};
+
+// The output that Qt knows as that screen, which is one of ShellBackend::screens().
+wl_output *outputOf(QScreen *screen);
+
+} // namespace brimshade::desktop::session

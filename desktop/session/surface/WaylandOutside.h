@@ -1,0 +1,39 @@
+#pragma once
+#include <QObject>
+#include <memory>
+#include <vector>
+
+struct wl_buffer;
+struct wl_surface;
+class QScreen;
+
+namespace brimshade::desktop::session {
+
+class ShownSurfaces;
+class WaylandGlobals;
+
+// Clicks outside: one transparent pixel stretched over each screen, with holes where the program's own surfaces are.
+// What lies above or below which is then all the same.
+class WaylandOutside : public QObject {
+    Q_OBJECT
+public:
+    WaylandOutside(const WaylandGlobals &globals, const ShownSurfaces &shown);
+    ~WaylandOutside() override;
+
+    void watch(bool on);
+    bool isOf(const wl_surface *surface) const; // one of the stretched pixels
+
+private:
+    class Sheet;
+
+    void cover(QScreen *screen);
+    void cutHoles();
+
+    const WaylandGlobals &m_globals;
+    const ShownSurfaces &m_shown;
+    wl_buffer *m_pixel = nullptr;
+    bool m_isOn = false;
+    std::vector<std::unique_ptr<Sheet>> m_sheets;
+};
+
+} // namespace brimshade::desktop::session

@@ -1,0 +1,63 @@
+#pragma once
+#include <QObject>
+#include <QSocketNotifier>
+#include <array>
+#include <cstdint>
+#include <cstdlib>
+#include <memory>
+#include <vector>
+#include <xcb/xcb.h>
+
+namespace brimshade::desktop::session {
+
+template <class T> using X11Reply = std::unique_ptr<T, decltype([](void *reply) { std::free(reply); })>;
+
+enum class X11Atom {
+    NetActiveWindow,
+    NetClientListStacking,
+    NetCurrentDesktop,
+    NetWmDesktop,
+    NetWmState,
+    NetWmStateFullscreen,
+    NetWmStateHidden,
+    NetWmStrut,
+    NetWmStrutPartial,
+    NetWmWindowType,
+    NetWmWindowTypeDesktop,
+    NetWmWindowTypeDock,
+    CompositingManager, // the selection that the compositing manager of the screen owns
+    Count,
+};
+
+// A connection to the X server of Qt's own, to watch what other programs do without Qt's event queue: Qt selects events
+// on the root window, too, and the masks of two clients do not meet. Main thread. Reads wait for one answer of the
+// server.
+class X11Connection : public QObject {
+    Q_OBJECT
+public:
+    static std::unique_ptr<X11Connection> open(); // null when the server does not answer
+    ~X11Connection() override;
+
+    xcb_connection_t *xcb() const { return m_connection; }
+    xcb_window_t root() const { return m_root; }
+    xcb_atom_t atom(X11Atom atom) const { return m_atoms[std::size_t(atom)]; }
+
+    // Of an open property read: its 32-bit numbers; none when the window or the property is gone.
+    std::vector<std::uint32_t> numbers(xcb_get_property_cookie_t cookie) const;
+    xcb_get_property_cookie_t requestNumbers(xcb_window_t window, X11Atom property) const;
+    bool isEventOf(const xcb_generic_event_t &event, const xcb_extension_t &extension, int number) const;
+
+Q_SIGNALS:
+    void event(const xcb_generic_event_t &event);
+
+private:
+    X11Connection(xcb_connection_t *connection, int screenNumber);
+    void readEvents();
+
+    xcb_connection_t *const m_connection;
+    xcb_window_t m_root = XCB_WINDOW_NONE;
+    std::array<xcb_atom_t, std::size_t(X11Atom::Count)> m_atoms{};
+    QSocketNotifier m_notifier;
+};
+
+} // namespace brimshade::desktop::session

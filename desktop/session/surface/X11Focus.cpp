@@ -1,0 +1,50 @@
+#include "X11Focus.h"
+
+#include "X11Connection.h"
+
+#include <algorithm>
+
+namespace brimshade::desktop::session {
+
+void X11Focus::take(xcb_window_t window)
+{
+    if (std::ranges::find(m_takers, window) != m_takers.end())
+        return;
+    if (m_takers.empty())
+        m_before = focused();
+    m_takers.push_back(window);
+    focus(window);
+    xcb_flush(m_connection);
+}
+
+void X11Focus::giveBack(xcb_window_t window)
+{
+    const auto found = std::ranges::find(m_takers, window);
+    if (found == m_takers.end())
+        return;
+    // Nobody else gets a word in between the look and the change: a window that was just clicked keeps the keys.
+    xcb_grab_server(m_connection);
+    const bool isOurs = std::ranges::find(m_takers, focused()) != m_takers.end();
+    m_takers.erase(found);
+    if (isOurs)
+        focus(m_takers.empty() ? m_before : m_takers.back());
+    xcb_ungrab_server(m_connection);
+    xcb_flush(m_connection);
+}
+
+xcb_window_t X11Focus::focused() const
+{
+    const X11Reply<xcb_get_input_focus_reply_t> reply(
+        xcb_get_input_focus_reply(m_connection, xcb_get_input_focus(m_connection), nullptr));
+    return reply ? reply->focus : xcb_window_t(XCB_INPUT_FOCUS_POINTER_ROOT);
+}
+
+// The window may be gone by then: that error is nobody's, and the keys go to what is under the pointer.
+void X11Focus::focus(xcb_window_t window) const
+{
+    const auto cookie =
+        xcb_set_input_focus_checked(m_connection, XCB_INPUT_FOCUS_POINTER_ROOT, window, XCB_CURRENT_TIME);
+    xcb_discard_reply(m_connection, cookie.sequence);
+}
+
+} // namespace brimshade::desktop::session

@@ -1,0 +1,26 @@
+#pragma once
+#include "X11Connection.h"
+
+namespace brimshade::desktop::session {
+
+class ShownSurfaces;
+
+// Presses anywhere on the display, as the devices report them: no grab, so they arrive where they were aimed as well.
+class X11Outside : public QObject {
+    Q_OBJECT
+public:
+    X11Outside(X11Connection &connection, const ShownSurfaces &shown);
+    void watch(bool on);
+
+Q_SIGNALS:
+    void pressed();
+
+private:
+    void handle(const xcb_generic_event_t &event);
+    bool isPointerOutside() const;
+
+    X11Connection &m_connection;
+    const ShownSurfaces &m_shown;
+};
+
+} // namespace brimshade::desktop::session
