@@ -27,9 +27,8 @@ std::unique_ptr<Window> WindowStack::createWindow(const WindowAttributes &attrib
 
 DesktopWindow *WindowStack::windowAt(QPointF displayPoint) const
 {
-    const auto found = std::find_if(m_onScreen.rbegin(), m_onScreen.rend(), [&](const DesktopWindow *window) {
-        return window->takesClickAt(displayPoint);
-    });
+    const auto found = std::find_if(m_onScreen.rbegin(), m_onScreen.rend(),
+                                    [&](const DesktopWindow *window) { return window->takesClickAt(displayPoint); });
     return found == m_onScreen.rend() ? nullptr : *found;
 }
 
