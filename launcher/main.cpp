@@ -31,13 +31,13 @@ const char *actionOf(std::string_view option)
     return nullptr;
 }
 
-// BRIMSHADE_PROGRAM is relative to the folder of this one.
+// BRIMSHADE_MAIN is relative to the folder of this one.
 std::string programPath()
 {
     char self[PATH_MAX];
     const ssize_t length = readlink("/proc/self/exe", self, sizeof self);
     const std::string_view path(self, length > 0 ? static_cast<std::size_t>(length) : 0);
-    return std::string(path.substr(0, path.rfind('/') + 1)) + BRIMSHADE_PROGRAM;
+    return std::string(path.substr(0, path.rfind('/') + 1)) + BRIMSHADE_MAIN;
 }
 
 } // namespace

@@ -69,7 +69,7 @@ QByteArray autostartEntry(const QString &program)
                             u"Comment=Menu bar items behind the notch"_s,
                             u"Icon=org.brimshade.Brimshade"_s,
                             u"TryExec="_s + escaped(program),
-                            u"Exec="_s + escaped(quotedArgument(program)),
+                            u"Exec="_s + escaped(quotedArgument(program)) + u" --session"_s,
                             u"Terminal=false"_s,
                             u"X-GNOME-Autostart-enabled=true"_s,
                             QString()};

@@ -4,7 +4,7 @@
 
 namespace brimshade::desktop {
 
-// The autostart entry of a program, as desktop entry files are written.
+// The autostart entry of this program, as desktop entry files are written: it starts as the session's menu bar.
 QByteArray autostartEntry(const QString &program);
 QByteArray hiddenAutostartEntry(); // in the user's folder: switches off the one of the system
 

@@ -3,6 +3,7 @@
 #include "AutostartEntry.h"
 
 #include <QCoreApplication>
+#include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QStandardPaths>
@@ -28,7 +29,8 @@ AutostartLoginItem::Places sessionPlaces()
     for (QString &folder : folders)
         folder += u"/autostart"_s;
     const QString user = folders.takeFirst();
-    return {user, folders, QCoreApplication::applicationFilePath()};
+    const QString launcher = QCoreApplication::applicationDirPath() + QStringLiteral("/" BRIMSHADE_LAUNCHER);
+    return {user, folders, QDir::cleanPath(launcher)};
 }
 
 bool resolves(const QString &tryExec)

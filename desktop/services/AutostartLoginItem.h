@@ -5,13 +5,14 @@
 
 namespace brimshade::desktop {
 
-// The login item as an XDG autostart entry for the running program. Main thread; reads and writes small files.
+// The login item as an XDG autostart entry: the program becomes the menu bar of each session. Main thread; reads and
+// writes small files.
 class AutostartLoginItem : public platform::LoginItems {
 public:
     struct Places {
         QString userFolder; // where entries are written
         QStringList systemFolders; // most important first
-        QString program; // absolute path
+        QString program; // absolute path of what people start
     };
     AutostartLoginItem(); // of this session and this process
     explicit AutostartLoginItem(Places places);

@@ -89,16 +89,24 @@ TEST_F(AutostartTest, FailuresAreTheSystemsWords)
     EXPECT_EQ(item.status(), LoginItemStatus::notRegistered);
 }
 
+TEST_F(AutostartTest, AnEntryThatStartsNoSessionIsRewritten)
+{
+    writeFile(userFile, entry("Exec=" + program.toUtf8() + "\n"));
+    ASSERT_TRUE(item.registerMainApp());
+    EXPECT_TRUE(readFile(userFile).contains(" --session\n")) << readFile(userFile).constData();
+    expectValid(userFile);
+}
+
 // A shell undoes the quoting of an argument in the same way, once that of the string and the percent signs is undone.
-TEST_F(AutostartTest, ExecNamesTheProgramWhateverItsName)
+TEST_F(AutostartTest, ExecStartsASessionWhateverTheProgramsName)
 {
     ASSERT_TRUE(item.registerMainApp());
     QString exec = QString::fromUtf8(readFile(userFile)).section(u"\nExec="_s, 1).section(u'\n', 0, 0);
     exec.replace(u"\\\\"_s, u"\\"_s).replace(u"%%"_s, u"%"_s);
     QProcess shell;
-    shell.start(u"sh"_s, {u"-c"_s, u"printf %s "_s + exec});
+    shell.start(u"sh"_s, {u"-c"_s, u"printf '%s|' "_s + exec});
     ASSERT_TRUE(shell.waitForFinished());
-    EXPECT_EQ(QString::fromUtf8(shell.readAllStandardOutput()), program);
+    EXPECT_EQ(QString::fromUtf8(shell.readAllStandardOutput()), program + u"|--session|"_s);
 }
 
 } // namespace brimshade::desktop
