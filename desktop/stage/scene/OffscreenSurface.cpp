@@ -36,7 +36,10 @@ OffscreenSurface::~OffscreenSurface()
 
 void OffscreenSurface::setSize(QSize size, double scale)
 {
-    m_image = QImage((QSizeF(size) * scale).toSize(), QImage::Format_ARGB32_Premultiplied);
+    const QSize pixels = (QSizeF(size) * scale).toSize();
+    if (m_image.size() == pixels && m_image.devicePixelRatio() == scale)
+        return; // what was drawn stays: a frame draws only what has changed since the last
+    m_image = QImage(pixels, QImage::Format_ARGB32_Premultiplied);
     m_image.setDevicePixelRatio(scale);
     auto target = QQuickRenderTarget::fromPaintDevice(&m_image);
     target.setDevicePixelRatio(scale);

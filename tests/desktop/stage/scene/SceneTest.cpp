@@ -90,6 +90,34 @@ TEST(Pictures, AreTheSameWhetherDrawnAtOnceOrChangeByChange)
     EXPECT_EQ(context.scene().picture(), changed);
 }
 
+TEST(Pictures, StayWholeWhenTheDesktopChanges)
+{
+    SceneContext context;
+    Desktop &desktop = context.desktop();
+    ApplicationDescription late = application(900, u"Latecomer"_s, {extra(u"late"_s)});
+    late.icon = u"#3366cc"_s;
+    ApplicationDescription red = late;
+    red.icon = u"#cc3333"_s;
+    DesktopDescription larger = SceneContext::smallDesktop();
+    larger.screens[0].frame.setWidth(1200);
+    const std::pair<const char *, std::function<void()>> changes[] = {
+        {"launch", [&] { desktop.launch({.description = late}); }},
+        {"change", [&] { desktop.change(900, {.description = red}); }},
+        {"quit", [&] { desktop.quit(900); }},
+        {"screens", [&] { desktop.setScreens(larger.screens); }},
+    };
+    QImage before = context.scene().picture();
+    for (const auto &[name, change] : changes) {
+        change();
+        context.settle();
+        const QImage after = context.scene().picture();
+        EXPECT_NE(after, before) << name;
+        context.remakeScene();
+        before = context.scene().picture();
+        EXPECT_EQ(after, before) << name;
+    }
+}
+
 QRectF onScreen(const QQuickItem *item)
 {
     return item->mapRectToScene(QRectF(0, 0, item->width(), item->height()));
