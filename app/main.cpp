@@ -11,6 +11,7 @@
 #include "desktop/stage/builtin/BuiltInDesktop.h"
 #include "desktop/stage/file/DesktopFile.h"
 #include "desktop/stage/scene/SceneHost.h"
+#include "desktop/views/Rendering.h"
 #include "i18n/Translation.h"
 #include "platform/Application.h"
 #include "platform/Platform.h"
@@ -42,8 +43,16 @@ std::expected<void, QString> prepareEnvironment(const composition::CommandLine &
     if (line.hasWindow)
         return {};
     qputenv("QT_QPA_PLATFORM", "offscreen");
-    qputenv("QT_QUICK_BACKEND", "software");
     return {};
+}
+
+void prepareRendering(bool hasWindow)
+{
+    if (hasWindow)
+        desktop::preferSoftwareRenderer();
+    else
+        desktop::useSoftwareRenderer();
+    desktop::disableStemDarkening();
 }
 
 std::unique_ptr<desktop::FileDefaults> openDefaults(const composition::CommandLine &line)
@@ -164,6 +173,7 @@ int main(int argc, char **argv)
     if (!line->isSession) // there it would stand once more in every window's title
         application.setApplicationDisplayName(u"Brimshade"_s);
     application.setDesktopFileName(u"org.brimshade.Brimshade"_s);
+    prepareRendering(line->hasWindow);
     i18n::installTranslation(application, QLocale());
     if (line->isSession)
         i18n::installSessionTexts(application, QLocale());

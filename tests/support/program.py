@@ -58,7 +58,7 @@ class Session:
         runtime.mkdir(mode=0o700)
         self.environment = {
             "PATH": os.environ["PATH"], "HOME": str(self.home), "XDG_RUNTIME_DIR": str(runtime),
-            "XDG_CURRENT_DESKTOP": "KDE", "LC_ALL": "C.UTF-8", "NO_AT_BRIDGE": "1", "QT_QUICK_BACKEND": "software",
+            "XDG_CURRENT_DESKTOP": "KDE", "LC_ALL": "C.UTF-8", "NO_AT_BRIDGE": "1",
         }
         self._processes = []
         self.environment["DISPLAY"] = ":" + self._first_line_of(
@@ -69,9 +69,11 @@ class Session:
     def _first_line_of(self, *command):
         return self.start(*command, stdout=subprocess.PIPE, text=True).stdout.readline().strip()
 
-    def start(self, *command, **options):
+    def start(self, *command, without=(), **options):
+        """without: variables that it does not see."""
         options = {"stdout": subprocess.DEVNULL, "stderr": subprocess.DEVNULL, **options}
-        process = subprocess.Popen(command, env=self.environment, **options)
+        environment = {name: value for name, value in self.environment.items() if name not in without}
+        process = subprocess.Popen(command, env=environment, **options)
         self._processes.append(process)
         return process
 
@@ -81,10 +83,10 @@ class Session:
         self.start("openbox", "--startup", f"sh -c 'echo > {ready}'")
         ready.read_text()
 
-    def start_program(self, binary, description, *arguments):
+    def start_program(self, binary, description, *arguments, without=()):
         desktop = self.home / "desktop.json"
         desktop.write_text(json.dumps(description))
-        return Program(self.start(binary, "--script", "-", "--desktop", str(desktop), *arguments,
+        return Program(self.start(binary, "--script", "-", "--desktop", str(desktop), *arguments, without=without,
                                   stdin=subprocess.PIPE, stdout=subprocess.PIPE, text=True))
 
     def write(self, path, text):

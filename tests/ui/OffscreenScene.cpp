@@ -21,7 +21,6 @@ OffscreenScene::OffscreenScene(QSize size, double scale)
     auto target = QQuickRenderTarget::fromPaintDevice(&m_image);
     target.setDevicePixelRatio(scale);
     m_window->setRenderTarget(target);
-    m_control->initialize();
 }
 
 OffscreenScene::~OffscreenScene()

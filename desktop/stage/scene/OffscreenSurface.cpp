@@ -7,19 +7,7 @@
 
 namespace brimshade::desktop {
 
-namespace {
-
-// The software renderer has no use for what it says it did not find.
-void initializeQuietly(QQuickRenderControl &control)
-{
-    const QtMessageHandler before =
-        qInstallMessageHandler([](QtMsgType, const QMessageLogContext &, const QString &) {});
-    control.initialize();
-    qInstallMessageHandler(before);
-}
-
-} // namespace
-
+// The control is never initialized: that is for the other renderers, and finds itself a GL where there is a display.
 OffscreenSurface::OffscreenSurface()
     : m_control(std::make_unique<QQuickRenderControl>()), m_window(std::make_unique<QQuickWindow>(m_control.get()))
 {
@@ -46,9 +34,6 @@ void OffscreenSurface::setSize(QSize size, double scale)
     m_window->setRenderTarget(target);
     m_window->setGeometry(QRect(QPoint(), size));
     m_window->contentItem()->setSize(size);
-    if (!m_isInitialized)
-        initializeQuietly(*m_control);
-    m_isInitialized = true;
 }
 
 void OffscreenSurface::layOut()

@@ -6,7 +6,8 @@
 
 namespace brimshade::desktop {
 
-// A Qt Quick window that no screen shows: laid out at once, drawn when a picture is asked for. Software renderer only.
+// A Qt Quick window that no screen shows: laid out at once, drawn when a picture is asked for. Software renderer only,
+// whatever else there is to draw with.
 class OffscreenSurface {
 public:
     OffscreenSurface();
@@ -21,7 +22,6 @@ private:
     std::unique_ptr<QQuickRenderControl> m_control;
     std::unique_ptr<QQuickWindow> m_window;
     QImage m_image;
-    bool m_isInitialized = false;
 };
 
 } // namespace brimshade::desktop

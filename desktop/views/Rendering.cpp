@@ -1,0 +1,34 @@
+#include "Rendering.h"
+
+#include <QQuickWindow>
+#include <QtGui/private/qfontengine_ft_p.h>
+
+#include FT_MODULE_H
+
+namespace brimshade::desktop {
+
+void preferSoftwareRenderer()
+{
+    if (!qEnvironmentVariableIsSet("QT_QUICK_BACKEND") && !qEnvironmentVariableIsSet("QSG_RHI_BACKEND")) {
+        useSoftwareRenderer();
+        return;
+    }
+    // Like the software renderer, the others are to give text no coloured edges.
+    constexpr auto edges = "QSG_DISTANCEFIELD_ANTIALIASING";
+    if (!qEnvironmentVariableIsSet(edges))
+        qputenv(edges, "gray");
+}
+
+void useSoftwareRenderer()
+{
+    QQuickWindow::setGraphicsApi(QSGRendererInterface::Software);
+}
+
+// Qt turns it on for a blending with gamma correction that text in Qt Quick does not get.
+void disableStemDarkening()
+{
+    FT_Bool off = true;
+    FT_Property_Set(qt_getFreetype(), "cff", "no-stem-darkening", &off);
+}
+
+} // namespace brimshade::desktop
