@@ -27,7 +27,8 @@ public:
     virtual void settle() = 0;
     virtual std::vector<View> views() const = 0; // of what is on screen
     virtual QImage picture() = 0; // of the whole desktop; null where it is too large to draw
-    // Of one of the program's windows, by its attributes' name; nothing when it is not on screen.
+    // Of one of the program's windows, by its attributes' name; nothing when it is not on screen. Of that alone, or,
+    // where a person looks on, with what shows through it and lies over it.
     virtual std::optional<QImage> picture(const QString &windowName) = 0;
 
     // These send the toolkit's own events, so that a script and a hand take one path.

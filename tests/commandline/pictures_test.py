@@ -16,6 +16,8 @@ NAME = "Pigment"
 DESKTOP = {"screens": [{"name": "Built-in Display", "frame": [0, 0, 1280, 800], "menuBarHeight": 37, "notch": [560, 720]}],
            "applications": [{"pid": 10, "name": NAME, "extras": [{"identifier": "a", "width": 40, "menu": ["Open"]}]}],
            "defaults": {"onboardingDone": True}}
+COLOURED_EDGES = """<?xml version="1.0"?><fontconfig><include>/etc/fonts/fonts.conf</include>
+  <match target="pattern"><edit name="rgba" mode="assign"><const>rgb</const></edit></match></fontconfig>"""
 
 NAME_IN_TILE = (0, 61, 64, 74)  # left, top, right, bottom; points
 NAME_SIZE = 10  # points
@@ -63,8 +65,8 @@ class Pictures(unittest.TestCase):
             program.wait(0.1)
         self.fail("the panel never came to rest")
 
-    def name_in(self, picture, tile, scale=1):
-        left, top = tile[:2]
+    def name_in(self, picture, tile, origin=(0, 0), scale=1):
+        left, top = tile[0] - origin[0], tile[1] - origin[1]
         box = [round((place + offset) * scale) for place, offset in zip((left, top, left, top), NAME_IN_TILE)]
         return Image.open(io.BytesIO(picture)).convert("RGB").crop(box)
 
@@ -85,6 +87,22 @@ class Pictures(unittest.TestCase):
                 drawn = ink(self.name_in(self.picture(program), tile, scale=scale))
                 true = ink_of_another_program(NAME_SIZE * scale)
                 self.assertAlmostEqual(drawn, true, delta=0.03 * true)
+
+    def test_of_one_window_are_its_part_of_a_window_and_text_has_no_coloured_edges_there(self):
+        self.session.write("fonts.conf", COLOURED_EDGES)
+        self.session.environment["FONTCONFIG_FILE"] = str(self.session.home / "fonts.conf")
+        program = self.start("--window")
+        tile = self.open_panel(program)
+        x, bottom, width, height = program.state()["panel"]["frame"]
+        top = DESKTOP["screens"][0]["frame"][3] - bottom - height
+        whole = Image.open(io.BytesIO(self.picture(program)))
+        panel = self.picture(program, of="panel")
+        part = whole.crop((x, top, x + width, top + height))
+        self.assertEqual(Image.open(io.BytesIO(panel)).tobytes(), part.tobytes())
+        name = self.name_in(panel, tile, origin=(x, top))
+        true = ink_of_another_program(NAME_SIZE)
+        self.assertAlmostEqual(ink(name), true, delta=0.03 * true)
+        self.assertEqual([pixel for pixel in name.getdata() if len(set(pixel)) > 1], [])
 
 
 if __name__ == "__main__":

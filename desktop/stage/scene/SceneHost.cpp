@@ -54,6 +54,8 @@ public:
     ~Private();
 
     QQuickWindow &window() const { return surface ? surface->window() : *ownWindow; }
+    QImage whole();
+    QImage partOf(const QImage &whole, const QQuickItem &item) const;
     QImage onlyFrame(const QQuickItem &frame);
 
     Desktop &desktop;
@@ -153,6 +155,18 @@ void SceneHost::Private::fit()
     root->setPosition({(room.width() - size.width() * factor) / 2, (room.height() - size.height() * factor) / 2});
 }
 
+QImage SceneHost::Private::whole()
+{
+    return surface ? surface->render() : ownWindow->grabWindow();
+}
+
+QImage SceneHost::Private::partOf(const QImage &whole, const QQuickItem &item) const
+{
+    const QRectF rect = item.mapRectToScene(QRectF({}, item.size())) & QRectF({}, window().size());
+    const double pixels = double(whole.width()) / window().width(); // a unit of the scene
+    return whole.copy(QRectF(rect.topLeft() * pixels, rect.size() * pixels).toAlignedRect());
+}
+
 // With everything beside it invisible, but present: what has focus or is hovered stays so.
 QImage SceneHost::Private::onlyFrame(const QQuickItem &frame)
 {
@@ -163,11 +177,10 @@ QImage SceneHost::Private::onlyFrame(const QQuickItem &frame)
         hidden.emplace_back(item, item->opacity());
         item->setOpacity(0);
     }
-    const QImage whole = surface->render();
+    const QImage picture = partOf(whole(), frame);
     for (const auto &[item, opacity] : hidden)
         item->setOpacity(opacity);
-    const QRectF rect = frame.mapRectToScene(QRectF({}, frame.size())) & QRectF({}, window().size());
-    return whole.copy(QRectF(rect.topLeft() * *scale, rect.size() * *scale).toAlignedRect());
+    return picture;
 }
 
 SceneHost::SceneHost(std::unique_ptr<Private> d_) : d(std::move(d_)) { }
@@ -215,17 +228,17 @@ std::vector<ScriptHost::View> SceneHost::views() const
 QImage SceneHost::picture()
 {
     settle();
-    return d->surface ? d->surface->render() : d->ownWindow->grabWindow();
+    return d->whole();
 }
 
 std::optional<QImage> SceneHost::picture(const QString &windowName)
 {
     const DesktopWindow *window = d->desktop.windows().named(windowName);
     const QQuickItem *frame = d->windows->frameOf(window);
-    if (!frame || !window->isVisible() || !d->surface)
+    if (!frame || !window->isVisible())
         return {};
     settle();
-    return d->onlyFrame(*frame);
+    return d->surface ? d->onlyFrame(*frame) : d->partOf(d->whole(), *frame); // nothing vanishes before a person's eyes
 }
 
 QQuickItem *SceneHost::contentOf(const DesktopWindow *window) const

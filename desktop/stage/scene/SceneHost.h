@@ -20,9 +20,9 @@ class VirtualDispatch;
 class SceneHost : public QObject, public ScriptHost {
     Q_OBJECT
 public:
-    // Without a window on any screen. Needs the software renderer (QT_QUICK_BACKEND=software before the application
-    // object). clock null: animations follow real time. Otherwise they follow that clock; since an animation clock is
-    // a property of the thread, at most one scene with a virtual clock may be alive in it.
+    // Without a window on any screen. Needs the software renderer. clock null: animations follow real time. Otherwise
+    // they follow that clock; since an animation clock is a property of the thread, at most one scene with a virtual
+    // clock may be alive in it.
     static std::unique_ptr<SceneHost> offscreen(Desktop &desktop, VirtualDispatch *clock, double scale = 1);
     // An ordinary window of the session, not shown yet: show quickWindow(). Closing it terminates nothing by itself.
     static std::unique_ptr<SceneHost> window(Desktop &desktop);
@@ -33,7 +33,7 @@ public:
 
     void settle() override;
     std::vector<View> views() const override;
-    QImage picture() override; // at the scale
+    QImage picture() override; // at the scale, or that of the window
     std::optional<QImage> picture(const QString &windowName) override;
     QQuickItem *contentOf(const DesktopWindow *window) const; // the view's root item; null for a native view
     bool isAnimating() const; // under a virtual clock: whether frames are asked of it
