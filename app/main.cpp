@@ -35,15 +35,28 @@ int complain(const QString &message)
     return kBadUse;
 }
 
-// Before the application object: they choose how Qt draws. The error is for standard error.
+// Before the application object. The error is for standard error.
 std::expected<void, QString> prepareEnvironment(const composition::CommandLine &line)
 {
     if (line.isSession)
         return desktop::session::ShellBackend::prepareEnvironment();
-    if (line.hasWindow)
-        return {};
-    qputenv("QT_QPA_PLATFORM", "offscreen");
+    if (!line.hasWindow)
+        qputenv("QT_QPA_PLATFORM", "offscreen");
     return {};
+}
+
+// Even where it is to draw off screen the application object looks for display servers, and warns of a runtime folder
+// that a machine without any need not have.
+std::unique_ptr<QGuiApplication> makeOffscreenApplication(int &argc, char **argv)
+{
+    const QtMessageHandler usual =
+        qInstallMessageHandler([](QtMsgType type, const QMessageLogContext &, const QString &message) {
+            if (type == QtFatalMsg)
+                complain(message);
+        });
+    auto application = std::make_unique<QGuiApplication>(argc, argv);
+    qInstallMessageHandler(usual);
+    return application;
 }
 
 void prepareRendering(bool hasWindow)
@@ -168,15 +181,16 @@ int main(int argc, char **argv)
 
     if (const auto prepared = prepareEnvironment(*line); !prepared)
         return complain(prepared.error());
-    QGuiApplication application(argc, argv);
-    application.setApplicationName(u"brimshade"_s);
+    const auto application =
+        line->hasWindow ? std::make_unique<QGuiApplication>(argc, argv) : makeOffscreenApplication(argc, argv);
+    application->setApplicationName(u"brimshade"_s);
     if (!line->isSession) // there it would stand once more in every window's title
-        application.setApplicationDisplayName(u"Brimshade"_s);
-    application.setDesktopFileName(u"org.brimshade.Brimshade"_s);
+        application->setApplicationDisplayName(u"Brimshade"_s);
+    application->setDesktopFileName(u"org.brimshade.Brimshade"_s);
     prepareRendering(line->hasWindow);
-    i18n::installTranslation(application, QLocale());
+    i18n::installTranslation(*application, QLocale());
     if (line->isSession)
-        i18n::installSessionTexts(application, QLocale());
+        i18n::installSessionTexts(*application, QLocale());
 
     return line->isSession ? runSession(*line, script.handle()) : runStage(*line, script.handle());
 }

@@ -11,13 +11,8 @@ PROGRAM = sys.argv.pop(1)
 SCREEN = {"name": "Built-in Display", "frame": [0, 0, 1512, 982], "menuBarHeight": 37, "notch": [663, 849]}
 
 
-RUNTIME = tempfile.TemporaryDirectory()  # without one of its own Qt says so on standard error
-ENVIRONMENT = {**os.environ, "XDG_RUNTIME_DIR": RUNTIME.name}
-
-
-def brimshade(*arguments, script=""):
-    return subprocess.run([PROGRAM, *arguments], input=script, capture_output=True, text=True, timeout=120,
-                          env=ENVIRONMENT)
+def brimshade(*arguments, script="", **options):
+    return subprocess.run([PROGRAM, *arguments], input=script, capture_output=True, text=True, timeout=120, **options)
 
 
 def play(*commands, arguments=()):
@@ -58,6 +53,13 @@ class CommandLine(Files):
                 self.assertEqual(done.returncode, 2)
                 self.assertIn(reason, done.stderr)
                 self.assertEqual(done.stderr.count("\n"), 1, done.stderr)
+
+    def test_only_its_own_words_go_to_standard_error(self):
+        bare = {"PATH": os.environ["PATH"]}  # no home, no locale, no runtime folder, no display
+        for real_time in [[], ["--real-time"]]:
+            picture = json.dumps({"do": "picture", "file": "/dev/null"})
+            self.assertEqual(brimshade("--script", "-", *real_time, script=picture, env=bare).stderr, "")
+        self.assertRegex(brimshade("--script", "/nowhere", env=bare).stderr, "^brimshade: .*\n$")
 
     def test_help_and_version_need_no_display(self):
         self.assertIn("--desktop", brimshade("--help").stdout)

@@ -1,7 +1,6 @@
 """Kills the program 200 times while it writes its settings as fast as it can; every start reads a whole file.
 Usage: kill_test.py PROGRAM"""
 import json
-import os
 import pathlib
 import random
 import signal
@@ -33,10 +32,8 @@ class KillTest(unittest.TestCase):
 
     def run_and_kill(self, toggles):
         """The settings that the program found at its start; it is killed after about so many changes."""
-        environment = {**os.environ, "XDG_RUNTIME_DIR": str(self.folder)}
         with subprocess.Popen([PROGRAM, "--script", "-", "--desktop", self.desktop, "--defaults", self.store],
-                              stdin=subprocess.PIPE, stdout=subprocess.PIPE, stderr=subprocess.PIPE, text=True,
-                              env=environment) as program:
+                              stdin=subprocess.PIPE, stdout=subprocess.PIPE, stderr=subprocess.PIPE, text=True) as program:
             program.stdin.write(SCRIPT)
             program.stdin.flush()
             answers = [json.loads(program.stdout.readline()) for _ in range(1 + len(OPEN_SETTINGS) + toggles)]
