@@ -85,6 +85,18 @@ function(brimshade_program name source)
   _brimshade_note_links(${source} ${name} "" "" "${arg_LINK}")
 endfunction()
 
+# Every test has the build folder's home instead of the user's.
+set(BRIMSHADE_TEST_HOME ${CMAKE_BINARY_DIR}/tests/home)
+file(MAKE_DIRECTORY ${BRIMSHADE_TEST_HOME}/runtime)
+file(CHMOD ${BRIMSHADE_TEST_HOME}/runtime PERMISSIONS OWNER_READ OWNER_WRITE OWNER_EXECUTE)
+
+function(_brimshade_test_properties name)
+  set_tests_properties(${name} PROPERTIES TIMEOUT 300
+    ENVIRONMENT "LC_ALL=C.UTF-8;HOME=${BRIMSHADE_TEST_HOME};XDG_RUNTIME_DIR=${BRIMSHADE_TEST_HOME}/runtime"
+    ENVIRONMENT_MODIFICATION
+      "XDG_CACHE_HOME=unset:;XDG_CONFIG_HOME=unset:;XDG_DATA_HOME=unset:;XDG_STATE_HOME=unset:")
+endfunction()
+
 # brimshade_test(model MOC SOURCES … LINK …): a GoogleTest program "model_test", which is one ctest entry.
 # NO_MAIN when the sources bring a main of their own.
 function(brimshade_test name)
@@ -97,6 +109,12 @@ function(brimshade_test name)
   set_target_properties(${name}_test PROPERTIES
     AUTOMOC ${arg_MOC} RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/tests)
   add_test(NAME ${name} COMMAND ${name}_test)
-  set_tests_properties(${name} PROPERTIES
-    ENVIRONMENT "QT_QPA_PLATFORM=offscreen;QT_QUICK_BACKEND=software;LC_ALL=C.UTF-8" TIMEOUT 300)
+  _brimshade_test_properties(${name})
+endfunction()
+
+# brimshade_python_test(kill kill_test.py $<TARGET_FILE:brimshade>): a script with its arguments, which is one ctest entry.
+function(brimshade_python_test name source)
+  find_program(SYSTEM_PYTHON python3 PATHS /usr/bin NO_DEFAULT_PATH REQUIRED)
+  add_test(NAME ${name} COMMAND ${SYSTEM_PYTHON} ${CMAKE_CURRENT_SOURCE_DIR}/${source} ${ARGN})
+  _brimshade_test_properties(${name})
 endfunction()

@@ -54,11 +54,11 @@ class Session:
 
     def __init__(self):
         self.home = pathlib.Path(tempfile.mkdtemp(prefix="brimshade-session-"))
-        runtime = self.home / "runtime"
-        runtime.mkdir(mode=0o700)
+        for folder in ("runtime", "tmp"):
+            (self.home / folder).mkdir(mode=0o700)
         self.environment = {
-            "PATH": os.environ["PATH"], "HOME": str(self.home), "XDG_RUNTIME_DIR": str(runtime),
-            "XDG_CURRENT_DESKTOP": "KDE", "LC_ALL": "C.UTF-8", "NO_AT_BRIDGE": "1",
+            "PATH": os.environ["PATH"], "HOME": str(self.home), "XDG_RUNTIME_DIR": str(self.home / "runtime"),
+            "TMPDIR": str(self.home / "tmp"), "XDG_CURRENT_DESKTOP": "KDE", "LC_ALL": "C.UTF-8", "NO_AT_BRIDGE": "1",
         }
         self._processes = []
         self.environment["DISPLAY"] = ":" + self._first_line_of(

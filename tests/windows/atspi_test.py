@@ -139,4 +139,4 @@ class AccessibilityBus(unittest.TestCase):
 
 if __name__ == "__main__":
     BINARY = sys.argv.pop(1)
-    unittest.main(verbosity=2)
+    unittest.main(verbosity=2, warnings="ignore")  # what the bindings are warned of
