@@ -6,6 +6,7 @@
 #include "desktop/script/ScriptRunner.h"
 #include "desktop/services/AutostartLoginItem.h"
 #include "desktop/services/HotkeyRegistry.h"
+#include "desktop/services/SymbolService.h"
 #include "desktop/services/X11KeyGrabber.h"
 #include "desktop/session/SessionClock.h"
 #include "desktop/session/SessionHost.h"
@@ -14,7 +15,6 @@
 #include "desktop/session/surface/ShellBackend.h"
 #include "desktop/time/RealDispatch.h"
 #include "desktop/tray/TrayHost.h"
-#include "ui/SymbolService.h"
 
 #include <QFile>
 #include <QGuiApplication>
@@ -52,7 +52,7 @@ public:
     ~Parts();
 
     desktop::RealDispatch dispatch;
-    ui::SymbolService symbols;
+    desktop::SymbolService symbols;
     std::unique_ptr<ShellBackend> shell;
     std::unique_ptr<desktop::MemoryDefaults> defaults; // the desktop's, from its making on
     SessionScreens screens;

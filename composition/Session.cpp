@@ -6,13 +6,13 @@
 #include "desktop/script/ScriptRunner.h"
 #include "desktop/services/AutostartLoginItem.h"
 #include "desktop/services/HotkeyRegistry.h"
+#include "desktop/services/SymbolService.h"
 #include "desktop/services/X11KeyGrabber.h"
 #include "desktop/stage/scene/SceneHost.h"
 #include "desktop/stage/world/WorldCommands.h"
 #include "desktop/time/RealDispatch.h"
 #include "desktop/time/VirtualDispatch.h"
 #include "desktop/tray/TrayHost.h"
-#include "ui/SymbolService.h"
 
 #include <QGuiApplication>
 #include <QQuickWindow>
@@ -53,7 +53,7 @@ public:
 
     std::unique_ptr<desktop::RealDispatch> realTime;
     std::unique_ptr<desktop::VirtualDispatch> virtualTime;
-    ui::SymbolService symbols;
+    desktop::SymbolService symbols;
     std::unique_ptr<desktop::Desktop> desktop;
     std::unique_ptr<desktop::SceneHost> scene;
     std::shared_ptr<app::AppDelegate> delegate;

@@ -1,5 +1,6 @@
 pragma ComponentBehavior: Bound
 import QtQuick
+import Brimshade.Model
 import Brimshade.Panel
 import Brimshade.Ui
 

@@ -1,16 +1,10 @@
 #pragma once
 #include "Image.h"
+#include "SymbolConfiguration.h"
 
 #include <QString>
 
 namespace brimshade::platform {
-
-enum class SymbolWeight { regular, medium, semibold, bold };
-
-struct SymbolConfiguration {
-    double pointSize = 13;
-    SymbolWeight weight = SymbolWeight::regular;
-};
 
 // The system's symbols, by name. A name the system lacks gives a null image.
 class Symbols {

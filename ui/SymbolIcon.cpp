@@ -1,5 +1,5 @@
 #include "SymbolIcon.h"
-#include "SymbolTable.h"
+#include "ui/symbols/SymbolTable.h"
 
 #include <QDataStream>
 #include <QIODevice>

@@ -1,6 +1,6 @@
 #pragma once
 #include "DrawnItem.h"
-#include "platform/Symbol.h"
+#include "platform/SymbolConfiguration.h"
 
 #include <QColor>
 

@@ -1,7 +1,6 @@
 pragma ComponentBehavior: Bound
 import QtQuick
 import QtQuick.Templates as T
-import Brimshade.Panel
 import Brimshade.Ui
 
 // One menu bar item of the setup flow: lit where it stays in the menu bar, dimmed where it is tucked away.

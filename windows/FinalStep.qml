@@ -1,6 +1,6 @@
 pragma ComponentBehavior: Bound
 import QtQuick
-import Brimshade.Panel
+import Brimshade.Model
 import Brimshade.Ui
 import Brimshade.Windows
 

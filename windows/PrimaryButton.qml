@@ -1,7 +1,6 @@
 pragma ComponentBehavior: Bound
 import QtQuick
 import QtQuick.Templates as T
-import Brimshade.Panel
 import Brimshade.Ui
 
 // The white call to action. The view that holds it presses it on Return, wherever the keyboard is.

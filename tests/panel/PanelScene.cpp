@@ -2,6 +2,7 @@
 
 #include <QtQml/qqmlextensionplugin.h>
 
+Q_IMPORT_QML_PLUGIN(Brimshade_ModelPlugin)
 Q_IMPORT_QML_PLUGIN(Brimshade_UiPlugin)
 Q_IMPORT_QML_PLUGIN(Brimshade_PanelPlugin)
 
@@ -55,6 +56,7 @@ PanelScene::PanelScene(int hidden, int visible, double scale) : scene({1000, 720
     model.setScanned(true);
     scene.load(R"(
         import QtQuick
+        import Brimshade.Model
         import Brimshade.Panel
         Item {
             id: root

@@ -1,5 +1,5 @@
 #include "support/Test.h"
-#include "ui/SymbolTable.h"
+#include "ui/symbols/SymbolTable.h"
 
 namespace brimshade::ui {
 

@@ -6,7 +6,7 @@
 #include <QTranslator>
 #include <QtQml/qqmlextensionplugin.h>
 
-Q_IMPORT_QML_PLUGIN(Brimshade_PanelPlugin)
+Q_IMPORT_QML_PLUGIN(Brimshade_ModelPlugin)
 Q_IMPORT_QML_PLUGIN(Brimshade_UiPlugin)
 Q_IMPORT_QML_PLUGIN(Brimshade_WindowsPlugin)
 

@@ -1,7 +1,7 @@
 #pragma once
 #include "desktop/stage/scene/SceneHost.h"
 #include "support/TestDesktop.h"
-#include "ui/SymbolService.h"
+#include "desktop/services/SymbolService.h"
 
 #include <QQuickItem>
 #include <QQuickWindow>
@@ -71,7 +71,7 @@ public:
 private:
     const double m_scale;
     VirtualDispatch m_clock;
-    ui::SymbolService m_symbols;
+    SymbolService m_symbols;
     Recorder m_recorder;
     std::unique_ptr<Desktop> m_desktop;
     std::unique_ptr<SceneHost> m_scene;

@@ -6,7 +6,7 @@
 
 #include <qqml.h>
 
-namespace brimshade::panel {
+namespace brimshade::model {
 
 struct NotchModelForeign {
     Q_GADGET
@@ -29,4 +29,4 @@ struct PermissionRequestForeign {
     QML_UNCREATABLE("The program has one and hands it to its views.")
 };
 
-} // namespace brimshade::panel
+} // namespace brimshade::model

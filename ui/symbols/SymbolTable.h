@@ -1,5 +1,5 @@
 #pragma once
-#include "platform/Symbol.h"
+#include "platform/SymbolConfiguration.h"
 
 #include <QColor>
 #include <QPainter>

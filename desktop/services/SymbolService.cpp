@@ -1,9 +1,9 @@
 #include "SymbolService.h"
-#include "SymbolTable.h"
+#include "ui/symbols/SymbolTable.h"
 
 #include <utility>
 
-namespace brimshade::ui {
+namespace brimshade::desktop {
 
 namespace {
 
@@ -16,11 +16,11 @@ public:
 
     void draw(QPainter &painter, const QRectF &rect) const override
     {
-        const double extent = symbolExtent(m_configuration.pointSize);
+        const double extent = ui::symbolExtent(m_configuration.pointSize);
         painter.save();
         painter.translate(rect.topLeft());
         painter.scale(rect.width() / extent, rect.height() / extent);
-        paintSymbol(painter, m_outline, m_configuration, Qt::black);
+        ui::paintSymbol(painter, m_outline, m_configuration, Qt::black);
         painter.restore();
     }
 
@@ -44,11 +44,11 @@ private:
 platform::Image SymbolService::symbolImage(const QString &name, const QString &,
                                            const platform::SymbolConfiguration &configuration)
 {
-    QPainterPath outline = symbolOutline(name);
+    QPainterPath outline = ui::symbolOutline(name);
     if (outline.isEmpty())
         return {};
-    const double extent = symbolExtent(configuration.pointSize);
+    const double extent = ui::symbolExtent(configuration.pointSize);
     return {std::make_shared<SymbolSource>(std::move(outline), configuration), QSizeF(extent, extent), true};
 }
 
-} // namespace brimshade::ui
+} // namespace brimshade::desktop
