@@ -70,13 +70,13 @@ Item {
     }
     Shadow {
         objectName: "panelShadow"
-        x: tab.x + 14
+        x: tab.x + PanelMetrics.openFlare
         y: 14
-        width: tab.width - 28
+        width: tab.width - 2 * PanelMetrics.openFlare
         height: tab.height
         visible: opacity > 0
         opacity: Math.max(0, Math.min(1, openness.value))
-        radius: 32
+        radius: PanelMetrics.openCorner
         blur: 28
         color: Qt.rgba(0, 0, 0, 0.55)
     }
@@ -100,7 +100,7 @@ Item {
             id: content
             objectName: "content"
             x: (root.width - width) / 2 - parent.x
-            width: openWidth.value - 28 - 2 * 22
+            width: openWidth.value - 2 * (PanelMetrics.openFlare + PanelMetrics.sidePadding)
 
             PanelHeader {
                 objectName: "header"

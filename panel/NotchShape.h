@@ -17,7 +17,4 @@ struct NotchShape {
     static NotchShape between(const NotchShape &from, const NotchShape &to, double progress);
 };
 
-inline constexpr NotchShape kClosedShape{6, 10};
-inline constexpr NotchShape kOpenShape{14, 32};
-
 } // namespace brimshade::panel

@@ -1,5 +1,6 @@
 #include "NotchTab.h"
 #include "NotchTabNode.h"
+#include "model/PanelMetrics.h"
 
 #include <QMouseEvent>
 #include <QQuickWindow>
@@ -10,8 +11,11 @@ namespace brimshade::panel {
 
 namespace {
 
-constexpr double kContentInset = 14 + 22; // of the content from the open tab's frame: the flare and the padding
-constexpr double kContentBottom = 4; // what lies between it and the open tab's lower edge
+using Metrics = model::PanelMetrics;
+
+constexpr NotchShape kClosedShape{Metrics::closedFlare, Metrics::closedCorner};
+constexpr NotchShape kOpenShape{Metrics::openFlare, Metrics::openCorner};
+constexpr double kContentInset = Metrics::openFlare + Metrics::sidePadding; // of the content from the open tab's frame
 constexpr double kHalfPixel = 0.5; // points: how far the shape on whole pixels may be from the exact one
 
 // How far above the lower edge a lower corner of that radius begins, at a distance from the body's side.
@@ -61,7 +65,7 @@ QRectF NotchTab::interior() const
     const double content = width() / 2 - m_shape.top - (m_openSize.width() / 2 - kContentInset); // from the side
     const double nearest = std::max(content, radius / 8 + kHalfPixel);
     const double inset = m_shape.top + (nearest > content ? nearest : 0);
-    const double below = std::max(kContentBottom, cornerHeight(radius + kHalfPixel, nearest - kHalfPixel));
+    const double below = std::max(Metrics::bottomMargin, cornerHeight(radius + kHalfPixel, nearest - kHalfPixel));
     return {x() + inset, 0, std::max(0.0, width() - 2 * inset), std::max(0.0, height() - below)};
 }
 

@@ -25,7 +25,7 @@ Item {
     Spinner {
         objectName: "spinner"
         anchors.horizontalCenter: parent.horizontalCenter
-        y: 30 - height / 2
+        y: (PanelMetrics.waitingHeight - height) / 2
         visible: root.presented && root.panelState.body === PanelState.Waiting
         color: "white"
     }
@@ -33,7 +33,7 @@ Item {
         objectName: "noItems"
         visible: root.panelState.body === PanelState.NoItems
         width: parent.width
-        height: 60
+        height: PanelMetrics.waitingHeight
         text: root.panelState.sentence
         size: 12
         font.weight: Font.Medium

@@ -1,5 +1,6 @@
 pragma ComponentBehavior: Bound
 import QtQuick
+import Brimshade.Model
 import Brimshade.Panel
 import Brimshade.Ui
 
@@ -23,7 +24,7 @@ Item {
         verticalAlignment: Text.AlignVCenter
     }
 
-    height: 18
+    height: PanelMetrics.footerHeight
 
     FooterText {
         id: lines

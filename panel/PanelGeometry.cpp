@@ -1,5 +1,5 @@
 #include "PanelGeometry.h"
-#include "GridMetrics.h"
+#include "model/PanelMetrics.h"
 
 #include <algorithm>
 #include <optional>
@@ -7,15 +7,9 @@
 namespace brimshade::panel {
 
 using model::NotchModel;
+using Metrics = model::PanelMetrics;
 
 namespace {
-
-constexpr double kClosedExtraWidth = 12;
-constexpr double kTopPadding = 10;
-constexpr double kSpacing = 14; // between sections, sentence and footer
-constexpr double kSentenceHeight = 74;
-constexpr double kFooterHeight = 18;
-constexpr double kBottomMargin = 4; // what the panel's height leaves under the footer
 
 std::optional<int> placeOf(const QString &id, const NotchModel &model, const NotchModel::Matches &matches)
 {
@@ -46,7 +40,7 @@ void PanelGeometry::setSource(NotchModel *source)
 
 QSizeF PanelGeometry::closedSize() const
 {
-    return m_source ? m_source->notch() + QSizeF(kClosedExtraWidth, 0) : QSizeF();
+    return m_source ? m_source->notch() + QSizeF(2 * Metrics::closedFlare, 0) : QSizeF();
 }
 
 QSizeF PanelGeometry::openSize() const
@@ -56,13 +50,13 @@ QSizeF PanelGeometry::openSize() const
 
 double PanelGeometry::hiddenSectionY() const
 {
-    return kTopPadding;
+    return Metrics::topPadding;
 }
 
 double PanelGeometry::visibleSectionY() const
 {
     const int hidden = m_source ? m_source->hiddenMatchCount() : 0;
-    return kTopPadding + (hidden > 0 ? m_source->gridHeight(hidden) + kSpacing : 0);
+    return Metrics::topPadding + (hidden > 0 ? m_source->gridHeight(hidden) + Metrics::spacing : 0);
 }
 
 double PanelGeometry::contentHeight() const
@@ -72,21 +66,23 @@ double PanelGeometry::contentHeight() const
     const int hidden = m_source->hiddenMatchCount();
     const int visible = m_source->visibleMatchCount();
     if (hidden + visible == 0)
-        return kTopPadding + kSentenceHeight;
-    return visible > 0 ? visibleSectionY() + m_source->gridHeight(visible) : kTopPadding + m_source->gridHeight(hidden);
+        return Metrics::topPadding + Metrics::sentenceHeight;
+    return visible > 0 ? visibleSectionY() + m_source->gridHeight(visible)
+                       : Metrics::topPadding + m_source->gridHeight(hidden);
 }
 
 double PanelGeometry::viewportHeight() const
 {
     if (!m_source)
         return 0;
-    const double room = openSize().height() - m_source->notch().height() - kSpacing - kFooterHeight - kBottomMargin;
+    const double room = openSize().height() - m_source->notch().height() - Metrics::spacing - Metrics::footerHeight
+        - Metrics::bottomMargin;
     return std::clamp(room, 0.0, contentHeight());
 }
 
 double PanelGeometry::footerY() const
 {
-    return viewportHeight() + kSpacing;
+    return viewportHeight() + Metrics::spacing;
 }
 
 double PanelGeometry::clampedScroll(double scroll) const
@@ -107,9 +103,9 @@ double PanelGeometry::scrollShowing(const QString &id, double scroll) const
     if (!place)
         return clampedScroll(scroll);
     const int row = *place / m_source->columns();
-    const double tileY = sectionY + kSectionTitleHeight + row * kRowPitch;
-    const double top = row == 0 ? sectionY - kTopPadding : tileY - kTileSpacing;
-    const double bottom = tileY + kTileHeight + kTileSpacing;
+    const double tileY = sectionY + Metrics::sectionTitleHeight + row * Metrics::rowPitch;
+    const double top = row == 0 ? sectionY - Metrics::topPadding : tileY - Metrics::tileSpacing;
+    const double bottom = tileY + Metrics::tileHeight + Metrics::tileSpacing;
     return clampedScroll(std::min(top, std::max(scroll, bottom - viewportHeight())));
 }
 

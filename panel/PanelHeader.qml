@@ -13,7 +13,7 @@ Item {
     required property HelpTip helpTip
 
     readonly property color dim: Qt.rgba(1, 1, 1, 0.45)
-    readonly property real sideWidth: (root.width - root.model.notch.width - 24) / 2
+    readonly property real sideWidth: (root.width - root.model.notch.width - PanelMetrics.notchClearance) / 2
 
     enabled: root.panelState.hasHeader
     opacity: fade.value

@@ -93,7 +93,7 @@ Item {
             objectName: "noMatches"
             y: root.geometry.hiddenSectionY
             width: parent.width
-            height: 74
+            height: PanelMetrics.sentenceHeight
             query: root.model.query
             panelState: root.panelState
         }

@@ -23,8 +23,8 @@ Item {
 
     readonly property real shown: Math.max(0, Math.min(1, entrance.value))
 
-    width: 64
-    height: 74
+    width: PanelMetrics.tileWidth
+    height: PanelMetrics.tileHeight
     opacity: root.shown * arrival.value
     transform: [
         Scale {
@@ -95,9 +95,9 @@ Item {
         }
         StyledText {
             objectName: "name"
-            y: 61
+            y: PanelMetrics.faceSide + PanelMetrics.faceSpacing
             width: parent.width
-            height: 13
+            height: parent.height - y
             text: root.name
             size: 10
             font.weight: Font.Medium

@@ -1,5 +1,6 @@
 pragma ComponentBehavior: Bound
 import QtQuick
+import Brimshade.Model
 import Brimshade.Ui
 
 // A rounded square with the item's icon or symbol. Every change of look is an opacity: the pictures stay. What is to be
@@ -25,8 +26,8 @@ Item {
         return Qt.rgba(1, 1, 1, (highlighted - rest) / (1 - rest));
     }
 
-    width: 54
-    height: 54
+    width: PanelMetrics.faceSide
+    height: PanelMetrics.faceSide
     scale: 1 + 0.07 * root.highlight
 
     SpringValue {

@@ -18,12 +18,8 @@ Item {
     required property real viewTop // what of the section is in view, in its own coordinates
     required property real viewBottom
 
-    readonly property real titleHeight: 24
-    readonly property real pitchX: 74
-    readonly property real pitchY: 84
-
     StyledText {
-        height: root.titleHeight
+        height: PanelMetrics.sectionTitleHeight
         text: root.title.toUpperCase()
         size: 9.5
         font.weight: Font.Bold
@@ -35,8 +31,8 @@ Item {
         model: TilesModel {
             source: root.model
             section: root.section
-            viewTop: root.viewTop - root.titleHeight
-            viewBottom: root.viewBottom - root.titleHeight
+            viewTop: root.viewTop - PanelMetrics.sectionTitleHeight
+            viewBottom: root.viewBottom - PanelMetrics.sectionTitleHeight
         }
         delegate: Tile {
             id: tile
@@ -45,8 +41,8 @@ Item {
             readonly property int columns: root.model.columns
 
             objectName: "tile"
-            x: column.value * root.pitchX
-            y: root.titleHeight + row.value * root.pitchY
+            x: column.value * PanelMetrics.columnPitch
+            y: PanelMetrics.sectionTitleHeight + row.value * PanelMetrics.rowPitch
             index: root.startIndex + tile.position
             actions: root.actions
             open: root.model.isOpen

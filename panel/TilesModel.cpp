@@ -1,5 +1,5 @@
 #include "TilesModel.h"
-#include "GridMetrics.h"
+#include "TilesInView.h"
 
 #include <QSet>
 #include <algorithm>

@@ -1,6 +1,7 @@
 #pragma once
 // The model's types under their own names in QML: the model itself knows nothing of QML.
 #include "model/NotchModel.h"
+#include "model/PanelMetrics.h"
 #include "model/PermissionRequest.h"
 #include "model/TileActions.h"
 
@@ -27,6 +28,13 @@ struct PermissionRequestForeign {
     QML_FOREIGN(brimshade::model::PermissionRequest)
     QML_NAMED_ELEMENT(PermissionRequest)
     QML_UNCREATABLE("The program has one and hands it to its views.")
+};
+
+struct PanelMetricsForeign {
+    Q_GADGET
+    QML_FOREIGN(brimshade::model::PanelMetrics)
+    QML_NAMED_ELEMENT(PanelMetrics)
+    QML_SINGLETON
 };
 
 } // namespace brimshade::model

@@ -5,6 +5,9 @@
 
 namespace brimshade::panel {
 
+constexpr NotchShape kOpenShape{14, 32};
+constexpr NotchShape kClosedShape{6, 10};
+
 TEST(NotchShape, ItsLowerCornersFitTheFrame)
 {
     const std::tuple<NotchShape, QSizeF, double> cases[] = {

@@ -1,6 +1,6 @@
 #include "panel/TilesModel.h"
 #include "PanelScene.h"
-#include "panel/GridMetrics.h"
+#include "panel/TilesInView.h"
 
 #include <QAbstractItemModelTester>
 #include <QRandomGenerator>
