@@ -8,7 +8,7 @@ namespace brimshade::desktop {
 
 namespace {
 
-constexpr double kEdgeStep = kMenuRowHeight; // a pointer at the end of a cut list scrolls it by a row
+constexpr double kEdgeStep = MenuMetrics::rowHeight; // a pointer at the end of a cut list scrolls it by a row
 
 const std::vector<MenuEntry> *entriesOf(const std::vector<MenuEntry> &entries, int owner)
 {
@@ -142,9 +142,9 @@ void MenuController::pointerMoved(QPointF to)
         return;
     }
     MenuLevel &level = *m_levels[depth];
-    if (level.canScrollUp() && to.y() < level.frame().top() + kMenuRowHeight)
+    if (level.canScrollUp() && to.y() < level.frame().top() + MenuMetrics::rowHeight)
         level.scrollBy(-kEdgeStep);
-    else if (level.canScrollDown() && to.y() > level.frame().bottom() - kMenuRowHeight)
+    else if (level.canScrollDown() && to.y() > level.frame().bottom() - MenuMetrics::rowHeight)
         level.scrollBy(kEdgeStep);
     select(depth, level.rowAt(to));
     if (int(m_levels.size()) == depth + 1)

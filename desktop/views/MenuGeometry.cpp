@@ -10,8 +10,6 @@ namespace brimshade::desktop {
 
 namespace {
 
-constexpr double kSideInset = 5; // of a row in its menu
-constexpr double kTextInset = 10;
 constexpr double kToggleWidth = 16;
 constexpr double kIconGap = 7;
 constexpr double kShortcutGap = 28;
@@ -24,7 +22,7 @@ constexpr double kSubmenuOverlap = 3;
 QFontMetricsF metrics()
 {
     QFont font(u"Inter"_s);
-    font.setPixelSize(int(kMenuTextSize));
+    font.setPixelSize(int(MenuMetrics::textSize));
     return QFontMetricsF(font);
 }
 
@@ -41,9 +39,9 @@ MenuColumns menuColumns(const std::vector<MenuEntry> &entries)
     const auto uses = [&](auto what) { return std::any_of(entries.begin(), entries.end(), what); };
     if (uses([](const MenuEntry &each) { return each.toggle != MenuEntry::Toggle::none; }))
         columns.toggle = kToggleWidth;
-    columns.icon = kTextInset + columns.toggle;
+    columns.icon = MenuMetrics::textInset + columns.toggle;
     const bool hasIcons = uses([](const MenuEntry &each) { return !each.icon.isNull(); });
-    columns.text = columns.icon + (hasIcons ? kMenuIconSize + kIconGap : 0);
+    columns.text = columns.icon + (hasIcons ? MenuMetrics::iconSize + kIconGap : 0);
     const QFontMetricsF font = metrics();
     for (const MenuEntry &each : entries)
         columns.shortcut = std::max(columns.shortcut, font.horizontalAdvance(each.shortcut));
@@ -52,7 +50,7 @@ MenuColumns menuColumns(const std::vector<MenuEntry> &entries)
 
 double menuRowHeight(const MenuEntry &entry)
 {
-    return entry.isSeparator ? kMenuSeparatorHeight : kMenuRowHeight;
+    return entry.isSeparator ? MenuMetrics::separatorHeight : MenuMetrics::rowHeight;
 }
 
 QSizeF menuSize(const std::vector<MenuEntry> &entries)
@@ -60,7 +58,7 @@ QSizeF menuSize(const std::vector<MenuEntry> &entries)
     const QFontMetricsF font = metrics();
     const MenuColumns columns = menuColumns(entries);
     double text = 0;
-    double height = 2 * kMenuPadding;
+    double height = 2 * MenuMetrics::padding;
     bool hasSubmenus = false;
     for (const MenuEntry &each : entries) {
         text = std::max(text, font.horizontalAdvance(each.title));
@@ -68,7 +66,7 @@ QSizeF menuSize(const std::vector<MenuEntry> &entries)
         hasSubmenus = hasSubmenus || each.hasSubmenu;
     }
     const double right = columns.shortcut > 0 ? kShortcutGap + columns.shortcut : hasSubmenus ? kArrowWidth : 0;
-    const double width = 2 * kSideInset + columns.text + text + right + kTextInset;
+    const double width = 2 * MenuMetrics::sideInset + columns.text + text + right + MenuMetrics::textInset;
     return {std::ceil(std::clamp(width, kNarrowest, kWidest)), height};
 }
 
@@ -89,7 +87,7 @@ QRectF placeSubmenu(const QRectF &row, const QSizeF &size, const QRectF &screen)
     const double x = fitsRight ? row.right() - kSubmenuOverlap : row.left() + kSubmenuOverlap - size.width();
     const double top = screen.top() + kScreenMargin;
     const double lowest = screen.bottom() - kScreenMargin;
-    const double y = clampedStart(row.y() - kMenuPadding, size.height(), top, lowest);
+    const double y = clampedStart(row.y() - MenuMetrics::padding, size.height(), top, lowest);
     return {std::max(x, screen.left() + kScreenMargin), y, size.width(), std::min(size.height(), lowest - y)};
 }
 

@@ -1,4 +1,5 @@
 #pragma once
+#include "MenuMetrics.h"
 #include "desktop/core/MenuSource.h"
 
 #include <QRectF>
@@ -7,16 +8,10 @@
 // How large a menu is and where it goes. Pure but for the font's measures; points, display space.
 namespace brimshade::desktop {
 
-inline constexpr double kMenuPadding = 5; // above the first row and below the last
-inline constexpr double kMenuRowHeight = 22;
-inline constexpr double kMenuSeparatorHeight = 11;
-inline constexpr double kMenuTextSize = 13;
-inline constexpr double kMenuIconSize = 16;
-
 // Columns within a row, from its left edge. A column that no entry uses has no width.
 struct MenuColumns {
-    double text = 10;
-    double icon = 10; // left edge of the icons
+    double text = MenuMetrics::textInset;
+    double icon = MenuMetrics::textInset; // left edge of the icons
     double toggle = 0; // width
     double shortcut = 0; // width, right-aligned before the arrows
 };

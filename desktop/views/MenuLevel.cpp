@@ -10,7 +10,7 @@ void MenuLevel::setEntries(const std::vector<MenuEntry> &entries)
     const int chosen = before ? before->id : 0;
     beginResetModel();
     m_entries = entries;
-    m_tops.assign(1, kMenuPadding);
+    m_tops.assign(1, MenuMetrics::padding);
     m_current = -1;
     for (const MenuEntry &each : m_entries) {
         if (chosen && each.id == chosen && isChoosable(each))
@@ -40,10 +40,10 @@ void MenuLevel::setCurrent(int row)
     if (row < 0)
         return;
     const QRectF frame = rowFrame(row);
-    if (frame.top() < m_frame.top() + kMenuPadding)
-        setScroll(m_scroll - (m_frame.top() + kMenuPadding - frame.top()));
-    else if (frame.bottom() > m_frame.bottom() - kMenuPadding)
-        setScroll(m_scroll + frame.bottom() - (m_frame.bottom() - kMenuPadding));
+    if (frame.top() < m_frame.top() + MenuMetrics::padding)
+        setScroll(m_scroll - (m_frame.top() + MenuMetrics::padding - frame.top()));
+    else if (frame.bottom() > m_frame.bottom() - MenuMetrics::padding)
+        setScroll(m_scroll + frame.bottom() - (m_frame.bottom() - MenuMetrics::padding));
 }
 
 void MenuLevel::scrollBy(double points)
@@ -62,7 +62,7 @@ void MenuLevel::setScroll(double scroll)
 
 double MenuLevel::largestScroll() const
 {
-    return m_tops.empty() ? 0 : std::max(0.0, m_tops.back() + kMenuPadding - m_frame.height());
+    return m_tops.empty() ? 0 : std::max(0.0, m_tops.back() + MenuMetrics::padding - m_frame.height());
 }
 
 const MenuEntry *MenuLevel::currentEntry() const

@@ -1,5 +1,6 @@
 pragma ComponentBehavior: Bound
 import QtQuick
+import Brimshade.Desktop
 import Brimshade.Ui
 
 // One entry of an open menu.
@@ -15,13 +16,13 @@ Item {
     required property var image
     required property string shortcut
     required property bool hasSubmenu
-    property bool isCurrent: false
-    property real textColumn: 10
-    property real iconColumn: 10
+    required property bool isCurrent
+    required property real textColumn
+    required property real iconColumn
     readonly property color ink: root.isCurrent ? "white" : Qt.rgba(0, 0, 0, root.isEnabled ? 0.87 : 0.28)
 
     objectName: "menuRow"
-    height: root.isSeparator ? 11 : 22
+    height: root.isSeparator ? MenuMetrics.separatorHeight : MenuMetrics.rowHeight
 
     Accessible.role: root.isSeparator ? Accessible.Separator : Accessible.MenuItem
     Accessible.name: root.isSeparator ? "" : root.title
@@ -32,16 +33,16 @@ Item {
 
     Rectangle {
         visible: root.isSeparator
-        x: 15
-        y: 5
-        width: root.width - 30
+        x: MenuMetrics.sideInset + MenuMetrics.textInset
+        y: (MenuMetrics.separatorHeight - height) / 2
+        width: root.width - 2 * x
         height: 1
         color: Qt.rgba(0, 0, 0, 0.11)
     }
     RoundedShape {
         visible: root.isCurrent
-        x: 5
-        width: root.width - 10
+        x: MenuMetrics.sideInset
+        width: root.width - 2 * x
         height: root.height
         radius: 4.5
         color: "#0a7aff"
@@ -66,22 +67,22 @@ Item {
         color: root.ink
     }
     ImageView {
-        x: root.iconColumn + 5
+        x: MenuMetrics.sideInset + root.iconColumn
         anchors.verticalCenter: parent.verticalCenter
-        width: 16
-        height: 16
+        width: MenuMetrics.iconSize
+        height: MenuMetrics.iconSize
         image: root.image
         templateColor: root.ink
         opacity: root.isEnabled ? 1 : 0.4
     }
     StyledText {
         visible: !root.isSeparator
-        x: root.textColumn + 5
+        x: MenuMetrics.sideInset + root.textColumn
         width: root.width - x - (shortcutText.visible ? shortcutText.width + 24 : 14)
         anchors.verticalCenter: parent.verticalCenter
         elide: Text.ElideMiddle
         text: root.title
-        size: 13
+        size: MenuMetrics.textSize
         color: root.ink
         Accessible.ignored: true
     }
@@ -91,7 +92,7 @@ Item {
         x: root.width - width - 14
         anchors.verticalCenter: parent.verticalCenter
         text: root.shortcut
-        size: 13
+        size: MenuMetrics.textSize
         color: root.ink
         opacity: root.isCurrent ? 1 : 0.55
         Accessible.ignored: true

@@ -8,6 +8,7 @@ Item {
     id: root
 
     required property MenuLevel level
+    readonly property color plate: "#f4f2f6"
 
     objectName: "menu"
     x: root.level.frame.x
@@ -22,13 +23,13 @@ Item {
     WindowPlate {
         anchors.fill: parent
         radius: 7
-        color: "#f4f2f6"
+        color: root.plate
     }
     ListView {
         id: list
         anchors.fill: parent
-        anchors.topMargin: 5
-        anchors.bottomMargin: 5
+        anchors.topMargin: MenuMetrics.padding
+        anchors.bottomMargin: MenuMetrics.padding
         clip: true
         interactive: false
         model: root.level
@@ -47,10 +48,10 @@ Item {
         id: chevron
         property bool pointsUp: false
 
-        x: 5
-        width: root.width - 10
+        x: MenuMetrics.sideInset
+        width: root.width - 2 * x
         height: 18
-        color: "#f4f2f6"
+        color: root.plate
 
         SymbolIcon {
             anchors.centerIn: parent

@@ -120,7 +120,7 @@ bool WindowInput::takeWheel(const QWheelEvent &event)
     if (!m_menu.isOpen())
         return false;
     const QPoint pixels = event.pixelDelta();
-    constexpr double pointsPerStep = 3 * kMenuRowHeight / 120; // three rows for a notch of the wheel
+    constexpr double pointsPerStep = 3 * MenuMetrics::rowHeight / 120; // three rows for a notch of the wheel
     m_menu.wheel(m_toDisplay(event.position()), pixels.isNull() ? event.angleDelta().y() * pointsPerStep : pixels.y());
     return true;
 }
