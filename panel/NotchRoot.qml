@@ -48,19 +48,15 @@ Item {
         response: root.open ? 0.46 : 0.32
         damping: root.open ? 0.74 : 0.92
     }
-    SpringValue {
+    Glide {
         id: openWidth
         target: geometry.openSize.width
         animated: root.presented
-        response: 0.4
-        damping: 0.85
     }
-    SpringValue {
+    Glide {
         id: openHeight
         target: geometry.openSize.height
         animated: root.presented
-        response: 0.4
-        damping: 0.85
     }
 
     MouseArea {
@@ -75,7 +71,7 @@ Item {
         width: tab.width - 2 * PanelMetrics.openFlare
         height: tab.height
         visible: opacity > 0
-        opacity: Math.max(0, Math.min(1, openness.value))
+        opacity: openness.clamped
         radius: PanelMetrics.openCorner
         blur: 28
         color: Qt.rgba(0, 0, 0, 0.55)

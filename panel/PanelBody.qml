@@ -60,12 +60,10 @@ Item {
         panelState: root.panelState
         animated: root.model.isOpen
 
-        SpringValue {
+        Glide {
             id: footerY
             target: root.geometry.footerY
             animated: root.presented
-            response: 0.4
-            damping: 0.85
         }
     }
 }

@@ -81,12 +81,10 @@ Item {
             viewTop: scroll.value - root.geometry.visibleSectionY
             viewBottom: viewTop + root.geometry.viewportHeight
 
-            SpringValue {
+            Glide {
                 id: place
                 target: root.geometry.visibleSectionY
                 animated: root.presented
-                response: 0.4
-                damping: 0.85
             }
         }
         NoMatches {
@@ -101,10 +99,10 @@ Item {
     RoundedShape {
         objectName: "fade" // more below
         visible: root.overflows
-        opacity: Math.min(1, (root.geometry.contentHeight - root.geometry.viewportHeight - scroll.value) / 20)
+        opacity: Theme.fadeOpacity(root.geometry.contentHeight - root.geometry.viewportHeight - scroll.value)
         y: root.height - height
         width: parent.width
-        height: 28
+        height: Theme.fadeHeight
         gradient: RoundedShape.Vertical
         color: Qt.rgba(0, 0, 0, 0)
         endColor: "black"

@@ -21,11 +21,9 @@ Item {
     required property color tint
     required property bool isHidden
 
-    readonly property real shown: Math.max(0, Math.min(1, entrance.value))
-
     width: PanelMetrics.tileWidth
     height: PanelMetrics.tileHeight
-    opacity: root.shown * arrival.value
+    opacity: entrance.clamped * arrival.value
     transform: [
         Scale {
             origin.x: root.width / 2

@@ -15,9 +15,7 @@ Item {
     required property bool hovered
     required property bool scaled // by whatever it is part of
 
-    readonly property real highlight: motion.value
-    readonly property real shown: Math.max(0, Math.min(1, root.highlight)) // springs overshoot, light does not
-
+    readonly property real shown: motion.clamped
     readonly property bool resampled: root.scaled || root.scale !== 1
     readonly property real restFill: root.isHidden ? 0.06 : 0.035
 
@@ -28,7 +26,7 @@ Item {
 
     width: PanelMetrics.faceSide
     height: PanelMetrics.faceSide
-    scale: 1 + 0.07 * root.highlight
+    scale: 1 + 0.07 * motion.value
 
     SpringValue {
         id: motion
@@ -116,7 +114,7 @@ Item {
         width: 5
         height: 5
         radius: 2.5
-        color: Theme.hiddenMarker
+        color: Qt.rgba(1, 0.62, 0.2, 1)
         glowRadius: 3
         glowColor: Theme.orange
     }

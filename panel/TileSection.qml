@@ -48,19 +48,15 @@ Item {
             open: root.model.isOpen
             highlighted: root.panelState.highlightedID === tile.extraID
 
-            SpringValue {
+            Glide {
                 id: column
                 target: tile.position % tile.columns
                 animated: root.presented
-                response: 0.4
-                damping: 0.85
             }
-            SpringValue {
+            Glide {
                 id: row
                 target: Math.floor(tile.position / tile.columns)
                 animated: root.presented
-                response: 0.4
-                damping: 0.85
             }
         }
     }

@@ -62,13 +62,8 @@ T.ComboBox {
     }
 
     background: Item {
-        Shadow {
-            anchors.fill: parent
-            anchors.topMargin: 0.5
-            anchors.bottomMargin: -0.5
+        ControlShadow {
             radius: 6
-            blur: 0.8
-            color: Qt.rgba(0, 0, 0, 0.22)
         }
         RoundedShape {
             anchors.fill: parent

@@ -41,14 +41,9 @@ T.Button {
     }
 
     background: Item {
-        Shadow {
+        ControlShadow {
             visible: control.style === PushButton.Bordered
-            anchors.fill: parent
-            anchors.topMargin: 0.5
-            anchors.bottomMargin: -0.5
             radius: control.cornerRadius
-            blur: 0.8
-            color: Qt.rgba(0, 0, 0, 0.22)
         }
         RoundedShape {
             visible: !control.plain

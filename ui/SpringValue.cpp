@@ -2,7 +2,6 @@
 
 #include <QEasingCurve>
 #include <QPointF>
-#include <algorithm>
 #include <cmath>
 
 namespace brimshade::ui {

@@ -4,6 +4,7 @@
 #include <QAbstractAnimation>
 #include <QObject>
 #include <QQmlParserStatus>
+#include <algorithm>
 #include <qqml.h>
 
 namespace brimshade::ui {
@@ -18,6 +19,8 @@ class SpringValue : public QObject, public QQmlParserStatus {
     QML_ELEMENT
     Q_PROPERTY(double target READ target WRITE setTarget NOTIFY targetChanged)
     Q_PROPERTY(double value READ value NOTIFY valueChanged)
+    // The value held between 0 and 1: springs overshoot, light does not.
+    Q_PROPERTY(double clamped READ clamped NOTIFY valueChanged)
     // What may be left of the way when a spring is said to rest. The default is a tenth of a point of a panel's width.
     Q_PROPERTY(double precision MEMBER m_precision NOTIFY parametersChanged)
     // False: changes of target jump, as for what nobody sees.
@@ -38,6 +41,7 @@ public:
 
     double target() const { return m_target; }
     double value() const { return m_value; }
+    double clamped() const { return std::clamp(m_value, 0.0, 1.0); }
     bool isRunning() const;
     Curve curve() const { return m_next.curve; }
     double response() const { return m_next.spring.response; }

@@ -60,12 +60,9 @@ T.Switch {
                 opacity: slide.value
             }
         }
-        Shadow {
+        ControlShadow {
             anchors.fill: knob
-            anchors.topMargin: 0.5
-            anchors.bottomMargin: -0.5
             radius: knob.radius
-            blur: 0.8
             color: Qt.rgba(0, 0, 0, 0.3)
         }
         RoundedShape {

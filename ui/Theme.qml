@@ -2,7 +2,7 @@ pragma Singleton
 pragma ComponentBehavior: Bound
 import QtQuick
 
-// What several views share. Sizes are points; fonts are set by points on screen, see fontSize().
+// What several views share. Sizes are points; StyledText makes fonts of them.
 QtObject {
     readonly property string family: "Inter"
 
@@ -14,14 +14,23 @@ QtObject {
     readonly property color purple: "#bf5af2"
     readonly property color cyan: "#64d2ff"
     readonly property color blue: "#0a84ff"
-    readonly property color red: "#ff453a"
-    readonly property color hiddenMarker: Qt.rgba(1, 0.62, 0.2, 1)
 
-    // Text in windows on dark.
-    readonly property color primaryText: Qt.rgba(1, 1, 1, 0.92)
-    readonly property color secondaryText: Qt.rgba(0.92, 0.92, 0.96, 0.6)
-    readonly property color quaternaryFill: Qt.rgba(1, 1, 1, 0.1)
-    readonly property color separator: Qt.rgba(1, 1, 1, 0.1)
+    readonly property color primaryText: Qt.rgba(1, 1, 1, 0.92) // in windows on dark
+    readonly property color brightText: Qt.rgba(1, 1, 1, 0.95) // and symbols, over a picture
+
+    // Windows in the light form.
+    readonly property color lightWindow: "#f2f2f4"
+    readonly property color lightText: Qt.rgba(0, 0, 0, 0.85)
+    readonly property color lightAccent: "#007aff"
+    readonly property color lightTrack: Qt.rgba(0, 0, 0, 0.16) // of a switch that is off
+
+    readonly property real formInset: 12 // of what stands in a row of a form
+
+    // The fade at a scrolled view's end: how high, and its opacity with that many points out of sight beyond it.
+    readonly property real fadeHeight: 28
+    function fadeOpacity(beyond: real): real {
+        return Math.max(0, Math.min(beyond / 20, 1));
+    }
 
     // The toolkit's own point is a 72nd of an inch of the screen; this system's is one unit of the scene.
     readonly property real pointsPerUnit: 72 / (25.4 * Application.screens[0].logicalPixelDensity)

@@ -33,22 +33,23 @@ T.AbstractButton {
     Accessible.description: control.help
     Accessible.onPressAction: control.clicked()
 
+    component Change: SpringValue {
+        response: 0.25
+        damping: 0.7
+    }
+
     PressStyle {
         id: press
         pressed: control.down
     }
-    SpringValue {
+    Change {
         id: grow
         target: control.hovered && control.canMove ? 1.05 : 1
-        response: 0.25
-        damping: 0.7
     }
     // 1 where it stays, 0 where it is tucked away.
-    SpringValue {
+    Change {
         id: lit
         target: control.hidden ? 0 : 1
-        response: 0.25
-        damping: 0.7
     }
 
     contentItem: Column {
@@ -60,7 +61,7 @@ T.AbstractButton {
             symbol: control.symbol
             canMove: control.canMove
             hidden: control.hidden
-            lit: lit.value
+            lit: lit.clamped
             ringed: control.visualFocus
         }
         StyledText {
@@ -70,7 +71,7 @@ T.AbstractButton {
             size: 11
             font.weight: Font.Medium
             color: "white"
-            opacity: 0.45 + 0.45 * Math.max(0, Math.min(lit.value, 1))
+            opacity: 0.45 + 0.45 * lit.clamped
             horizontalAlignment: Text.AlignHCenter
             maximumLineCount: 1
             elide: Text.ElideRight

@@ -11,8 +11,7 @@ Item {
     required property bool canMove
     required property bool hidden
     required property bool ringed // has the keyboard
-    required property real lit // 1 stays, 0 tucked away; a spring, so a little beyond either
-    readonly property real share: Math.max(0, Math.min(root.lit, 1))
+    required property real lit // 1 stays, 0 tucked away
 
     implicitWidth: 64
     implicitHeight: 64
@@ -23,7 +22,7 @@ Item {
         color: Qt.rgba(1, 1, 1, 0.04)
         strokeColor: Qt.rgba(1, 1, 1, 0.06)
         strokeWidth: 1
-        opacity: 1 - root.share
+        opacity: 1 - root.lit
     }
     RoundedShape {
         anchors.fill: parent
@@ -31,7 +30,7 @@ Item {
         color: Qt.rgba(1, 1, 1, 0.1)
         strokeColor: Qt.rgba(1, 1, 1, 0.25)
         strokeWidth: 1
-        opacity: root.share
+        opacity: root.lit
     }
     ImageView {
         id: picture
@@ -39,7 +38,7 @@ Item {
         width: 40
         height: 40
         image: root.image
-        opacity: 0.45 + 0.55 * root.share
+        opacity: 0.45 + 0.55 * root.lit
     }
     SymbolIcon {
         anchors.centerIn: parent

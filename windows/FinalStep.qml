@@ -26,31 +26,21 @@ Item {
             width: Math.min(460, parent.width)
             spacing: 12
 
-            OptionRow {
+            OptionSwitch {
+                name: "setupLoginSwitch"
                 symbol: "power"
                 title: qsTr("Launch at login")
                 subtitle: qsTr("Start Brimshade with your Mac")
-
-                Switch {
-                    objectName: "setupLoginSwitch"
-                    text: qsTr("Launch at login")
-                    value: root.model.launchAtLogin
-                    Accessible.description: qsTr("Start Brimshade with your Mac")
-                    onValueRequested: value => root.model.launchAtLogin = value
-                }
+                value: root.model.launchAtLogin
+                onValueRequested: value => root.model.launchAtLogin = value
             }
-            OptionRow {
+            OptionSwitch {
+                name: "setupShowVisibleSwitch"
                 symbol: "square.grid.2x2"
                 title: qsTr("Show every item in the panel")
                 subtitle: qsTr("Not only the hidden ones")
-
-                Switch {
-                    objectName: "setupShowVisibleSwitch"
-                    text: qsTr("Show every item in the panel")
-                    value: root.model.showVisible
-                    Accessible.description: qsTr("Not only the hidden ones")
-                    onValueRequested: value => root.model.showVisible = value
-                }
+                value: root.model.showVisible
+                onValueRequested: value => root.model.showVisible = value
             }
         }
         Row {

@@ -59,7 +59,7 @@ Item {
         radius: body.corner
         blur: 30
         color: Qt.alpha(Theme.orange, 0.35)
-        opacity: Math.max(0, Math.min(unfold.value, 1))
+        opacity: unfold.clamped
     }
     HeroBody {
         id: body

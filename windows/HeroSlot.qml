@@ -13,7 +13,7 @@ Item {
     implicitWidth: 44
     implicitHeight: 44
     scale: 0.4 + 0.6 * pop.value
-    opacity: Math.max(0, Math.min(pop.value, 1))
+    opacity: pop.clamped
 
     SpringValue {
         id: pop

@@ -23,15 +23,11 @@ Item {
     width: parent?.width ?? 0
     height: 44
 
-    Rectangle {
-        x: 12
-        width: root.width - 24
-        height: 0.5
-        color: root.palette.mid
+    RowLine {
     }
     ItemIcon {
         id: face
-        x: 12
+        x: Theme.formInset
         anchors.verticalCenter: parent.verticalCenter
         image: root.image
         symbol: root.symbol
@@ -40,7 +36,7 @@ Item {
         anchors.left: face.right
         anchors.leftMargin: 10
         anchors.right: trailing.left
-        anchors.rightMargin: 12
+        anchors.rightMargin: Theme.formInset
         anchors.verticalCenter: parent.verticalCenter
         spacing: 1
 
@@ -58,7 +54,7 @@ Item {
             visible: root.detail !== ""
             text: root.detail
             size: 10
-            color: Qt.alpha(root.palette.windowText, 0.5)
+            color: root.palette.placeholderText
             maximumLineCount: 1
             elide: Text.ElideRight
         }
@@ -66,7 +62,7 @@ Item {
     Item {
         id: trailing
         anchors.right: parent.right
-        anchors.rightMargin: 12
+        anchors.rightMargin: Theme.formInset
         anchors.verticalCenter: parent.verticalCenter
         width: toggle.visible ? toggle.width : pinned.width
         height: parent.height
@@ -85,7 +81,7 @@ Item {
             visible: root.control === ItemRows.Pinned
             text: qsTr("Pinned by macOS")
             size: 10
-            color: Qt.alpha(root.palette.windowText, 0.5)
+            color: root.palette.placeholderText
         }
         FocusRing {
             anchors.fill: toggle

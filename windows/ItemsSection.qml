@@ -12,16 +12,12 @@ SettingsSection {
     title: qsTr("Menu bar items")
     footer: qsTr("When on, the Brimshade icon widens up to the notch and everything to its left is tucked away into the notch. Switching an item does a quick Cmd-drag across the Brimshade icon for you, so the pointer jumps for a moment. You can also Cmd-drag items across it yourself.")
 
-    SettingsRow {
+    SwitchRow {
         first: true
+        name: "dividerSwitch"
         label: qsTr("Tuck away items left of Brimshade")
-
-        Switch {
-            objectName: "dividerSwitch"
-            text: qsTr("Tuck away items left of Brimshade")
-            value: root.model.dividerEnabled
-            onValueRequested: value => root.model.dividerEnabled = value
-        }
+        value: root.model.dividerEnabled
+        onValueRequested: value => root.model.dividerEnabled = value
     }
     Repeater {
         model: ItemRows {
@@ -39,9 +35,9 @@ SettingsSection {
 
         StyledText {
             objectName: "noItemsText"
-            width: root.width - 24
+            width: root.width - 2 * Theme.formInset
             text: root.model.trusted ? qsTr("Reading your menu bar…") : qsTr("Allow Accessibility access to manage your menu bar.")
-            color: Qt.alpha(root.palette.windowText, 0.5)
+            color: root.palette.placeholderText
             wrapMode: Text.WordWrap
         }
     }

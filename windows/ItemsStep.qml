@@ -74,9 +74,9 @@ Item {
         anchors.left: scroll.left
         anchors.right: scroll.right
         anchors.bottom: scroll.bottom
-        height: 28
+        height: Theme.fadeHeight
         visible: scroll.visible && opacity > 0
-        opacity: Math.max(0, Math.min((scroll.contentHeight - scroll.height - scroll.contentY) / 20, 1))
+        opacity: Theme.fadeOpacity(scroll.contentHeight - scroll.height - scroll.contentY)
         whole: root.view
         origin: Qt.point(root.place.x + x, root.place.y + y)
         fadesIn: true

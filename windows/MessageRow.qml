@@ -14,7 +14,7 @@ Item {
 
     SymbolIcon {
         id: warning
-        x: 12
+        x: Theme.formInset
         y: 10 + (16 - height) / 2
         name: "exclamationmark.triangle.fill"
         pointSize: 13
@@ -26,7 +26,7 @@ Item {
         anchors.left: warning.right
         anchors.leftMargin: 8
         anchors.right: dismiss.left
-        anchors.rightMargin: 12
+        anchors.rightMargin: Theme.formInset
         y: 10
         text: root.message
         color: root.palette.windowText
@@ -36,7 +36,7 @@ Item {
         id: dismiss
         objectName: "dismissButton"
         anchors.right: parent.right
-        anchors.rightMargin: 12
+        anchors.rightMargin: Theme.formInset
         y: 6
         text: qsTr("Dismiss")
         onClicked: root.dismissed()

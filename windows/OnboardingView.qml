@@ -18,7 +18,7 @@ FocusScope {
         base: "#2a2a2d"
         windowText: "white"
         button: "#4a4a4e"
-        buttonText: Qt.rgba(1, 1, 1, 0.92)
+        buttonText: Theme.primaryText
         highlight: Theme.blue
         dark: Qt.rgba(1, 1, 1, 0.2)
     }

@@ -14,16 +14,12 @@ SettingsSection {
     title: qsTr("Opening")
     footer: root.shortcutAdvice
 
-    SettingsRow {
+    SwitchRow {
         first: true
+        name: "hoverSwitch"
         label: qsTr("Open when the pointer rests on the notch")
-
-        Switch {
-            objectName: "hoverSwitch"
-            text: qsTr("Open when the pointer rests on the notch")
-            value: root.model.hoverToOpen
-            onValueRequested: value => root.model.hoverToOpen = value
-        }
+        value: root.model.hoverToOpen
+        onValueRequested: value => root.model.hoverToOpen = value
     }
     SettingsRow {
         label: qsTr("Keyboard shortcut")

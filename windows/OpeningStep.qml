@@ -30,18 +30,13 @@ Item {
             width: Math.min(460, parent.width)
             spacing: 12
 
-            OptionRow {
+            OptionSwitch {
+                name: "setupHoverSwitch"
                 symbol: "cursorarrow.motionlines"
                 title: qsTr("Hover the notch")
                 subtitle: qsTr("Rest the pointer on the notch to open Brimshade")
-
-                Switch {
-                    objectName: "setupHoverSwitch"
-                    text: qsTr("Hover the notch")
-                    value: root.model.hoverToOpen
-                    Accessible.description: qsTr("Rest the pointer on the notch to open Brimshade")
-                    onValueRequested: value => root.model.hoverToOpen = value
-                }
+                value: root.model.hoverToOpen
+                onValueRequested: value => root.model.hoverToOpen = value
             }
             OptionRow {
                 symbol: "command"

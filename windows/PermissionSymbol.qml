@@ -11,11 +11,9 @@ Item {
     implicitWidth: lock.width
     implicitHeight: lock.height
 
-    SpringValue {
+    StepSpring {
         id: granted
         target: root.trusted ? 1 : 0
-        response: 0.35
-        damping: 0.8
     }
     SymbolIcon {
         id: lock
@@ -24,15 +22,15 @@ Item {
         weight: SymbolIcon.Semibold
         color: Theme.orange
         endColor: Theme.pink
-        opacity: Math.max(0, Math.min(1 - 2 * granted.value, 1))
-        scale: 1 - 0.4 * Math.max(0, Math.min(granted.value, 1))
+        opacity: 1 - 2 * granted.value
+        scale: 1 - 0.4 * granted.clamped
     }
     SymbolIcon {
         name: "checkmark.seal.fill"
         pointSize: 44
         weight: SymbolIcon.Semibold
         color: Theme.green
-        opacity: Math.max(0, Math.min(2 * granted.value - 1, 1))
+        opacity: 2 * granted.value - 1
         scale: 0.6 + 0.4 * granted.value
     }
 }

@@ -1,6 +1,7 @@
 pragma ComponentBehavior: Bound
 import QtQuick
 import Brimshade.Ui
+import Brimshade.Windows
 
 // One row of the form: a label, and a control at its trailing end that carries the label as its own name. Without a
 // label the control leads.
@@ -15,18 +16,14 @@ Item {
     height: Math.max(40, text.height + 20)
     onControlChanged: root.control.parent = trailing
 
-    Rectangle {
+    RowLine {
         visible: !root.first
-        x: 12
-        width: root.width - 24
-        height: 0.5
-        color: root.palette.mid
     }
     StyledText {
         id: text
-        x: 12
+        x: Theme.formInset
         anchors.verticalCenter: parent.verticalCenter
-        width: Math.max(0, trailing.x - 24)
+        width: Math.max(0, trailing.x - 2 * Theme.formInset)
         text: root.label
         color: root.palette.windowText
         wrapMode: Text.WordWrap
@@ -34,7 +31,7 @@ Item {
     }
     Item {
         id: trailing
-        x: root.label === "" ? 12 : root.width - width - 12
+        x: root.label === "" ? Theme.formInset : root.width - width - Theme.formInset
         anchors.verticalCenter: parent.verticalCenter
         width: childrenRect.width
         height: childrenRect.height

@@ -43,7 +43,7 @@ Column {
         visible: root.footer !== ""
         text: root.footer
         size: 11
-        color: Qt.alpha(root.palette.windowText, 0.5)
+        color: root.palette.placeholderText
         wrapMode: Text.WordWrap
     }
 }

@@ -15,13 +15,14 @@ FocusScope {
     implicitHeight: 640
     focus: true
     palette {
-        window: "#f2f2f4"
+        window: Theme.lightWindow
         base: "white"
-        windowText: Qt.rgba(0, 0, 0, 0.85)
+        windowText: Theme.lightText
+        placeholderText: Qt.rgba(0, 0, 0, 0.5)
         button: "white"
-        buttonText: Qt.rgba(0, 0, 0, 0.85)
-        highlight: "#007aff"
-        dark: Qt.rgba(0, 0, 0, 0.16)
+        buttonText: Theme.lightText
+        highlight: Theme.lightAccent
+        dark: Theme.lightTrack
         mid: Qt.rgba(0, 0, 0, 0.12)
         midlight: Qt.rgba(0, 0, 0, 0.07)
     }
@@ -85,31 +86,23 @@ FocusScope {
             SettingsSection {
                 title: qsTr("Panel")
 
-                SettingsRow {
+                SwitchRow {
                     first: true
+                    name: "showVisibleSwitch"
                     label: qsTr("Also show items already in the menu bar")
-
-                    Switch {
-                        objectName: "showVisibleSwitch"
-                        text: qsTr("Also show items already in the menu bar")
-                        value: root.model.showVisible
-                        onValueRequested: value => root.model.showVisible = value
-                    }
+                    value: root.model.showVisible
+                    onValueRequested: value => root.model.showVisible = value
                 }
             }
             SettingsSection {
                 title: qsTr("General")
 
-                SettingsRow {
+                SwitchRow {
                     first: true
+                    name: "launchAtLoginSwitch"
                     label: qsTr("Launch at login")
-
-                    Switch {
-                        objectName: "launchAtLoginSwitch"
-                        text: qsTr("Launch at login")
-                        value: root.model.launchAtLogin
-                        onValueRequested: value => root.model.launchAtLogin = value
-                    }
+                    value: root.model.launchAtLogin
+                    onValueRequested: value => root.model.launchAtLogin = value
                 }
                 SettingsRow {
                     PushButton {

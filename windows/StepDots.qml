@@ -24,13 +24,11 @@ Row {
             height: 6
             radius: 3
             color: "white"
-            opacity: 0.2 + 0.7 * Math.max(0, Math.min(shown.value, 1))
+            opacity: 0.2 + 0.7 * shown.clamped
 
-            SpringValue {
+            StepSpring {
                 id: shown
                 target: dot.index === root.step ? 1 : 0
-                response: 0.35
-                damping: 0.8
             }
         }
     }

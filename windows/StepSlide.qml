@@ -14,7 +14,7 @@ Item {
     anchors.fill: parent
     enabled: root.current
     visible: root.current || presence.running
-    opacity: Math.max(0, Math.min(presence.value, 1))
+    opacity: presence.clamped
     transform: Translate {
         x: root.side * 30 * (1 - presence.value)
     }

@@ -42,7 +42,7 @@ Item {
         text: root.text
         size: 13
         font.weight: Font.Medium
-        color: Qt.rgba(1, 1, 1, 0.95)
+        color: Theme.brightText
         Accessible.ignored: true
     }
     SymbolIcon {
@@ -51,7 +51,7 @@ Item {
         name: root.symbol
         pointSize: 14
         weight: SymbolIcon.Semibold
-        color: Qt.rgba(1, 1, 1, 0.95)
+        color: Theme.brightText
     }
     ImageView {
         visible: root.text === "" && root.symbol === "" && !isNull
@@ -59,6 +59,6 @@ Item {
         width: root.imageSize.width
         height: root.imageSize.height
         image: root.image
-        templateColor: Qt.rgba(1, 1, 1, 0.95)
+        templateColor: Theme.brightText
     }
 }

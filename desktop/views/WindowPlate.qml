@@ -6,8 +6,8 @@ import Brimshade.Ui
 Item {
     id: root
 
-    property color color: "#f2f2f4"
-    property real radius: 11
+    property color color: Theme.lightWindow
+    property real radius: Theme.windowRadius
     property bool isActive: true
     property bool hasShadow: true
     property bool isDark: false

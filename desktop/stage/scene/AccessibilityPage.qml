@@ -18,7 +18,7 @@ Item {
     visible: root.permission.isPageOpen
     palette {
         highlight: "#34c759"
-        dark: Qt.rgba(0, 0, 0, 0.16)
+        dark: Theme.lightTrack
     }
 
     Accessible.role: Accessible.Window

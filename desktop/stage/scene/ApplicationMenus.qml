@@ -26,7 +26,7 @@ Row {
             text: modelData
             size: 13
             font.weight: index === 0 ? Font.Bold : Font.Medium
-            color: Qt.rgba(1, 1, 1, 0.95)
+            color: Theme.brightText
         }
     }
 }

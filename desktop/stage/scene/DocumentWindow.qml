@@ -26,7 +26,7 @@ Item {
         x: 0.5
         width: 148
         height: parent.height
-        radius: 11
+        radius: Theme.windowRadius
         color: "#efeef3"
     }
     Rectangle {
@@ -71,8 +71,8 @@ Item {
         spacing: 15
 
         Repeater {
-            model: [{tint: "#ff9f0a", length: 70}, {tint: "#30b0c7", length: 54}, {tint: "#bf5af2", length: 78},
-                    {tint: "#ff375f", length: 46}, {tint: "#34c759", length: 64}]
+            model: [{tint: Theme.orange, length: 70}, {tint: "#30b0c7", length: 54}, {tint: Theme.purple, length: 78},
+                    {tint: Theme.pink, length: 46}, {tint: "#34c759", length: 64}]
 
             Row {
                 id: entry

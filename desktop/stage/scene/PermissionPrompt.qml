@@ -18,8 +18,8 @@ Item {
     visible: root.permission.isPromptOpen
     palette {
         button: "white"
-        buttonText: Qt.rgba(0, 0, 0, 0.85)
-        highlight: "#007aff"
+        buttonText: Theme.lightText
+        highlight: Theme.lightAccent
     }
 
     Accessible.role: Accessible.AlertMessage

@@ -2,6 +2,7 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import Brimshade.Desktop
 import Brimshade.Stage
+import Brimshade.Ui
 
 // One of the program's windows: what the system draws around its content.
 FocusScope {
@@ -10,7 +11,7 @@ FocusScope {
     required property WindowState hosted
     readonly property Item holder: content
     readonly property string brimshadeWindow: root.hosted.name
-    readonly property color plateColor: root.hosted.isDark ? "#1e1e20" : "#f2f2f4"
+    readonly property color plateColor: root.hosted.isDark ? "#1e1e20" : Theme.lightWindow
 
     objectName: "window-" + root.hosted.name
     x: root.hosted.frame.x

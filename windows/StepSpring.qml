@@ -1,0 +1,9 @@
+pragma ComponentBehavior: Bound
+import QtQuick
+import Brimshade.Ui
+
+// How a mark of the setup flow changes with where the user is in it.
+SpringValue {
+    response: 0.35
+    damping: 0.8
+}
