@@ -1,6 +1,6 @@
 #include "AutostartEntry.h"
+#include "KeyFile.h"
 
-#include <QMap>
 #include <QStringList>
 
 using namespace Qt::StringLiterals;
@@ -8,31 +8,6 @@ using namespace Qt::StringLiterals;
 namespace brimshade::desktop {
 
 namespace {
-
-// A value of type string.
-QString escaped(const QString &text)
-{
-    QString value = text;
-    value.replace(u'\\', u"\\\\"_s).replace(u'\n', u"\\n"_s).replace(u'\r', u"\\r"_s).replace(u'\t', u"\\t"_s);
-    if (value.startsWith(u' '))
-        value.replace(0, 1, u"\\s"_s);
-    return value;
-}
-
-QString unescaped(const QString &value)
-{
-    QString text;
-    for (qsizetype i = 0; i < value.size(); ++i) {
-        if (value[i] != u'\\' || i + 1 == value.size()) {
-            text += value[i];
-            continue;
-        }
-        const QChar code = value[++i];
-        const qsizetype known = QStringView(u"sntr\\").indexOf(code);
-        text += known < 0 ? code : QStringView(u" \n\t\r\\")[known];
-    }
-    return text;
-}
 
 // One argument of Exec. This quoting comes before that of the string.
 QString quotedArgument(const QString &argument)
@@ -42,20 +17,6 @@ QString quotedArgument(const QString &argument)
         quoted.replace(special, u"\\"_s + special);
     quoted.replace(u'%', u"%%"_s);
     return u'"' + quoted + u'"';
-}
-
-QMap<QString, QString> mainGroup(const QByteArray &content)
-{
-    QMap<QString, QString> values;
-    bool isInside = false;
-    for (const QString &line : QString::fromUtf8(content).split(u'\n')) {
-        const QString trimmed = line.trimmed();
-        if (trimmed.startsWith(u'['))
-            isInside = trimmed == u"[Desktop Entry]"_s;
-        else if (const qsizetype equals = trimmed.indexOf(u'='); isInside && equals > 0 && !trimmed.startsWith(u'#'))
-            values.insert(trimmed.first(equals).trimmed(), unescaped(trimmed.sliced(equals + 1).trimmed()));
-    }
-    return values;
 }
 
 } // namespace
@@ -83,7 +44,7 @@ QByteArray hiddenAutostartEntry()
 
 AutostartState readAutostartEntry(const QByteArray &content)
 {
-    const QMap<QString, QString> values = mainGroup(content);
+    const KeyGroup values = readDesktopEntry(content);
     const bool isEnabled = values.value(u"Type"_s) == u"Application"_s && !values.value(u"Exec"_s).isEmpty()
         && values.value(u"Hidden"_s) != u"true"_s && values.value(u"X-GNOME-Autostart-enabled"_s) != u"false"_s;
     return {isEnabled, values.value(u"TryExec"_s)};

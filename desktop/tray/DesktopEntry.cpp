@@ -1,8 +1,9 @@
 #include "DesktopEntry.h"
 
+#include "desktop/services/KeyFile.h"
+
 #include <QDirIterator>
 #include <QFile>
-#include <QMap>
 #include <QSet>
 
 namespace brimshade::desktop::tray {
@@ -12,22 +13,7 @@ namespace {
 constexpr qint64 kMostEntryBytes = 256 << 10;
 constexpr int kMostFiles = 8192;
 
-QMap<QString, QString> readMainGroup(const QByteArray &content)
-{
-    QMap<QString, QString> values;
-    bool inGroup = false;
-    for (const auto &bytes : content.split('\n')) {
-        const auto line = QString::fromUtf8(bytes).trimmed();
-        const auto equals = line.indexOf(u'=');
-        if (line.startsWith(u'['))
-            inGroup = line == u"[Desktop Entry]";
-        else if (inGroup && equals > 0 && !line.startsWith(u'#'))
-            values.insert(line.left(equals).trimmed(), line.mid(equals + 1).trimmed());
-    }
-    return values;
-}
-
-QString localized(const QMap<QString, QString> &values, const QString &key, const QString &locale)
+QString localized(const KeyGroup &values, const QString &key, const QString &locale)
 {
     const auto language = locale.section(u'_', 0, 0);
     for (const auto &suffix : {locale, language}) {
@@ -38,11 +24,27 @@ QString localized(const QMap<QString, QString> &values, const QString &key, cons
     return values.value(key);
 }
 
+// The arguments of a command line, where quotes may stand around spaces and backslashes before quotes.
+QStringList argumentsOf(const QString &exec)
+{
+    QStringList arguments{QString()};
+    bool isQuoted = false;
+    for (qsizetype i = 0; i < exec.size(); ++i) {
+        if (exec[i] == u'"')
+            isQuoted = !isQuoted;
+        else if (exec[i] == u' ' && !isQuoted)
+            arguments.append(QString());
+        else if (exec[i] != u'\\' || ++i < exec.size())
+            arguments.last() += exec[i];
+    }
+    arguments.removeAll(QString());
+    return arguments;
+}
+
 // The program of "env GDK_BACKEND=x11 /usr/bin/copyq show".
 QString executableOf(const QString &exec)
 {
-    for (auto word : exec.split(u' ', Qt::SkipEmptyParts)) {
-        word.remove(u'"');
+    for (const auto &word : argumentsOf(exec)) {
         auto name = word.section(u'/', -1);
         if (name != u"env" && !word.contains(u'='))
             return name;
@@ -54,7 +56,7 @@ QString executableOf(const QString &exec)
 
 std::optional<DesktopEntry> parseDesktopEntry(const QString &id, const QByteArray &content, const QString &locale)
 {
-    const auto values = readMainGroup(content);
+    const auto values = readDesktopEntry(content);
     const auto isTrue = [&](const QString &key) { return values.value(key) == u"true"; };
     if (values.value(QStringLiteral("Type")) != u"Application" || isTrue(QStringLiteral("Hidden")))
         return {};

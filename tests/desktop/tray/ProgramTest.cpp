@@ -16,14 +16,14 @@ HostedItem item(const QString &id, const QString &title, const QString &path, co
 
 TEST(DesktopEntries, TellNameIconAndProgram)
 {
-    const auto entry =
-        parseDesktopEntry(u"a.b.Mail"_s,
-                          "# c\n[Other]\nName=No\n[Desktop Entry]\nType=Application\nName=Mail\n"
-                          "Name[de]=Post\nName[de_AT]=Briefe\nIcon=mail\nExec=env A=1 \"/opt/x/mailer\" %U\n"
-                          "[Desktop Action new]\nName=Wrong\nExec=wrong\n",
-                          u"de_DE"_s);
+    const auto entry = parseDesktopEntry(u"a.b.Mail"_s,
+                                         "# c\n[Other]\nName=No\n[Desktop Entry]\nType=Application\nName=Mail\n"
+                                         "Name[de]=Die\\sPost\nName[de_AT]=Briefe\nIcon=mail\n"
+                                         "Exec=env A=1 \"/opt/two words/mailer\" %U\n"
+                                         "[Desktop Action new]\nName=Wrong\nExec=wrong\n",
+                                         u"de_DE"_s);
     ASSERT_TRUE(entry);
-    EXPECT_EQ(entry->name, u"Post"_s);
+    EXPECT_EQ(entry->name, u"Die Post"_s);
     EXPECT_EQ(entry->icon, u"mail"_s);
     EXPECT_EQ(entry->executable, u"mailer"_s);
     EXPECT_TRUE(entry->isShown);
