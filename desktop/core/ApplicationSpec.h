@@ -1,5 +1,6 @@
 #pragma once
 #include "DesktopDescription.h"
+#include "ItemGesture.h"
 #include "platform/Image.h"
 
 #include <functional>
@@ -7,20 +8,23 @@
 
 namespace brimshade::desktop {
 
-// Called on the main thread when an item is pressed, through Accessibility or by a click; the frame is the
-// item's, in display space. It opens the item's menu on the MenuHost, now or when the menu has come.
-using OpenItem = std::function<void(const QRectF &itemFrame)>;
+// Carries out what a person asks of an item: it opens the item's menu on the MenuHost, now or when the menu has come,
+// or does what else the item does. Main thread; the frame is the item's, in display space.
+using ItemHandler = std::function<void(ItemGesture gesture, const QRectF &itemFrame)>;
+
+// What a description cannot say of an extra.
+struct ItemSpec {
+    platform::Image image; // null: the bar draws the description's symbol or the application's icon
+    ItemHandler handler; // null: every gesture opens the description's menu
+    QString toolTip;
+};
 
 // A running application as the desktop hosts it: what its description says, and what a file cannot say.
 struct ApplicationSpec {
     ApplicationDescription description;
     platform::Image icon = {}; // null: made from description.icon
 
-    // By identifier of the extra. Absent: the bar draws the description's symbol or the icon, and pressing
-    // opens the description's menu.
-    std::map<QString, platform::Image> itemImages = {};
-    std::map<QString, OpenItem> openItem = {};
-    std::map<QString, QString> toolTips = {};
+    std::map<QString, ItemSpec> items = {}; // by identifier of the extra
 };
 
 } // namespace brimshade::desktop

@@ -27,10 +27,10 @@ BarEntry::Place placeOf(const ApplicationDescription &application, const ExtraDe
     return isPinned(application, extra) ? BarEntry::Place::pinned : BarEntry::Place::movable;
 }
 
-template <typename Value> Value valueOr(const std::map<QString, Value> &values, const QString &key, Value fallback = {})
+ItemSpec specOf(const ApplicationSpec &application, const ExtraDescription &extra)
 {
-    const auto found = values.find(key);
-    return found == values.end() ? fallback : found->second;
+    const auto found = application.items.find(extra.identifier.value_or(QString()));
+    return found == application.items.end() ? ItemSpec() : found->second;
 }
 
 RunningApplication running(const ApplicationDescription &application, const Image &icon)
@@ -178,14 +178,18 @@ BarEntryPointer Applications::makeEntry(const Hosted &hosted, const DescribedExt
     if (place == BarEntry::Place::fixed)
         entry->frame = description.frame;
     entry->element = extra.element;
-    entry->open = [this, pid = application.pid, element = extra.element.get()] { open(pid, element); };
+    entry->handler = [this, pid = application.pid, element = extra.element.get()](ItemGesture gesture) {
+        carryOut(gesture, pid, element);
+    };
     entry->identifier = description.identifier.value_or(QString());
     entry->title = description.title.value_or(QString());
     entry->description = description.description.value_or(QString());
     entry->symbol = description.symbol;
-    entry->toolTip = valueOr(hosted.given.toolTips, entry->identifier);
-    const bool showsIcon = description.role == "AXMenuBarItem"_L1;
-    entry->image = valueOr(hosted.given.itemImages, entry->identifier, showsIcon ? hosted.icon : Image());
+    const ItemSpec spec = specOf(hosted.given, description);
+    entry->toolTip = spec.toolTip;
+    entry->image = spec.image;
+    if (spec.image.isNull() && description.role == "AXMenuBarItem"_L1)
+        entry->image = hosted.icon;
     if (!before)
         m_menuBar.add(entry);
     return entry;
@@ -193,10 +197,10 @@ BarEntryPointer Applications::makeEntry(const Hosted &hosted, const DescribedExt
 
 void Applications::pressed(const ElementPointer &element)
 {
-    open(element->pid, element.get());
+    carryOut(ItemGesture::press, element->pid, element.get());
 }
 
-void Applications::open(int pid, const Element *element)
+void Applications::carryOut(ItemGesture gesture, int pid, const Element *element)
 {
     const auto hosted = m_hosted.find(pid);
     if (hosted == m_hosted.end())
@@ -205,15 +209,15 @@ void Applications::open(int pid, const Element *element)
     const auto item =
         std::ranges::find_if(items, [element](const Item &item) { return item.extra.element.get() == element; });
     if (item != items.end())
-        open(hosted->second, *item);
+        carryOut(gesture, hosted->second, *item);
 }
 
-void Applications::open(const Hosted &hosted, const Item &item)
+void Applications::carryOut(ItemGesture gesture, const Hosted &hosted, const Item &item)
 {
     const ExtraDescription &extra = item.extra.description;
     const QRectF frame = item.entry ? item.entry->frame.value_or(QRectF()) : QRectF();
-    if (const OpenItem opens = valueOr(hosted.given.openItem, extra.identifier.value_or(QString()))) {
-        opens(frame);
+    if (const ItemHandler handler = specOf(hosted.given, extra).handler) {
+        handler(gesture, frame);
         return;
     }
     const ApplicationDescription &application = hosted.given.description;

@@ -44,8 +44,8 @@ private:
     void host(Hosted &hosted);
     BarEntryPointer makeEntry(const Hosted &hosted, const DescribedExtra &extra, BarEntryPointer before);
     void dismissOrphanedMenu();
-    void open(int pid, const Element *element);
-    void open(const Hosted &hosted, const Item &item);
+    void carryOut(ItemGesture gesture, int pid, const Element *element);
+    void carryOut(ItemGesture gesture, const Hosted &hosted, const Item &item);
 
     SharedState &m_state;
     MenuBar &m_menuBar;

@@ -1,4 +1,5 @@
 #pragma once
+#include "ItemGesture.h"
 #include "SharedState.h"
 #include "platform/Image.h"
 
@@ -16,7 +17,7 @@ struct BarEntry {
     double width = 0; // points; what the next layout takes
     std::optional<QRectF> frame; // the settled one, display space; absent until the bar has laid the item out
     ElementPointer element; // null for the own item
-    std::function<void()> open; // a click; null for the own item
+    std::function<void(ItemGesture)> handler; // null for the own item
 
     QString identifier, title, description, symbol, toolTip;
     platform::Image image;

@@ -155,8 +155,9 @@ Target InputRouter::pressInMenuBar(MouseButton button, const Event &event)
         return Target::menuBar;
     }
     m_d->monitors().tellGlobal(event);
-    if (entry && entry->open)
-        entry->open();
+    const bool wantsMenu = button == MouseButton::right || (event.modifierFlags & kControlFlag);
+    if (entry && entry->handler)
+        entry->handler(wantsMenu ? ItemGesture::menu : ItemGesture::click);
     return Target::menuBar;
 }
 

@@ -78,6 +78,12 @@ void VirtualDispatch::advance(double seconds)
     while (stepTo(end)) { }
 }
 
+std::optional<double> VirtualDispatch::nextDue() const
+{
+    const std::optional<Nanoseconds> due = m_events.nextDue();
+    return due ? std::optional(toSeconds(*due - m_now)) : std::nullopt;
+}
+
 bool VirtualDispatch::stepTo(Nanoseconds end)
 {
     constexpr Nanoseconds never = std::numeric_limits<Nanoseconds>::max();

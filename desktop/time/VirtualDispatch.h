@@ -6,6 +6,7 @@
 #include <functional>
 #include <memory>
 #include <mutex>
+#include <optional>
 #include <thread>
 #include <vector>
 
@@ -37,6 +38,7 @@ public:
     void runDue();
     // Runs what is due, then moves the clock on, from one due time to the next.
     void advance(double seconds);
+    std::optional<double> nextDue() const; // seconds until the next work is due; 0 or less: it is, nothing: none waits
     // While wanted() says so, the clock stops at every sixtieth of a second and calls frame() after what is due.
     void setFrames(std::function<bool()> wanted, std::function<void()> frame);
 

@@ -67,15 +67,12 @@ ApplicationSpec describeApplication(int pid, const std::optional<DesktopEntry> &
     auto &extras = given.description.extras.emplace();
     for (const auto &hosted : items) {
         auto identifier = hosted.item.id;
-        if (identifier.isEmpty() || given.openItem.contains(identifier))
+        if (identifier.isEmpty() || given.items.contains(identifier))
             identifier = hosted.key.path;
-        if (given.openItem.contains(identifier)) // the same path on another connection of the program
+        if (given.items.contains(identifier)) // the same path on another connection of the program
             identifier = hosted.key.text();
         extras.push_back(describeExtra(hosted.item, identifier));
-        given.openItem.emplace(identifier, hosted.open);
-        if (!hosted.image.isNull())
-            given.itemImages.emplace(identifier, hosted.image);
-        given.toolTips.emplace(identifier, toolTipOf(hosted.item));
+        given.items.emplace(identifier, ItemSpec{hosted.image, hosted.handler, toolTipOf(hosted.item)});
     }
     return given;
 }

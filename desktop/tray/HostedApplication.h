@@ -10,7 +10,7 @@ struct HostedItem {
     ItemKey key;
     TrayItem item;
     platform::Image image;
-    OpenItem open;
+    ItemHandler handler;
 };
 
 // The application that a process with these items, in the order in which they came, is on the desktop. Its name and

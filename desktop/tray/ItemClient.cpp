@@ -75,12 +75,12 @@ void ItemClient::updateMenu()
     connect(m_menu.get(), &MenuClient::message, this, &ItemClient::say);
 }
 
-void ItemClient::press(const QRectF &frame)
+void ItemClient::press(ItemGesture gesture, const QRectF &frame)
 {
     if (!m_item)
         return;
     m_pressedFrame = frame;
-    m_untried = pressOrder(*m_item);
+    m_untried = pressOrder(*m_item, gesture);
     tryNext();
 }
 

@@ -27,9 +27,8 @@ public:
     platform::Image image() const { return m_image; }
     MenuClient *menu() const { return m_menu.get(); }
 
-    // What a click on the item does. frame is the item's, in display space: a program that shows something itself gets
-    // its lower left corner.
-    void press(const QRectF &frame);
+    // frame is the item's, in display space: a program that shows something itself gets its lower left corner.
+    void press(ItemGesture gesture, const QRectF &frame);
 
 Q_SIGNALS:
     void changed(); // item() or image() is another one

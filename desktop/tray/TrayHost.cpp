@@ -174,9 +174,10 @@ void TrayHost::Private::show(int pid, Program &program, const std::vector<Hosted
 
 HostedItem TrayHost::Private::hosted(ItemClient &client)
 {
-    return {client.key(), *client.item(), client.image(), [item = QPointer(&client)](const QRectF &frame) {
+    return {client.key(), *client.item(), client.image(),
+            [item = QPointer(&client)](ItemGesture gesture, const QRectF &frame) {
                 if (item)
-                    item->press(frame);
+                    item->press(gesture, frame);
             }};
 }
 

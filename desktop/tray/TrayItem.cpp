@@ -102,13 +102,19 @@ ParsedItem parseItem(const QVariantMap &values)
     return {std::move(item), properties.complaints()};
 }
 
-std::vector<Press> pressOrder(const TrayItem &item)
+std::vector<Press> pressOrder(const TrayItem &item, ItemGesture gesture)
 {
+    const bool isMoreThanMenu = item.itemIsMenu == false;
+    const bool saysNothing = item.menuPath.isEmpty() && !item.showsOwnMenu && !item.itemIsMenu;
+    std::vector<Press> order{Press::contextMenu, Press::activate};
+    // Programs without a menu may answer ContextMenu with success and do nothing.
+    if (gesture != ItemGesture::menu && (isMoreThanMenu || saysNothing))
+        order = {Press::activate, Press::contextMenu};
+    else if (isMoreThanMenu)
+        order = {Press::contextMenu};
     if (!item.menuPath.isEmpty())
-        return {Press::menu, Press::contextMenu, Press::activate};
-    if (item.showsOwnMenu || item.itemIsMenu.value_or(false))
-        return {Press::contextMenu, Press::activate};
-    return {Press::activate, Press::contextMenu};
+        order.insert(gesture == ItemGesture::click && isMoreThanMenu ? order.begin() + 1 : order.begin(), Press::menu);
+    return order;
 }
 
 } // namespace brimshade::desktop::tray

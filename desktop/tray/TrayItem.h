@@ -1,4 +1,6 @@
 #pragma once
+#include "desktop/core/ItemGesture.h"
+
 #include <QImage>
 #include <QString>
 #include <QStringList>
@@ -44,8 +46,8 @@ struct ParsedItem {
 // From the plain values of every property. Nothing here can fail: what is missing or of a wrong type is absent.
 ParsedItem parseItem(const QVariantMap &properties);
 
-// What a press of the item tries, in order; the next one is tried when the program has no such thing.
+// What carries out a gesture, in order; the next one is tried when the program has no such thing.
 enum class Press { menu, contextMenu, activate };
-std::vector<Press> pressOrder(const TrayItem &item);
+std::vector<Press> pressOrder(const TrayItem &item, ItemGesture gesture);
 
 } // namespace brimshade::desktop::tray

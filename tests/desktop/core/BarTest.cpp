@@ -121,6 +121,37 @@ TEST_F(BarTest, RearrangesByCommandDragsAndByNothingElse)
     }
 }
 
+TEST_F(BarTest, TellsAnItemWhatThePersonAsksOfIt)
+{
+    using enum ItemGesture;
+    std::vector<ItemGesture> asked;
+    ApplicationSpec handled{.description = application(13, {extra(u"c.four"_s)})};
+    handled.items[u"c.four"_s].handler = [&](ItemGesture gesture, const QRectF &frame) {
+        EXPECT_EQ(frame, barFrame(u"c.four"_s));
+        asked.push_back(gesture);
+    };
+    desktop.launch(handled);
+    settle();
+    const QPointF at = barFrame(u"c.four"_s).center();
+    click(at);
+    click(at, MouseButton::right);
+    press(at, MouseButton::left, kControlFlag);
+    desktop.input().released(MouseButton::left, kControlFlag);
+    accessibility().performAction(item(13, 0), u"AXPress"_s);
+    dispatch.runDue();
+    EXPECT_EQ(asked, (std::vector{ItemGesture::click, menu, menu, ItemGesture::press}));
+}
+
+TEST_F(BarTest, OpensTheMenuOfADescribedItemWhicheverButtonAsksForIt)
+{
+    desktop.change(11, {.description = application(11, {extra(u"a.one"_s, 30, {u"Open"_s})})});
+    for (const MouseButton button : {MouseButton::left, MouseButton::right}) {
+        click(barFrame(u"a.one"_s).center(), button);
+        EXPECT_EQ(desktop.menus().titles(), QStringList{u"Open"_s});
+        desktop.menus().dismiss();
+    }
+}
+
 TEST_F(BarTest, IsAskedForACommandDragBeforeAnyWindowThatCoversIt)
 {
     WindowAttributes attributes;

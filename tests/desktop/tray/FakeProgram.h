@@ -5,19 +5,23 @@
 
 #include <QCoreApplication>
 #include <QDBusVirtualObject>
+#include <QDeadlineTimer>
 #include <QEventLoop>
 #include <QSet>
+#include <source_location>
 
 namespace brimshade::desktop::tray {
 
 class BusTest : public testing::Test {
 protected:
-    // Lets messages come and time pass until the condition holds; ctest's time limit ends one that never does.
-    template <typename Condition> void waitUntil(const Condition &condition)
+    // Lets messages come until the condition holds. Time passes only where something is due so soon that nobody would
+    // notice; what takes longer, like a limit on an answer, a test lets pass itself.
+    template <typename Condition>
+    void waitUntil(const Condition &condition, std::source_location where = std::source_location::current())
     {
-        constexpr double step = 0.25; // more than any delay here, the bar's layout included
-        for (m_dispatch.advance(step); !condition(); m_dispatch.advance(step))
-            QCoreApplication::processEvents(QEventLoop::AllEvents | QEventLoop::WaitForMoreEvents);
+        const QDeadlineTimer deadline(kPatience);
+        while (!condition())
+            step(deadline, where);
     }
 
     // Until the other end has got everything that was sent to it before, and its answers came. No time passes.
@@ -25,6 +29,10 @@ protected:
 
     VirtualDispatch m_dispatch;
     PrivateBus m_bus;
+
+private:
+    static constexpr std::chrono::seconds kPatience{20};
+    void step(const QDeadlineTimer &deadline, const std::source_location &where);
 };
 
 // A scripted program with one tray item and one menu. It notes what it is asked to do.
@@ -40,6 +48,7 @@ public:
 
     // "Activate 10 37", "AboutToShow 0", "GetLayout 0", "Event 3 clicked", "GetAll", in order
     QStringList calls() const { return m_calls; }
+    void note(const QString &what) { m_calls.append(what); } // between them
     QStringList takeEvents(); // only the events, and forgets them
 
     void registerItem(const QString &argument); // with whoever is the watcher

@@ -102,28 +102,61 @@ TEST_F(ItemClientTest, APictureDrawnIntoTheSameFileIsANewOne)
     EXPECT_EQ(client().image().bitmap().pixelColor(0, 0), QColor(Qt::blue));
 }
 
-TEST_F(ItemClientTest, APressReachesTheProgramTheWayItUnderstands)
+TEST_F(ItemClientTest, AGestureReachesTheProgramTheWayItUnderstands)
 {
     // At the item's lower left corner.
-    const QString activate = u"Activate 10 37"_s, contextMenu = u"ContextMenu 10 37"_s;
-    const std::tuple<QVariantMap, QSet<QString>, QStringList> cases[] = {
-        {{}, {}, {activate}},
-        {{}, {u"Activate"_s}, {activate, contextMenu}},
-        {{{u"Menu"_s, path(u"/NO_DBUSMENU"_s)}}, {u"ContextMenu"_s}, {contextMenu, activate}},
-        {{{u"Menu"_s, path(u"/Menu"_s)}}, {}, {contextMenu}}, // an empty menu is none
+    const QString activate = u"Activate 10 37"_s, contextMenu = u"ContextMenu 10 37"_s, opens = u"a menu"_s;
+    const QString own = u"/NO_DBUSMENU"_s, full = u"/Menu"_s, unreachable = u"/Nowhere"_s;
+    const auto empty = full; // with noEntries
+    const bool noEntries = true;
+    using enum ItemGesture;
+    struct Case {
+        const char *name;
+        std::optional<bool> itemIsMenu;
+        QString path;
+        ItemGesture gesture;
+        QStringList expected;
+        QSet<QString> unknown = {};
+        bool isEmpty = false;
     };
-    for (const auto &[properties, unknownMethods, presses] : cases) {
-        m_program.properties = properties;
-        m_program.unknownMethods = unknownMethods;
+    const Case cases[] = {
+        {"says nothing", {}, {}, press, {activate}},
+        {"says nothing, cannot be activated", {}, {}, press, {activate, contextMenu}, {u"Activate"_s}},
+        {"says nothing, its menu", {}, {}, menu, {contextMenu}},
+        {"draws its menu", {}, own, press, {contextMenu}},
+        {"draws no menu after all", {}, own, press, {contextMenu, activate}, {u"ContextMenu"_s}},
+        {"an empty menu is none", {}, empty, press, {contextMenu}, {}, noEntries},
+        {"a menu", {}, full, press, {opens}},
+        {"a menu, clicked", true, full, click, {opens}},
+        {"more, without a menu", false, {}, press, {activate}},
+        {"more, draws its menu", false, own, press, {activate}},
+        {"more, with an empty menu", false, empty, press, {activate}, {}, noEntries},
+        {"more, with a menu that is not there", false, unreachable, press, {activate}},
+        {"more, cannot be activated", false, own, press, {activate, contextMenu}, {u"Activate"_s}},
+        {"more, with a menu", false, full, press, {opens}},
+        {"more, with a menu, clicked", false, full, click, {activate}},
+        {"more, with a menu, cannot be activated", false, full, click, {activate, opens}, {u"Activate"_s}},
+        {"more, with a menu, asked for that", false, full, menu, {opens}},
+        {"more, draws its menu, asked for that", false, own, menu, {contextMenu}},
+    };
+    for (const auto &each : cases) {
+        SCOPED_TRACE(each.name);
+        m_program.properties = {{u"Menu"_s, path(each.path.isEmpty() ? u"/"_s : each.path)}};
+        if (each.itemIsMenu)
+            m_program.properties[u"ItemIsMenu"_s] = *each.itemIsMenu;
+        m_program.menu.children.clear();
+        if (!each.isEmpty)
+            m_program.menu.children = {labelled(1, u"Open"_s)};
+        m_program.unknownMethods = each.unknown;
         m_client.reset();
-        QSignalSpy ready(&client(), &ItemClient::menuReady);
-        m_program.takeEvents();
-        client().press({10, 5, 30, 32});
-        const auto pressed = [&] { return m_program.calls().filter(QRegularExpression(u"^(Activate|ContextMenu)"_s)); };
-        waitUntil([&] { return pressed().size() >= presses.size(); });
+        QObject::connect(&client(), &ItemClient::menuReady, [&] { m_program.note(opens); });
         settle(m_own, m_connection);
-        EXPECT_EQ(pressed(), presses);
-        EXPECT_EQ(ready.size(), 0);
+        m_program.takeEvents();
+        client().press(each.gesture, {10, 5, 30, 32});
+        const auto done = [&] { return m_program.calls().filter(QRegularExpression(u"^(Act|Context|a menu)"_s)); };
+        waitUntil([&] { return done().size() >= each.expected.size(); });
+        settle(m_own, m_connection);
+        EXPECT_EQ(done(), each.expected);
     }
 }
 
@@ -131,7 +164,7 @@ TEST_F(ItemClientTest, NothingThatCanBePressedIsAMessage)
 {
     m_program.unknownMethods = {u"Activate"_s, u"ContextMenu"_s};
     QSignalSpy messages(&client(), &ItemClient::message);
-    client().press({});
+    client().press(ItemGesture::press, {});
     waitUntil([&] { return !messages.isEmpty(); });
     EXPECT_TRUE(messages[0][0].toString().contains(u"cannot be activated"_s));
 }

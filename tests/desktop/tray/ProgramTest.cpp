@@ -11,7 +11,7 @@ HostedItem item(const QString &id, const QString &title, const QString &path, co
     TrayItem result;
     result.id = id;
     result.title = title;
-    return {{owner, path}, result, {}, [](const QRectF &) {}};
+    return {{owner, path}, result, {}, [](ItemGesture, const QRectF &) {}};
 }
 
 TEST(DesktopEntries, TellNameIconAndProgram)
@@ -90,7 +90,7 @@ TEST(HostedApplications, SeveralItemsAreSeveralExtrasInTheirOrder)
     QStringList identifiers;
     for (const auto &extra : *given.description.extras) {
         identifiers.append(*extra.identifier);
-        EXPECT_TRUE(given.openItem.contains(*extra.identifier));
+        EXPECT_TRUE(given.items.at(*extra.identifier).handler);
     }
     EXPECT_EQ(identifiers, (QStringList{u"one"_s, u"/b"_s, u"/c"_s, u":1.2/c"_s}));
     EXPECT_EQ(given.description.extras->at(0).title, u"One"_s);

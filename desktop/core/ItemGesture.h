@@ -1,0 +1,12 @@
+#pragma once
+
+namespace brimshade::desktop {
+
+// What a person asks of an item of the bar.
+enum class ItemGesture {
+    click, // with the left button
+    menu, // with the right button, or with Control: its menu, whatever else it can do
+    press, // through Accessibility, as the panel does
+};
+
+} // namespace brimshade::desktop
