@@ -197,6 +197,7 @@ BarEntryPointer Applications::makeEntry(const Hosted &hosted, const DescribedExt
 
 void Applications::pressed(const ElementPointer &element)
 {
+    Q_EMIT acted();
     carryOut(ItemGesture::press, element->pid, element.get());
 }
 

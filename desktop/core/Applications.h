@@ -28,6 +28,7 @@ public:
     void pressed(const ElementPointer &element); // through Accessibility
 
 Q_SIGNALS:
+    void acted(); // an item is about to be pressed
     void notified(const QString &application, const QString &what);
 
 private:

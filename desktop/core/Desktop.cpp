@@ -24,6 +24,7 @@
 #include <algorithm>
 
 using namespace brimshade::platform;
+using namespace Qt::StringLiterals;
 
 namespace brimshade::desktop {
 
@@ -145,7 +146,10 @@ Desktop::Desktop(Services services, const DesktopDescription &description)
     m_parts->start(description);
 
     connect(&m_parts->permission, &Permission::changed, this, &Desktop::changed);
-    connect(&m_parts->applications, &Applications::notified, this, &Desktop::notified);
+    connect(&m_parts->applications, &Applications::notified, this, &Desktop::notify);
+    connect(&m_parts->applications, &Applications::acted, this, &Desktop::acted);
+    connect(&m_parts->input, &InputRouter::acted, this, &Desktop::acted);
+    m_parts->hotkeys.setObserver([this] { Q_EMIT acted(); });
     connect(&m_parts->application, &ProgramApplication::terminated, this, &Desktop::terminated);
     connect(&m_parts->workspace, &WorkspaceService::accessibilityPageOpened, &m_parts->permission,
             &Permission::openPage);
@@ -256,6 +260,12 @@ bool Desktop::change(int pid, const ApplicationSpec &application)
         return false;
     Q_EMIT changed();
     return true;
+}
+
+void Desktop::notify(const QString &application, const QString &what)
+{
+    m_parts->state.write([&](DisplayState &state) { record(state.messages, u"%1: %2"_s.arg(application, what)); });
+    Q_EMIT notified(application, what);
 }
 
 void Desktop::setScreens(const std::vector<ScreenDescription> &screens)

@@ -65,11 +65,15 @@ public:
     void setMenuBarShowing(bool showing);
     void setMovesAccepted(bool accepted);
 
+    // Shows a person what an application has to say, and notes it for Inspection: "Relay", "Open Relay".
+    void notify(const QString &application, const QString &what);
+
 Q_SIGNALS:
     void changed(); // screens, permission, prompt, opened pages or applications
     void terminated(); // the program asked to end
-    // Something an application did that a person should see: "Relay", "Open Relay".
     void notified(const QString &application, const QString &what);
+    // Somebody pressed a button, a key or an item: what was asked for before and has not come is wanted no longer.
+    void acted();
 
 private:
     struct Parts;

@@ -92,6 +92,7 @@ Target InputRouter::moved(QPointF to)
 
 Target InputRouter::pressed(MouseButton button, std::uint64_t modifierFlags)
 {
+    Q_EMIT acted();
     m_d->at = pointer();
     return press(button, modifierFlags);
 }
@@ -184,6 +185,8 @@ Target InputRouter::release(MouseButton button, std::uint64_t modifierFlags)
 
 bool InputRouter::takeHotkey(const Event &event)
 {
+    if (!event.isARepeat)
+        Q_EMIT acted();
     const KeyCombination pressed{event.keyCode, carbonModifiers(event.modifierFlags)};
     return event.isARepeat ? m_d->hotkeys.isRegistered(pressed)
                            : m_d->hotkeys.press(pressed.keyCode, pressed.modifiers);

@@ -57,12 +57,13 @@ public:
     // Hotkeys, then the local monitors when a window of this program is key. The event comes back when the key
     // window's view shall have it. While a menu is open the other keys are the scene's: nothing is done with them here.
     std::optional<platform::Event> keyDown(const platform::Event &event);
-    bool takeHotkey(const platform::Event &event); // whether it was one; held down it presses once
+    bool takeHotkey(const platform::Event &event); // first of all; whether it was one: held down it presses once
 
     // An event that the program posted, in its turn; the pointer is there already.
     void synthetic(const platform::CGMouseEvent &event);
 
 Q_SIGNALS:
+    void acted(); // a person pressed a button or a key, before anything comes of it
     void pointerWarped(); // moved by the program, not by a hand
     void syntheticHeld(bool held); // the program pressed the mouse button, or let it go
 

@@ -29,6 +29,11 @@ QStringList Inspection::takeOpenedURLs()
     return m_state.write([](DisplayState &state) { return taken<QStringList>(state.openedURLs); });
 }
 
+QStringList Inspection::takeMessages()
+{
+    return m_state.write([](DisplayState &state) { return taken<QStringList>(state.messages); });
+}
+
 int Inspection::promptCount() const
 {
     return m_state.read([](const DisplayState &state) { return state.promptCount; });

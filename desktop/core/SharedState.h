@@ -60,6 +60,7 @@ struct DisplayState {
     std::deque<SyntheticEvent> events;
     std::deque<PerformedAction> actions;
     std::deque<QString> openedURLs;
+    std::deque<QString> messages;
     int promptCount = 0;
     std::uint64_t attributeReads = 0;
 };

@@ -139,6 +139,7 @@ QJsonObject stateAnswer(Desktop &desktop)
             {u"loginItem"_s, loginItemAnswer(desktop.scriptedLoginItem())},
             {u"pointer"_s, json::point(desktop.input().pointer())},
             {u"openedURLs"_s, QJsonArray::fromStringList(inspection.takeOpenedURLs())},
+            {u"messages"_s, QJsonArray::fromStringList(inspection.takeMessages())},
             {u"prompts"_s, inspection.promptCount()},
             {u"events"_s, eventsAnswer(inspection.takeEvents())},
             {u"actions"_s, actionsAnswer(inspection.takeActions())},

@@ -38,10 +38,17 @@ bool HotkeyRegistry::press(std::uint32_t keyCode, std::uint32_t carbonModifiers)
 {
     if (!isRegistered({keyCode, carbonModifiers}))
         return false;
+    if (m_observer)
+        m_observer();
     // A copy: the handler may install another one.
     if (const platform::Work handler = m_handler)
         handler();
     return true;
+}
+
+void HotkeyRegistry::setObserver(platform::Work observer)
+{
+    m_observer = std::move(observer);
 }
 
 std::optional<KeyCombination> HotkeyRegistry::current() const

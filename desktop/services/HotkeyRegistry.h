@@ -19,6 +19,7 @@ public:
 
     // True when the combination is registered; the handler has run then.
     bool press(std::uint32_t keyCode, std::uint32_t carbonModifiers);
+    void setObserver(platform::Work observer); // runs before the handler, at each press
     std::optional<KeyCombination> current() const; // the latest of those registered
 
     // Grabs what is registered now and later; null lets go. A combination that the session refuses keeps working
@@ -31,6 +32,7 @@ private:
     std::map<platform::EventHotKeyRef, KeyCombination> m_registered;
     platform::EventHotKeyRef m_lastRef = 0;
     platform::Work m_handler;
+    platform::Work m_observer;
     std::unique_ptr<GlobalKeyGrabber> m_grabber;
 };
 

@@ -4,12 +4,14 @@
 
 #include <QDBusMessage>
 #include <QDBusPendingCallWatcher>
+#include <limits>
 
 namespace brimshade::desktop::tray {
 
 namespace {
 
-constexpr int kTimeLimitMilliseconds = 2000;
+constexpr int kTimeLimit = static_cast<int>(kAnswerSeconds * 1000); // milliseconds
+constexpr int kNoTimeLimit = std::numeric_limits<int>::max();
 
 QDBusMessage makeCall(const BusAddress &to, const QString &method, const QVariantList &arguments)
 {
@@ -24,6 +26,17 @@ BusReply readReply(const QDBusPendingCall &call)
     if (call.isError())
         return std::unexpected(BusError{call.error().name(), call.error().message()});
     return plainArguments(call.reply().arguments());
+}
+
+void call(const QDBusConnection &bus, const QDBusMessage &message, int timeLimit, QObject *context,
+          ReplyHandler handler)
+{
+    auto *watcher = new QDBusPendingCallWatcher(bus.asyncCall(message, timeLimit), context);
+    QObject::connect(watcher, &QDBusPendingCallWatcher::finished, context,
+                     [handler = std::move(handler)](QDBusPendingCallWatcher *finished) {
+                         finished->deleteLater();
+                         handler(readReply(*finished));
+                     });
 }
 
 } // namespace
@@ -42,13 +55,13 @@ bool BusError::isTimeout() const
 void callAsync(const QDBusConnection &bus, const BusAddress &to, const QString &method, const QVariantList &arguments,
                QObject *context, ReplyHandler handler)
 {
-    const auto call = bus.asyncCall(makeCall(to, method, arguments), kTimeLimitMilliseconds);
-    auto *watcher = new QDBusPendingCallWatcher(call, context);
-    QObject::connect(watcher, &QDBusPendingCallWatcher::finished, context,
-                     [handler = std::move(handler)](QDBusPendingCallWatcher *finished) {
-                         finished->deleteLater();
-                         handler(readReply(*finished));
-                     });
+    call(bus, makeCall(to, method, arguments), kTimeLimit, context, std::move(handler));
+}
+
+void callPatiently(const QDBusConnection &bus, const BusAddress &to, const QString &method,
+                   const QVariantList &arguments, QObject *context, ReplyHandler handler)
+{
+    call(bus, makeCall(to, method, arguments), kNoTimeLimit, context, std::move(handler));
 }
 
 void notify(const QDBusConnection &bus, const BusAddress &to, const QString &method, const QVariantList &arguments)

@@ -8,6 +8,9 @@
 
 namespace brimshade::desktop::tray {
 
+// How long a program may take to answer.
+inline constexpr double kAnswerSeconds = 2;
+
 struct BusError {
     QString name; // "org.freedesktop.DBus.Error.UnknownMethod"
     QString text;
@@ -29,6 +32,10 @@ struct BusAddress {
 // the context is gone. No service is started by a call.
 void callAsync(const QDBusConnection &bus, const BusAddress &to, const QString &method, const QVariantList &arguments,
                QObject *context, ReplyHandler handler);
+
+// The same without a limit: for an answer that may take as long as a person does.
+void callPatiently(const QDBusConnection &bus, const BusAddress &to, const QString &method,
+                   const QVariantList &arguments, QObject *context, ReplyHandler handler);
 
 // Calls without asking for an answer: what the callee makes of it is its own affair.
 void notify(const QDBusConnection &bus, const BusAddress &to, const QString &method, const QVariantList &arguments);

@@ -33,17 +33,6 @@ ExtraDescription describeExtra(const TrayItem &item, const QString &identifier)
     return extra;
 }
 
-QString applicationName(const std::optional<DesktopEntry> &entry, const std::vector<HostedItem> &items)
-{
-    if (entry && !entry->name.isEmpty())
-        return entry->name;
-    for (const auto &hosted : items) {
-        if (!hosted.item.nameForPeople().isEmpty())
-            return hosted.item.nameForPeople();
-    }
-    return QStringLiteral("App");
-}
-
 platform::Image applicationIcon(const std::optional<DesktopEntry> &entry, const std::vector<HostedItem> &items,
                                 const IconFinder &icons)
 {
@@ -54,6 +43,17 @@ platform::Image applicationIcon(const std::optional<DesktopEntry> &entry, const 
 }
 
 } // namespace
+
+QString applicationName(const std::optional<DesktopEntry> &entry, const std::vector<HostedItem> &items)
+{
+    if (entry && !entry->name.isEmpty())
+        return entry->name;
+    for (const auto &hosted : items) {
+        if (!hosted.item.nameForPeople().isEmpty())
+            return hosted.item.nameForPeople();
+    }
+    return QStringLiteral("App");
+}
 
 ApplicationSpec describeApplication(int pid, const std::optional<DesktopEntry> &entry,
                                     const std::vector<HostedItem> &items, const IconFinder &icons)

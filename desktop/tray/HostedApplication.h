@@ -13,9 +13,12 @@ struct HostedItem {
     ItemHandler handler;
 };
 
-// The application that a process with these items, in the order in which they came, is on the desktop. Its name and
-// icon are the desktop entry's, else those of the first item that has one. An extra is identified by the item's id, or
-// where that is missing or taken by the object path.
+// What people know it by: the desktop entry's name, else that of the first item that has one.
+QString applicationName(const std::optional<DesktopEntry> &entry, const std::vector<HostedItem> &items);
+
+// The application that a process with these items, in the order in which they came, is on the desktop. Its icon is the
+// desktop entry's, else that of the first item that has one. An extra is identified by the item's id, or where that is
+// missing or taken by the object path.
 ApplicationSpec describeApplication(int pid, const std::optional<DesktopEntry> &entry,
                                     const std::vector<HostedItem> &items, const IconFinder &icons);
 

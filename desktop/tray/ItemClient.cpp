@@ -2,8 +2,6 @@
 
 #include "MenuClient.h"
 
-#include <cmath>
-
 namespace brimshade::desktop::tray {
 
 namespace {
@@ -14,8 +12,15 @@ constexpr auto kProperties = "org.freedesktop.DBus.Properties";
 ItemClient::ItemClient(const QDBusConnection &bus, const ItemKey &key, platform::Dispatch &dispatch,
                        const IconFinder &icons)
     : m_bus(bus), m_key(key), m_address{key.owner, key.path, QString::fromLatin1(kItemInterface)}, m_dispatch(dispatch),
-      m_icons(icons), m_refresh(dispatch, [this] { fetch(); })
+      m_icons(icons), m_refresh(dispatch, [this] { fetch(); }), m_life(bus, key.owner, dispatch),
+      m_press(bus, m_address, m_life, dispatch)
 {
+    connect(&m_press, &ItemPress::menuReady, this, &ItemClient::menuReady);
+    connect(&m_press, &ItemPress::message, this, &ItemClient::say);
+    connect(&m_life, &LifeSign::silent, this, [this] {
+        if (!m_press.isProgramBusy())
+            Q_EMIT unanswered();
+    });
     // Without a name: every signal of the interface.
     m_bus.connect(key.owner, key.path, m_address.interface, QString(), this, SLOT(signalled()));
     m_refresh.requestNow();
@@ -69,46 +74,21 @@ void ItemClient::updateMenu()
     const auto picture = [icons = m_icons, theme = m_item->iconThemePath](const QString &name) {
         return icons.find(name, theme);
     };
-    m_menu = std::make_unique<MenuClient>(m_bus, m_key.owner, m_item->menuPath, m_dispatch, picture);
-    connect(m_menu.get(), &MenuClient::ready, this, [this] { Q_EMIT menuReady(m_pressedFrame); });
-    connect(m_menu.get(), &MenuClient::unusable, this, &ItemClient::tryNext);
+    m_menu = std::make_unique<MenuClient>(m_bus, m_key.owner, m_item->menuPath, m_dispatch, m_life, picture);
+    connect(m_menu.get(), &MenuClient::ready, &m_press, &ItemPress::menuIsReady);
+    connect(m_menu.get(), &MenuClient::unusable, &m_press, &ItemPress::tryNext);
     connect(m_menu.get(), &MenuClient::message, this, &ItemClient::say);
 }
 
 void ItemClient::press(ItemGesture gesture, const QRectF &frame)
 {
-    if (!m_item)
-        return;
-    m_pressedFrame = frame;
-    m_untried = pressOrder(*m_item, gesture);
-    tryNext();
+    if (m_item)
+        m_press.start(pressOrder(*m_item, gesture), m_menu.get(), frame);
 }
 
-void ItemClient::tryNext()
+void ItemClient::lapse()
 {
-    if (m_untried.empty()) {
-        say(QStringLiteral("it has no menu and cannot be activated"));
-        return;
-    }
-    const auto press = m_untried.front();
-    m_untried.erase(m_untried.begin());
-    if (press == Press::menu && m_menu)
-        m_menu->open();
-    else
-        call(press == Press::activate ? QStringLiteral("Activate") : QStringLiteral("ContextMenu"));
-}
-
-void ItemClient::call(const QString &method)
-{
-    const int x = static_cast<int>(std::lround(m_pressedFrame.left()));
-    const int y = static_cast<int>(std::lround(m_pressedFrame.bottom()));
-    callAsync(m_bus, m_address, method, {x, y}, this, [this, method](const BusReply &reply) {
-        if (!reply && reply.error().isUnknown())
-            tryNext();
-        // A program may open its menu and answer only when that is closed: no answer in time is none to complain of.
-        else if (!reply && !reply.error().isTimeout())
-            say(QStringLiteral("%1 failed: %2").arg(method, reply.error().text));
-    });
+    m_press.lapse();
 }
 
 void ItemClient::say(const QString &text)

@@ -2,11 +2,12 @@
 #include "BusCall.h"
 #include "BusName.h"
 #include "IconFinder.h"
+#include "ItemPress.h"
+#include "LifeSign.h"
 #include "Refresh.h"
 #include "TrayItem.h"
 
 #include <QObject>
-#include <QRectF>
 #include <memory>
 #include <optional>
 
@@ -27,12 +28,13 @@ public:
     platform::Image image() const { return m_image; }
     MenuClient *menu() const { return m_menu.get(); }
 
-    // frame is the item's, in display space: a program that shows something itself gets its lower left corner.
-    void press(ItemGesture gesture, const QRectF &frame);
+    void press(ItemGesture gesture, const QRectF &frame); // of the item, in display space
+    void lapse(); // the press under way
 
 Q_SIGNALS:
     void changed(); // item() or image() is another one
     void menuReady(const QRectF &frame); // show menu() at the item that was pressed
+    void unanswered(); // a press; the program does not answer anything
     void message(const QString &text);
 
 private Q_SLOTS:
@@ -43,8 +45,6 @@ private:
     void receive(const BusReply &reply);
     void take(ParsedItem parsed);
     void updateMenu();
-    void tryNext();
-    void call(const QString &method);
     void say(const QString &text);
 
     QDBusConnection m_bus;
@@ -55,11 +55,10 @@ private:
     Refresh m_refresh;
     std::optional<TrayItem> m_item;
     platform::Image m_image;
+    LifeSign m_life;
+    ItemPress m_press;
     std::unique_ptr<MenuClient> m_menu;
     QString m_lastMessage;
-
-    std::vector<Press> m_untried; // of the press under way
-    QRectF m_pressedFrame;
 };
 
 } // namespace brimshade::desktop::tray

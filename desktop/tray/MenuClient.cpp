@@ -8,13 +8,16 @@ namespace brimshade::desktop::tray {
 
 namespace {
 constexpr auto kMenuInterface = "com.canonical.dbusmenu";
-}
+const auto kClicked = u"clicked";
+} // namespace
 
 MenuClient::MenuClient(const QDBusConnection &bus, const QString &owner, const QString &path,
-                       platform::Dispatch &dispatch, PictureByName picture, QObject *parent)
-    : QObject(parent), m_bus(bus), m_address{owner, path, QString::fromLatin1(kMenuInterface)},
+                       platform::Dispatch &dispatch, LifeSign &life, PictureByName picture)
+    : m_bus(bus), m_address{owner, path, QString::fromLatin1(kMenuInterface)}, m_life(life),
       m_picture(std::move(picture)), m_refresh(dispatch, [this] { fetch(); })
 {
+    connect(&life, &LifeSign::heard, this, [this] { sendHeld(true); });
+    connect(&life, &LifeSign::silent, this, [this] { sendHeld(false); });
     m_bus.connect(owner, path, m_address.interface, QStringLiteral("LayoutUpdated"), this,
                   SLOT(layoutUpdated(QDBusMessage)));
     m_bus.connect(owner, path, m_address.interface, QStringLiteral("ItemsPropertiesUpdated"), this,
@@ -27,14 +30,23 @@ void MenuClient::open()
     m_opening = Opening::telling;
     const bool isFresh = !m_oldParent && !m_entries.empty();
     callAsync(m_bus, m_address, QStringLiteral("AboutToShow"), {0}, this,
-              [this](const BusReply &) { programWasTold(); });
+              [this](const BusReply &reply) { programWasTold(reply); });
+    m_life.ask();
     if (isFresh)
         finishOpening(true);
 }
 
-// The answer itself is not trusted: programs that fill a menu only now often say that nothing changed.
-void MenuClient::programWasTold()
+void MenuClient::forgetOpening()
 {
+    m_opening = Opening::none;
+    m_readsForOpening = false;
+}
+
+// The answer itself is not trusted: programs that fill a menu only now often say that nothing changed.
+void MenuClient::programWasTold(const BusReply &reply)
+{
+    if (reply || !reply.error().isTimeout())
+        m_life.hear();
     markOld(0);
     if (m_opening != Opening::telling)
         return;
@@ -52,12 +64,12 @@ void MenuClient::aboutToShow(int id)
 
 void MenuClient::choose(int id)
 {
-    sendEvent(id, QStringLiteral("clicked"));
+    sendEvent(id, QString::fromUtf16(kClicked));
 }
 
 void MenuClient::close()
 {
-    m_isOpen = false;
+    --m_opened;
     while (!m_shown.empty()) {
         sendEvent(m_shown.back(), QStringLiteral("closed"));
         m_shown.pop_back();
@@ -80,7 +92,7 @@ void MenuClient::propertiesUpdated()
 void MenuClient::markOld(int parent)
 {
     m_oldParent = m_oldParent.value_or(parent) == parent ? parent : 0;
-    if (m_isOpen)
+    if (m_opened > 0)
         m_refresh.request();
 }
 
@@ -108,11 +120,11 @@ void MenuClient::receive(int parent, const BusReply &reply)
 void MenuClient::finishOpening(bool isRead)
 {
     m_opening = Opening::none;
-    m_isOpen = isRead && !m_entries.empty();
-    if (!m_isOpen) {
+    if (!isRead || m_entries.empty()) {
         Q_EMIT unusable();
         return;
     }
+    ++m_opened;
     sendEvent(0, QStringLiteral("opened"));
     if (m_oldParent)
         m_refresh.request();
@@ -147,15 +159,32 @@ void MenuClient::showNew(std::vector<MenuEntry> entries, bool isCut)
     m_saidCut = m_saidCut || isCut;
     const bool same = looksTheSame(m_entries, entries);
     m_entries = std::move(entries);
-    if (m_isOpen && !same)
+    if (m_opened > 0 && !same)
         Q_EMIT changed();
 }
 
 void MenuClient::sendEvent(int id, const QString &event)
 {
+    m_held.push_back({id, event, static_cast<uint>(QDateTime::currentSecsSinceEpoch())});
+    if (m_life.isHeard())
+        sendHeld(true);
+    else
+        m_life.ask();
+}
+
+// A program that slept gets no choice that the person has given up; that its menu has closed it shall know.
+void MenuClient::sendHeld(bool isHeard)
+{
+    for (const auto &event : std::exchange(m_held, {})) {
+        if (isHeard || event.name != kClicked)
+            send(event);
+    }
+}
+
+void MenuClient::send(const Event &event)
+{
     const auto data = QVariant::fromValue(QDBusVariant(QString()));
-    notify(m_bus, m_address, QStringLiteral("Event"),
-           {id, event, data, static_cast<uint>(QDateTime::currentSecsSinceEpoch())});
+    notify(m_bus, m_address, QStringLiteral("Event"), {event.id, event.name, data, event.time});
 }
 
 } // namespace brimshade::desktop::tray

@@ -1,5 +1,6 @@
 #pragma once
 #include "BusCall.h"
+#include "LifeSign.h"
 #include "MenuLayout.h"
 #include "Refresh.h"
 
@@ -16,8 +17,9 @@ namespace brimshade::desktop::tray {
 class MenuClient : public QObject {
     Q_OBJECT
 public:
+    // life is the owner's; it outlives this.
     MenuClient(const QDBusConnection &bus, const QString &owner, const QString &path, platform::Dispatch &dispatch,
-               PictureByName picture, QObject *parent = nullptr);
+               LifeSign &life, PictureByName picture);
 
     const QString &path() const { return m_address.path; }
     const std::vector<MenuEntry> &entries() const { return m_entries; }
@@ -25,8 +27,9 @@ public:
     // Tells the program that its menu is about to be shown and ends in ready() or unusable(), at once when what was
     // read is still good. Each ready() is followed by one close().
     void open();
+    void forgetOpening(); // nobody waits for it any longer: neither ready() nor unusable() follows
     void aboutToShow(int id); // a submenu; changed() follows if that brings entries
-    void choose(int id);
+    void choose(int id); // nothing comes of it when the program has not answered since it was opened, and does not
     void close();
 
 Q_SIGNALS:
@@ -34,6 +37,13 @@ Q_SIGNALS:
     void unusable(); // the program does not answer, or has no entries
     void changed(); // entries() look different from before, while open
     void message(const QString &text);
+
+private:
+    struct Event {
+        int id = 0;
+        QString name;
+        uint time = 0; // seconds since 1970
+    };
 
 private Q_SLOTS:
     void layoutUpdated(const QDBusMessage &signal);
@@ -46,12 +56,15 @@ private:
     void replaceAll(const QVariant &node);
     void replaceSubmenu(int parent, const QVariant &node);
     void showNew(std::vector<MenuEntry> entries, bool isCut);
-    void programWasTold();
+    void programWasTold(const BusReply &reply);
     void finishOpening(bool isRead);
-    void sendEvent(int id, const QString &event);
+    void sendEvent(int id, const QString &event); // once the program is heard
+    void send(const Event &event);
+    void sendHeld(bool isHeard);
 
     QDBusConnection m_bus;
     BusAddress m_address;
+    LifeSign &m_life;
     PictureByName m_picture;
     Refresh m_refresh;
     std::vector<MenuEntry> m_entries;
@@ -60,8 +73,9 @@ private:
     enum class Opening { none, telling, reading };
     Opening m_opening = Opening::none;
     bool m_readsForOpening = false; // the read under way began after the program was told
-    bool m_isOpen = false;
+    int m_opened = 0; // times that it was shown and not yet closed
     bool m_saidCut = false;
+    std::vector<Event> m_held; // until the program is heard
     std::vector<int> m_shown; // submenus that were told so, to be told the end
 };
 

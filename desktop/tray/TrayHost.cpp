@@ -8,6 +8,7 @@
 #include "desktop/core/Lifetime.h"
 #include "desktop/core/MenuHost.h"
 #include "platform/Dispatch.h"
+#include "platform/Weakly.h"
 
 #include <algorithm>
 
@@ -42,7 +43,9 @@ private:
     void update(int pid);
     void show(int pid, Program &program, const std::vector<HostedItem> &items);
     void openMenu(MenuClient *menu, const QRectF &frame);
-    HostedItem hosted(ItemClient &client);
+    void lapsePresses();
+    void tellUnanswered(int pid);
+    static std::vector<HostedItem> hosted(const Program &program);
 
     TrayHost &m_owner;
     Desktop &m_desktop;
@@ -67,6 +70,7 @@ TrayHost::Private::Private(TrayHost &owner, Desktop &desktop, const QDBusConnect
     connect(&m_registry, &ItemRegistry::added, this, &Private::add);
     connect(&m_registry, &ItemRegistry::removed, this, &Private::remove);
     connect(&m_registry, &ItemRegistry::message, &m_owner, &TrayHost::message);
+    connect(&m_desktop, &Desktop::acted, this, &Private::lapsePresses);
 }
 
 TrayHost::Private::~Private()
@@ -97,6 +101,7 @@ void TrayHost::Private::place(const ItemKey &key, int pid)
     auto *item = client.get();
     connect(item, &ItemClient::changed, this, [this, pid] { update(pid); });
     connect(item, &ItemClient::message, &m_owner, &TrayHost::message);
+    connect(item, &ItemClient::unanswered, this, [this, pid] { tellUnanswered(pid); });
     connect(item, &ItemClient::menuReady, this, [this, item](const QRectF &frame) { openMenu(item->menu(), frame); });
     const bool isNew = !m_programs.contains(pid);
     m_programs[pid].items.push_back(std::move(client));
@@ -149,11 +154,7 @@ void TrayHost::Private::update(int pid)
     auto &program = m_programs[pid];
     if (!program.isLookedUp)
         return;
-    std::vector<HostedItem> items;
-    for (const auto &client : program.items) {
-        if (client->item())
-            items.push_back(hosted(*client));
-    }
+    const auto items = hosted(program);
     if (!items.empty())
         show(pid, program, items);
     else if (program.hostedId != 0)
@@ -172,18 +173,35 @@ void TrayHost::Private::show(int pid, Program &program, const std::vector<Hosted
         program.hostedId = spare++;
 }
 
-HostedItem TrayHost::Private::hosted(ItemClient &client)
+std::vector<HostedItem> TrayHost::Private::hosted(const Program &program)
 {
-    return {client.key(), *client.item(), client.image(),
-            [item = QPointer(&client)](ItemGesture gesture, const QRectF &frame) {
-                if (item)
-                    item->press(gesture, frame);
-            }};
+    std::vector<HostedItem> items;
+    for (const auto &client : program.items) {
+        if (client->item()) {
+            items.push_back({client->key(), *client->item(), client->image(),
+                             platform::weakly(QPointer(client.get()), &ItemClient::press)});
+        }
+    }
+    return items;
 }
 
 void TrayHost::Private::openMenu(MenuClient *menu, const QRectF &frame)
 {
     m_desktop.menus().open(std::make_shared<TrayMenu>(*menu), frame);
+}
+
+void TrayHost::Private::lapsePresses()
+{
+    for (const auto &[pid, program] : m_programs) {
+        for (const auto &client : program.items)
+            client->lapse();
+    }
+}
+
+void TrayHost::Private::tellUnanswered(int pid)
+{
+    const auto &program = m_programs[pid];
+    m_desktop.notify(applicationName(program.entry, hosted(program)), QStringLiteral("The program does not answer."));
 }
 
 } // namespace brimshade::desktop

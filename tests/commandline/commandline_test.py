@@ -159,7 +159,7 @@ class Script(Files):
         for state in (first, opened):
             self.assertEqual(set(state), set(
                 "ok time model shown panel strip statusItem divider hotkey menuBar windows menu defaults loginItem pointer "
-                "openedURLs prompts events actions requests log".split()))
+                "openedURLs messages prompts events actions requests log".split()))
             self.assertEqual(set(state["model"]), set(
                 "isOpen extras scanned trusted hoveredID query selectedID notch movingID message showVisible hoverToOpen "
                 "shortcut dividerEnabled launchAtLogin hiddenMatches visibleMatches hiddenCount columns panelSize".split()))

@@ -1,7 +1,6 @@
 #include "FakeProgram.h"
 #include "desktop/tray/BusCall.h"
 
-#include <QDBusMessage>
 #include <QTimer>
 
 namespace brimshade::desktop::tray {
@@ -65,7 +64,7 @@ void FakeProgram::signalLayout(int parent)
     m_connection.send(signal);
 }
 
-bool FakeProgram::handleMessage(const QDBusMessage &message, const QDBusConnection &connection)
+bool FakeProgram::handleMessage(const QDBusMessage &message, const QDBusConnection &)
 {
     QStringList words{message.member()};
     for (const auto &argument : message.arguments().mid(0, 2)) {
@@ -75,11 +74,27 @@ bool FakeProgram::handleMessage(const QDBusMessage &message, const QDBusConnecti
     if (message.member() == u"GetLayout")
         words = words.mid(0, 2);
     m_calls.append(words.join(u' '));
-    if (unknownMethods.contains(message.member()))
-        connection.send(message.createErrorReply(QDBusError::UnknownMethod, u"no such method"_s));
+    Q_EMIT called(m_calls.last());
+    if (heldMethods.contains(message.member()))
+        m_held.push_back(message);
     else
-        connection.send(message.createReply(answer(message)));
+        reply(message);
     return true;
+}
+
+void FakeProgram::answerHeld()
+{
+    heldMethods.clear();
+    for (const auto &message : std::exchange(m_held, {}))
+        reply(message);
+}
+
+void FakeProgram::reply(const QDBusMessage &message)
+{
+    if (unknownMethods.contains(message.member()))
+        m_connection.send(message.createErrorReply(QDBusError::UnknownMethod, u"no such method"_s));
+    else
+        m_connection.send(message.createReply(answer(message)));
 }
 
 QVariantList FakeProgram::answer(const QDBusMessage &message)

@@ -4,6 +4,7 @@
 #include "support/PrivateBus.h"
 
 #include <QCoreApplication>
+#include <QDBusMessage>
 #include <QDBusVirtualObject>
 #include <QDeadlineTimer>
 #include <QEventLoop>
@@ -44,6 +45,7 @@ public:
     QVariantMap properties; // of the item
     MenuNode menu; // at /Menu; read anew for every answer
     QSet<QString> unknownMethods; // answered as a program that lacks them does
+    QSet<QString> heldMethods; // answered by answerHeld()
     std::function<void(int id)> onAboutToShow;
 
     // "Activate 10 37", "AboutToShow 0", "GetLayout 0", "Event 3 clicked", "GetAll", in order
@@ -52,17 +54,23 @@ public:
     QStringList takeEvents(); // only the events, and forgets them
 
     void registerItem(const QString &argument); // with whoever is the watcher
+    void answerHeld();
     void signalItem(const QString &name);
     void signalLayout(int parent);
 
     bool handleMessage(const QDBusMessage &message, const QDBusConnection &connection) override;
     QString introspect(const QString &) const override { return {}; }
 
+Q_SIGNALS:
+    void called(const QString &what); // as calls() has it
+
 private:
+    void reply(const QDBusMessage &message);
     QVariantList answer(const QDBusMessage &message);
 
     QDBusConnection m_connection;
     QStringList m_calls;
+    std::vector<QDBusMessage> m_held;
 };
 
 // One such program and a connection of ours, on a bus of their own.

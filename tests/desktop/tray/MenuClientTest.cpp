@@ -12,8 +12,8 @@ protected:
 
     void start()
     {
-        m_client =
-            std::make_unique<MenuClient>(m_own, m_connection.baseService(), u"/Menu"_s, m_dispatch, PictureByName());
+        m_client = std::make_unique<MenuClient>(m_own, m_connection.baseService(), u"/Menu"_s, m_dispatch, m_life,
+                                                PictureByName());
         m_ready = std::make_unique<QSignalSpy>(m_client.get(), &MenuClient::ready);
         m_changed = std::make_unique<QSignalSpy>(m_client.get(), &MenuClient::changed);
         waitUntil([&] { return m_program.calls().contains(u"GetLayout 0"_s); });
@@ -33,6 +33,7 @@ protected:
         return result;
     }
 
+    LifeSign m_life{m_own, m_connection.baseService(), m_dispatch};
     std::unique_ptr<MenuClient> m_client;
     std::unique_ptr<QSignalSpy> m_ready, m_changed;
 };

@@ -1,0 +1,55 @@
+#pragma once
+#include "LifeSign.h"
+#include "TrayItem.h"
+
+#include <QPointer>
+#include <QRectF>
+
+namespace brimshade::desktop::tray {
+
+class MenuClient;
+
+// A press of one item under way: it tries one thing after the other until the program takes one. It lapses when the
+// program has not answered for two seconds: nothing comes of it then, whatever the program does when it wakes. Main
+// thread.
+class ItemPress : public QObject {
+    Q_OBJECT
+public:
+    ItemPress(const QDBusConnection &bus, const BusAddress &item, LifeSign &life, platform::Dispatch &dispatch);
+
+    // frame is the item's, in display space: a program that shows something itself gets its lower left corner. The one
+    // before lapses.
+    void start(std::vector<Press> order, MenuClient *menu, const QRectF &frame);
+    void lapse();
+
+    void menuIsReady();
+    void tryNext(); // the program has no such thing
+
+    // Calls whose answer may come when a menu closes that the program itself draws.
+    bool isProgramBusy() const { return m_unanswered > 0; }
+
+Q_SIGNALS:
+    void menuReady(const QRectF &frame);
+    void message(const QString &text);
+
+private:
+    void timeOut();
+    void callWhenHeard();
+    void answered(const QString &method, const BusReply &reply);
+
+    QDBusConnection m_bus;
+    BusAddress m_item;
+    LifeSign &m_life;
+    platform::Dispatch &m_dispatch;
+
+    int m_number = 0; // of the press; what belongs to another one comes too late
+    bool m_isUnderWay = false;
+    std::vector<Press> m_untried;
+    QString m_method; // to be called once the program is heard
+    QPointer<MenuClient> m_menu;
+    QRectF m_frame;
+    int m_unanswered = 0;
+    Lifetime m_lifetime;
+};
+
+} // namespace brimshade::desktop::tray

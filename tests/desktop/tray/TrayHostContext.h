@@ -1,0 +1,30 @@
+#pragma once
+#include "FakeProgram.h"
+#include "desktop/tray/TrayHost.h"
+#include "support/TestDesktop.h"
+
+namespace brimshade::desktop::tray {
+
+// A desktop that hosts the items of a bus of its own.
+class TrayHostContext : public BusTest {
+protected:
+    explicit TrayHostContext(const DesktopDescription &description = notchedDesktop({}));
+
+    // A program on a connection of that name, with an item and a menu of two entries.
+    std::unique_ptr<FakeProgram> start(const QString &name, const QString &title);
+    void end(std::unique_ptr<FakeProgram> program, const QString &name);
+
+    // The tray's items in the order in which they came, as "Title" texts.
+    QStringList titles();
+    void waitForTitles(const QStringList &wanted);
+    int hostedPid(); // of the first of them; 0 without any
+    void press(int index); // through Accessibility
+    void click(const QString &titleOrIdentifier, MouseButton button = MouseButton::left);
+    bool isMenuOpen() { return m_desktop.menus().openMenu(); }
+
+    FakeSymbols m_symbols;
+    Desktop m_desktop;
+    TrayHost m_host;
+};
+
+} // namespace brimshade::desktop::tray
