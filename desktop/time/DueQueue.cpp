@@ -5,10 +5,27 @@ namespace brimshade::desktop {
 bool DueQueue::add(Nanoseconds due, platform::Work work)
 {
     const std::lock_guard lock(m_mutex);
+    return insert({due, m_nextTurn++}, std::move(work));
+}
+
+bool DueQueue::add(Nanoseconds due, Turn turn, platform::Work work)
+{
+    const std::lock_guard lock(m_mutex);
+    return insert({due, turn}, std::move(work));
+}
+
+bool DueQueue::insert(Key key, platform::Work work)
+{
     if (m_closed)
         return false;
-    const auto place = m_waiting.emplace(Key(due, m_sequence++), std::move(work)).first;
+    const auto place = m_waiting.emplace(key, std::move(work)).first;
     return place == m_waiting.begin();
+}
+
+DueQueue::Turn DueQueue::takeTurns(std::size_t count)
+{
+    const std::lock_guard lock(m_mutex);
+    return std::exchange(m_nextTurn, m_nextTurn + count);
 }
 
 std::optional<platform::Work> DueQueue::takeDue(Nanoseconds now)

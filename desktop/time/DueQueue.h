@@ -12,18 +12,26 @@ namespace brimshade::desktop {
 // Work ordered by its due time, then by its arrival. Any thread.
 class DueQueue {
 public:
+    using Turn = std::uint64_t; // among what is due at the same time
+
     // True when this work is now the first; once closed, the work is dropped.
     bool add(Nanoseconds due, platform::Work work);
+    // The same in a turn of its own, for what comes back again and again; one piece of work at a time has it.
+    bool add(Nanoseconds due, Turn turn, platform::Work work);
+    Turn takeTurns(std::size_t count); // that many, from the one returned on
+
     std::optional<platform::Work> takeDue(Nanoseconds now);
     std::optional<Nanoseconds> nextDue() const;
     void close(); // drops what waits, and all that comes later
 
 private:
-    using Key = std::pair<Nanoseconds, std::uint64_t>;
+    using Key = std::pair<Nanoseconds, Turn>;
+
+    bool insert(Key key, platform::Work work); // with the lock held
 
     mutable std::mutex m_mutex;
     std::map<Key, platform::Work> m_waiting;
-    std::uint64_t m_sequence = 0;
+    Turn m_nextTurn = 0;
     bool m_closed = false;
 };
 

@@ -172,6 +172,13 @@ void VirtualDispatch::concurrentPerform(std::size_t iterations, const std::funct
     if (iterations == 0)
         return;
     Worker &worker = callingWorker();
+    const DueQueue::Turn firstTurn = m_events.takeTurns(iterations);
+    const Iterations::Body inTurn = [&](std::size_t index) {
+        Worker &runner = callingWorker();
+        runner.setTurn(firstTurn + index);
+        work(index);
+        runner.setTurn({});
+    };
     bool isDone = false;
     bool isWaiting = false;
     const auto allEnded = [&] {
@@ -179,9 +186,8 @@ void VirtualDispatch::concurrentPerform(std::size_t iterations, const std::funct
         if (isWaiting)
             m_events.add(m_now, [&worker] { worker.lane().resume(worker); });
     };
-    std::make_shared<Iterations>(
-        iterations, work, [this](platform::Work run) { m_concurrent->async(std::move(run)); }, allEnded)
-        ->run();
+    const auto callIn = [this](platform::Work run) { m_concurrent->async(std::move(run)); };
+    std::make_shared<Iterations>(iterations, inTurn, callIn, allEnded)->run();
     isWaiting = !isDone;
     if (isWaiting)
         worker.wait();
@@ -190,7 +196,8 @@ void VirtualDispatch::concurrentPerform(std::size_t iterations, const std::funct
 void VirtualDispatch::sleep(double seconds)
 {
     Worker &worker = callingWorker();
-    m_events.add(m_now + toNanoseconds(seconds), [&worker] { worker.lane().resume(worker); });
+    const DueQueue::Turn turn = worker.turn() ? *worker.turn() : m_events.takeTurns(1);
+    m_events.add(m_now + toNanoseconds(seconds), turn, [&worker] { worker.lane().resume(worker); });
     worker.wait();
 }
 

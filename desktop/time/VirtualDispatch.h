@@ -18,7 +18,7 @@ class Lane;
 // runs at a time: the main thread, or the one it has lent the baton to. A worker keeps the baton until it sleeps,
 // calls mainSync, waits in concurrentPerform or ends, so every run takes the same course. Hence a worker must hold no
 // lock over those calls and must not wait for another worker by any other means. What runs side by side takes as long
-// as the slowest of it; of what wakes at the same instant, what began earlier goes first.
+// as the slowest of it; of its iterations that wake at the same instant, the earlier one goes first.
 //
 // The main queue, the workers' turns and the frames run inside runDue() and advance() only. The thread that
 // makes it is the main one, and the one that destroys it. mainSync is for the main thread and the workers, sleep and

@@ -1,4 +1,5 @@
 #pragma once
+#include "DueQueue.h"
 #include "platform/Dispatch.h"
 
 #include <condition_variable>
@@ -25,6 +26,11 @@ public:
     void lendBaton(); // returns when it comes back
     bool isWorking() const; // its work has not ended yet
 
+    // The worker's own thread. What decides its place among those that wake at the same instant; absent: when it fell
+    // asleep.
+    std::optional<DueQueue::Turn> turn() const { return m_turn; }
+    void setTurn(std::optional<DueQueue::Turn> turn) { m_turn = turn; }
+
     // The worker's own thread: gives the baton back and returns with it again, at once when it is being stopped.
     void wait();
 
@@ -39,6 +45,7 @@ private:
     bool m_hasBaton = false;
     bool m_isWorking = false;
     bool m_stopping = false;
+    std::optional<DueQueue::Turn> m_turn;
     std::thread m_thread; // last: it starts with everything else in place
 };
 

@@ -79,14 +79,20 @@ TEST_F(VirtualDispatchTest, ConcurrentIterationsTakeAsLongAsTheSlowestAndWakeInT
             note("end" + std::to_string(i));
         });
         note("all");
+        const double shorter[] = {0.05, 0.1}; // the first falls asleep again after the second, for the same instant
+        dispatch.concurrentPerform(2, [&](std::size_t i) {
+            for (double slept = 0; slept < 0.1; slept += shorter[i])
+                dispatch.sleep(shorter[i]);
+            note("again" + std::to_string(i));
+        });
         dispatch.concurrentPerform(300, [this](std::size_t) { dispatch.sleep(0.25); });
         note("many");
     });
-    dispatch.advance(0.65);
+    dispatch.advance(0.75);
     EXPECT_THAT(log,
                 ElementsAre("begin0 0.000", "begin1 0.000", "begin2 0.000", "end2 0.000", "begin3 0.000",
                             "begin4 0.000", "end4 0.100", "end0 0.200", "end3 0.200", "end1 0.400", "all 0.400",
-                            "many 0.650"));
+                            "again0 0.500", "again1 0.500", "many 0.750"));
 }
 
 TEST_F(VirtualDispatchTest, FramesAreMadeOnlyWhileTheyAreWanted)
