@@ -39,8 +39,9 @@ void launchClock(Desktop &desktop)
     agent.bundleIdentifier = u"com.apple.MenuBarAgent"_s; // whose clock is pinned
     agent.bundlePath = u"/System/Library/CoreServices/MenuBarAgent.app"_s;
     agent.extras = {{clock}};
-    desktop.launch({.description = agent,
-                    .openItem = {{identifier, [&desktop](const QRectF &frame) { openDate(desktop.menus(), frame); }}}});
+    ItemSpec item;
+    item.handler = [&desktop](ItemGesture, const QRectF &frame) { openDate(desktop.menus(), frame); };
+    desktop.launch({.description = agent, .items = {{identifier, item}}});
 }
 
 } // namespace brimshade::desktop::session

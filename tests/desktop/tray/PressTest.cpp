@@ -1,4 +1,5 @@
 #include "TrayHostContext.h"
+#include "desktop/tray/BusCall.h"
 
 #include <QRegularExpression>
 #include <csignal>
