@@ -34,4 +34,9 @@ QtObject {
 
     // The toolkit's own point is a 72nd of an inch of the screen; this system's is one unit of the scene.
     readonly property real pointsPerUnit: 72 / (25.4 * Application.screens[0].logicalPixelDensity)
+
+    // Of what stands beside text of that ink and says less.
+    function secondary(ink: color): color {
+        return Qt.alpha(ink, 0.5);
+    }
 }

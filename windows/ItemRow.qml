@@ -54,7 +54,7 @@ Item {
             visible: root.detail !== ""
             text: root.detail
             size: 10
-            color: root.palette.placeholderText
+            color: Theme.secondary(root.palette.windowText)
             maximumLineCount: 1
             elide: Text.ElideRight
         }
@@ -81,7 +81,7 @@ Item {
             visible: root.control === ItemRows.Pinned
             text: qsTr("Pinned by macOS")
             size: 10
-            color: root.palette.placeholderText
+            color: Theme.secondary(root.palette.windowText)
         }
         FocusRing {
             anchors.fill: toggle

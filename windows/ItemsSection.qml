@@ -37,7 +37,7 @@ SettingsSection {
             objectName: "noItemsText"
             width: root.width - 2 * Theme.formInset
             text: root.model.trusted ? qsTr("Reading your menu bar…") : qsTr("Allow Accessibility access to manage your menu bar.")
-            color: root.palette.placeholderText
+            color: Theme.secondary(root.palette.windowText)
             wrapMode: Text.WordWrap
         }
     }

@@ -43,7 +43,7 @@ Column {
         visible: root.footer !== ""
         text: root.footer
         size: 11
-        color: root.palette.placeholderText
+        color: Theme.secondary(root.palette.windowText)
         wrapMode: Text.WordWrap
     }
 }

@@ -18,7 +18,6 @@ FocusScope {
         window: Theme.lightWindow
         base: "white"
         windowText: Theme.lightText
-        placeholderText: Qt.rgba(0, 0, 0, 0.5)
         button: "white"
         buttonText: Theme.lightText
         highlight: Theme.lightAccent
