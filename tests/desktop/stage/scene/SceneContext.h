@@ -1,7 +1,7 @@
 #pragma once
+#include "desktop/services/SymbolService.h"
 #include "desktop/stage/scene/SceneHost.h"
 #include "support/TestDesktop.h"
-#include "desktop/services/SymbolService.h"
 
 #include <QQuickItem>
 #include <QQuickWindow>
