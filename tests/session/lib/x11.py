@@ -1,6 +1,7 @@
 """An X server without a screen, with a window manager and, if wanted, a compositing manager."""
 import os
 import re
+import subprocess
 import signal
 
 from .hands import X11Hands
@@ -72,7 +73,11 @@ class X11(Session):
     def window(self, class_name):
         """The identifier of the client with that class; None when there is none."""
         for client in self.numbers("_NET_CLIENT_LIST"):
-            if f'"{class_name}"' in self.output_of("xprop", "-id", str(client), "WM_CLASS").decode():
+            try:
+                is_it = f'"{class_name}"' in self.output_of("xprop", "-id", str(client), "WM_CLASS").decode()
+            except subprocess.CalledProcessError:
+                continue  # it has gone since it was listed
+            if is_it:
                 return client
         return None
 
