@@ -13,6 +13,8 @@
 #include "desktop/session/SessionPreferences.h"
 #include "desktop/session/SessionScreens.h"
 #include "desktop/session/surface/ShellBackend.h"
+#include "desktop/session/watchdog/StickCommand.h"
+#include "desktop/session/watchdog/Watchdog.h"
 #include "desktop/time/RealDispatch.h"
 #include "desktop/tray/TrayHost.h"
 
@@ -59,6 +61,7 @@ public:
     SessionPreferences preferences;
     desktop::Desktop desktop;
     SessionHost host;
+    desktop::session::Watchdog watchdog;
     std::shared_ptr<app::AppDelegate> delegate;
     std::unique_ptr<desktop::TrayHost> tray;
     RealClock clock;
@@ -69,6 +72,7 @@ private:
     static desktop::DesktopDescription described(const SessionScreens &screens);
     void refuseInvented();
     void grabKeys();
+    void watchOverKeys();
 };
 
 desktop::session::ScreenChoice LiveSession::Parts::screenChoice(const LiveSessionOptions &options) const
@@ -96,8 +100,10 @@ LiveSession::Parts::Parts(LiveSessionOptions options, std::unique_ptr<ShellBacke
                                          .needsPermission = false,
                                          .menuBarPreferences = &preferences},
               described(screens)),
-      host(desktop, screens, *shell), delegate(std::make_shared<app::AppDelegate>(desktop.platform())),
-      clock(dispatch, host), script(desktop, host, clock, [this] { return stateReport(*delegate); })
+      host(desktop, screens, *shell),
+      watchdog({.askMain = [this](const platform::Work &work) { dispatch.mainAsync(work); }}),
+      delegate(std::make_shared<app::AppDelegate>(desktop.platform())), clock(dispatch, host),
+      script(desktop, host, clock, [this] { return stateReport(*delegate); })
 {
     desktop::session::launchClock(desktop);
     if (options.hostsTray) {
@@ -105,7 +111,9 @@ LiveSession::Parts::Parts(LiveSessionOptions options, std::unique_ptr<ShellBacke
         QObject::connect(tray.get(), &desktop::TrayHost::message, tray.get(), complain);
     }
     refuseInvented();
+    desktop::session::addStickCommand(script);
     grabKeys();
+    watchOverKeys();
     desktop.platform().application.setActivationPolicyAccessory();
     delegate->applicationDidFinishLaunching();
 }
@@ -127,6 +135,12 @@ void LiveSession::Parts::grabKeys()
         desktop.hotkeys().setGrabber(desktop::X11KeyGrabber::create(0)); // the panel takes the keys by itself
     else
         preferences.setShortcutsWork(false);
+}
+
+void LiveSession::Parts::watchOverKeys()
+{
+    QObject::connect(&host, &SessionHost::takesKeyboardChanged, &host,
+                     [this] { watchdog.watch(host.takesKeyboard()); });
 }
 
 LiveSession::Parts::~Parts()
