@@ -17,6 +17,7 @@ struct ItemSpec {
     platform::Image image; // null: the bar draws the description's symbol or the application's icon
     ItemHandler handler; // null: every gesture opens the description's menu
     QString toolTip;
+    bool isAway = false; // it has nothing to say: it stands off-screen
 };
 
 // A running application as the desktop hosts it: what its description says, and what a file cannot say.

@@ -187,6 +187,7 @@ BarEntryPointer Applications::makeEntry(const Hosted &hosted, const DescribedExt
     entry->symbol = description.symbol;
     const ItemSpec spec = specOf(hosted.given, description);
     entry->toolTip = spec.toolTip;
+    entry->isAway = spec.isAway;
     entry->image = spec.image;
     if (spec.image.isNull() && description.role == "AXMenuBarItem"_L1)
         entry->image = hosted.icon;

@@ -15,6 +15,7 @@ struct BarEntry {
     int pid = 0;
     Place place = Place::movable;
     double width = 0; // points; what the next layout takes
+    bool isAway = false; // off-screen in the next layout, whatever room there is
     std::optional<QRectF> frame; // the settled one, display space; absent until the bar has laid the item out
     ElementPointer element; // null for the own item
     std::function<void(ItemGesture)> handler; // null for the own item

@@ -22,6 +22,11 @@ bool hasRoom(double left, double right, const BarGeometry &bar)
     return bar.notch ? right > bar.notch->first : left >= bar.applicationMenusEnd;
 }
 
+double offScreen(const BarGeometry &bar)
+{
+    return std::min(0., minX(bar.frame));
+}
+
 } // namespace
 
 const Screen *barScreen(const std::vector<Screen> &screens)
@@ -57,8 +62,20 @@ std::vector<QRectF> layOut(const std::vector<double> &widths, const BarGeometry 
     for (const double width : widths) {
         if (!isOffScreen && !hasRoom(right - width, right, bar)) {
             isOffScreen = true;
-            right = std::min(0., minX(bar.frame));
+            right = offScreen(bar);
         }
+        frames.emplace_back(right - width, minY(bar.frame), width, bar.frame.height());
+        right -= width;
+    }
+    return frames;
+}
+
+std::vector<QRectF> layOutAway(const std::vector<double> &widths, const std::vector<QRectF> &others,
+                               const BarGeometry &bar)
+{
+    std::vector<QRectF> frames;
+    double right = others.empty() ? offScreen(bar) : std::min(offScreen(bar), minX(others.back()));
+    for (const double width : widths) {
         frames.emplace_back(right - width, minY(bar.frame), width, bar.frame.height());
         right -= width;
     }
@@ -72,7 +89,9 @@ bool isDrawnAt(const QRectF &frame, const BarGeometry &bar)
 
 std::size_t dropIndex(const std::vector<QRectF> &frames, double x)
 {
-    return std::ranges::count_if(frames, [x](const QRectF &frame) { return midX(frame) >= x; });
+    const auto last =
+        std::find_if(frames.rbegin(), frames.rend(), [x](const QRectF &frame) { return midX(frame) >= x; });
+    return static_cast<std::size_t>(frames.rend() - last);
 }
 
 std::size_t preferredIndex(const std::vector<double> &pinned, const std::vector<double> &movable,

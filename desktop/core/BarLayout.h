@@ -30,11 +30,15 @@ BarGeometry barGeometry(const platform::Screen &screen, double primaryHeight);
 // off-screen, leftwards from x = 0, or from the bar's left edge when that is further left.
 std::vector<QRectF> layOut(const std::vector<double> &widths, const BarGeometry &bar);
 
+// Items that are off-screen whatever room there is: left of all that stand there already.
+std::vector<QRectF> layOutAway(const std::vector<double> &widths, const std::vector<QRectF> &others,
+                               const BarGeometry &bar);
+
 // Wholly right of the notch, without one of the application menus: only then is an item drawn and takes clicks.
 bool isDrawnAt(const QRectF &frame, const BarGeometry &bar);
 
-// How many of the items, from right to left, belong right of one that is dropped at x: those whose middle is at or
-// right of it.
+// How many of the items, from right to left, belong right of one that is dropped at x: up to the last whose middle is
+// at or right of it.
 std::size_t dropIndex(const std::vector<QRectF> &frames, double x);
 
 // How many movable items, from right to left, stand right of the own item that keeps its right edge that far from the

@@ -27,19 +27,12 @@ void BarOrder::remove(const BarEntryPointer &entry)
     std::erase(m_fixed, entry);
 }
 
-std::vector<double> BarOrder::widths() const
-{
-    std::vector<double> widths;
-    std::ranges::transform(m_laidOut, std::back_inserter(widths), [](const auto &entry) { return entry->width; });
-    return widths;
-}
-
 std::vector<double> BarOrder::widths(Place place) const
 {
     std::vector<double> widths;
     for (const auto &entry : m_laidOut) {
         if (entry->place == place)
-            widths.push_back(entry->width);
+            widths.push_back(entry->isAway ? 0 : entry->width);
     }
     return widths;
 }

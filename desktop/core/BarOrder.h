@@ -14,8 +14,7 @@ public:
 
     const std::vector<BarEntryPointer> &laidOut() const { return m_laidOut; }
     const std::vector<BarEntryPointer> &fixed() const { return m_fixed; }
-    std::vector<double> widths() const; // of the laid out ones
-    std::vector<double> widths(BarEntry::Place place) const; // of those of one place
+    std::vector<double> widths(BarEntry::Place place) const; // that those of one place take in the bar
 
     // After as many items as it says, pinned ones included, this entry not counted. Nothing gets right of the pinned
     // ones and those do not move. False when the order stays as it was.

@@ -6,6 +6,7 @@
 #include "SharedState.h"
 
 #include <algorithm>
+#include <limits>
 
 using namespace brimshade::platform;
 
@@ -14,6 +15,23 @@ namespace brimshade::desktop {
 namespace {
 
 constexpr double kSettleDelay = 0.1; // seconds
+constexpr QRectF kNotYet(std::numeric_limits<float>::lowest(), 0, 0, 0); // left of everything
+
+using Entries = std::vector<BarEntryPointer>;
+
+Entries entriesThatAre(bool away, const Entries &all)
+{
+    Entries entries;
+    std::ranges::copy_if(all, std::back_inserter(entries), [away](const auto &entry) { return entry->isAway == away; });
+    return entries;
+}
+
+std::vector<double> widthsOf(const Entries &entries)
+{
+    std::vector<double> widths;
+    std::ranges::transform(entries, std::back_inserter(widths), [](const auto &entry) { return entry->width; });
+    return widths;
+}
 
 } // namespace
 
@@ -159,9 +177,13 @@ MenuBar::Layout MenuBar::layout() const
     Layout layout;
     if (!m_d->geometry)
         return layout;
-    const auto frames = layOut(m_d->order.widths(), *m_d->geometry);
-    for (std::size_t i = 0; i < frames.size(); ++i)
-        layout.emplace_back(m_d->order.laidOut()[i], frames[i]);
+    const auto shown = entriesThatAre(false, m_d->order.laidOut()), away = entriesThatAre(true, m_d->order.laidOut());
+    const auto frames = layOut(widthsOf(shown), *m_d->geometry);
+    const auto awayFrames = layOutAway(widthsOf(away), frames, *m_d->geometry);
+    for (std::size_t i = 0; i < shown.size(); ++i)
+        layout.emplace_back(shown[i], frames[i]);
+    for (std::size_t i = 0; i < away.size(); ++i)
+        layout.emplace_back(away[i], awayFrames[i]);
     return layout;
 }
 
@@ -238,8 +260,8 @@ bool MenuBar::move(const EntryPointer &entry, double x)
         return false;
     std::vector<QRectF> others;
     for (const auto &other : m_d->order.laidOut()) {
-        if (other != entry && other->frame)
-            others.push_back(*other->frame);
+        if (other != entry)
+            others.push_back(other->frame.value_or(kNotYet));
     }
     if (!m_d->order.moveTo(entry, dropIndex(others, x)))
         return false;

@@ -46,6 +46,13 @@ TEST(BarLayout, StandsFromTheRightEdgeLeftwardsAndOffScreenWhereNoRoomIsLeft)
     }
 }
 
+TEST(BarLayout, PutsWhatIsAwayLeftOfAllThatIsOffScreen)
+{
+    EXPECT_EQ(lefts(layOutAway({30, 20}, {}, kNotched)), (std::vector<double>{-30, -50}));
+    EXPECT_EQ(lefts(layOutAway({30}, layOut({132, 28}, kNotched), kNotched)), (std::vector<double>{-30}));
+    EXPECT_EQ(lefts(layOutAway({30}, layOut({841, 30, 20}, kNotched), kNotched)), (std::vector<double>{-80}));
+}
+
 TEST(BarLayout, DrawsOnlyWhatIsWhollyRightOfTheNotchOrOfTheMenus)
 {
     EXPECT_TRUE(isDrawnAt(QRectF(849, 0, 30, 37), kNotched));
@@ -63,6 +70,8 @@ TEST(BarLayout, DropsLeftOfEveryItemWhoseMiddleIsAtOrRightOfThePoint)
                                                     {1357, 2}, {1327, 3},   {100, 3},  {-15, 4}};
     for (const auto &[x, index] : cases)
         EXPECT_EQ(dropIndex(frames, x), index) << x;
+    const QRectF away(-30, 0, 30, 37);
+    EXPECT_EQ(dropIndex({QRectF(1300, 0, 30, 37), away, QRectF(1270, 0, 30, 37)}, 1200), 3u) << "past one that is away";
 }
 
 TEST(BarLayout, KeepsTheOwnItemsDistanceFromTheRightEdge)
