@@ -107,7 +107,7 @@ LiveSession::Parts::Parts(LiveSessionOptions options, std::unique_ptr<ShellBacke
 {
     desktop::session::launchClock(desktop);
     if (options.hostsTray) {
-        tray = std::make_unique<desktop::TrayHost>(desktop, QDBusConnection::sessionBus(), dispatch);
+        tray = std::make_unique<desktop::TrayHost>(desktop, desktop::connectToSessionBus, dispatch);
         QObject::connect(tray.get(), &desktop::TrayHost::message, tray.get(), complain);
     }
     refuseInvented();

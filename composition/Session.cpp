@@ -127,7 +127,7 @@ void Session::Parts::buildScript()
 
 void Session::Parts::hostTray()
 {
-    tray = std::make_unique<desktop::TrayHost>(*desktop, QDBusConnection::sessionBus(), dispatch());
+    tray = std::make_unique<desktop::TrayHost>(*desktop, desktop::connectToSessionBus, dispatch());
     QObject::connect(tray.get(), &desktop::TrayHost::message, tray.get(),
                      [](const QString &text) { std::fprintf(stderr, "brimshade: %s\n", qUtf8Printable(text)); });
 }

@@ -33,9 +33,10 @@ void call(const QDBusConnection &bus, const QDBusMessage &message, int timeLimit
 {
     auto *watcher = new QDBusPendingCallWatcher(bus.asyncCall(message, timeLimit), context);
     QObject::connect(watcher, &QDBusPendingCallWatcher::finished, context,
-                     [handler = std::move(handler)](QDBusPendingCallWatcher *finished) {
+                     [bus, handler = std::move(handler)](QDBusPendingCallWatcher *finished) {
                          finished->deleteLater();
-                         handler(readReply(*finished));
+                         if (bus.isConnected()) // else whoever holds the connection hears of its end
+                             handler(readReply(*finished));
                      });
 }
 

@@ -29,7 +29,7 @@ struct BusAddress {
 };
 
 // Calls and returns at once; the handler runs later on the main thread, at most two seconds later, and never after
-// the context is gone. No service is started by a call.
+// the context or the connection is gone. No service is started by a call.
 void callAsync(const QDBusConnection &bus, const BusAddress &to, const QString &method, const QVariantList &arguments,
                QObject *context, ReplyHandler handler);
 

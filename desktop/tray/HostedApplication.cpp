@@ -33,21 +33,25 @@ ExtraDescription describeExtra(const TrayItem &item, const QString &identifier)
     return extra;
 }
 
-platform::Image applicationIcon(const std::optional<DesktopEntry> &entry, const std::vector<HostedItem> &items,
-                                const IconFinder &icons)
+platform::Image applicationIcon(const HostedProgram &program, const std::vector<HostedItem> &items)
 {
-    auto icon = entry ? icons.find(entry->icon, {}) : platform::Image();
+    auto icon = program.icon;
     for (auto it = items.begin(); icon.isNull() && it != items.end(); ++it)
         icon = it->image;
     return icon;
 }
 
+ItemSpec specOf(const HostedItem &hosted)
+{
+    return {hosted.image, hosted.handler, toolTipOf(hosted.item), hosted.item.status == TrayItem::Status::passive};
+}
+
 } // namespace
 
-QString applicationName(const std::optional<DesktopEntry> &entry, const std::vector<HostedItem> &items)
+QString applicationName(const HostedProgram &program, const std::vector<HostedItem> &items)
 {
-    if (entry && !entry->name.isEmpty())
-        return entry->name;
+    if (program.entry && !program.entry->name.isEmpty())
+        return program.entry->name;
     for (const auto &hosted : items) {
         if (!hosted.item.nameForPeople().isEmpty())
             return hosted.item.nameForPeople();
@@ -55,15 +59,14 @@ QString applicationName(const std::optional<DesktopEntry> &entry, const std::vec
     return QStringLiteral("App");
 }
 
-ApplicationSpec describeApplication(int pid, const std::optional<DesktopEntry> &entry,
-                                    const std::vector<HostedItem> &items, const IconFinder &icons)
+ApplicationSpec describeApplication(int pid, const HostedProgram &program, const std::vector<HostedItem> &items)
 {
     ApplicationSpec given;
     given.description.pid = pid;
-    given.description.name = applicationName(entry, items);
-    if (entry)
-        given.description.bundleIdentifier = entry->id;
-    given.icon = applicationIcon(entry, items, icons);
+    given.description.name = applicationName(program, items);
+    if (program.entry)
+        given.description.bundleIdentifier = program.entry->id;
+    given.icon = applicationIcon(program, items);
     auto &extras = given.description.extras.emplace();
     for (const auto &hosted : items) {
         auto identifier = hosted.item.id;
@@ -72,7 +75,7 @@ ApplicationSpec describeApplication(int pid, const std::optional<DesktopEntry> &
         if (given.items.contains(identifier)) // the same path on another connection of the program
             identifier = hosted.key.text();
         extras.push_back(describeExtra(hosted.item, identifier));
-        given.items.emplace(identifier, ItemSpec{hosted.image, hosted.handler, toolTipOf(hosted.item)});
+        given.items.emplace(identifier, specOf(hosted));
     }
     return given;
 }

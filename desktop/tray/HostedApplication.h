@@ -13,13 +13,18 @@ struct HostedItem {
     ItemHandler handler;
 };
 
+// What is known of a program besides its items.
+struct HostedProgram {
+    std::optional<DesktopEntry> entry;
+    platform::Image icon; // the entry's; null when there is none
+};
+
 // What people know it by: the desktop entry's name, else that of the first item that has one.
-QString applicationName(const std::optional<DesktopEntry> &entry, const std::vector<HostedItem> &items);
+QString applicationName(const HostedProgram &program, const std::vector<HostedItem> &items);
 
 // The application that a process with these items, in the order in which they came, is on the desktop. Its icon is the
 // desktop entry's, else that of the first item that has one. An extra is identified by the item's id, or where that is
 // missing or taken by the object path.
-ApplicationSpec describeApplication(int pid, const std::optional<DesktopEntry> &entry,
-                                    const std::vector<HostedItem> &items, const IconFinder &icons);
+ApplicationSpec describeApplication(int pid, const HostedProgram &program, const std::vector<HostedItem> &items);
 
 } // namespace brimshade::desktop::tray

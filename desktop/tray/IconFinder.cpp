@@ -1,20 +1,16 @@
 #include "IconFinder.h"
 
-#include <QDirIterator>
-#include <QFileInfo>
-#include <QIcon>
-#include <QImageReader>
+#include <QFile>
 #include <QPainter>
-#include <QStandardPaths>
 
 namespace brimshade::desktop::tray {
 
 namespace {
 
-constexpr int kPixels = 128; // of a picture that has no size of its own
-constexpr int kLargestEdge = 1024;
-constexpr qint64 kMostPictureBytes = 4 << 20;
-constexpr int kMostFolderEntries = 4096;
+constexpr int kMostIndices = 16;
+constexpr int kMostKnown = 4096;
+constexpr double kOldIndex = 2; // seconds: a name that is missing then may have come
+constexpr double kTrustMissing = 10; // seconds in which a name that was nowhere is not looked for again
 constexpr QSizeF kItemSize{22, 22};
 
 class PixelSource : public platform::ImageSource {
@@ -34,77 +30,11 @@ private:
     QImage m_pixels;
 };
 
-bool isVector(const QString &suffix)
-{
-    return suffix == u"svg" || suffix == u"svgz";
-}
-
-QImage readPicture(const QString &path)
-{
-    const QFileInfo file(path);
-    if (!file.isFile() || file.size() > kMostPictureBytes) // not a pipe either: reading one could wait for ever
-        return {};
-    QImageReader reader(path);
-    auto size = reader.size();
-    if (isVector(file.suffix().toLower())) {
-        size = size.isEmpty() ? QSize(kPixels, kPixels) : size.scaled(kPixels, kPixels, Qt::KeepAspectRatio);
-        reader.setScaledSize(size);
-    }
-    if (size.isEmpty() || size.width() > kLargestEdge || size.height() > kLargestEdge)
-        return {};
-    return reader.read();
-}
-
-// Of several sizes the drawn one wins, then the largest file.
-bool isBetter(const QFileInfo &candidate, const QFileInfo &than)
-{
-    if (than.filePath().isEmpty() || isVector(candidate.suffix()) != isVector(than.suffix()))
-        return than.filePath().isEmpty() || isVector(candidate.suffix());
-    return candidate.size() > than.size();
-}
-
-QString fileInFolder(const QString &folder, const QString &name)
-{
-    if (!folder.startsWith(u'/'))
-        return {};
-    QDirIterator files(folder,
-                       {name + QStringLiteral(".png"), name + QStringLiteral(".svg"), name + QStringLiteral(".svgz"),
-                        name + QStringLiteral(".xpm")},
-                       QDir::Files, QDirIterator::Subdirectories);
-    QFileInfo best;
-    for (int i = 0; i < kMostFolderEntries && files.hasNext(); ++i) {
-        files.next();
-        if (isBetter(files.fileInfo(), best))
-            best = files.fileInfo();
-    }
-    return best.filePath();
-}
-
-// The theme that programs install their icons in, whichever one the user chose. Qt finds it on some platforms only.
-QStringList installedFolders()
-{
-    QStringList folders;
-    const auto themes = QStandardPaths::locateAll(QStandardPaths::GenericDataLocation, QStringLiteral("icons/hicolor"),
-                                                  QStandardPaths::LocateDirectory);
-    for (const auto *size :
-         {"scalable", "128x128", "256x256", "64x64", "48x48", "32x32", "24x24", "22x22", "16x16", "symbolic"}) {
-        for (const auto &theme : themes) {
-            const QDir folder(theme + u'/' + QString::fromLatin1(size));
-            for (const auto &context : folder.entryList(QDir::Dirs | QDir::NoDotAndDotDot))
-                folders.append(folder.filePath(context));
-        }
-    }
-    return folders
-        + QStandardPaths::locateAll(QStandardPaths::GenericDataLocation, QStringLiteral("pixmaps"),
-                                    QStandardPaths::LocateDirectory);
-}
-
-QString fileInFolders(const QStringList &folders, const QString &name)
+QString fileIn(const QStringList &folders, const QString &name)
 {
     for (const auto &folder : folders) {
-        for (const auto *suffix : {".svg", ".png", ".svgz", ".xpm"}) {
-            auto path = folder + u'/' + name + QString::fromLatin1(suffix);
-            if (QFileInfo::exists(path))
+        for (const auto &ending : kPictureEndings) {
+            if (auto path = folder + u'/' + name + ending; QFile::exists(path))
                 return path;
         }
     }
@@ -136,28 +66,18 @@ platform::Image imageOf(const QImage &pixels, QSizeF size, bool isTemplate)
     return {std::make_shared<PixelSource>(pixels), size, isTemplate};
 }
 
-IconFinder::IconFinder() : m_installed(installedFolders()) { }
-
-QImage IconFinder::findPicture(const QString &name, const QString &themePath) const
+IconFinder::IconFinder(IconThemePlaces places, Clock now)
+    : m_places(std::move(places)), m_now(std::move(now)), m_indices(kMostIndices)
 {
-    if (name.startsWith(u'/'))
-        return readPicture(name);
-    if (name.isEmpty() || name.contains(u'/'))
-        return {};
-    if (auto picture = readPicture(fileInFolder(themePath, name)); !picture.isNull())
-        return picture;
-    if (const auto icon = QIcon::fromTheme(name); !icon.isNull())
-        return icon.pixmap(QSize(kPixels, kPixels), 1.0).toImage();
-    return readPicture(fileInFolders(m_installed, name));
 }
 
-platform::Image IconFinder::find(const QString &name, const QString &themePath) const
+platform::Image IconFinder::find(const QString &name, const QString &themePath)
 {
     const auto picture = findPicture(name, themePath);
     return imageOf(picture, picture.size(), isSymbolic(name));
 }
 
-platform::Image IconFinder::itemImage(const TrayItem &item) const
+platform::Image IconFinder::itemImage(const TrayItem &item)
 {
     auto picture = resolve(item.shownIcon(), item.iconThemePath);
     const bool isTemplate = isSymbolic(item.shownIcon().name);
@@ -165,10 +85,67 @@ platform::Image IconFinder::itemImage(const TrayItem &item) const
     return imageOf(picture, kItemSize, isTemplate);
 }
 
-QImage IconFinder::resolve(const ItemIcon &icon, const QString &themePath) const
+QImage IconFinder::resolve(const ItemIcon &icon, const QString &themePath)
 {
     const auto picture = findPicture(icon.name, themePath);
     return picture.isNull() ? icon.pixmap : picture;
+}
+
+QImage IconFinder::findPicture(const QString &name, const QString &themePath)
+{
+    if (name.startsWith(u'/'))
+        return m_pictures.read(name);
+    if (name.isEmpty() || name.contains(u'/'))
+        return {};
+    return m_pictures.read(knownPath(name, themePath));
+}
+
+QString IconFinder::knownPath(const QString &name, const QString &themePath)
+{
+    // Programs that draw their icons put new ones right there: four looks, and none is kept.
+    if (themePath.startsWith(u'/')) {
+        if (auto path = fileIn({themePath}, name); !path.isEmpty())
+            return path;
+    }
+    if (m_known.size() > kMostKnown)
+        m_known.clear();
+    auto &known = m_known[{themePath, name}];
+    const bool isGood = known.path.isEmpty() ? known.at > m_now() - kTrustMissing : QFile::exists(known.path);
+    if (known.at == 0 || !isGood)
+        known = {lookUp(name, themePath), m_now()};
+    return known.path;
+}
+
+// A name that is nowhere is cut at its hyphens: "network-wired-offline" is at least a network.
+QString IconFinder::lookUp(const QString &name, const QString &themePath)
+{
+    if (auto path = inThemePath(name, themePath); !path.isEmpty())
+        return path;
+    auto path = inThemes(name);
+    for (auto end = name.lastIndexOf(u'-'); path.isEmpty() && end > 0; end = name.lastIndexOf(u'-', end - 1))
+        path = isSymbolic(name) ? QString() : inThemes(name.first(end));
+    return path;
+}
+
+QString IconFinder::inThemePath(const QString &name, const QString &themePath)
+{
+    if (!themePath.startsWith(u'/'))
+        return {};
+    const auto *index = m_indices.object(themePath);
+    if (auto path = index ? index->find(name) : QString(); !path.isEmpty() && QFile::exists(path))
+        return path;
+    if (!index || index->age(m_now()) > kOldIndex) {
+        m_indices.insert(themePath, new FolderIndex(themePath, m_now()));
+        index = m_indices.object(themePath);
+    }
+    return index->find(name);
+}
+
+QString IconFinder::inThemes(const QString &name)
+{
+    if (!m_folders)
+        m_folders = iconFolders(m_places);
+    return fileIn(*m_folders, name);
 }
 
 } // namespace brimshade::desktop::tray

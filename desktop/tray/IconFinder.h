@@ -1,28 +1,49 @@
 #pragma once
+#include "FolderIndex.h"
+#include "IconTheme.h"
+#include "PictureFiles.h"
 #include "TrayItem.h"
 #include "platform/Image.h"
+
+#include <functional>
+#include <optional>
 
 namespace brimshade::desktop::tray {
 
 // Pictures by name: in the folder that a program brings along, in the user's icon theme, where programs install their
-// own icons, or at an absolute path. Main thread; the pictures may be drawn on any. Only regular files are opened, and
-// none larger than a picture of an icon can be. Copies are cheap.
+// own icons, or at an absolute path. It reads folders and files: not on the main thread, and on one at a time. The
+// pictures may be drawn on any.
 class IconFinder {
 public:
-    IconFinder(); // looks once for the folders that programs install icons in
+    using Clock = std::function<double()>; // seconds
+
+    IconFinder(IconThemePlaces places, Clock now);
 
     // Null when there is none. themePath may be the root of a theme, a bare folder, or empty. A name ending in
     // "-symbolic" gives a template.
-    platform::Image find(const QString &name, const QString &themePath) const;
+    platform::Image find(const QString &name, const QString &themePath);
 
     // The picture of an item as its program wants it to look now, 22 × 22 points; null when it has none.
-    platform::Image itemImage(const TrayItem &item) const;
+    platform::Image itemImage(const TrayItem &item);
 
 private:
-    QImage findPicture(const QString &name, const QString &themePath) const;
-    QImage resolve(const ItemIcon &icon, const QString &themePath) const;
+    struct Found {
+        QString path; // empty: nowhere
+        double at = 0;
+    };
+    QImage findPicture(const QString &name, const QString &themePath);
+    QImage resolve(const ItemIcon &icon, const QString &themePath);
+    QString knownPath(const QString &name, const QString &themePath);
+    QString lookUp(const QString &name, const QString &themePath);
+    QString inThemePath(const QString &name, const QString &themePath);
+    QString inThemes(const QString &name);
 
-    QStringList m_installed; // best first
+    const IconThemePlaces m_places;
+    const Clock m_now;
+    PictureFiles m_pictures;
+    QCache<QString, FolderIndex> m_indices; // by theme path
+    QHash<std::pair<QString, QString>, Found> m_known; // by theme path and name
+    std::optional<QStringList> m_folders; // of the themes, best first
 };
 
 platform::Image imageOf(const QImage &pixels, QSizeF size, bool isTemplate = false);

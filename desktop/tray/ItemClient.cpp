@@ -9,11 +9,10 @@ constexpr auto kItemInterface = "org.kde.StatusNotifierItem";
 constexpr auto kProperties = "org.freedesktop.DBus.Properties";
 } // namespace
 
-ItemClient::ItemClient(const QDBusConnection &bus, const ItemKey &key, platform::Dispatch &dispatch,
-                       const IconFinder &icons)
-    : m_bus(bus), m_key(key), m_address{key.owner, key.path, QString::fromLatin1(kItemInterface)}, m_dispatch(dispatch),
-      m_icons(icons), m_refresh(dispatch, [this] { fetch(); }), m_life(bus, key.owner, dispatch),
-      m_press(bus, m_address, m_life, dispatch)
+ItemClient::ItemClient(const QDBusConnection &bus, const ItemKey &key, const Workshop &workshop)
+    : m_bus(bus), m_key(key), m_address{key.owner, key.path, QString::fromLatin1(kItemInterface)}, m_workshop(workshop),
+      m_refresh(workshop.dispatch(), [this] { fetch(); }), m_life(bus, key.owner, workshop.dispatch()),
+      m_press(bus, m_address, m_life, workshop.dispatch())
 {
     connect(&m_press, &ItemPress::menuReady, this, &ItemClient::menuReady);
     connect(&m_press, &ItemPress::message, this, &ItemClient::say);
@@ -36,45 +35,50 @@ void ItemClient::signalled()
 void ItemClient::fetch()
 {
     const BusAddress properties{m_key.owner, m_key.path, QString::fromLatin1(kProperties)};
-    callAsync(m_bus, properties, QStringLiteral("GetAll"), {m_address.interface}, this, [this](const BusReply &reply) {
-        m_refresh.finished();
-        receive(reply);
-    });
+    callAsync(m_bus, properties, QStringLiteral("GetAll"), {m_address.interface}, this,
+              [this](const BusReply &reply) { receive(reply); });
 }
 
 void ItemClient::receive(const BusReply &reply)
 {
-    if (!reply)
+    if (!reply) {
         say(QStringLiteral("it does not tell its properties: %1").arg(reply.error().text));
-    else
-        take(parseItem(reply->value(0).toMap()));
-}
-
-void ItemClient::take(ParsedItem parsed)
-{
+        m_refresh.failed();
+        return;
+    }
+    const auto parsed = parseItem(reply->value(0).toMap());
     if (!parsed.complaints.isEmpty())
         say(parsed.complaints.first());
+    m_workshop.run([item = parsed.item](Workshop::Tools &tools) { return tools.icons.itemImage(item); },
+                   m_lifetime.guard([this, item = parsed.item](const platform::Image &image) {
+                       take(item, image);
+                       m_refresh.finished();
+                   }));
+}
+
+void ItemClient::take(const TrayItem &item, const platform::Image &image)
+{
     // Some programs draw a new picture into the file that they named before.
-    auto image = m_icons.itemImage(parsed.item);
-    if (m_item == parsed.item && m_image.bitmap() == image.bitmap())
+    if (m_item == item && m_image.bitmap() == image.bitmap())
         return;
-    m_item = std::move(parsed.item);
-    m_image = std::move(image);
+    m_item = item;
+    m_image = image;
     updateMenu();
     Q_EMIT changed();
 }
 
 void ItemClient::updateMenu()
 {
-    if (m_item->menuPath == (m_menu ? m_menu->path() : QString()))
+    if (m_item->menuPath == (m_menu ? m_menu->path() : QString())) {
+        if (m_menu)
+            m_menu->setIconThemePath(m_item->iconThemePath);
         return;
+    }
     m_menu.reset();
     if (m_item->menuPath.isEmpty())
         return;
-    const auto picture = [icons = m_icons, theme = m_item->iconThemePath](const QString &name) {
-        return icons.find(name, theme);
-    };
-    m_menu = std::make_unique<MenuClient>(m_bus, m_key.owner, m_item->menuPath, m_dispatch, m_life, picture);
+    m_menu = std::make_unique<MenuClient>(m_bus, m_key.owner, m_item->menuPath, m_workshop, m_life);
+    m_menu->setIconThemePath(m_item->iconThemePath);
     connect(m_menu.get(), &MenuClient::ready, &m_press, &ItemPress::menuIsReady);
     connect(m_menu.get(), &MenuClient::unusable, &m_press, &ItemPress::tryNext);
     connect(m_menu.get(), &MenuClient::message, this, &ItemClient::say);

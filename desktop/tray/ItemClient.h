@@ -1,11 +1,11 @@
 #pragma once
 #include "BusCall.h"
 #include "BusName.h"
-#include "IconFinder.h"
 #include "ItemPress.h"
 #include "LifeSign.h"
 #include "Refresh.h"
 #include "TrayItem.h"
+#include "Workshop.h"
 
 #include <QObject>
 #include <memory>
@@ -16,11 +16,11 @@ namespace brimshade::desktop::tray {
 class MenuClient;
 
 // One tray item over the bus: it reads the item, follows its changes and presses it. Main thread; nothing it asked for
-// arrives after it is gone.
+// arrives after it is gone. The workshop outlives it.
 class ItemClient : public QObject {
     Q_OBJECT
 public:
-    ItemClient(const QDBusConnection &bus, const ItemKey &key, platform::Dispatch &dispatch, const IconFinder &icons);
+    ItemClient(const QDBusConnection &bus, const ItemKey &key, const Workshop &workshop);
     ~ItemClient() override;
 
     const ItemKey &key() const { return m_key; }
@@ -43,15 +43,14 @@ private Q_SLOTS:
 private:
     void fetch();
     void receive(const BusReply &reply);
-    void take(ParsedItem parsed);
+    void take(const TrayItem &item, const platform::Image &image);
     void updateMenu();
     void say(const QString &text);
 
     QDBusConnection m_bus;
     ItemKey m_key;
     BusAddress m_address;
-    platform::Dispatch &m_dispatch;
-    IconFinder m_icons;
+    const Workshop &m_workshop;
     Refresh m_refresh;
     std::optional<TrayItem> m_item;
     platform::Image m_image;
@@ -59,6 +58,7 @@ private:
     ItemPress m_press;
     std::unique_ptr<MenuClient> m_menu;
     QString m_lastMessage;
+    Lifetime m_lifetime;
 };
 
 } // namespace brimshade::desktop::tray

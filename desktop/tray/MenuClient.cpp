@@ -11,10 +11,10 @@ constexpr auto kMenuInterface = "com.canonical.dbusmenu";
 const auto kClicked = u"clicked";
 } // namespace
 
-MenuClient::MenuClient(const QDBusConnection &bus, const QString &owner, const QString &path,
-                       platform::Dispatch &dispatch, LifeSign &life, PictureByName picture)
-    : m_bus(bus), m_address{owner, path, QString::fromLatin1(kMenuInterface)}, m_life(life),
-      m_picture(std::move(picture)), m_refresh(dispatch, [this] { fetch(); })
+MenuClient::MenuClient(const QDBusConnection &bus, const QString &owner, const QString &path, const Workshop &workshop,
+                       LifeSign &life)
+    : m_bus(bus), m_address{owner, path, QString::fromLatin1(kMenuInterface)}, m_life(life), m_workshop(workshop),
+      m_refresh(workshop.dispatch(), [this] { fetch(); })
 {
     connect(&life, &LifeSign::heard, this, [this] { sendHeld(true); });
     connect(&life, &LifeSign::silent, this, [this] { sendHeld(false); });
@@ -107,11 +107,43 @@ void MenuClient::fetch()
 
 void MenuClient::receive(int parent, const BusReply &reply)
 {
-    const bool isRead = reply && reply->size() == 2;
-    if (isRead)
-        parent == 0 ? replaceAll(reply->at(1)) : replaceSubmenu(parent, reply->at(1));
-    else
+    if (!reply || reply->size() != 2) {
         m_oldParent = 0;
+        finishReading(false);
+        return;
+    }
+    MenuLimits limits;
+    if (parent != 0) {
+        limits.depth -= depthOf(m_entries, parent);
+        limits.taken = idsOf(m_entries);
+        if (const auto *entry = findEntry(m_entries, parent))
+            limits.taken -= idsOf(entry->submenu);
+    }
+    const auto parse = [node = reply->at(1), limits, theme = m_iconThemePath](Workshop::Tools &tools) {
+        return parseLayout(
+            node, [&](const QString &name) { return tools.icons.find(name, theme); }, limits);
+    };
+    m_workshop.run(parse, m_lifetime.guard([this, parent](const MenuLayout &layout) {
+        take(parent, layout);
+        finishReading(true);
+    }));
+}
+
+void MenuClient::take(int parent, MenuLayout layout)
+{
+    if (parent == 0) {
+        showNew(std::move(layout.entries), layout.isCut);
+        return;
+    }
+    auto entries = m_entries;
+    if (auto *entry = findEntry(entries, parent)) {
+        entry->submenu = std::move(layout.entries);
+        showNew(std::move(entries), layout.isCut);
+    }
+}
+
+void MenuClient::finishReading(bool isRead)
+{
     m_refresh.finished();
     if (std::exchange(m_readsForOpening, false))
         finishOpening(isRead);
@@ -129,27 +161,6 @@ void MenuClient::finishOpening(bool isRead)
     if (m_oldParent)
         m_refresh.request();
     Q_EMIT ready();
-}
-
-void MenuClient::replaceAll(const QVariant &node)
-{
-    auto layout = parseLayout(node, m_picture);
-    showNew(std::move(layout.entries), layout.isCut);
-}
-
-void MenuClient::replaceSubmenu(int parent, const QVariant &node)
-{
-    auto entries = m_entries;
-    auto *entry = findEntry(entries, parent);
-    if (!entry)
-        return;
-    entry->submenu.clear();
-    MenuLimits limits;
-    limits.depth -= depthOf(entries, parent);
-    limits.taken = idsOf(entries);
-    auto layout = parseLayout(node, m_picture, limits);
-    entry->submenu = std::move(layout.entries);
-    showNew(std::move(entries), layout.isCut);
 }
 
 void MenuClient::showNew(std::vector<MenuEntry> entries, bool isCut)

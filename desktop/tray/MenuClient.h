@@ -3,6 +3,7 @@
 #include "LifeSign.h"
 #include "MenuLayout.h"
 #include "Refresh.h"
+#include "Workshop.h"
 
 #include <QObject>
 #include <QPointer>
@@ -17,10 +18,11 @@ namespace brimshade::desktop::tray {
 class MenuClient : public QObject {
     Q_OBJECT
 public:
-    // life is the owner's; it outlives this.
-    MenuClient(const QDBusConnection &bus, const QString &owner, const QString &path, platform::Dispatch &dispatch,
-               LifeSign &life, PictureByName picture);
+    // workshop and life, the owner's, outlive it.
+    MenuClient(const QDBusConnection &bus, const QString &owner, const QString &path, const Workshop &workshop,
+               LifeSign &life);
 
+    void setIconThemePath(const QString &path) { m_iconThemePath = path; }
     const QString &path() const { return m_address.path; }
     const std::vector<MenuEntry> &entries() const { return m_entries; }
 
@@ -53,8 +55,8 @@ private:
     void markOld(int parent);
     void fetch();
     void receive(int parent, const BusReply &reply);
-    void replaceAll(const QVariant &node);
-    void replaceSubmenu(int parent, const QVariant &node);
+    void take(int parent, MenuLayout layout);
+    void finishReading(bool isRead);
     void showNew(std::vector<MenuEntry> entries, bool isCut);
     void programWasTold(const BusReply &reply);
     void finishOpening(bool isRead);
@@ -65,7 +67,8 @@ private:
     QDBusConnection m_bus;
     BusAddress m_address;
     LifeSign &m_life;
-    PictureByName m_picture;
+    const Workshop &m_workshop;
+    QString m_iconThemePath; // for the pictures of its entries
     Refresh m_refresh;
     std::vector<MenuEntry> m_entries;
     std::optional<int> m_oldParent = 0; // whose children must be read again; 0 is the whole menu
@@ -77,6 +80,7 @@ private:
     bool m_saidCut = false;
     std::vector<Event> m_held; // until the program is heard
     std::vector<int> m_shown; // submenus that were told so, to be told the end
+    Lifetime m_lifetime;
 };
 
 } // namespace brimshade::desktop::tray

@@ -11,6 +11,7 @@ namespace brimshade::desktop::tray {
 namespace {
 
 constexpr qint64 kMostCommandLineBytes = 8192;
+constexpr double kTrustSeconds = 10; // a session's programs all start at once
 
 bool isInterpreter(const QString &name)
 {
@@ -91,10 +92,16 @@ std::optional<DesktopEntry> findEntry(const Process &process, const std::vector<
     return best ? std::optional(*best) : std::nullopt;
 }
 
-std::optional<DesktopEntry> lookUpProgram(int pid)
+ProgramFinder::ProgramFinder(std::function<double()> now) : m_now(std::move(now)) { }
+
+std::optional<DesktopEntry> ProgramFinder::find(int pid)
 {
-    const auto folders = QStandardPaths::standardLocations(QStandardPaths::ApplicationsLocation);
-    return findEntry(readProcess(pid), readDesktopEntries(folders, QLocale::system().name()));
+    if (!m_readAt || m_now() > *m_readAt + kTrustSeconds) {
+        const auto folders = QStandardPaths::standardLocations(QStandardPaths::ApplicationsLocation);
+        m_entries = readDesktopEntries(folders, QLocale::system().name());
+        m_readAt = m_now();
+    }
+    return findEntry(readProcess(pid), m_entries);
 }
 
 } // namespace brimshade::desktop::tray

@@ -1,6 +1,8 @@
 #pragma once
 #include "DesktopEntry.h"
 
+#include <functional>
+
 namespace brimshade::desktop::tray {
 
 // A running process, as far as it tells which program it is.
@@ -17,7 +19,18 @@ QStringList programNames(const Process &process);
 // The desktop entry that belongs to a process; nothing when there is none.
 std::optional<DesktopEntry> findEntry(const Process &process, const std::vector<DesktopEntry> &entries);
 
-// The entry of the process with that id in the user's and the system's folders. Reads files: not on the main thread.
-std::optional<DesktopEntry> lookUpProgram(int pid);
+// Finds entries in the user's and the system's folders, which it reads again when it has not for a while. Reads files:
+// not on the main thread, and on one at a time.
+class ProgramFinder {
+public:
+    explicit ProgramFinder(std::function<double()> now); // seconds
+
+    std::optional<DesktopEntry> find(int pid); // of the process with that id
+
+private:
+    const std::function<double()> m_now;
+    std::vector<DesktopEntry> m_entries;
+    std::optional<double> m_readAt;
+};
 
 } // namespace brimshade::desktop::tray

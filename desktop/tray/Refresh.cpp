@@ -1,10 +1,13 @@
 #include "Refresh.h"
 
+#include <algorithm>
+
 namespace brimshade::desktop::tray {
 
 namespace {
 constexpr double kDebounceSeconds = 0.010;
-}
+constexpr double kFirstPause = 1, kLongestPause = 300; // seconds
+} // namespace
 
 Refresh::Refresh(platform::Dispatch &dispatch, platform::Work fetch) : m_dispatch(dispatch), m_fetch(std::move(fetch))
 {
@@ -14,36 +17,48 @@ void Refresh::request()
 {
     if (m_state == State::reading)
         m_state = State::readingStale;
-    if (m_state != State::idle)
-        return;
-    m_state = State::waiting;
-    m_dispatch.mainAfter(kDebounceSeconds, m_lifetime.guard([this] { fetchIfWaiting(); }));
+    if (m_state == State::idle || m_state == State::pausing)
+        fetchAfter(kDebounceSeconds, State::waiting);
 }
 
 void Refresh::requestNow()
 {
-    if (m_state == State::reading || m_state == State::readingStale) {
+    if (m_state == State::reading || m_state == State::readingStale)
         m_state = State::readingStale;
-        return;
-    }
-    m_state = State::waiting;
-    fetchIfWaiting();
+    else
+        fetchNow();
 }
 
-void Refresh::fetchIfWaiting()
+void Refresh::fetchAfter(double seconds, State meanwhile)
 {
-    if (m_state != State::waiting)
-        return;
+    m_state = meanwhile;
+    m_dispatch.mainAfter(seconds, m_lifetime.guard([this, turn = ++m_turn] {
+        if (turn == m_turn)
+            fetchNow();
+    }));
+}
+
+void Refresh::fetchNow()
+{
+    ++m_turn;
     m_state = State::reading;
     m_fetch();
 }
 
 void Refresh::finished()
 {
-    const bool again = m_state == State::readingStale;
-    m_state = State::idle;
-    if (again)
+    m_pause = 0;
+    if (std::exchange(m_state, State::idle) == State::readingStale)
         request();
+}
+
+void Refresh::failed()
+{
+    m_pause = std::clamp(2 * m_pause, kFirstPause, kLongestPause);
+    if (std::exchange(m_state, State::idle) == State::readingStale)
+        request();
+    else
+        fetchAfter(m_pause, State::pausing);
 }
 
 } // namespace brimshade::desktop::tray

@@ -5,23 +5,27 @@
 namespace brimshade::desktop::tray {
 
 // Reads something again after a burst of change signals: a moment after the first one, one read at a time, and once
-// more when a signal came during the read. Main thread.
+// more when a signal came during the read. After reads that failed it tries again, with growing pauses. Main thread.
 class Refresh {
 public:
-    // fetch starts a read that ends in finished(); nothing of it runs after the Refresh is gone.
+    // fetch starts a read that ends in finished() or failed(); nothing of it runs after the Refresh is gone.
     Refresh(platform::Dispatch &dispatch, platform::Work fetch);
 
     void request(); // after 10 ms
     void requestNow();
     void finished();
+    void failed();
 
 private:
-    enum class State { idle, waiting, reading, readingStale };
-    void fetchIfWaiting();
+    enum class State { idle, waiting, pausing, reading, readingStale };
+    void fetchAfter(double seconds, State meanwhile);
+    void fetchNow();
 
     platform::Dispatch &m_dispatch;
     platform::Work m_fetch;
     State m_state = State::idle;
+    int m_turn = 0; // of waiting; an older one is outdated
+    double m_pause = 0; // seconds; 0 after a read that succeeded
     Lifetime m_lifetime;
 };
 

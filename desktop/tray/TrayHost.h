@@ -1,26 +1,20 @@
 #pragma once
-#include <QDBusConnection>
-#include <QObject>
-#include <memory>
-
-namespace brimshade::platform {
-class Dispatch;
-}
+#include "BusLink.h"
 
 namespace brimshade::desktop {
 
 class Desktop;
 
 // The tray items of the Linux session as applications of the desktop. A process that owns items is launched when
-// its first item has been read, changed whenever one of them changes, and quit with its last one.
+// its first item has been read, changed whenever one of them changes, and quit with its last one. Where the bus goes
+// the items go, and come with the next one.
 //
 // It is the session's StatusNotifierWatcher, or a host of the one that is there until that one goes. Main thread;
-// construction returns at once, nothing here waits for the bus. The bus connection, the Dispatch and the Desktop
-// outlive it.
+// construction returns at once, nothing here waits for the bus. The Dispatch and the Desktop outlive it.
 class TrayHost : public QObject {
     Q_OBJECT
 public:
-    TrayHost(Desktop &desktop, const QDBusConnection &bus, platform::Dispatch &dispatch);
+    TrayHost(Desktop &desktop, tray::ConnectToBus connect, platform::Dispatch &dispatch);
     ~TrayHost() override;
 
 Q_SIGNALS:
@@ -28,8 +22,10 @@ Q_SIGNALS:
     void message(const QString &text);
 
 private:
-    class Private;
-    std::unique_ptr<Private> d;
+    struct Parts;
+    std::unique_ptr<Parts> m_parts;
 };
+
+QDBusConnection connectToSessionBus(const QString &name);
 
 } // namespace brimshade::desktop

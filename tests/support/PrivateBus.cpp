@@ -9,7 +9,7 @@ const char *const kConfiguration = R"(<!DOCTYPE busconfig PUBLIC "-//freedesktop
  "http://www.freedesktop.org/standards/dbus/1.0/busconfig.dtd">
 <busconfig>
   <type>session</type>
-  <listen>unix:tmpdir=%1</listen>
+  <listen>%1</listen>
   <auth>EXTERNAL</auth>
   %2
   <policy context="default">
@@ -25,21 +25,36 @@ const char *const kConfiguration = R"(<!DOCTYPE busconfig PUBLIC "-//freedesktop
 PrivateBus::PrivateBus(const QString &serviceFolder)
 {
     const QString services = serviceFolder.isEmpty() ? QString() : u"<servicedir>%1</servicedir>"_s.arg(serviceFolder);
-    const QString configuration = m_folder.filePath(u"bus.conf"_s);
-    writeFile(configuration, QString::fromLatin1(kConfiguration).arg(m_folder.path(), services).toUtf8());
-    m_daemon.start(u"dbus-daemon"_s, {u"--config-file="_s + configuration, u"--nofork"_s, u"--print-address=1"_s});
-    while (!m_daemon.canReadLine() && m_daemon.waitForReadyRead())
-        ;
-    m_address = QString::fromLatin1(m_daemon.readLine()).trimmed();
-    EXPECT_FALSE(m_address.isEmpty()) << "no dbus-daemon";
+    writeFile(m_folder.filePath(u"bus.conf"_s), QString::fromLatin1(kConfiguration).arg(m_address, services).toUtf8());
+    start();
 }
 
 PrivateBus::~PrivateBus()
 {
-    for (const auto &name : std::as_const(m_names))
-        QDBusConnection::disconnectFromBus(name);
+    end();
+}
+
+void PrivateBus::start()
+{
+    m_daemon.start(u"dbus-daemon"_s,
+                   {u"--config-file="_s + m_folder.filePath(u"bus.conf"_s), u"--nofork"_s, u"--print-address=1"_s});
+    while (!m_daemon.canReadLine() && m_daemon.waitForReadyRead())
+        ;
+    EXPECT_FALSE(m_daemon.readLine().isEmpty()) << "no dbus-daemon";
+}
+
+void PrivateBus::end()
+{
     m_daemon.terminate();
     m_daemon.waitForFinished();
+    for (const auto &name : std::exchange(m_names, {}))
+        QDBusConnection::disconnectFromBus(name);
+}
+
+void PrivateBus::startAgain()
+{
+    QFile::remove(m_folder.filePath(u"bus"_s));
+    start();
 }
 
 QString PrivateBus::qualified(const QString &name) const

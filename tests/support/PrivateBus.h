@@ -14,15 +14,18 @@ public:
     Q_DISABLE_COPY_MOVE(PrivateBus)
 
     QString address() const { return m_address; }
+    void end(); // every connection to it is lost
+    void startAgain(); // where it was
     QDBusConnection connection(const QString &name);
     void disconnect(const QString &name);
 
 private:
+    void start();
     QString qualified(const QString &name) const;
 
     QTemporaryDir m_folder;
+    const QString m_address = u"unix:path="_s + m_folder.filePath(u"bus"_s);
     QProcess m_daemon;
-    QString m_address;
     QSet<QString> m_names;
 };
 

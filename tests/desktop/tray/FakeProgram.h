@@ -46,6 +46,7 @@ public:
     MenuNode menu; // at /Menu; read anew for every answer
     QSet<QString> unknownMethods; // answered as a program that lacks them does
     QSet<QString> heldMethods; // answered by answerHeld()
+    QSet<QString> lateMethods; // answered as if the time for an answer had passed
     std::function<void(int id)> onAboutToShow;
 
     // "Activate 10 37", "AboutToShow 0", "GetLayout 0", "Event 3 clicked", "GetAll", in order

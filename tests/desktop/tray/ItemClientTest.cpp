@@ -18,7 +18,7 @@ protected:
     void start()
     {
         m_client = std::make_unique<ItemClient>(m_own, ItemKey{m_connection.baseService(), u"/StatusNotifierItem"_s},
-                                                m_dispatch, IconFinder());
+                                                m_workshop);
     }
     // The client of the scripted program, once it has been read.
     ItemClient &client()
@@ -30,6 +30,7 @@ protected:
         return *m_client;
     }
 
+    Workshop m_workshop{m_dispatch};
     std::unique_ptr<ItemClient> m_client;
 };
 
@@ -100,6 +101,54 @@ TEST_F(ItemClientTest, APictureDrawnIntoTheSameFileIsANewOne)
     m_program.signalItem(u"NewIcon"_s);
     waitUntil([&] { return !changes.isEmpty(); });
     EXPECT_EQ(client().image().bitmap().pixelColor(0, 0), QColor(Qt::blue));
+}
+
+TEST_F(ItemClientTest, AProgramThatDoesNotAnswerIsAskedAgainWithGrowingPauses)
+{
+    const auto asked = [&] { return m_program.calls().filter(u"GetAll"_s).size(); };
+    const auto answer = [&] {
+        settle(m_own, m_connection);
+        m_dispatch.runDue();
+    };
+    m_program.properties = {{u"Title"_s, u"Slow"_s}};
+    m_program.lateMethods = {u"GetAll"_s};
+    start();
+    QSignalSpy changes(m_client.get(), &ItemClient::changed);
+    answer();
+    for (const double pause : {1.0, 2.0, 4.0}) {
+        const auto before = asked();
+        m_dispatch.advance(pause - 0.01);
+        answer();
+        EXPECT_EQ(asked(), before);
+        m_dispatch.advance(0.01);
+        answer();
+        EXPECT_EQ(asked(), before + 1);
+    }
+    m_program.lateMethods.clear();
+    m_dispatch.advance(8);
+    waitUntil([&] { return changes.size() == 1; });
+
+    m_program.properties[u"Title"_s] = u"Slow again"_s;
+    m_program.lateMethods = {u"GetAll"_s};
+    m_program.signalItem(u"NewTitle"_s);
+    waitUntil([&] { return asked() == 6; });
+    answer();
+    m_program.lateMethods.clear();
+    m_dispatch.advance(1);
+    waitUntil([&] { return changes.size() == 2; });
+    EXPECT_EQ(m_client->item()->title, u"Slow again"_s);
+}
+
+TEST_F(ItemClientTest, PicturesAreLookedForOffTheMainThread)
+{
+    m_program.properties = {{u"IconName"_s, u"anything"_s}, {u"IconThemePath"_s, u"/usr"_s}};
+    start();
+    while (m_program.calls().isEmpty())
+        QCoreApplication::processEvents(QEventLoop::AllEvents | QEventLoop::WaitForMoreEvents);
+    settle(m_own, m_connection); // the answer has come; other threads have their turn with runDue()
+    EXPECT_FALSE(m_client->item());
+    m_dispatch.runDue();
+    EXPECT_TRUE(m_client->item());
 }
 
 TEST_F(ItemClientTest, AGestureReachesTheProgramTheWayItUnderstands)

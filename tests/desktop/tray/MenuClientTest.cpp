@@ -12,12 +12,12 @@ protected:
 
     void start()
     {
-        m_client = std::make_unique<MenuClient>(m_own, m_connection.baseService(), u"/Menu"_s, m_dispatch, m_life,
-                                                PictureByName());
+        m_client = std::make_unique<MenuClient>(m_own, m_connection.baseService(), u"/Menu"_s, m_workshop, m_life);
         m_ready = std::make_unique<QSignalSpy>(m_client.get(), &MenuClient::ready);
         m_changed = std::make_unique<QSignalSpy>(m_client.get(), &MenuClient::changed);
         waitUntil([&] { return m_program.calls().contains(u"GetLayout 0"_s); });
         settle(m_own, m_connection);
+        m_dispatch.runDue();
     }
     void open()
     {
@@ -33,6 +33,7 @@ protected:
         return result;
     }
 
+    Workshop m_workshop{m_dispatch};
     LifeSign m_life{m_own, m_connection.baseService(), m_dispatch};
     std::unique_ptr<MenuClient> m_client;
     std::unique_ptr<QSignalSpy> m_ready, m_changed;

@@ -1,12 +1,9 @@
 #include "desktop/tray/BusName.h"
-#include "desktop/tray/IconFinder.h"
 #include "desktop/tray/Pixmap.h"
 #include "desktop/tray/ShortcutText.h"
 #include "desktop/tray/TrayItem.h"
 #include "desktop/tray/WireValue.h"
 #include "support/Test.h"
-
-#include <sys/stat.h>
 
 namespace brimshade::desktop::tray {
 
@@ -102,47 +99,6 @@ TEST(TrayItemParsing, TextsBecomeOnePlainBoundedLine)
     EXPECT_EQ(item.id.size(), 256);
     EXPECT_EQ(item.toolTipTitle, u"Mail"_s);
     EXPECT_EQ(item.toolTipText, u"3&nbsp;new 1 < 2"_s);
-}
-
-TEST(Icons, AreFoundInABareFolderAndInAThemeBelowIt)
-{
-    QTemporaryDir folder;
-    QDir(folder.path()).mkpath(u"hicolor/32x32/apps"_s);
-    filled(8, 8, Qt::red).save(folder.filePath(u"bare.png"_s));
-    filled(32, 32, Qt::blue).save(folder.filePath(u"hicolor/32x32/apps/deep-symbolic.png"_s));
-
-    const IconFinder finder;
-    EXPECT_EQ(finder.find(u"bare"_s, folder.path()).bitmap().size(), QSize(8, 8));
-    EXPECT_EQ(finder.find(folder.filePath(u"bare.png"_s), {}).bitmap().size(), QSize(8, 8));
-    EXPECT_FALSE(finder.find(u"bare"_s, folder.path()).isTemplate());
-    const auto deep = finder.find(u"deep-symbolic"_s, folder.path());
-    EXPECT_EQ(deep.bitmap().pixelColor(0, 0), QColor(Qt::blue));
-    EXPECT_TRUE(deep.isTemplate());
-    EXPECT_TRUE(finder.find(u"../"_s + QFileInfo(folder.path()).fileName() + u"/bare"_s, folder.path()).isNull());
-    EXPECT_TRUE(finder.find(u"absent"_s, folder.path()).isNull());
-}
-
-TEST(Icons, WhatIsNoPictureIsNotOpenedForEver)
-{
-    QTemporaryDir folder;
-    const auto pipe = folder.filePath(u"pipe.png"_s);
-    ASSERT_EQ(mkfifo(pipe.toLocal8Bit().constData(), 0600), 0);
-    const auto text = folder.filePath(u"text.png"_s);
-    writeFile(text, "not a picture");
-    for (const auto &path : {pipe, text, folder.path()})
-        EXPECT_TRUE(IconFinder().find(path, {}).isNull()) << path.toStdString();
-}
-
-TEST(Icons, ThePixelsStandInForAnUnknownNameAndTheOverlayLiesOverThem)
-{
-    TrayItem item;
-    item.icon.name = u"no-theme-has-this"_s;
-    item.icon.pixmap = filled(16, 16, Qt::green);
-    item.overlayIcon.pixmap = filled(4, 4, Qt::red);
-    const auto image = IconFinder().itemImage(item);
-    EXPECT_EQ(image.size(), QSizeF(22, 22));
-    EXPECT_EQ(image.bitmap().pixelColor(2, 2), QColor(Qt::green));
-    EXPECT_EQ(image.bitmap().pixelColor(12, 12), QColor(Qt::red));
 }
 
 TEST(Shortcuts, AreWrittenAsMenusWriteThem)

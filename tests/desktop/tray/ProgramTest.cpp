@@ -80,10 +80,9 @@ TEST(Programs, TheRunningOneIsReadFromTheSystem)
 
 TEST(HostedApplications, SeveralItemsAreSeveralExtrasInTheirOrder)
 {
-    const auto given = describeApplication(41, DesktopEntry{u"app"_s, u"Program"_s, {}, {}, true},
+    const auto given = describeApplication(41, {DesktopEntry{u"app"_s, u"Program"_s, {}, {}, true}, {}},
                                            {item(u"one"_s, u"One"_s, u"/a"_s), item(u"one"_s, {}, u"/b"_s),
-                                            item({}, u"Three"_s, u"/c"_s), item({}, u"Four"_s, u"/c"_s, u":1.2"_s)},
-                                           {});
+                                            item({}, u"Three"_s, u"/c"_s), item({}, u"Four"_s, u"/c"_s, u":1.2"_s)});
     EXPECT_EQ(given.description.pid, 41);
     EXPECT_EQ(given.description.name, u"Program"_s);
     EXPECT_EQ(given.description.bundleIdentifier, u"app"_s);
@@ -99,9 +98,9 @@ TEST(HostedApplications, SeveralItemsAreSeveralExtrasInTheirOrder)
 
 TEST(HostedApplications, WithoutAnEntryTheFirstItemThatHasANameGivesIt)
 {
-    EXPECT_EQ(describeApplication(1, {}, {item({}, {}, u"/a"_s), item(u"id"_s, {}, u"/b"_s)}, {}).description.name,
+    EXPECT_EQ(describeApplication(1, {}, {item({}, {}, u"/a"_s), item(u"id"_s, {}, u"/b"_s)}).description.name,
               u"id"_s);
-    const auto nameless = describeApplication(1, {}, {item({}, {}, u"/a"_s)}, {}).description;
+    const auto nameless = describeApplication(1, {}, {item({}, {}, u"/a"_s)}).description;
     EXPECT_EQ(nameless.name, u"App"_s);
     EXPECT_EQ(nameless.bundleIdentifier, std::nullopt);
 }

@@ -7,7 +7,13 @@ namespace brimshade::desktop::tray {
 
 TrayHostContext::TrayHostContext(const DesktopDescription &description)
     : m_desktop({m_dispatch, m_symbols, nullptr, nullptr}, description),
-      m_host(m_desktop, m_bus.connection(u"own"_s), m_dispatch)
+      m_host(
+          m_desktop, [this](const QString &) { return m_bus.connection(u"own"_s); }, m_dispatch)
+{
+    waitForWatcher();
+}
+
+void TrayHostContext::waitForWatcher()
 {
     waitUntil([&] {
         const auto names = m_bus.connection(u"asker"_s).interface()->registeredServiceNames().value();

@@ -10,6 +10,7 @@ class TrayHostContext : public BusTest {
 protected:
     explicit TrayHostContext(const DesktopDescription &description = notchedDesktop({}));
 
+    void waitForWatcher();
     // A program on a connection of that name, with an item and a menu of two entries.
     std::unique_ptr<FakeProgram> start(const QString &name, const QString &title);
     void end(std::unique_ptr<FakeProgram> program, const QString &name);

@@ -1,5 +1,7 @@
 #include "TrayHostContext.h"
 
+#include <QSignalSpy>
+
 namespace brimshade::desktop::tray {
 
 using TrayHostTest = TrayHostContext;
@@ -56,6 +58,48 @@ TEST_F(TrayHostTest, TheOpenMenuOfAProgramThatEndsCloses)
     end(std::move(program), u"short"_s);
     waitForTitles({});
     EXPECT_FALSE(isMenuOpen());
+}
+
+TEST_F(TrayHostTest, AnItemThatHasNothingToSayStandsOffScreenUntilItHas)
+{
+    auto quiet = start(u"quiet"_s, u"Quiet"_s);
+    waitForTitles({u"Quiet"_s});
+    const auto frame = [&] { return m_desktop.menuBar().items().front().frame; };
+    const auto inTheBar = frame();
+    for (const auto &[status, expected] : {std::pair(u"Passive"_s, QRectF(-inTheBar.width(), 0, inTheBar.width(), 37)),
+                                           {u"NeedsAttention"_s, inTheBar},
+                                           {u"Passive"_s, QRectF(-inTheBar.width(), 0, inTheBar.width(), 37)},
+                                           {u"Active"_s, inTheBar}}) {
+        quiet->properties[u"Status"_s] = status;
+        quiet->signalItem(u"NewStatus"_s);
+        waitUntil([&] { return frame() == expected; });
+    }
+}
+
+TEST_F(TrayHostTest, WithTheBusTheItemsGoAndComeWithTheNextOne)
+{
+    QSignalSpy messages(&m_host, &TrayHost::message);
+    auto program = start(u"before"_s, u"Before"_s);
+    waitForTitles({u"Before"_s});
+    press(0);
+    waitUntil([&] { return isMenuOpen(); });
+    const auto applications = [&] { return m_desktop.platform().workspace.runningApplications().size(); };
+    const auto hosted = applications();
+    m_bus.end();
+    waitForTitles({});
+    EXPECT_EQ(applications(), hosted - 1);
+    EXPECT_FALSE(isMenuOpen());
+    m_dispatch.advance(100); // in vain
+    EXPECT_EQ(m_desktop.inspection().takeMessages(),
+              QStringList{u"Brimshade: The session's message bus is gone, and the tray's items with it."_s});
+    EXPECT_EQ(messages.size(), 1);
+
+    m_bus.startAgain();
+    m_dispatch.advance(10); // it tries every so often
+    waitForWatcher();
+    program = start(u"after"_s, u"After"_s);
+    waitForTitles({u"After"_s});
+    EXPECT_EQ(messages.size(), 1);
 }
 
 } // namespace brimshade::desktop::tray

@@ -1,0 +1,122 @@
+#include "IconTheme.h"
+
+#include "desktop/services/KeyFile.h"
+
+#include <QDir>
+#include <QFile>
+#include <QIcon>
+#include <QRegularExpression>
+#include <QStandardPaths>
+#include <algorithm>
+
+namespace brimshade::desktop::tray {
+
+namespace {
+
+constexpr qint64 kMostIndexBytes = 1 << 20;
+constexpr int kMostThemes = 16;
+constexpr int kMostFolders = 1000; // of one theme
+constexpr int kWantedPixels = 128;
+const auto kSharedTheme = QStringLiteral("hicolor"); // every theme's last resort
+
+struct Theme {
+    QStringList parents;
+    QStringList folders; // inside a base's folder of the theme, best first
+};
+
+QStringList listOf(const QString &value)
+{
+    return value.split(u',', Qt::SkipEmptyParts).mid(0, kMostFolders);
+}
+
+int pixelsOf(const QString &folder, const KeyGroup &about)
+{
+    static const QRegularExpression number(QStringLiteral("(?:^|/)(\\d{1,4})"));
+    const int size = about.value(QStringLiteral("Size")).toInt();
+    return size > 0 ? size * std::max(1, about.value(QStringLiteral("Scale")).toInt())
+                    : number.match(folder).captured(1).toInt();
+}
+
+// Small is good: drawn ones, then those that need not be enlarged, the smallest first, then the largest of the rest.
+int rank(const QString &folder, const KeyGroup &about)
+{
+    if (about.value(QStringLiteral("Type")) == u"Scalable" || folder.contains(u"scalable"))
+        return 0;
+    const int pixels = pixelsOf(folder, about);
+    return pixels >= kWantedPixels ? pixels : 100'000 - pixels;
+}
+
+// Where no index names them: every folder two levels down.
+QStringList listedFolders(const QString &root)
+{
+    QStringList folders;
+    for (const auto &outer : QDir(root).entryList(QDir::Dirs | QDir::NoDotAndDotDot)) {
+        for (const auto &inner : QDir(root + u'/' + outer).entryList(QDir::Dirs | QDir::NoDotAndDotDot)) {
+            if (folders.size() < kMostFolders)
+                folders.append(outer + u'/' + inner);
+        }
+    }
+    return folders;
+}
+
+Theme readTheme(const QString &name, const QStringList &bases)
+{
+    Theme theme;
+    QMap<QString, KeyGroup> groups;
+    for (const auto &base : bases) {
+        QFile index(base + u'/' + name + QStringLiteral("/index.theme"));
+        if (groups.isEmpty() && index.open(QIODevice::ReadOnly))
+            groups = readKeyFile(index.read(kMostIndexBytes));
+    }
+    const auto about = groups.value(QStringLiteral("Icon Theme"));
+    theme.parents = listOf(about.value(QStringLiteral("Inherits")));
+    theme.folders =
+        listOf(about.value(QStringLiteral("Directories"))) + listOf(about.value(QStringLiteral("ScaledDirectories")));
+    for (auto base = bases.begin(); theme.folders.isEmpty() && base != bases.end(); ++base)
+        theme.folders = listedFolders(*base + u'/' + name);
+    std::stable_sort(theme.folders.begin(), theme.folders.end(), [&](const QString &a, const QString &b) {
+        return rank(a, groups.value(a)) < rank(b, groups.value(b));
+    });
+    return theme;
+}
+
+} // namespace
+
+IconThemePlaces sessionThemePlaces()
+{
+    auto bases = QIcon::themeSearchPaths();
+    for (const auto &folder : QStandardPaths::standardLocations(QStandardPaths::GenericDataLocation))
+        bases.append(folder + QStringLiteral("/icons"));
+    bases.removeIf([](const QString &base) { return !base.startsWith(u'/'); });
+    bases.removeDuplicates();
+    return {QIcon::themeName(), bases};
+}
+
+QStringList iconFolders(const IconThemePlaces &places)
+{
+    QStringList names{places.theme}, folders;
+    const auto add = [&](const QString &name, const QStringList &inside) {
+        for (const auto &folder : inside) {
+            for (const auto &base : places.bases) {
+                if (const auto path = base + u'/' + name + u'/' + folder; QFile::exists(path))
+                    folders.append(path);
+            }
+        }
+    };
+    names.removeAll(QString());
+    for (qsizetype i = 0; i < names.size() && i < kMostThemes; ++i) {
+        const auto theme = readTheme(names[i], places.bases);
+        if (names[i] != kSharedTheme)
+            add(names[i], theme.folders);
+        names += theme.parents;
+        names.removeDuplicates();
+    }
+    add(kSharedTheme, readTheme(kSharedTheme, places.bases).folders);
+    for (const auto &base : places.bases) {
+        if (const auto path = QDir::cleanPath(base + QStringLiteral("/../pixmaps")); QFile::exists(path))
+            folders.append(path);
+    }
+    return folders;
+}
+
+} // namespace brimshade::desktop::tray

@@ -1,0 +1,28 @@
+#pragma once
+#include <QCache>
+#include <QDateTime>
+#include <QImage>
+#include <QString>
+
+namespace brimshade::desktop::tray {
+
+bool isVectorPicture(const QString &suffix);
+
+// Reads pictures and keeps some of them. Only regular files are opened, and none larger than a picture of an icon can
+// be. One thread at a time.
+class PictureFiles {
+public:
+    PictureFiles();
+
+    QImage read(const QString &path); // null when there is none
+
+private:
+    struct Picture {
+        QImage image;
+        QDateTime modified;
+        qint64 size = 0; // bytes of the file
+    };
+    QCache<QString, Picture> m_known; // by path; the cost is kilobytes
+};
+
+} // namespace brimshade::desktop::tray

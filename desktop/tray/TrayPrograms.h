@@ -1,0 +1,53 @@
+#pragma once
+#include "HostedApplication.h"
+#include "ItemRegistry.h"
+
+#include <map>
+
+namespace brimshade::desktop {
+class Desktop;
+}
+
+namespace brimshade::desktop::tray {
+
+// The programs that have tray items on one bus, as applications of the desktop. They quit with it. Main thread; the
+// Desktop and the workshop outlive it.
+class TrayPrograms : public QObject {
+    Q_OBJECT
+public:
+    TrayPrograms(Desktop &desktop, const QDBusConnection &bus, const Workshop &workshop);
+    ~TrayPrograms() override;
+
+Q_SIGNALS:
+    void message(const QString &text);
+
+private:
+    struct Program {
+        int hostedId = 0; // 0: not launched
+        bool isLookedUp = false;
+        HostedProgram known;
+        std::vector<std::unique_ptr<ItemClient>> items; // as they came
+    };
+
+    void add(const ItemKey &key);
+    void remove(const ItemKey &key);
+    void place(const ItemKey &key, int pid);
+    bool isPlaced(const ItemKey &key) const;
+    void lookUp(int pid);
+    void lookedUp(int pid, const HostedProgram &known);
+    void update(int pid);
+    void show(int pid, Program &program, const std::vector<HostedItem> &items);
+    void openMenu(MenuClient *menu, const QRectF &frame);
+    void lapsePresses();
+    void tellUnanswered(int pid);
+    static std::vector<HostedItem> hosted(const Program &program);
+
+    Desktop &m_desktop;
+    QDBusConnection m_bus;
+    const Workshop &m_workshop;
+    ItemRegistry m_registry;
+    std::map<int, Program> m_programs; // by process id
+    Lifetime m_lifetime;
+};
+
+} // namespace brimshade::desktop::tray
