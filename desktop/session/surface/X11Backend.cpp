@@ -28,7 +28,10 @@ X11Backend::X11Backend(std::unique_ptr<X11Connection> watching)
       m_watching(std::move(watching)), m_focus(m_connection), m_foreground(*m_watching, shownSurfaces()),
       m_outside(*m_watching, shownSurfaces()), m_watch(xcb_get_file_descriptor(m_connection))
 {
-    connect(&m_outside, &X11Outside::pressed, this, &ShellBackend::pressedOutside);
+    connect(&m_outside, &X11Outside::pressed, this, [this](xcb_timestamp_t time) {
+        m_focus.pressedElsewhere(time);
+        Q_EMIT pressedOutside();
+    });
     watchCompositingManager();
 }
 

@@ -13,7 +13,8 @@ void X11Focus::take(xcb_window_t window)
     if (m_takers.empty())
         m_before = focused();
     m_takers.push_back(window);
-    focus(window);
+    m_pressed = XCB_CURRENT_TIME;
+    focus(window, XCB_CURRENT_TIME);
     xcb_flush(m_connection);
 }
 
@@ -26,8 +27,10 @@ void X11Focus::giveBack(xcb_window_t window)
     xcb_grab_server(m_connection);
     const bool isOurs = std::ranges::find(m_takers, focused()) != m_takers.end();
     m_takers.erase(found);
+    // The server keeps the latest by its time: the window manager's, which has the press's, wins over this.
+    const xcb_timestamp_t time = m_pressed == XCB_CURRENT_TIME ? XCB_CURRENT_TIME : m_pressed - 1;
     if (isOurs)
-        focus(m_takers.empty() ? m_before : m_takers.back());
+        focus(m_takers.empty() ? m_before : m_takers.back(), time);
     xcb_ungrab_server(m_connection);
     xcb_flush(m_connection);
 }
@@ -40,10 +43,9 @@ xcb_window_t X11Focus::focused() const
 }
 
 // The window may be gone by then: that error is nobody's, and the keys go to what is under the pointer.
-void X11Focus::focus(xcb_window_t window) const
+void X11Focus::focus(xcb_window_t window, xcb_timestamp_t time) const
 {
-    const auto cookie =
-        xcb_set_input_focus_checked(m_connection, XCB_INPUT_FOCUS_POINTER_ROOT, window, XCB_CURRENT_TIME);
+    const auto cookie = xcb_set_input_focus_checked(m_connection, XCB_INPUT_FOCUS_POINTER_ROOT, window, time);
     xcb_discard_reply(m_connection, cookie.sequence);
 }
 

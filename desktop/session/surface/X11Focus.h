@@ -14,13 +14,17 @@ public:
 
     void take(xcb_window_t window); // which is mapped
     void giveBack(xcb_window_t window); // before it is unmapped; nothing when it took none
+    // A hand has pressed another program's window, at that time of the server's: the window manager gives that one the
+    // keys, now or in a moment, and what is given back may not come after it.
+    void pressedElsewhere(xcb_timestamp_t time) { m_pressed = time; }
 
 private:
     xcb_window_t focused() const;
-    void focus(xcb_window_t window) const;
+    void focus(xcb_window_t window, xcb_timestamp_t time) const;
 
     xcb_connection_t *const m_connection;
     std::vector<xcb_window_t> m_takers; // the latest last
+    xcb_timestamp_t m_pressed = XCB_CURRENT_TIME; // since the keys were taken; XCB_CURRENT_TIME for never
     xcb_window_t m_before = XCB_INPUT_FOCUS_POINTER_ROOT;
 };
 

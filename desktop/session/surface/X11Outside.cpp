@@ -39,10 +39,10 @@ void X11Outside::handle(const xcb_generic_event_t &event)
 {
     if (!m_connection.isEventOf(event, xcb_input_id, XCB_INPUT_RAW_BUTTON_PRESS))
         return;
-    const auto button = reinterpret_cast<const xcb_input_raw_button_press_event_t &>(event).detail;
-    const bool isWheel = button >= kFirstWheelButton && button <= kLastWheelButton;
+    const auto &press = reinterpret_cast<const xcb_input_raw_button_press_event_t &>(event);
+    const bool isWheel = press.detail >= kFirstWheelButton && press.detail <= kLastWheelButton;
     if (!isWheel && isPointerOutside())
-        Q_EMIT pressed();
+        Q_EMIT pressed(press.time);
 }
 
 // A raw event does not say where it happened.

@@ -13,7 +13,7 @@ public:
     void watch(bool on);
 
 Q_SIGNALS:
-    void pressed();
+    void pressed(xcb_timestamp_t time); // of the server's
 
 private:
     void handle(const xcb_generic_event_t &event);
