@@ -40,7 +40,7 @@ QList<QByteArray> deviceTreeNames()
     return file.open(QIODevice::ReadOnly) ? file.read(most).split('\0') : QList<QByteArray>();
 }
 
-void complain(const QString &text)
+void tell(const QString &text)
 {
     std::fprintf(stderr, "brimshade: %s\n", qUtf8Printable(text));
 }
@@ -108,7 +108,7 @@ LiveSession::Parts::Parts(LiveSessionOptions options, std::unique_ptr<ShellBacke
     desktop::session::launchClock(desktop);
     if (options.hostsTray) {
         tray = std::make_unique<desktop::TrayHost>(desktop, desktop::connectToSessionBus, dispatch);
-        QObject::connect(tray.get(), &desktop::TrayHost::message, tray.get(), complain);
+        QObject::connect(tray.get(), &desktop::TrayHost::message, tray.get(), tell);
     }
     refuseInvented();
     desktop::session::addStickCommand(script);

@@ -22,9 +22,9 @@ ScriptRunner::ScriptRunner(Desktop &desktop, ScriptHost &host, ScriptClock &cloc
     addOwnCommands();
 }
 
-void ScriptRunner::add(const QString &name, Command command)
+void ScriptRunner::add(const QString &name, const Command &command)
 {
-    m_commands.insert(name, std::move(command));
+    m_commands.insert(name, command);
 }
 
 void ScriptRunner::addOwnCommands()

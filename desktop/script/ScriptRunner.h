@@ -25,7 +25,7 @@ public:
     ScriptRunner(Desktop &desktop, ScriptHost &host, ScriptClock &clock, ProgramState programState);
 
     // One more command, of the particular desktop that is driven; each name once.
-    void add(const QString &name, Command command);
+    void add(const QString &name, const Command &command);
 
     // The answer, "ok" included. Never throws, never ends the program.
     QJsonObject run(const QJsonObject &command);

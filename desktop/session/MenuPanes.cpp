@@ -99,6 +99,7 @@ void MenuPanes::truncate(int count)
 std::vector<Pane *> MenuPanes::panes() const
 {
     std::vector<Pane *> panes;
+    panes.reserve(m_lists.size());
     for (const auto &list : m_lists)
         panes.push_back(&list->pane());
     return panes;

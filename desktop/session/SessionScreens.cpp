@@ -63,6 +63,7 @@ void SessionScreens::arrange()
     }
     m_arranged = arrangeScreens(facts, m_choice);
     m_screens.clear();
+    m_screens.reserve(m_arranged.size());
     for (const ArrangedScreen &each : m_arranged)
         m_screens.push_back(present[each.index]);
 }
@@ -70,6 +71,7 @@ void SessionScreens::arrange()
 std::vector<ScreenDescription> SessionScreens::descriptions() const
 {
     std::vector<ScreenDescription> descriptions;
+    descriptions.reserve(m_arranged.size());
     for (const ArrangedScreen &each : m_arranged)
         descriptions.push_back(each.description);
     return descriptions;

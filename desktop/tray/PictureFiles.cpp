@@ -43,7 +43,7 @@ QImage PictureFiles::read(const QString &path)
     const auto modified = file.lastModified();
     if (const auto *known = m_known.object(path); known && known->modified == modified && known->size == file.size())
         return known->image;
-    const auto image = readPicture(file);
+    auto image = readPicture(file);
     m_known.remove(path);
     if (modified.secsTo(QDateTime::currentDateTime()) > kUnsettledSeconds)
         m_known.insert(path, new Picture{image, modified, file.size()},

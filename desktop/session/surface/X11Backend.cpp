@@ -50,7 +50,7 @@ void X11Backend::watchCompositingManager()
                                       XCB_XFIXES_SELECTION_EVENT_MASK_SET_SELECTION_OWNER
                                           | XCB_XFIXES_SELECTION_EVENT_MASK_SELECTION_WINDOW_DESTROY
                                           | XCB_XFIXES_SELECTION_EVENT_MASK_SELECTION_CLIENT_CLOSE);
-    connect(m_watching.get(), &X11Connection::event, this, [this](const xcb_generic_event_t &event) {
+    connect(m_watching.get(), &X11Connection::eventCame, this, [this](const xcb_generic_event_t &event) {
         if (m_watching->isEventOf(event, xcb_xfixes_id, XCB_XFIXES_SELECTION_NOTIFY))
             readCompositingManager();
     });

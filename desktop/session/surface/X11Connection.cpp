@@ -101,7 +101,7 @@ bool X11Connection::isEventOf(const xcb_generic_event_t &event, const xcb_extens
 void X11Connection::readEvents()
 {
     while (const X11Reply<xcb_generic_event_t> event{xcb_poll_for_event(m_connection)})
-        Q_EMIT this->event(*event);
+        Q_EMIT eventCame(*event);
     xcb_flush(m_connection);
     if (xcb_connection_has_error(m_connection))
         m_notifier.setEnabled(false);

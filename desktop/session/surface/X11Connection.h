@@ -48,7 +48,7 @@ public:
     bool isEventOf(const xcb_generic_event_t &event, const xcb_extension_t &extension, int number) const;
 
 Q_SIGNALS:
-    void event(const xcb_generic_event_t &event);
+    void eventCame(const xcb_generic_event_t &event);
 
 private:
     X11Connection(xcb_connection_t *connection, int screenNumber);

@@ -44,7 +44,7 @@ X11Foreground::X11Foreground(X11Connection &connection, const ShownSurfaces &sho
 {
     const std::uint32_t mask = XCB_EVENT_MASK_PROPERTY_CHANGE;
     xcb_change_window_attributes(connection.xcb(), connection.root(), XCB_CW_EVENT_MASK, &mask);
-    connect(&connection, &X11Connection::event, this, &X11Foreground::handle);
+    connect(&connection, &X11Connection::eventCame, this, &X11Foreground::handle);
     connect(qGuiApp, &QGuiApplication::screenAdded, this, &X11Foreground::updateSoon);
     connect(qGuiApp, &QGuiApplication::screenRemoved, this, &X11Foreground::updateSoon);
     update();
@@ -109,6 +109,7 @@ std::vector<X11Foreground::Client> X11Foreground::seenClients(const std::vector<
                                                               std::uint32_t desktop) const
 {
     std::vector<Reads> reads;
+    reads.reserve(clients.size());
     for (const xcb_window_t client : clients)
         reads.push_back(request(client));
     std::vector<Client> seen;

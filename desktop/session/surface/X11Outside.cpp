@@ -22,7 +22,7 @@ X11Outside::X11Outside(X11Connection &connection, const ShownSurfaces &shown) : 
 {
     const auto cookie = xcb_input_xi_query_version(connection.xcb(), kMajorVersion, kMinorVersion);
     xcb_discard_reply(connection.xcb(), cookie.sequence);
-    connect(&connection, &X11Connection::event, this, &X11Outside::handle);
+    connect(&connection, &X11Connection::eventCame, this, &X11Outside::handle);
 }
 
 void X11Outside::watch(bool on)

@@ -177,7 +177,7 @@ QImage SceneHost::Private::onlyFrame(const QQuickItem &frame)
         hidden.emplace_back(item, item->opacity());
         item->setOpacity(0);
     }
-    const QImage picture = partOf(whole(), frame);
+    QImage picture = partOf(whole(), frame);
     for (const auto &[item, opacity] : hidden)
         item->setOpacity(opacity);
     return picture;
