@@ -9,7 +9,7 @@ namespace {
 
 constexpr int kMostIndices = 16;
 constexpr int kMostKnown = 4096;
-constexpr double kOldIndex = 2; // seconds: a name that is missing then may have come
+constexpr double kOldIndex = 2, kOldThemes = 60; // seconds: a name that is missing then may have come
 constexpr double kTrustMissing = 10; // seconds in which a name that was nowhere is not looked for again
 constexpr QSizeF kItemSize{22, 22};
 
@@ -29,17 +29,6 @@ public:
 private:
     QImage m_pixels;
 };
-
-QString fileIn(const QStringList &folders, const QString &name)
-{
-    for (const auto &folder : folders) {
-        for (const auto &ending : kPictureEndings) {
-            if (auto path = folder + u'/' + name + ending; QFile::exists(path))
-                return path;
-        }
-    }
-    return {};
-}
 
 bool isSymbolic(const QString &name)
 {
@@ -102,9 +91,9 @@ QImage IconFinder::findPicture(const QString &name, const QString &themePath)
 
 QString IconFinder::knownPath(const QString &name, const QString &themePath)
 {
-    // Programs that draw their icons put new ones right there: four looks, and none is kept.
-    if (themePath.startsWith(u'/')) {
-        if (auto path = fileIn({themePath}, name); !path.isEmpty())
+    // Programs that draw their icons put new ones right there.
+    if (const auto *index = m_indices.object(themePath)) {
+        if (auto path = index->findNew(name); !path.isEmpty())
             return path;
     }
     if (m_known.size() > kMostKnown)
@@ -135,7 +124,7 @@ QString IconFinder::inThemePath(const QString &name, const QString &themePath)
     if (auto path = index ? index->find(name) : QString(); !path.isEmpty() && QFile::exists(path))
         return path;
     if (!index || index->age(m_now()) > kOldIndex) {
-        m_indices.insert(themePath, new FolderIndex(themePath, m_now()));
+        m_indices.insert(themePath, new PictureIndex(PictureIndex::below(themePath, m_now())));
         index = m_indices.object(themePath);
     }
     return index->find(name);
@@ -143,9 +132,12 @@ QString IconFinder::inThemePath(const QString &name, const QString &themePath)
 
 QString IconFinder::inThemes(const QString &name)
 {
-    if (!m_folders)
-        m_folders = iconFolders(m_places);
-    return fileIn(*m_folders, name);
+    auto path = m_themes ? m_themes->find(name) : QString();
+    if (!m_themes || (path.isEmpty() && m_themes->age(m_now()) > kOldThemes)) {
+        m_themes = PictureIndex::inside(iconFolders(m_places), m_now());
+        path = m_themes->find(name);
+    }
+    return path;
 }
 
 } // namespace brimshade::desktop::tray

@@ -1,7 +1,7 @@
 #pragma once
-#include "FolderIndex.h"
 #include "IconTheme.h"
 #include "PictureFiles.h"
+#include "PictureIndex.h"
 #include "TrayItem.h"
 #include "platform/Image.h"
 
@@ -41,9 +41,9 @@ private:
     const IconThemePlaces m_places;
     const Clock m_now;
     PictureFiles m_pictures;
-    QCache<QString, FolderIndex> m_indices; // by theme path
+    QCache<QString, PictureIndex> m_indices; // by theme path
     QHash<std::pair<QString, QString>, Found> m_known; // by theme path and name
-    std::optional<QStringList> m_folders; // of the themes, best first
+    std::optional<PictureIndex> m_themes;
 };
 
 platform::Image imageOf(const QImage &pixels, QSizeF size, bool isTemplate = false);

@@ -96,11 +96,13 @@ QStringList iconFolders(const IconThemePlaces &places)
 {
     QStringList names{places.theme}, folders;
     const auto add = [&](const QString &name, const QStringList &inside) {
+        auto roots = places.bases;
+        for (auto &root : roots)
+            root += u'/' + name + u'/';
+        roots.removeIf([](const QString &root) { return !QFile::exists(root); });
         for (const auto &folder : inside) {
-            for (const auto &base : places.bases) {
-                if (const auto path = base + u'/' + name + u'/' + folder; QFile::exists(path))
-                    folders.append(path);
-            }
+            for (const auto &root : roots)
+                folders.append(root + folder);
         }
     };
     names.removeAll(QString());
@@ -112,10 +114,8 @@ QStringList iconFolders(const IconThemePlaces &places)
         names.removeDuplicates();
     }
     add(kSharedTheme, readTheme(kSharedTheme, places.bases).folders);
-    for (const auto &base : places.bases) {
-        if (const auto path = QDir::cleanPath(base + QStringLiteral("/../pixmaps")); QFile::exists(path))
-            folders.append(path);
-    }
+    for (const auto &base : places.bases)
+        folders.append(QDir::cleanPath(base + QStringLiteral("/../pixmaps")));
     return folders;
 }
 

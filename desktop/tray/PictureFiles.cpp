@@ -11,13 +11,12 @@ constexpr int kPixels = 128; // of a picture that has no size of its own
 constexpr int kLargestEdge = 1024;
 constexpr qint64 kMostPictureBytes = 4 << 20;
 constexpr int kMostKilobytes = 8192;
-constexpr int kUnsettledSeconds = 2; // in which a file may be written twice and look the same
 
 QImage readPicture(const QFileInfo &file)
 {
     QImageReader reader(file.filePath());
     auto size = reader.size();
-    if (isVectorPicture(file.suffix().toLower())) {
+    if (isVectorPicture(file.filePath())) {
         size = size.isEmpty() ? QSize(kPixels, kPixels) : size.scaled(kPixels, kPixels, Qt::KeepAspectRatio);
         reader.setScaledSize(size);
     }
@@ -28,9 +27,15 @@ QImage readPicture(const QFileInfo &file)
 
 } // namespace
 
-bool isVectorPicture(const QString &suffix)
+bool isVectorPicture(const QString &path)
 {
-    return suffix == u"svg" || suffix == u"svgz";
+    return path.endsWith(u".svg", Qt::CaseInsensitive) || path.endsWith(u".svgz", Qt::CaseInsensitive);
+}
+
+bool isSettled(const QDateTime &modified, const QDateTime &looked)
+{
+    constexpr int coarsest = 2; // seconds, that a file system's times may be
+    return modified.secsTo(looked) > coarsest;
 }
 
 PictureFiles::PictureFiles() : m_known(kMostKilobytes) { }
@@ -45,7 +50,7 @@ QImage PictureFiles::read(const QString &path)
         return known->image;
     auto image = readPicture(file);
     m_known.remove(path);
-    if (modified.secsTo(QDateTime::currentDateTime()) > kUnsettledSeconds)
+    if (isSettled(modified, QDateTime::currentDateTime()))
         m_known.insert(path, new Picture{image, modified, file.size()},
                        1 + static_cast<int>(image.sizeInBytes() >> 10));
     return image;

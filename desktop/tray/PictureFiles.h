@@ -6,7 +6,10 @@
 
 namespace brimshade::desktop::tray {
 
-bool isVectorPicture(const QString &suffix);
+bool isVectorPicture(const QString &path);
+
+// Whether a change after the look would show in the time of the last one.
+bool isSettled(const QDateTime &modified, const QDateTime &looked);
 
 // Reads pictures and keeps some of them. Only regular files are opened, and none larger than a picture of an icon can
 // be. One thread at a time.

@@ -1,0 +1,61 @@
+#!/usr/bin/env python3
+"""bench/tray_answers.py PROGRAM: how long a script waits for an answer while the icons of a tray item are looked for.
+
+The item names a folder as large as /usr for its icon, or /usr/share for 200 icons of its menu that are nowhere. The
+reference is the same wait before the item comes."""
+import json
+import pathlib
+import subprocess
+import sys
+import time
+
+ROOT = pathlib.Path(__file__).resolve().parent
+sys.path.insert(0, str(ROOT.parent / "tests" / "support"))
+from program import Session  # noqa: E402
+
+CASES = {
+    "icon below /usr": {"theme": "/usr", "icon": "no-theme-has-this-icon"},
+    "200 menu icons below /usr/share": {"theme": "/usr/share", "icon": "no-theme-has-this-icon",
+                                        "menu": [[f"Entry {i}", f"nowhere{i}"] for i in range(200)]},
+}
+DESKTOP = {"screens": [{"name": "Display", "frame": [0, 0, 1512, 982], "menuBarHeight": 37, "notch": [663, 849]}],
+           "applications": [], "defaults": {"onboardingDone": True}}
+
+
+def longest_answer(brimshade, seconds):
+    longest, end = 0.0, time.monotonic() + seconds
+    while time.monotonic() < end:
+        start = time.monotonic()
+        brimshade.state()
+        longest = max(longest, time.monotonic() - start)
+        time.sleep(0.005)
+    return longest
+
+
+def measure(program, wanted):
+    session = Session()
+    try:
+        brimshade = session.start_program(program, DESKTOP, "--tray", "--real-time")
+        brimshade.until("watcher", lambda s: "boolean true" in session.output_of(
+            "dbus-send", "--session", "--print-reply", "--dest=org.freedesktop.DBus", "/",
+            "org.freedesktop.DBus.NameHasOwner", "string:org.kde.StatusNotifierWatcher"))
+        before = longest_answer(brimshade, 2)
+        item = session.start("/usr/bin/python3", str(ROOT / "tray_item.py"), json.dumps(wanted),
+                             stdout=subprocess.PIPE, text=True)
+        item.stdout.readline()
+        registered = time.monotonic()
+        during, shown = 0.0, None
+        while time.monotonic() < registered + 5:
+            during = max(during, longest_answer(brimshade, 0.02))
+            if shown is None and len(brimshade.state()["menuBar"]) == 2:
+                shown = time.monotonic() - registered
+        return before, during, shown
+    finally:
+        session.close()
+
+
+if __name__ == "__main__":
+    for name, wanted in CASES.items():
+        before, during, shown = measure(sys.argv[1], wanted)
+        print(f"{name:32} longest answer {during * 1000:6.1f} ms, before the item {before * 1000:6.1f} ms; "
+              f"the item shows after {'never' if shown is None else f'{shown * 1000:.0f} ms'}")
