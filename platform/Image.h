@@ -38,7 +38,7 @@ public:
             m_source->draw(painter, rect);
     }
     QImage bitmap() const { return m_source ? m_source->bitmap() : QImage(); }
-    const void *identity() const { return m_source.get(); }
+    std::shared_ptr<const void> identity() const { return m_source; } // its address is the image's own while this lives
 
 private:
     std::shared_ptr<const ImageSource> m_source;

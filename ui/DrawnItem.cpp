@@ -35,6 +35,7 @@ QSGNode *DrawnItem::updatePaintNode(QSGNode *node, UpdatePaintNodeData *)
     if (rect.isEmpty() || key.isEmpty() || !m_cache) {
         delete image;
         m_shownKey.clear();
+        m_shownOwner.reset();
         return nullptr;
     }
     key += bytesOf(rect, window()->effectiveDevicePixelRatio());
@@ -48,6 +49,7 @@ QSGNode *DrawnItem::updatePaintNode(QSGNode *node, UpdatePaintNodeData *)
     image->setTexture(window()->createTextureFromImage(picture(rect, key), QQuickWindow::TextureCanUseAtlas));
     image->setRect(rect);
     m_shownKey = key;
+    m_shownOwner = pictureOwner();
     return image;
 }
 

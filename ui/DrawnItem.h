@@ -22,8 +22,8 @@ public:
 protected:
     // Names everything that draw() reads but size and scale. Empty: there is nothing to draw.
     virtual QByteArray pictureKey() const = 0;
-    // What the key names by address: kept as long as its picture is.
-    virtual std::any pictureOwner() const { return {}; }
+    // What the key names by address.
+    virtual std::shared_ptr<const void> pictureOwner() const { return {}; }
     // What the picture covers, in the item's coordinates; by default the item.
     virtual QRectF pictureRect() const;
     // With the item's coordinates, antialiased. scale: device pixels a point. While the scene graph synchronises.
@@ -38,6 +38,7 @@ private:
 
     QPointer<PictureCache> m_cache;
     QByteArray m_shownKey; // of the node's texture
+    std::shared_ptr<const void> m_shownOwner; // so that nothing else gets its address
 };
 
 } // namespace brimshade::ui

@@ -35,7 +35,7 @@ QByteArray ImageView::pictureKey() const
         return {};
     QByteArray key("image");
     QDataStream out(&key, QIODevice::Append);
-    out << quint64(quintptr(m_image.identity())) << m_image.isTemplate() << m_templateColor << m_glowRadius
+    out << quint64(quintptr(m_image.identity().get())) << m_image.isTemplate() << m_templateColor << m_glowRadius
         << m_glowColor;
     return key;
 }

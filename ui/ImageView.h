@@ -34,7 +34,7 @@ Q_SIGNALS:
 
 protected:
     QByteArray pictureKey() const override;
-    std::any pictureOwner() const override { return m_image; }
+    std::shared_ptr<const void> pictureOwner() const override { return m_image.identity(); }
     QRectF pictureRect() const override;
     void draw(QPainter &painter, double scale) const override;
 

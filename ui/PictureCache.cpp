@@ -6,7 +6,8 @@ namespace brimshade::ui {
 
 namespace {
 constexpr int kCapacity = 24 * 1024; // KiB
-}
+constexpr int kMostInsertions = 32; // a fraction of the pictures of an open panel
+} // namespace
 
 PictureCache::PictureCache(QQuickWindow *window) : QObject(window), m_pictures(kCapacity) { }
 
@@ -22,12 +23,23 @@ PictureCache *PictureCache::of(QQuickWindow *window)
 const QImage *PictureCache::find(const QByteArray &key) const
 {
     const Entry *entry = m_pictures.object(key);
-    return entry ? &entry->picture : nullptr;
+    return entry && !entry->isOrphaned() ? &entry->picture : nullptr;
 }
 
-void PictureCache::insert(const QByteArray &key, const QImage &picture, const std::any &owner)
+void PictureCache::insert(const QByteArray &key, const QImage &picture, const std::shared_ptr<const void> &owner)
 {
-    m_pictures.insert(key, new Entry{picture, owner}, 1 + int(picture.sizeInBytes() / 1024));
+    if (++m_insertions > kMostInsertions)
+        dropOrphans();
+    m_pictures.insert(key, new Entry{picture, owner, owner != nullptr}, 1 + int(picture.sizeInBytes() / 1024));
+}
+
+void PictureCache::dropOrphans()
+{
+    const QList<QByteArray> keys = m_pictures.keys();
+    for (const QByteArray &key : keys)
+        if (m_pictures.object(key)->isOrphaned())
+            m_pictures.remove(key);
+    m_insertions = 0;
 }
 
 } // namespace brimshade::ui

@@ -3,7 +3,7 @@
 #include <QCache>
 #include <QImage>
 #include <QObject>
-#include <any>
+#include <memory>
 
 class QQuickWindow;
 
@@ -16,18 +16,24 @@ public:
     static PictureCache *of(QQuickWindow *window); // main thread
 
     const QImage *find(const QByteArray &key) const;
-    // `owner` lives as long as the entry: for keys that hold its address.
-    void insert(const QByteArray &key, const QImage &picture, const std::any &owner);
+    // `owner`: whose address the key holds, null where it holds none. The picture is found while the owner lives; it is
+    // not kept for that, as it may be large where the picture is small.
+    void insert(const QByteArray &key, const QImage &picture, const std::shared_ptr<const void> &owner = {});
 
 private:
     explicit PictureCache(QQuickWindow *window);
 
     struct Entry {
         QImage picture;
-        std::any owner;
+        std::weak_ptr<const void> owner;
+        bool isOwned;
+
+        bool isOrphaned() const { return isOwned && owner.expired(); }
     };
+    void dropOrphans();
 
     QCache<QByteArray, Entry> m_pictures;
+    int m_insertions = 0; // since it was last looked through for pictures that nobody can show any more
 };
 
 } // namespace brimshade::ui

@@ -83,7 +83,7 @@ QImage Shadow::picture(const QByteArray &key, double scale) const
     QImage shadow = blurredSilhouette(caster, m_color, m_blur * scale * share);
     if (share < 1)
         shadow = shadow.scaled(side, side, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
-    m_cache->insert(key, shadow, {});
+    m_cache->insert(key, shadow);
     return shadow;
 }
 

@@ -1,4 +1,5 @@
 #include "OffscreenScene.h"
+#include "platform/Image.h"
 #include "support/Test.h"
 
 #include <QtQml/qqmlextensionplugin.h>
@@ -51,6 +52,37 @@ TEST(Items, TheSpinnerTurnsOnlyWhileItIsSeen)
     root->setVisible(true);
     scene.settle();
     EXPECT_TRUE(turnedIn(160));
+}
+
+// A program that draws its icon anew all the time costs what is shown of it.
+TEST(Items, AnImageIsKeptWhileItIsShownAndNeverTakenForAnother)
+{
+    class Source : public platform::ImageSource {
+    public:
+        QColor color;
+        void draw(QPainter &painter, const QRectF &rect) const override { painter.fillRect(rect, color); }
+        QImage bitmap() const override { return filled(40, 40, color); }
+    };
+    Source red, blue;
+    red.color = Qt::red;
+    blue.color = Qt::blue;
+    // Two that came one after the other at one address.
+    const auto imageAt = [](Source &source) { return platform::Image({&source, [](const Source *) {}}, {40, 40}); };
+    OffscreenScene scene({40, 40}, 1);
+    QQuickItem *root = scene.load("import Brimshade.Ui\nImageView { }");
+    ASSERT_TRUE(root);
+    const auto shown = [&](const platform::Image &image) {
+        root->setProperty("image", QVariant::fromValue(image));
+        return scene.picture().pixelColor(20, 20);
+    };
+    platform::Image image = imageAt(red);
+    const std::weak_ptr<const void> first = image.identity();
+    EXPECT_EQ(shown(image), Qt::red);
+    image = imageAt(blue);
+    EXPECT_EQ(shown(image), Qt::blue);
+    EXPECT_TRUE(first.expired()) << "its picture is remembered, but it is not held";
+    red.color = Qt::green;
+    EXPECT_EQ(shown(imageAt(red)), Qt::green);
 }
 
 } // namespace brimshade::ui
