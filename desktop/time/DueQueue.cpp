@@ -42,6 +42,12 @@ std::optional<Nanoseconds> DueQueue::nextDue() const
     return m_waiting.empty() ? std::nullopt : std::optional(m_waiting.begin()->first.first);
 }
 
+std::size_t DueQueue::size() const
+{
+    const std::lock_guard lock(m_mutex);
+    return m_waiting.size();
+}
+
 void DueQueue::close()
 {
     // Destroyed after the lock: what the work holds may come back here.

@@ -22,6 +22,7 @@ public:
 
     std::optional<platform::Work> takeDue(Nanoseconds now);
     std::optional<Nanoseconds> nextDue() const;
+    std::size_t size() const;
     void close(); // drops what waits, and all that comes later
 
 private:

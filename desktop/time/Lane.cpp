@@ -26,6 +26,12 @@ void Lane::async(platform::Work work)
     });
 }
 
+std::size_t Lane::waiting() const
+{
+    const std::lock_guard lock(m_mutex);
+    return m_waiting.size();
+}
+
 void Lane::startNext()
 {
     platform::Work work;

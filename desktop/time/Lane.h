@@ -21,6 +21,8 @@ public:
     QString label() const override { return m_label; }
     void async(platform::Work work) override; // any thread; dropped once stopped
 
+    std::size_t waiting() const; // pieces of work that have not begun; any thread
+
     // Main thread. Lends the baton and, when the worker comes back with its work done, gives it the next.
     void resume(Worker &worker);
     // Main thread. What waits is dropped; work under way runs to its end without sleeping.
@@ -35,7 +37,7 @@ private:
     std::vector<std::unique_ptr<Worker>> m_workers; // main thread
     std::vector<Worker *> m_idle; // main thread
 
-    std::mutex m_mutex;
+    mutable std::mutex m_mutex;
     std::deque<platform::Work> m_waiting;
     std::size_t m_busy = 0; // working, or about to
     bool m_stopped = false;

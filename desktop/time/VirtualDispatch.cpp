@@ -106,6 +106,14 @@ void VirtualDispatch::setFrames(std::function<bool()> wanted, std::function<void
     m_frame = std::move(frame);
 }
 
+std::size_t VirtualDispatch::queueLength() const
+{
+    std::size_t length = m_events.size();
+    for (const auto &lane : m_lanes)
+        length += lane->waiting();
+    return length;
+}
+
 double VirtualDispatch::now() const
 {
     return toSeconds(m_now);

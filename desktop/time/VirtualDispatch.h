@@ -42,6 +42,9 @@ public:
     // While wanted() says so, the clock stops at every sixtieth of a second and calls frame() after what is due.
     void setFrames(std::function<bool()> wanted, std::function<void()> frame);
 
+    // What waits for its time or its turn, on any queue. Main thread.
+    std::size_t queueLength() const;
+
     double now() const override; // 0 at first
     bool isMainThread() const override;
     void mainAsync(platform::Work work) override;
