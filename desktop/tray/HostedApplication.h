@@ -1,7 +1,7 @@
 #pragma once
-#include "DesktopEntry.h"
 #include "ItemClient.h"
 #include "desktop/core/ApplicationSpec.h"
+#include "desktop/services/DesktopEntry.h"
 
 namespace brimshade::desktop::tray {
 

@@ -1,5 +1,5 @@
 #pragma once
-#include "DesktopEntry.h"
+#include "desktop/services/DesktopEntry.h"
 
 #include <functional>
 

@@ -5,7 +5,7 @@
 #include <optional>
 #include <vector>
 
-namespace brimshade::desktop::tray {
+namespace brimshade::desktop {
 
 // What a desktop entry file says of a program.
 struct DesktopEntry {
@@ -14,6 +14,7 @@ struct DesktopEntry {
     QString icon; // a name in the icon theme or an absolute path
     QString executable; // the file name of the program it runs
     bool isShown = true; // in menus
+    QString windowClass = {}; // what its windows call themselves, where the entry says so
 };
 
 // Nothing when it is not the entry of an application. locale is "de_DE".
@@ -22,4 +23,4 @@ std::optional<DesktopEntry> parseDesktopEntry(const QString &id, const QByteArra
 // All entries of these folders, the first of an id winning. Reads files: not on the main thread.
 std::vector<DesktopEntry> readDesktopEntries(const QStringList &folders, const QString &locale);
 
-} // namespace brimshade::desktop::tray
+} // namespace brimshade::desktop

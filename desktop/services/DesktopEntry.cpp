@@ -1,12 +1,12 @@
 #include "DesktopEntry.h"
 
-#include "desktop/services/KeyFile.h"
+#include "KeyFile.h"
 
 #include <QDirIterator>
 #include <QFile>
 #include <QSet>
 
-namespace brimshade::desktop::tray {
+namespace brimshade::desktop {
 
 namespace {
 
@@ -65,6 +65,7 @@ std::optional<DesktopEntry> parseDesktopEntry(const QString &id, const QByteArra
     entry.name = localized(values, QStringLiteral("Name"), locale).simplified().left(256);
     entry.icon = localized(values, QStringLiteral("Icon"), locale);
     entry.executable = executableOf(values.value(QStringLiteral("Exec")));
+    entry.windowClass = values.value(QStringLiteral("StartupWMClass"));
     entry.isShown = !isTrue(QStringLiteral("NoDisplay"));
     return entry;
 }
@@ -88,4 +89,4 @@ std::vector<DesktopEntry> readDesktopEntries(const QStringList &folders, const Q
     return entries;
 }
 
-} // namespace brimshade::desktop::tray
+} // namespace brimshade::desktop
