@@ -34,7 +34,7 @@ constexpr QPointF kNowhere(-10'000, -10'000);
 SessionHost::SessionHost(Desktop &desktop, SessionScreens &screens, ShellBackend &shell)
     : m_desktop(desktop), m_screens(screens), m_shell(shell), m_engine(std::make_unique<QQmlEngine>()),
       m_clock(desktop.platform().dispatch, [] { return QDateTime::currentDateTime(); }),
-      m_barState(desktop.menuBar(), m_clock),
+      m_applicationNames(desktop.platform().dispatch), m_barState(desktop.menuBar(), m_clock),
       m_menu(desktop.menus(), [this](QPointF point) { return screenFrameAt(point); })
 {
     m_engine->addImportPath(u"qrc:/qt/qml"_s);
@@ -61,7 +61,8 @@ SessionHost::SessionHost(Desktop &desktop, SessionScreens &screens, ShellBackend
     connect(&m_menu, &MenuController::isOpenChanged, this, &SessionHost::update);
     connect(&shell, &ShellBackend::pressedOutside, this, &SessionHost::pressedOutside);
     connect(&shell, &ShellBackend::compositedChanged, this, &SessionHost::followForeground);
-    connect(&shell.foreground(), &Foreground::applicationNameChanged, this, &SessionHost::followForeground);
+    connect(&shell.foreground(), &Foreground::applicationChanged, this, &SessionHost::followForeground);
+    connect(&m_applicationNames, &ApplicationNames::found, this, &SessionHost::followForeground);
     connect(&shell.foreground(), &Foreground::coveredScreensChanged, this, &SessionHost::followForeground);
     connect(&desktop.input(), &InputRouter::syntheticHeld, m_bar.get(), &SessionBar::setWaiting);
     for (DesktopWindow *window : stack.windows())
@@ -137,9 +138,10 @@ void SessionHost::followForeground()
 {
     const Foreground &foreground = m_shell.foreground();
     const QScreen *screen = m_screens.barScreen();
-    const QString name = foreground.applicationName();
-    const bool isOwn = name == QGuiApplication::desktopFileName() || name == QCoreApplication::applicationName();
-    m_barState.setApplicationName(isOwn ? u"Brimshade"_s : name); // no desktop entry may be installed for it
+    const QString id = foreground.applicationId();
+    const bool isOwn = id == QGuiApplication::desktopFileName() || id == QCoreApplication::applicationName();
+    // No desktop entry may be installed for it.
+    m_barState.setApplicationName(isOwn ? u"Brimshade"_s : m_applicationNames.nameOf(id));
     m_barState.setTranslucent(m_shell.isComposited());
     m_desktop.setMenuBarShowing(screen && !foreground.coversScreen(screen));
 }

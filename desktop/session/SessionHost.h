@@ -1,4 +1,5 @@
 #pragma once
+#include "ApplicationNames.h"
 #include "BarState.h"
 #include "Pane.h"
 #include "desktop/script/ScriptHost.h"
@@ -66,6 +67,7 @@ private:
     ShellBackend &m_shell;
     std::unique_ptr<QQmlEngine> m_engine;
     WallClock m_clock;
+    ApplicationNames m_applicationNames;
     BarState m_barState;
     MenuController m_menu;
     std::unique_ptr<SessionBar> m_bar;

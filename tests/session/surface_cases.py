@@ -144,7 +144,7 @@ class SurfaceCases:
         self.probe.until("the right one", lambda s: s["application"] == "right")
         self.probe.events()
         self.focus("left")
-        self.assertEqual(self.probe.event("application")["name"], "left")
+        self.assertEqual(self.probe.event("application")["id"], "left")
         self.open_panel_with_keys()
         self.assertEqual(self.probe.do("state")["application"], "left")
         self.probe.do("hide", surface="panel")

@@ -108,8 +108,8 @@ Probe::Probe(ShellBackend &backend) : m_backend(backend)
     add(u"menu"_s, ShellSurface::Kind::Overlay, QColor(0, 100, 0));
     QObject::connect(&backend, &ShellBackend::pressedOutside, [] { say({{"event"_L1, "outside"_L1}}); });
     QObject::connect(&backend, &ShellBackend::compositedChanged, [] { say({{"event"_L1, "composited"_L1}}); });
-    QObject::connect(&backend.foreground(), &Foreground::applicationNameChanged, [&backend] {
-        say({{"event"_L1, "application"_L1}, {"name"_L1, backend.foreground().applicationName()}});
+    QObject::connect(&backend.foreground(), &Foreground::applicationChanged, [&backend] {
+        say({{"event"_L1, "application"_L1}, {"id"_L1, backend.foreground().applicationId()}});
     });
     QObject::connect(&backend.foreground(), &Foreground::coveredScreensChanged, [] {
         say({{"event"_L1, "covered"_L1}});
@@ -200,7 +200,7 @@ QJsonObject Probe::state() const
             {"surfaces"_L1, surfaces},
             {"screens"_L1, screens},
             {"covered"_L1, covered},
-            {"application"_L1, m_backend.foreground().applicationName()},
+            {"application"_L1, m_backend.foreground().applicationId()},
             {"composited"_L1, m_backend.isComposited()}};
 }
 

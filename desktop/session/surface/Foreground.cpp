@@ -30,8 +30,8 @@ void Foreground::setApplication(const QString &id)
 
 void Foreground::showApplication()
 {
-    if (std::exchange(m_applicationName, m_application) != m_application)
-        Q_EMIT applicationNameChanged();
+    if (std::exchange(m_applicationId, m_application) != m_application)
+        Q_EMIT applicationChanged();
 }
 
 void Foreground::setCoveredScreens(const QSet<const QScreen *> &screens)

@@ -14,17 +14,17 @@ namespace brimshade::desktop::session {
 class Foreground : public QObject {
     Q_OBJECT
 public:
-    // Of the application with the focus, as its desktop entry says, else as it calls itself; empty for none.
-    QString applicationName() const { return m_applicationName; }
+    // What the windows of the application with the focus call it: their app_id or, on X11, class; empty for none.
+    QString applicationId() const { return m_applicationId; }
     bool coversScreen(const QScreen *screen) const { return m_covered.contains(screen); } // by a full-screen window
 
 Q_SIGNALS:
-    void applicationNameChanged();
+    void applicationChanged();
     void coveredScreensChanged();
 
 protected:
     Foreground();
-    void setApplication(const QString &id); // its app_id or class
+    void setApplication(const QString &id);
     void setCoveredScreens(const QSet<const QScreen *> &screens);
 
 private:
@@ -32,7 +32,7 @@ private:
 
     QString m_application; // now
     QTimer m_settled;
-    QString m_applicationName;
+    QString m_applicationId;
     QSet<const QScreen *> m_covered;
 };
 
