@@ -109,6 +109,16 @@ class SurfaceCases:
         self.probe.do("destroy", surface="panel")
         self.assert_types("after", self.right)
 
+    def test_a_window_that_somebody_else_hides_counts_as_closed_and_may_be_shown_again(self):
+        self.open_panel_with_keys()
+        self.probe.do("hide-window", surface="panel")
+        self.probe.do("place", surface="panel", geometry=[100, 100, 300, 300])
+        self.probe.event("closed", surface="panel")
+        self.assert_types("after", self.right)
+        self.open_panel(keyboard=True)
+        self.hands.type("again")
+        self.text_of("panel", "again")
+
     def test_clicks_go_through_outside_the_input_region(self):
         self.open_panel(input=[[300, 0, 300, 400]])
         self.hands.click(PANEL[0] + 310, 200)

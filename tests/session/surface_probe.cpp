@@ -171,6 +171,8 @@ QJsonObject Probe::obey(const QJsonObject &command)
         place(*surface, command);
     else if (what == "hide"_L1 && surface)
         surface->hide();
+    else if (what == "hide-window"_L1 && surface) // behind the surface's back
+        surface->window().hide();
     else if (what == "destroy"_L1 && surface)
         m_shown.erase(found);
     else if (what == "watch"_L1)

@@ -103,6 +103,21 @@ class TwoScreens(unittest.TestCase):
                          [0, 0, 37, 0, 0, 0, 0, 0, self.half, WIDTH - 1, 0, 0])
         self.assertEqual(self.display.geometry(window), [self.half, 0, self.half, 37])
 
+    def test_what_is_shown_moves_to_the_other_one(self):
+        probe = self.probe_with()
+        hands = self.display.hands()
+        probe.do("show", surface="bar", screen="right", **BAR)
+        probe.do("show", surface="panel", screen="right", geometry=[0, 37, 200, 200], keyboard=True)
+        probe.event("active", surface="panel")
+        for surface in ("bar", "panel"):
+            probe.do("place", surface=surface, screen="left")
+        self.display.until_picture("the panel on the left", lambda p: p[0, 37] == p[199, 236] == BLUE)
+        hands.type("x")
+        state = probe.until("the key", lambda s: s["surfaces"]["panel"]["text"] == "x" and s)
+        self.assertTrue(state["surfaces"]["bar"]["shown"] and state["surfaces"]["panel"]["shown"])
+        window = self.display.window("surface_probe")
+        self.assertEqual(self.display.numbers("_NET_WM_STRUT_PARTIAL", window)[8:10], [0, self.half - 1])
+
     def test_at_scale_2_all_lengths_are_in_pixels(self):
         probe = self.probe_with(QT_SCALE_FACTOR="2")
         probe.do("show", surface="bar", screen="right", **BAR)

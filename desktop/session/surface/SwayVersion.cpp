@@ -41,17 +41,25 @@ int connectTo(const QByteArray &path)
     return -1;
 }
 
+pid_t peerOf(int socket)
+{
+    ucred credentials{};
+    socklen_t size = sizeof credentials;
+    return getsockopt(socket, SOL_SOCKET, SO_PEERCRED, &credentials, &size) == 0 ? credentials.pid : 0;
+}
+
 } // namespace
 
-SwayVersion::SwayVersion(const QString &socketPath) : m_socket(connectTo(socketPath.toLocal8Bit()))
+SwayVersion::SwayVersion(const QString &socketPath, int compositor) : m_socket(connectTo(socketPath.toLocal8Bit()))
 {
-    if (m_socket < 0)
+    const QByteArray asked = question();
+    if (m_socket < 0 || peerOf(m_socket) != peerOf(compositor)
+        || send(m_socket, asked.constData(), std::size_t(asked.size()), MSG_NOSIGNAL) != asked.size()) {
+        end();
         return;
+    }
     m_notifier = std::make_unique<QSocketNotifier>(m_socket, QSocketNotifier::Read);
     QObject::connect(m_notifier.get(), &QSocketNotifier::activated, m_notifier.get(), [this] { read(); });
-    const QByteArray asked = question();
-    if (send(m_socket, asked.constData(), std::size_t(asked.size()), MSG_NOSIGNAL) != asked.size())
-        end();
 }
 
 SwayVersion::~SwayVersion()

@@ -9,7 +9,9 @@ namespace brimshade::desktop::session {
 // Sway's version, asked on its own socket without waiting. Main thread.
 class SwayVersion {
 public:
-    explicit SwayVersion(const QString &socketPath); // empty, and nothing else is: not sway
+    // The path that SWAYSOCK names, and the connection to the compositor: another one may run inside sway and have that
+    // variable from it.
+    SwayVersion(const QString &socketPath, int compositor);
     ~SwayVersion();
     Q_DISABLE_COPY_MOVE(SwayVersion)
 

@@ -27,8 +27,8 @@ WaylandSurface::WaylandSurface(QQuickWindow &window, Kind kind, const WaylandGlo
     window.setFlags(Qt::FramelessWindowHint | Qt::BypassWindowManagerHint);
     window.installEventFilter(this);
     connect(&window, &QWindow::visibleChanged, this, [this](bool visible) {
-        if (!visible && isShown())
-            close();
+        if (!visible)
+            closeWithoutRole();
     });
 }
 
@@ -43,8 +43,17 @@ bool WaylandSurface::eventFilter(QObject *watched, QEvent *event)
     if (event->type() == QEvent::PlatformSurface
         && static_cast<QPlatformSurfaceEvent *>(event)->surfaceEventType()
             == QPlatformSurfaceEvent::SurfaceAboutToBeDestroyed)
-        destroyRole();
+        closeWithoutRole();
     return ShellSurface::eventFilter(watched, event);
+}
+
+// Somebody else has hidden or destroyed the window and is still about it.
+void WaylandSurface::closeWithoutRole()
+{
+    if (!m_role)
+        return;
+    destroyRole();
+    QMetaObject::invokeMethod(this, &WaylandSurface::close, Qt::QueuedConnection);
 }
 
 void WaylandSurface::map()
@@ -93,6 +102,8 @@ void WaylandSurface::unmap()
 
 void WaylandSurface::applyGeometry()
 {
+    if (!m_role)
+        return;
     requestPlace();
     commit();
 }
@@ -104,6 +115,8 @@ void WaylandSurface::applyRegions()
 
 void WaylandSurface::applyKeyboard()
 {
+    if (!m_role)
+        return;
     zwlr_layer_surface_v1_set_keyboard_interactivity(m_role,
                                                      takesKeyboard()
                                                          ? ZWLR_LAYER_SURFACE_V1_KEYBOARD_INTERACTIVITY_EXCLUSIVE

@@ -37,10 +37,11 @@ private:
     void configure(std::uint32_t serial, const QSize &native);
     void commit();
     void destroyRole();
+    void closeWithoutRole();
     wl_surface *surface() const; // null when Qt has none
 
     const WaylandGlobals &m_globals;
-    zwlr_layer_surface_v1 *m_role = nullptr;
+    zwlr_layer_surface_v1 *m_role = nullptr; // while it is mapped
 };
 
 } // namespace brimshade::desktop::session

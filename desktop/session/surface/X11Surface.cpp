@@ -30,7 +30,7 @@ X11Surface::X11Surface(QQuickWindow &window, Kind kind, X11Backend &backend)
             applyRegions();
     });
     connect(&window, &QWindow::visibleChanged, this, [this](bool visible) {
-        if (!visible && isShown())
+        if (!visible && m_isMapped)
             close();
     });
 }
@@ -55,6 +55,7 @@ void X11Surface::map()
         Q_EMIT changed();
         Q_EMIT configured(geometry().size());
     });
+    m_isMapped = true;
     window().show();
     window().raise();
     applyKeyboard();
@@ -63,6 +64,7 @@ void X11Surface::map()
 
 void X11Surface::unmap()
 {
+    m_isMapped = false;
     disconnect(m_screenMoved);
     m_backend.focus().giveBack(xcb_window_t(window().winId()));
     window().hide();

@@ -23,6 +23,7 @@ private:
 
     X11Backend &m_backend;
     QMetaObject::Connection m_screenMoved;
+    bool m_isMapped = false;
 };
 
 } // namespace brimshade::desktop::session
