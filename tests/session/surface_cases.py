@@ -6,6 +6,11 @@ PANEL = [200, 0, 600, 400]  # in the middle of its left edge lies the left termi
 WIDTH, HEIGHT = 1512, 982
 
 
+def until_active(probe, surface):
+    """By the state: of keys that leave it and return at once its window may tell nothing."""
+    probe.until(f"the {surface} with the keys", lambda s: s["surfaces"][surface]["active"])
+
+
 class SurfaceCases:
     """Over two terminals side by side, of which the right one has the keys. A class that mixes it in makes the display."""
 
@@ -38,7 +43,7 @@ class SurfaceCases:
 
     def open_panel_with_keys(self):
         self.probe.do("show", surface="panel", geometry=PANEL, keyboard=True)
-        self.probe.event("active", surface="panel")
+        until_active(self.probe, "panel")
 
     def focus(self, terminal):
         self.hands.click(*self.middle_of(terminal))
@@ -76,17 +81,17 @@ class SurfaceCases:
         self.open_panel()
         self.assert_types("still mine", self.right)
         self.probe.do("place", surface="panel", keyboard=True)
-        self.probe.event("active", surface="panel")
+        until_active(self.probe, "panel")
         self.hands.type("x")
         self.text_of("panel", "x")
         self.probe.do("place", surface="panel", keyboard=False)
-        self.probe.event("inactive", surface="panel")
+        self.probe.until("the panel without the keys", lambda s: not s["surfaces"]["panel"]["active"])
         self.assert_types("mine again", self.right)
 
     def test_a_menu_over_the_panel_has_the_keys_and_the_panel_may_go_first(self):
         self.open_panel_with_keys()
         self.probe.do("show", surface="menu", geometry=[300, 100, 200, 300], keyboard=True)
-        self.probe.event("active", surface="menu")
+        until_active(self.probe, "menu")
         self.hands.type("m")
         self.text_of("menu", "m")
         self.probe.do("hide", surface="panel")
@@ -98,9 +103,9 @@ class SurfaceCases:
     def test_the_keys_return_to_the_panel_when_its_menu_goes(self):
         self.open_panel_with_keys()
         self.probe.do("show", surface="menu", geometry=[300, 100, 200, 300], keyboard=True)
-        self.probe.event("active", surface="menu")
+        until_active(self.probe, "menu")
         self.probe.do("hide", surface="menu")
-        self.probe.event("active", surface="panel")
+        until_active(self.probe, "panel")
         self.hands.type("p")
         self.text_of("panel", "p")
 

@@ -3,7 +3,7 @@ import sys
 import unittest
 
 from lib.sway import Sway
-from surface_cases import BAR, HEIGHT, PANEL, PROBE, WIDTH, SurfaceCases
+from surface_cases import BAR, HEIGHT, PANEL, PROBE, WIDTH, SurfaceCases, until_active
 
 PROBE.append(sys.argv.pop(1))
 
@@ -115,7 +115,7 @@ class Outputs(unittest.TestCase):
         self.show_bar("HEADLESS-1")
         self.probe.do("watch", on=True)
         self.probe.do("show", surface="panel", geometry=PANEL, keyboard=True)
-        self.probe.event("active", surface="panel")
+        until_active(self.probe, "panel")
         keyboard.type("k")
         self.probe.until("the key", lambda s: s["surfaces"]["panel"]["text"] == "k")
         for _ in range(2):
@@ -142,7 +142,7 @@ class UnpluggedOutput(unittest.TestCase):
         self.probe.do("show", surface="bar", **BAR)
         self.probe.event("frame", surface="bar")
         self.probe.do("show", surface="panel", geometry=PANEL, keyboard=True)
-        self.probe.event("active", surface="panel")
+        until_active(self.probe, "panel")
 
     def until_screens(self, *names):
         return self.probe.until(f"screens {names}", lambda s: s["screens"] == list(names) and s)

@@ -3,7 +3,7 @@ import sys
 import unittest
 
 from lib.x11 import X11
-from surface_cases import BAR, HEIGHT, PANEL, PROBE, WIDTH, SurfaceCases
+from surface_cases import BAR, HEIGHT, PANEL, PROBE, WIDTH, SurfaceCases, until_active
 
 PROBE.append(sys.argv.pop(1))
 BLUE, BLACK = (0, 0, 200), (0, 0, 0)
@@ -108,7 +108,7 @@ class TwoScreens(unittest.TestCase):
         hands = self.display.hands()
         probe.do("show", surface="bar", screen="right", **BAR)
         probe.do("show", surface="panel", screen="right", geometry=[0, 37, 200, 200], keyboard=True)
-        probe.event("active", surface="panel")
+        until_active(probe, "panel")
         for surface in ("bar", "panel"):
             probe.do("place", surface=surface, screen="left")
         self.display.until_picture("the panel on the left", lambda p: p[0, 37] == p[199, 236] == BLUE)
