@@ -8,6 +8,7 @@
 #include "desktop/services/HotkeyRegistry.h"
 #include "desktop/services/SymbolService.h"
 #include "desktop/services/X11KeyGrabber.h"
+#include "desktop/services/shortcuts/PortalKeyGrabber.h"
 #include "desktop/session/SessionClock.h"
 #include "desktop/session/SessionHost.h"
 #include "desktop/session/SessionPreferences.h"
@@ -131,10 +132,15 @@ void LiveSession::Parts::refuseInvented()
 
 void LiveSession::Parts::grabKeys()
 {
-    if (QGuiApplication::platformName() == "xcb"_L1)
+    if (QGuiApplication::platformName() == "xcb"_L1) {
         desktop.hotkeys().setGrabber(desktop::X11KeyGrabber::create(0)); // the panel takes the keys by itself
-    else
-        preferences.setShortcutsWork(false);
+        return;
+    }
+    auto portal = std::make_unique<desktop::PortalKeyGrabber>(QDBusConnection::sessionBus());
+    QObject::connect(portal.get(), &desktop::PortalKeyGrabber::availabilityChanged, &preferences,
+                     [this, &portal = *portal] { preferences.setShortcutsWork(portal.isAvailable()); });
+    preferences.setShortcutsWork(false); // before it has answered
+    desktop.hotkeys().setGrabber(std::move(portal));
 }
 
 void LiveSession::Parts::watchOverKeys()

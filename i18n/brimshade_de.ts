@@ -410,6 +410,13 @@ Brimshade öffnet die Notch und zeigt sie alle.</translation>
     </message>
 </context>
 <context>
+    <name>brimshade::desktop::PortalKeyGrabber</name>
+    <message>
+        <source>Open or close Brimshade</source>
+        <translation>Brimshade öffnen oder schließen</translation>
+    </message>
+</context>
+<context>
     <name>brimshade::desktop::session::SessionPreferences</name>
     <message>
         <source>Plasma shows the same tray items. Remove the System Tray from its panel to see them only here; everything else works side by side.</source>

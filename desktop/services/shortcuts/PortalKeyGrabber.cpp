@@ -1,0 +1,211 @@
+#include "PortalKeyGrabber.h"
+
+#include "PortalShortcut.h"
+#include "PortalTrigger.h"
+
+#include <QDBusPendingReply>
+#include <QDBusServiceWatcher>
+#include <QDBusVariant>
+#include <algorithm>
+
+using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
+
+namespace brimshade::desktop {
+
+namespace {
+
+constexpr auto kTimeLimit = 5s; // of what the portal does without asking the user
+constexpr uint kBindsAnew = 2; // from this version on shortcuts of an earlier run sleep until they are bound
+
+const QString kSession = u"org.freedesktop.portal.Session"_s;
+
+QString idOf(KeyCombination combination)
+{
+    const QString trigger = portalTrigger(combination);
+    return trigger.isEmpty() ? QString() : u"panel-"_s + trigger.toLower().replace(u'+', u'-');
+}
+
+} // namespace
+
+PortalKeyGrabber::PortalKeyGrabber(const QDBusConnection &bus, bool bindsNothing) : m_bus(bus)
+{
+    registerPortalTypes();
+    if (bindsNothing)
+        return;
+    auto *watcher = new QDBusServiceWatcher(portal::kService, m_bus, QDBusServiceWatcher::WatchForOwnerChange, this);
+    connect(watcher, &QDBusServiceWatcher::serviceOwnerChanged, this,
+            [this](const QString &, const QString &, const QString &newOwner) { ownerChanged(newOwner); });
+    m_bus.connect(portal::kService, portal::kPath, portal::kGlobalShortcuts, u"Activated"_s, this,
+                  SLOT(activated(QDBusObjectPath, QString, qulonglong, QVariantMap)));
+    m_bus.connect(portal::kService, {}, kSession, u"Closed"_s, this, SLOT(sessionClosed(QDBusMessage)));
+    inquire();
+}
+
+PortalKeyGrabber::~PortalKeyGrabber()
+{
+    closeSession();
+}
+
+bool PortalKeyGrabber::isPlasma5()
+{
+    return qgetenv("KDE_SESSION_VERSION") == "5";
+}
+
+bool PortalKeyGrabber::grab(KeyCombination combination)
+{
+    const QString id = idOf(combination);
+    if (id.isEmpty())
+        return false;
+    m_grabbed.insert_or_assign(id, combination);
+    renewSoon();
+    return true;
+}
+
+void PortalKeyGrabber::release(KeyCombination combination)
+{
+    if (m_grabbed.erase(idOf(combination)) > 0)
+        renewSoon();
+}
+
+// First our name, by which the portal keeps what the user chose; an older portal knows no such call.
+void PortalKeyGrabber::inquire()
+{
+    m_isInquiring = true;
+    auto introduction = QDBusMessage::createMethodCall(portal::kService, portal::kPath,
+                                                       u"org.freedesktop.host.portal.Registry"_s, u"Register"_s);
+    introduction.setArguments({u"org.brimshade.Brimshade"_s, QVariantMap()});
+    m_bus.send(introduction);
+
+    auto question =
+        QDBusMessage::createMethodCall(portal::kService, portal::kPath, u"org.freedesktop.DBus.Properties"_s, u"Get"_s);
+    question.setArguments({portal::kGlobalShortcuts, u"version"_s});
+    auto *watcher = new QDBusPendingCallWatcher(m_bus.asyncCall(question), this);
+    connect(watcher, &QDBusPendingCallWatcher::finished, this, [this](QDBusPendingCallWatcher *finished) {
+        finished->deleteLater();
+        const QDBusPendingReply<QDBusVariant> reply = *finished;
+        setAvailable(reply.isError() ? 0 : reply.value().variant().toUInt());
+    });
+}
+
+void PortalKeyGrabber::setAvailable(uint version)
+{
+    m_isInquiring = false;
+    m_version = version;
+    const bool isAvailable = version > 0;
+    if (std::exchange(m_isAvailable, isAvailable) != isAvailable)
+        Q_EMIT availabilityChanged();
+    renewSoon();
+}
+
+// With the old one its sessions have gone.
+void PortalKeyGrabber::ownerChanged(const QString &newOwner)
+{
+    if (m_isInquiring) // which has started it
+        return;
+    m_session.clear();
+    m_request.reset();
+    if (newOwner.isEmpty())
+        setAvailable(0);
+    else
+        inquire();
+}
+
+void PortalKeyGrabber::renewSoon()
+{
+    if (!std::exchange(m_isRenewing, true))
+        QMetaObject::invokeMethod(this, &PortalKeyGrabber::renew, Qt::QueuedConnection);
+}
+
+void PortalKeyGrabber::renew()
+{
+    m_isRenewing = false;
+    const bool isCreating = m_request && m_session.isEmpty();
+    if (isCreating) // the shortcuts are read after that
+        return;
+    closeSession();
+    if (m_isAvailable && !m_grabbed.empty())
+        createSession();
+}
+
+// Its name is always the same: some portals keep what the user chose by it.
+void PortalKeyGrabber::createSession()
+{
+    request(u"CreateSession"_s, {}, {{u"session_handle_token"_s, u"brimshade"_s}}, kTimeLimit,
+            [this](const Results &results) { sessionCreated(results); });
+}
+
+void PortalKeyGrabber::sessionCreated(const Results &results)
+{
+    m_session = results ? results->value(u"session_handle"_s).toString() : QString();
+    if (m_session.isEmpty())
+        return;
+    if (m_grabbed.empty())
+        closeSession();
+    else if (m_version < kBindsAnew)
+        listShortcuts();
+    else
+        bindShortcuts();
+}
+
+// What an older portal lists is in force already; asked to bind it, one or the other shows its settings.
+void PortalKeyGrabber::listShortcuts()
+{
+    request(u"ListShortcuts"_s, {QVariant::fromValue(QDBusObjectPath(m_session))}, {}, kTimeLimit,
+            [this](const Results &results) {
+                const QStringList known = shortcutIds(results.value_or(QVariantMap()).value(u"shortcuts"_s));
+                if (!std::ranges::all_of(m_grabbed, [&](const auto &each) { return known.contains(each.first); }))
+                    bindShortcuts();
+            });
+}
+
+void PortalKeyGrabber::bindShortcuts()
+{
+    QList<PortalShortcut> shortcuts;
+    for (const auto &[id, combination] : m_grabbed)
+        shortcuts.append({id,
+                          {{u"description"_s, tr("Open or close Brimshade")},
+                           {u"preferred_trigger"_s, portalTrigger(combination)}}});
+    const QString parentWindow;
+    request(u"BindShortcuts"_s,
+            {QVariant::fromValue(QDBusObjectPath(m_session)), QVariant::fromValue(shortcuts), parentWindow}, {}, {},
+            [](const Results &) {});
+}
+
+void PortalKeyGrabber::request(const QString &method, QVariantList arguments, const QVariantMap &options,
+                               std::optional<std::chrono::milliseconds> limit, PortalRequest::Handler handler)
+{
+    m_request.reset(new PortalRequest(m_bus, method, arguments, options, limit,
+                                      [this, handler = std::move(handler)](const Results &results) {
+                                          m_request.reset();
+                                          handler(results);
+                                      }));
+}
+
+void PortalKeyGrabber::closeSession()
+{
+    if (m_request)
+        m_request->withdraw();
+    m_request.reset();
+    if (const QString session = std::exchange(m_session, {}); !session.isEmpty())
+        m_bus.send(QDBusMessage::createMethodCall(portal::kService, session, kSession, u"Close"_s));
+}
+
+void PortalKeyGrabber::sessionClosed(const QDBusMessage &message)
+{
+    if (message.path() != m_session)
+        return;
+    m_session.clear();
+    m_request.reset();
+}
+
+void PortalKeyGrabber::activated(const QDBusObjectPath &session, const QString &id, qulonglong, const QVariantMap &)
+{
+    const auto found = m_grabbed.find(id);
+    if (session.path() != m_session || found == m_grabbed.end() || !m_pressed)
+        return;
+    const KeyCombination combination = found->second; // the map may change by it
+    m_pressed(combination);
+}
+
+} // namespace brimshade::desktop

@@ -1,0 +1,45 @@
+#pragma once
+#include <QDBusConnection>
+#include <QObject>
+#include <QTimer>
+#include <QVariantMap>
+#include <chrono>
+#include <functional>
+#include <optional>
+
+namespace brimshade::desktop {
+
+// The desktop portal of the session.
+namespace portal {
+inline const QString kService = QStringLiteral("org.freedesktop.portal.Desktop");
+inline const QString kPath = QStringLiteral("/org/freedesktop/portal/desktop");
+inline const QString kGlobalShortcuts = QStringLiteral("org.freedesktop.portal.GlobalShortcuts");
+} // namespace portal
+
+// One call whose outcome the portal tells later, by a signal of a request object. Main thread; starts the portal where
+// it does not run. Destroyed, it is not heard of again.
+class PortalRequest : public QObject {
+    Q_OBJECT
+public:
+    // No results: it was refused, cancelled by the user, or not answered. Called once; may destroy the request later.
+    using Handler = std::function<void(std::optional<QVariantMap> results)>;
+
+    // options: the last argument. limit: absent where the user is asked.
+    PortalRequest(const QDBusConnection &bus, const QString &method, const QVariantList &arguments, QVariantMap options,
+                  std::optional<std::chrono::milliseconds> limit, Handler handler);
+
+    void withdraw(); // what it shows to the user goes away; the handler is not called
+
+private Q_SLOTS:
+    void answered(uint response, const QVariantMap &results);
+
+private:
+    void finish(std::optional<QVariantMap> results);
+
+    QDBusConnection m_bus;
+    QString m_path; // of the request object
+    QTimer m_limit;
+    Handler m_handler; // empty once called
+};
+
+} // namespace brimshade::desktop

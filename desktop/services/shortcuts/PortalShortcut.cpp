@@ -1,0 +1,43 @@
+#include "PortalShortcut.h"
+
+#include <QDBusMetaType>
+
+using namespace Qt::StringLiterals;
+
+namespace brimshade::desktop {
+
+QDBusArgument &operator<<(QDBusArgument &argument, const PortalShortcut &shortcut)
+{
+    argument.beginStructure();
+    argument << shortcut.id << shortcut.properties;
+    argument.endStructure();
+    return argument;
+}
+
+const QDBusArgument &operator>>(const QDBusArgument &argument, PortalShortcut &shortcut)
+{
+    argument.beginStructure();
+    argument >> shortcut.id >> shortcut.properties;
+    argument.endStructure();
+    return argument;
+}
+
+void registerPortalTypes()
+{
+    qRegisterMetaType<QDBusObjectPath>(); // by its name: a slot with one is not found otherwise
+    qDBusRegisterMetaType<PortalShortcut>();
+    qDBusRegisterMetaType<QList<PortalShortcut>>();
+}
+
+QStringList shortcutIds(const QVariant &list)
+{
+    QStringList ids;
+    const auto argument = list.value<QDBusArgument>();
+    if (argument.currentSignature() != "a(sa{sv})"_L1)
+        return ids;
+    for (const PortalShortcut &each : qdbus_cast<QList<PortalShortcut>>(argument))
+        ids.append(each.id);
+    return ids;
+}
+
+} // namespace brimshade::desktop
