@@ -2,11 +2,15 @@
 
 #include <QCoreApplication>
 #include <array>
+#include <cstdio>
 #include <cstdlib>
+#include <mutex>
 #include <poll.h>
 #include <string_view>
 #include <sys/eventfd.h>
 #include <unistd.h>
+
+using namespace Qt::StringLiterals;
 
 namespace brimshade::desktop::session {
 
@@ -14,14 +18,30 @@ namespace {
 
 constexpr std::string_view kGone = "brimshade: the connection to the display is gone\n";
 
+// By whoever finds out first, the watch or Qt; the other one waits here for the end.
+[[noreturn]] void endAtOnce()
+{
+    static std::mutex first;
+    const std::lock_guard lock(first);
+    [[maybe_unused]] const auto written = write(STDERR_FILENO, kGone.data(), kGone.size());
+    _exit(EXIT_FAILURE);
+}
+
+// In front of Qt's exit() stand words of its own.
+void handleMessage(QtMsgType type, const QMessageLogContext &context, const QString &text)
+{
+    if (text.contains("connection broke"_L1))
+        endAtOnce();
+    std::fprintf(stderr, "%s\n", qUtf8Printable(qFormatLogMessage(type, context, text)));
+}
+
 void waitForEnd(int connection, int stop)
 {
     std::array<pollfd, 2> watched{{{connection, POLLRDHUP, 0}, {stop, POLLIN, 0}}};
     while (poll(watched.data(), watched.size(), -1) < 0) { }
     if (watched[1].revents)
         return;
-    [[maybe_unused]] const auto written = write(STDERR_FILENO, kGone.data(), kGone.size());
-    _exit(EXIT_FAILURE);
+    endAtOnce();
 }
 
 // Qt's own answer to a broken X connection is exit(), which would run destructors under the event loop's feet.
@@ -37,6 +57,7 @@ ConnectionWatch::ConnectionWatch(int fileDescriptor)
     : m_stop(eventfd(0, EFD_CLOEXEC)), m_thread(waitForEnd, fileDescriptor, m_stop)
 {
     on_exit(leaveAtOnce, nullptr);
+    qInstallMessageHandler(handleMessage);
 }
 
 ConnectionWatch::~ConnectionWatch()
