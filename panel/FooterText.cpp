@@ -1,4 +1,5 @@
 #include "FooterText.h"
+#include "ui/binding/Follow.h"
 
 #include <utility>
 
@@ -6,11 +7,8 @@ namespace brimshade::panel {
 
 void FooterText::setState(PanelState *state)
 {
-    if (m_state == state)
+    if (!ui::follow(*this, m_state, state))
         return;
-    if (m_state)
-        disconnect(m_state, nullptr, this, nullptr);
-    m_state = state;
     if (state)
         connect(state, &PanelState::focusChanged, this, &FooterText::update);
     update();

@@ -1,5 +1,6 @@
 #include "PanelGeometry.h"
 #include "model/PanelMetrics.h"
+#include "ui/binding/Follow.h"
 
 #include <algorithm>
 #include <optional>
@@ -24,11 +25,8 @@ std::optional<int> placeOf(const QString &id, const NotchModel &model, const Not
 
 void PanelGeometry::setSource(NotchModel *source)
 {
-    if (m_source == source)
+    if (!ui::follow(*this, m_source, source))
         return;
-    if (m_source)
-        disconnect(m_source, nullptr, this, nullptr);
-    m_source = source;
     if (source) {
         for (const auto signal :
              {&NotchModel::panelSizeChanged, &NotchModel::matchesChanged, &NotchModel::notchChanged})

@@ -1,4 +1,5 @@
 #include "PanelState.h"
+#include "ui/binding/Follow.h"
 
 namespace brimshade::panel {
 
@@ -6,11 +7,8 @@ using model::NotchModel;
 
 void PanelState::setSource(NotchModel *source)
 {
-    if (m_source == source)
+    if (!ui::follow(*this, m_source, source))
         return;
-    if (m_source)
-        disconnect(m_source, nullptr, this, nullptr);
-    m_source = source;
     if (source) {
         for (const auto signal : {&NotchModel::trustedChanged, &NotchModel::scannedChanged, &NotchModel::extrasChanged,
                                   &NotchModel::matchesChanged, &NotchModel::queryChanged, &NotchModel::isOpenChanged})

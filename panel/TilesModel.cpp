@@ -1,9 +1,6 @@
 #include "TilesModel.h"
 #include "TilesInView.h"
-
-#include <QSet>
-#include <algorithm>
-#include <cmath>
+#include "ui/binding/Follow.h"
 
 namespace brimshade::panel {
 
@@ -19,22 +16,14 @@ bool looksEqual(const model::MenuExtra &a, const model::MenuExtra &b)
 
 void TilesModel::setSource(model::NotchModel *source)
 {
-    if (m_source == source)
+    if (!ui::follow(*this, m_source, source))
         return;
-    if (m_source)
-        disconnect(m_source, nullptr, this, nullptr);
-    m_source = source;
     if (source) {
         connect(source, &model::NotchModel::matchesChanged, this, [this] { update(false); });
         connect(this, &TilesModel::viewChanged, this, [this] { update(true); });
     }
     update(false);
     Q_EMIT sourceChanged();
-}
-
-int TilesModel::rowCount(const QModelIndex &parent) const
-{
-    return parent.isValid() ? 0 : int(m_tiles.size());
 }
 
 QHash<int, QByteArray> TilesModel::roleNames() const
@@ -44,11 +33,9 @@ QHash<int, QByteArray> TilesModel::roleNames() const
             {IsHiddenRole, "isHidden"}, {PositionRole, "position"}, {IsNewRole, "isNew"}};
 }
 
-QVariant TilesModel::data(const QModelIndex &index, int role) const
+QVariant TilesModel::value(int row, int role) const
 {
-    if (!checkIndex(index, CheckIndexOption::IndexIsValid | CheckIndexOption::ParentIsInvalid))
-        return {};
-    const Tile &tile = m_tiles[std::size_t(index.row())];
+    const Tile &tile = m_tiles[std::size_t(row)];
     switch (role) {
     case ExtraIDRole:
         return tile.extra.id;
@@ -90,80 +77,21 @@ std::vector<TilesModel::Tile> TilesModel::wanted(bool byScrolling) const
 
 void TilesModel::update(bool byScrolling)
 {
-    const std::vector<Tile> target = wanted(byScrolling);
-    removeUnwanted(target);
-    for (std::size_t row = 0; row < target.size(); ++row) {
-        place(row, target);
-        refresh(row, target[row]);
-    }
-    if (m_tiles.size() > target.size()) { // only where ids repeat
-        beginRemoveRows({}, int(target.size()), int(m_tiles.size()) - 1);
-        m_tiles.resize(target.size());
-        endRemoveRows();
-    }
+    setRows(
+        m_tiles, wanted(byScrolling), [](const Tile &tile) { return tile.extra.id; }, &TilesModel::refresh);
 }
 
-void TilesModel::removeUnwanted(const std::vector<Tile> &target)
+QList<int> TilesModel::refresh(Tile &shown, const Tile &wanted)
 {
-    QSet<QString> ids;
-    for (const Tile &tile : target)
-        ids.insert(tile.extra.id);
-    const auto isUnwanted = [&](std::size_t row) { return !ids.contains(m_tiles[row].extra.id); };
-    for (std::size_t end = m_tiles.size(); end > 0;) {
-        std::size_t first = end;
-        while (first > 0 && isUnwanted(first - 1))
-            --first;
-        if (first == end) {
-            --end;
-            continue;
-        }
-        beginRemoveRows({}, int(first), int(end) - 1);
-        m_tiles.erase(m_tiles.begin() + std::ptrdiff_t(first), m_tiles.begin() + std::ptrdiff_t(end));
-        endRemoveRows();
-        end = first;
-    }
-}
-
-// Brings the wanted tile to its row: it is there, or further down, or new together with those that follow it.
-void TilesModel::place(std::size_t row, const std::vector<Tile> &target)
-{
-    const auto rowOf = [&](const QString &id) {
-        const auto from = m_tiles.begin() + std::ptrdiff_t(std::min(row, m_tiles.size()));
-        return std::size_t(std::ranges::find(from, m_tiles.end(), id, [](const Tile &t) { return t.extra.id; })
-                           - m_tiles.begin());
-    };
-    const std::size_t present = rowOf(target[row].extra.id);
-    if (present == row && present < m_tiles.size())
-        return;
-    if (present < m_tiles.size()) {
-        beginMoveRows({}, int(present), int(present), {}, int(row));
-        std::rotate(m_tiles.begin() + std::ptrdiff_t(row), m_tiles.begin() + std::ptrdiff_t(present),
-                    m_tiles.begin() + std::ptrdiff_t(present) + 1);
-        endMoveRows();
-        return;
-    }
-    std::size_t end = row + 1;
-    while (end < target.size() && rowOf(target[end].extra.id) == m_tiles.size())
-        ++end;
-    beginInsertRows({}, int(row), int(end) - 1);
-    m_tiles.insert(m_tiles.begin() + std::ptrdiff_t(row), target.begin() + std::ptrdiff_t(row),
-                   target.begin() + std::ptrdiff_t(end));
-    endInsertRows();
-}
-
-void TilesModel::refresh(std::size_t row, const Tile &tile)
-{
-    Tile &shown = m_tiles[row];
     QList<int> roles;
-    if (shown.position != tile.position)
+    if (shown.position != wanted.position)
         roles << PositionRole;
-    if (!looksEqual(shown.extra, tile.extra))
+    if (!looksEqual(shown.extra, wanted.extra))
         roles << NameRole << DetailRole << IconRole << SymbolRole << TintRole << IsHiddenRole;
-    const bool isNew = shown.isNew;
-    shown = tile;
+    const bool isNew = shown.isNew; // since it came
+    shown = wanted;
     shown.isNew = isNew;
-    if (!roles.isEmpty())
-        Q_EMIT dataChanged(index(int(row)), index(int(row)), roles);
+    return roles;
 }
 
 } // namespace brimshade::panel

@@ -1,7 +1,7 @@
 #pragma once
 #include "model/NotchModel.h"
+#include "ui/binding/ListModel.h"
 
-#include <QAbstractListModel>
 #include <QPointer>
 #include <qqml.h>
 
@@ -9,7 +9,8 @@ namespace brimshade::panel {
 
 // The tiles of one section that are in view, and one grid row beyond on either side. Rows are kept by id: across
 // searches and scans an item that stays keeps its delegate, which learns its new place.
-class TilesModel : public QAbstractListModel {
+// The base is spelled in full: the registrar of QML types finds it by its spelling.
+class TilesModel : public brimshade::ui::ListModel {
     Q_OBJECT
     QML_ELEMENT
     Q_PROPERTY(brimshade::model::NotchModel *source READ source WRITE setSource NOTIFY sourceChanged REQUIRED)
@@ -33,19 +34,21 @@ public:
         IsNewRole // it came with a search or a scan, not into view by scrolling
     };
 
-    using QAbstractListModel::QAbstractListModel;
+    using ListModel::ListModel;
 
     model::NotchModel *source() const { return m_source; }
     void setSource(model::NotchModel *source);
 
-    int rowCount(const QModelIndex &parent = {}) const override;
-    QVariant data(const QModelIndex &index, int role) const override;
     QHash<int, QByteArray> roleNames() const override;
 
 Q_SIGNALS:
     void sourceChanged();
     void sectionChanged();
     void viewChanged();
+
+protected:
+    int count() const override { return int(m_tiles.size()); }
+    QVariant value(int row, int role) const override;
 
 private:
     struct Tile {
@@ -56,9 +59,7 @@ private:
 
     void update(bool byScrolling);
     std::vector<Tile> wanted(bool byScrolling) const;
-    void removeUnwanted(const std::vector<Tile> &wanted);
-    void place(std::size_t row, const std::vector<Tile> &wanted);
-    void refresh(std::size_t row, const Tile &tile);
+    static QList<int> refresh(Tile &shown, const Tile &wanted);
 
     QPointer<model::NotchModel> m_source;
     Section m_section = BehindTheNotch;

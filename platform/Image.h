@@ -30,6 +30,7 @@ public:
     QSizeF size() const { return m_size; }
     bool isTemplate() const { return m_isTemplate; }
     bool isSameObject(const Image &other) const { return m_source == other.m_source; }
+    bool operator==(const Image &other) const = default;
     Image resized(QSizeF size) const { return {m_source, size, m_isTemplate}; }
 
     void draw(QPainter &painter, const QRectF &rect) const

@@ -22,7 +22,7 @@ ImageView::ImageView(QQuickItem *parent) : DrawnItem(parent)
 void ImageView::setImage(const QVariant &value)
 {
     const auto image = value.value<platform::Image>();
-    if (m_image.isSameObject(image) && m_image.size() == image.size())
+    if (m_image == image)
         return;
     m_image = image;
     setImplicitSize(image.size().width(), image.size().height());

@@ -28,7 +28,7 @@ Item {
         text: root.bar.applicationName
         size: 13
         font.weight: Font.Bold
-        color: Qt.rgba(1, 1, 1, 0.95)
+        color: Theme.brightText
     }
     Repeater {
         model: root.items

@@ -25,12 +25,39 @@ QSizeF imageSize(const BarItem &item)
     return item.isOwn ? item.image.size() : QSizeF(kItemPicture, kItemPicture);
 }
 
+QString keyOf(const BarItem &item)
+{
+    return QString::number(item.pid) + u'/' + item.identifier;
+}
+
+QList<int> changes(const BarItem &before, const BarItem &after)
+{
+    QList<int> roles;
+    if (before.frame != after.frame)
+        roles << BarModel::FrameRole << BarModel::TextRole;
+    if (nameOf(before) != nameOf(after))
+        roles << BarModel::NameRole;
+    if (before.description != after.description)
+        roles << BarModel::DescriptionRole;
+    if (before.symbol != after.symbol)
+        roles << BarModel::SymbolRole;
+    if (before.image != after.image || imageSize(before) != imageSize(after))
+        roles << BarModel::ImageRole << BarModel::ImageSizeRole;
+    if (before.isHighlighted != after.isHighlighted)
+        roles << BarModel::HighlightedRole;
+    if (before.toolTip != after.toolTip)
+        roles << BarModel::ToolTipRole;
+    if (before.dragOffset != after.dragOffset)
+        roles << BarModel::DragOffsetRole;
+    return roles;
+}
+
 } // namespace
 
 BarModel::BarModel(const MenuBar &bar, const WallClock &clock) : m_bar(bar), m_clock(clock)
 {
     connect(&bar, &MenuBar::changed, this, &BarModel::refresh);
-    connect(&clock, &WallClock::changed, this, &BarModel::refresh);
+    connect(&clock, &WallClock::changed, this, [this] { allChanged({TextRole}); });
     refresh();
 }
 
@@ -38,15 +65,11 @@ void BarModel::refresh()
 {
     std::vector<BarItem> items = m_bar.items();
     std::erase_if(items, [](const BarItem &item) { return !item.drawn && item.dragOffset == 0; });
-    if (items.size() == m_items.size()) {
-        m_items = std::move(items);
-        if (!m_items.empty())
-            Q_EMIT dataChanged(index(0), index(int(m_items.size()) - 1));
-    } else {
-        beginResetModel();
-        m_items = std::move(items);
-        endResetModel();
-    }
+    setRows(m_items, items, keyOf, [](BarItem &shown, const BarItem &wanted) {
+        const QList<int> roles = changes(shown, wanted);
+        shown = wanted;
+        return roles;
+    });
     Q_EMIT changed();
 }
 
@@ -55,14 +78,9 @@ QString BarModel::text(const BarItem &item) const
     return item.identifier.endsWith(".clock"_L1) ? m_clock.text(item.frame.width() - 2 * kTextMargin) : QString();
 }
 
-int BarModel::rowCount(const QModelIndex &parent) const
+QVariant BarModel::value(int row, int role) const
 {
-    return parent.isValid() ? 0 : int(m_items.size());
-}
-
-QVariant BarModel::data(const QModelIndex &index, int role) const
-{
-    const BarItem &item = m_items[index.row()];
+    const BarItem &item = m_items[std::size_t(row)];
     switch (role) {
     case FrameRole:
         return item.frame;

@@ -1,7 +1,7 @@
 #pragma once
 #include "desktop/core/MenuBar.h"
+#include "ui/binding/ListModel.h"
 
-#include <QAbstractListModel>
 #include <qqml.h>
 
 namespace brimshade::desktop {
@@ -9,7 +9,8 @@ namespace brimshade::desktop {
 class WallClock;
 
 // The bar with status items as the views show it: the items that are drawn or dragged, left to right. Display space.
-class BarModel : public QAbstractListModel {
+// The base is spelled in full: the registrar of QML types finds it by its spelling.
+class BarModel : public brimshade::ui::ListModel {
     Q_OBJECT
     QML_ELEMENT
     QML_UNCREATABLE("belongs to a scene")
@@ -44,12 +45,14 @@ public:
     double notchRight() const { return m_bar.notch().value_or(std::pair(0.0, 0.0)).second; }
     double menusEnd() const { return m_bar.applicationMenusEnd(); }
 
-    int rowCount(const QModelIndex &parent = {}) const override;
-    QVariant data(const QModelIndex &index, int role) const override;
     QHash<int, QByteArray> roleNames() const override;
 
 Q_SIGNALS:
     void changed();
+
+protected:
+    int count() const override { return int(m_items.size()); }
+    QVariant value(int row, int role) const override;
 
 private:
     void refresh();

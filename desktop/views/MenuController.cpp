@@ -221,14 +221,9 @@ void MenuController::key(const platform::Event &event)
     }
 }
 
-int MenuController::rowCount(const QModelIndex &parent) const
+QVariant MenuController::value(int row, int role) const
 {
-    return parent.isValid() ? 0 : int(m_levels.size());
-}
-
-QVariant MenuController::data(const QModelIndex &index, int role) const
-{
-    return role == LevelRole ? QVariant::fromValue(m_levels[index.row()].get()) : QVariant();
+    return role == LevelRole ? QVariant::fromValue(m_levels[std::size_t(row)].get()) : QVariant();
 }
 
 QHash<int, QByteArray> MenuController::roleNames() const

@@ -2,8 +2,8 @@
 #include "MenuLevel.h"
 #include "desktop/core/MenuHost.h"
 #include "platform/Application.h"
+#include "ui/binding/ListModel.h"
 
-#include <QAbstractListModel>
 #include <functional>
 #include <memory>
 
@@ -11,7 +11,8 @@ namespace brimshade::desktop {
 
 // What pointer and keys do to the open menu: the lists that are open, from the menu itself to the deepest submenu.
 // Points are in display space. Main thread.
-class MenuController : public QAbstractListModel {
+// The base is spelled in full: the registrar of QML types finds it by its spelling.
+class MenuController : public brimshade::ui::ListModel {
     Q_OBJECT
     QML_ELEMENT
     QML_UNCREATABLE("belongs to a scene")
@@ -33,12 +34,14 @@ public:
     void wheel(QPointF at, double points);
     void key(const platform::Event &event);
 
-    int rowCount(const QModelIndex &parent = {}) const override;
-    QVariant data(const QModelIndex &index, int role) const override;
     QHash<int, QByteArray> roleNames() const override;
 
 Q_SIGNALS:
     void isOpenChanged();
+
+protected:
+    int count() const override { return int(m_levels.size()); }
+    QVariant value(int row, int role) const override;
 
 private:
     int depthAt(QPointF point) const; // -1 outside of every list

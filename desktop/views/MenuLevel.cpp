@@ -4,11 +4,36 @@
 
 namespace brimshade::desktop {
 
+namespace {
+
+QList<int> changes(const MenuEntry &before, const MenuEntry &after)
+{
+    QList<int> roles;
+    if (before.title != after.title)
+        roles << MenuLevel::TitleRole;
+    if (before.isSeparator != after.isSeparator)
+        roles << MenuLevel::SeparatorRole;
+    if (before.isEnabled != after.isEnabled)
+        roles << MenuLevel::EnabledRole;
+    if (before.toggle != after.toggle)
+        roles << MenuLevel::ToggleRole;
+    if (before.isOn != after.isOn)
+        roles << MenuLevel::OnRole;
+    if (before.icon != after.icon)
+        roles << MenuLevel::IconRole;
+    if (before.shortcut != after.shortcut)
+        roles << MenuLevel::ShortcutRole;
+    if (before.hasSubmenu != after.hasSubmenu)
+        roles << MenuLevel::SubmenuRole;
+    return roles;
+}
+
+} // namespace
+
 void MenuLevel::setEntries(const std::vector<MenuEntry> &entries)
 {
     const MenuEntry *before = currentEntry();
     const int chosen = before ? before->id : 0;
-    beginResetModel();
     m_entries = entries;
     m_tops.assign(1, MenuMetrics::padding);
     m_current = -1;
@@ -18,7 +43,7 @@ void MenuLevel::setEntries(const std::vector<MenuEntry> &entries)
         m_tops.push_back(m_tops.back() + menuRowHeight(each));
     }
     m_columns = menuColumns(m_entries);
-    endResetModel();
+    updateShown();
     Q_EMIT geometryChanged();
     Q_EMIT currentChanged();
 }
@@ -27,6 +52,7 @@ void MenuLevel::setFrame(const QRectF &frame)
 {
     m_frame = frame;
     setScroll(m_scroll);
+    updateShown();
     Q_EMIT geometryChanged();
     Q_EMIT scrollChanged();
 }
@@ -57,7 +83,26 @@ void MenuLevel::setScroll(double scroll)
     if (m_scroll == scroll)
         return;
     m_scroll = scroll;
+    updateShown();
     Q_EMIT scrollChanged();
+}
+
+void MenuLevel::updateShown()
+{
+    std::vector<Shown> shown;
+    for (std::size_t i = 0; i < m_entries.size(); ++i) {
+        if (m_tops[i + 1] > m_scroll && m_tops[i] < m_scroll + m_frame.height())
+            shown.push_back({int(i), m_tops[i], m_entries[i]});
+    }
+    setRows(
+        m_shown, shown, [](const Shown &each) { return QString::number(each.entry.id); },
+        [](Shown &row, const Shown &wanted) {
+            QList<int> roles = changes(row.entry, wanted.entry);
+            if (row.row != wanted.row || row.top != wanted.top)
+                roles << RowRole << OffsetRole;
+            row = wanted;
+            return roles;
+        });
 }
 
 double MenuLevel::largestScroll() const
@@ -106,15 +151,14 @@ int MenuLevel::rowStartingWith(const QString &text) const
     return m_current;
 }
 
-int MenuLevel::rowCount(const QModelIndex &parent) const
+QVariant MenuLevel::value(int row, int role) const
 {
-    return parent.isValid() ? 0 : int(m_entries.size());
-}
-
-QVariant MenuLevel::data(const QModelIndex &index, int role) const
-{
-    const MenuEntry &entry = m_entries[index.row()];
+    const MenuEntry &entry = m_shown[std::size_t(row)].entry;
     switch (role) {
+    case RowRole:
+        return m_shown[std::size_t(row)].row;
+    case OffsetRole:
+        return m_shown[std::size_t(row)].top;
     case TitleRole:
         return entry.title;
     case SeparatorRole:
@@ -138,10 +182,10 @@ QVariant MenuLevel::data(const QModelIndex &index, int role) const
 
 QHash<int, QByteArray> MenuLevel::roleNames() const
 {
-    return {{TitleRole, "title"},       {SeparatorRole, "isSeparator"},
-            {EnabledRole, "isEnabled"}, {ToggleRole, "toggle"},
-            {OnRole, "isOn"},           {IconRole, "image"},
-            {ShortcutRole, "shortcut"}, {SubmenuRole, "hasSubmenu"}};
+    return {
+        {RowRole, "row"},           {OffsetRole, "offset"},     {TitleRole, "title"}, {SeparatorRole, "isSeparator"},
+        {EnabledRole, "isEnabled"}, {ToggleRole, "toggle"},     {OnRole, "isOn"},     {IconRole, "image"},
+        {ShortcutRole, "shortcut"}, {SubmenuRole, "hasSubmenu"}};
 }
 
 } // namespace brimshade::desktop

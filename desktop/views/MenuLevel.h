@@ -1,14 +1,16 @@
 #pragma once
 #include "MenuGeometry.h"
+#include "ui/binding/ListModel.h"
 
-#include <QAbstractListModel>
 #include <qqml.h>
 
 namespace brimshade::desktop {
 
-// One opened list of a menu tree: its rows, where it is, which row is chosen and how far it is scrolled.
+// One opened list of a menu tree: its rows, where it is, which row is chosen and how far it is scrolled. Views see the
+// rows of it that are in its frame.
 // Display space; rows are counted from 0 and none is -1.
-class MenuLevel : public QAbstractListModel {
+// The base is spelled in full: the registrar of QML types finds it by its spelling.
+class MenuLevel : public brimshade::ui::ListModel {
     Q_OBJECT
     QML_ELEMENT
     QML_UNCREATABLE("belongs to an open menu")
@@ -22,7 +24,9 @@ class MenuLevel : public QAbstractListModel {
 
 public:
     enum Role {
-        TitleRole = Qt::UserRole + 1,
+        RowRole = Qt::UserRole,
+        OffsetRole, // points from the top of the list, unscrolled
+        TitleRole,
         SeparatorRole,
         EnabledRole,
         ToggleRole,
@@ -57,8 +61,6 @@ public:
     int rowStartingWith(const QString &text) const; // after the chosen one, around the end
     static bool isChoosable(const MenuEntry &entry) { return entry.isEnabled && !entry.isSeparator; }
 
-    int rowCount(const QModelIndex &parent = {}) const override;
-    QVariant data(const QModelIndex &index, int role) const override;
     QHash<int, QByteArray> roleNames() const override;
 
 Q_SIGNALS:
@@ -66,8 +68,19 @@ Q_SIGNALS:
     void scrollChanged();
     void currentChanged();
 
+protected:
+    int count() const override { return int(m_shown.size()); }
+    QVariant value(int row, int role) const override;
+
 private:
+    struct Shown {
+        int row = 0;
+        double top = 0;
+        MenuEntry entry;
+    };
+
     double largestScroll() const;
+    void updateShown();
     void setScroll(double scroll);
 
     const int m_owner;
@@ -77,6 +90,7 @@ private:
     QRectF m_frame;
     double m_scroll = 0;
     int m_current = -1;
+    std::vector<Shown> m_shown;
 };
 
 } // namespace brimshade::desktop

@@ -7,7 +7,8 @@ import Brimshade.Ui
 Item {
     id: root
 
-    required property int index
+    required property int row
+    required property real offset // from the top of the list, unscrolled
     required property string title
     required property bool isSeparator
     required property bool isEnabled

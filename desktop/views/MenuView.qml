@@ -3,7 +3,7 @@ import QtQuick
 import Brimshade.Desktop
 import Brimshade.Ui
 
-// One open list of the menu. Pointer and keys are the menu controller's; long lists make only the rows that show.
+// One open list of the menu. Pointer and keys are the menu controller's.
 Item {
     id: root
 
@@ -25,22 +25,23 @@ Item {
         radius: 7
         color: root.plate
     }
-    ListView {
+    Item {
         id: list
         anchors.fill: parent
         anchors.topMargin: MenuMetrics.padding
         anchors.bottomMargin: MenuMetrics.padding
         clip: true
-        interactive: false
-        model: root.level
-        contentY: root.level.scroll
-        cacheBuffer: 0
 
-        delegate: MenuRow {
-            width: list.width
-            isCurrent: index === root.level.current
-            textColumn: root.level.textColumn
-            iconColumn: root.level.iconColumn
+        Repeater {
+            model: root.level
+
+            MenuRow {
+                y: offset - root.level.scroll - list.y
+                width: list.width
+                isCurrent: row === root.level.current
+                textColumn: root.level.textColumn
+                iconColumn: root.level.iconColumn
+            }
         }
     }
 

@@ -9,11 +9,9 @@ ChoiceTiles::ChoiceTiles(EffectiveChoice effectiveChoice, QObject *parent)
 {
 }
 
-QVariant ChoiceTiles::data(const QModelIndex &index, int role) const
+QVariant ChoiceTiles::value(int row, int role) const
 {
-    if (role != HiddenRole || !checkIndex(index, CheckIndexOption::IndexIsValid))
-        return ExtraRows::data(index, role);
-    return m_effectiveChoice(extras()[static_cast<size_t>(index.row())]);
+    return role == HiddenRole ? m_effectiveChoice(extra(row)) : ExtraRows::value(row, role);
 }
 
 QHash<int, QByteArray> ChoiceTiles::roleNames() const
@@ -21,11 +19,6 @@ QHash<int, QByteArray> ChoiceTiles::roleNames() const
     auto names = ExtraRows::roleNames();
     names.insert(HiddenRole, "hidden");
     return names;
-}
-
-void ChoiceTiles::choicesChanged()
-{
-    refresh({HiddenRole});
 }
 
 } // namespace brimshade::windows

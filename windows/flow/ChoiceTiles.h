@@ -15,9 +15,11 @@ public:
 
     explicit ChoiceTiles(EffectiveChoice effectiveChoice, QObject *parent = nullptr);
 
-    QVariant data(const QModelIndex &index, int role) const override;
     QHash<int, QByteArray> roleNames() const override;
-    void choicesChanged();
+    void choicesChanged() { allChanged({HiddenRole}); }
+
+protected:
+    QVariant value(int row, int role) const override;
 
 private:
     EffectiveChoice m_effectiveChoice;

@@ -1,6 +1,5 @@
 #include "ExtraRows.h"
 
-#include <QSet>
 #include <algorithm>
 
 namespace brimshade::windows {
@@ -18,16 +17,9 @@ bool looksTheSame(const MenuExtra &a, const MenuExtra &b)
 
 } // namespace
 
-int ExtraRows::rowCount(const QModelIndex &parent) const
+QVariant ExtraRows::value(int row, int role) const
 {
-    return parent.isValid() ? 0 : static_cast<int>(m_extras.size());
-}
-
-QVariant ExtraRows::data(const QModelIndex &index, int role) const
-{
-    if (!checkIndex(index, CheckIndexOption::IndexIsValid))
-        return {};
-    const MenuExtra &extra = m_extras[static_cast<size_t>(index.row())];
+    const MenuExtra &extra = this->extra(row);
     switch (role) {
     case ExtraIDRole:
         return extra.id;
@@ -54,65 +46,17 @@ QHash<int, QByteArray> ExtraRows::roleNames() const
 
 void ExtraRows::setExtras(const ExtraList &extras)
 {
-    removeVanished(extras);
-    for (size_t row = 0; row < extras.size(); ++row)
-        place(static_cast<int>(row), extras[row]);
+    setRows(m_extras, extras, &MenuExtra::id, [this](MenuExtra &shown, const MenuExtra &wanted) {
+        const bool differs = !looksTheSame(shown, wanted);
+        shown = wanted; // its frame and element too, which no role shows
+        return differs ? roleNames().keys() : QList<int>();
+    });
 }
 
 const MenuExtra *ExtraRows::find(const QString &id) const
 {
     const auto found = std::ranges::find(m_extras, id, &MenuExtra::id);
     return found == m_extras.end() ? nullptr : &*found;
-}
-
-void ExtraRows::refresh(const QList<int> &roles)
-{
-    if (!m_extras.empty())
-        Q_EMIT dataChanged(index(0), index(rowCount() - 1), roles);
-}
-
-void ExtraRows::removeVanished(const ExtraList &wanted)
-{
-    QSet<QString> ids;
-    for (const MenuExtra &extra : wanted)
-        ids.insert(extra.id);
-    for (int row = rowCount() - 1; row >= 0; --row) {
-        const auto place = m_extras.begin() + row;
-        if (ids.contains(place->id))
-            continue;
-        beginRemoveRows({}, row, row);
-        m_extras.erase(place);
-        endRemoveRows();
-    }
-}
-
-// The rows before this one are in place already, so the extra is here, further on or new.
-void ExtraRows::place(int row, const MenuExtra &extra)
-{
-    const auto here = m_extras.begin() + row;
-    const auto found = std::ranges::find(here, m_extras.end(), extra.id, &MenuExtra::id);
-    if (found == m_extras.end()) {
-        beginInsertRows({}, row, row);
-        m_extras.insert(here, extra);
-        endInsertRows();
-        return;
-    }
-    if (found != here) {
-        const int from = static_cast<int>(found - m_extras.begin());
-        beginMoveRows({}, from, from, {}, row);
-        std::rotate(here, found, found + 1);
-        endMoveRows();
-    }
-    update(row, extra);
-}
-
-void ExtraRows::update(int row, const MenuExtra &extra)
-{
-    MenuExtra &kept = m_extras[static_cast<size_t>(row)];
-    const bool differs = !looksTheSame(kept, extra);
-    kept = extra; // its frame and element too, which no role shows
-    if (differs)
-        Q_EMIT dataChanged(index(row), index(row));
 }
 
 } // namespace brimshade::windows

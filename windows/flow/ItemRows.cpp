@@ -1,15 +1,14 @@
 #include "ItemRows.h"
+#include "ui/binding/Follow.h"
 
 namespace brimshade::windows {
 
 using menubar::MenuExtra;
 using model::NotchModel;
 
-QVariant ItemRows::data(const QModelIndex &index, int role) const
+QVariant ItemRows::value(int row, int role) const
 {
-    if (!checkIndex(index, CheckIndexOption::IndexIsValid))
-        return {};
-    const MenuExtra &extra = extras()[static_cast<size_t>(index.row())];
+    const MenuExtra &extra = this->extra(row);
     switch (role) {
     case DetailRole:
         return extra.detail == extra.name ? QString() : extra.detail;
@@ -20,7 +19,7 @@ QVariant ItemRows::data(const QModelIndex &index, int role) const
     case InMenuBarRole:
         return !extra.isHidden;
     default:
-        return ExtraRows::data(index, role);
+        return ExtraRows::value(row, role);
     }
 }
 
@@ -38,14 +37,11 @@ NotchModel *ItemRows::model() const
 
 void ItemRows::setModel(NotchModel *model)
 {
-    if (m_model == model)
+    if (!ui::follow(*this, m_model, model))
         return;
-    if (m_model)
-        m_model->disconnect(this);
-    m_model = model;
     if (model) {
         connect(model, &NotchModel::extrasChanged, this, [this] { setExtras(m_model->extras()); });
-        connect(model, &NotchModel::movingIDChanged, this, [this] { refresh({ControlRole, SwitchEnabledRole}); });
+        connect(model, &NotchModel::movingIDChanged, this, [this] { allChanged({ControlRole, SwitchEnabledRole}); });
         setExtras(model->extras());
     }
     Q_EMIT modelChanged();

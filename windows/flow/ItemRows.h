@@ -20,7 +20,6 @@ public:
 
     using ExtraRows::ExtraRows;
 
-    QVariant data(const QModelIndex &index, int role) const override; // detail is empty where it repeats the name
     QHash<int, QByteArray> roleNames() const override;
 
     model::NotchModel *model() const;
@@ -30,6 +29,9 @@ public:
 
 Q_SIGNALS:
     void modelChanged();
+
+protected:
+    QVariant value(int row, int role) const override; // detail is empty where it repeats the name
 
 private:
     Control control(const menubar::MenuExtra &extra) const;

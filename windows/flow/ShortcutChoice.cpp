@@ -1,4 +1,5 @@
 #include "ShortcutChoice.h"
+#include "ui/binding/Follow.h"
 
 #include <algorithm>
 
@@ -10,11 +11,8 @@ using model::Shortcut;
 
 void ShortcutChoice::setModel(NotchModel *model)
 {
-    if (m_model == model)
+    if (!ui::follow(*this, m_model, model))
         return;
-    if (m_model)
-        m_model->disconnect(this);
-    m_model = model;
     if (model)
         connect(model, &NotchModel::shortcutChanged, this, &ShortcutChoice::indexChanged);
     Q_EMIT modelChanged();

@@ -30,11 +30,12 @@ BannerModel::BannerModel(Desktop &desktop) : m_desktop(desktop)
 
 void BannerModel::show(const QString &application, const QString &what)
 {
-    while (m_banners.size() >= kMost)
-        remove(m_banners.back().number);
-    beginInsertRows({}, 0, 0);
-    m_banners.insert(m_banners.begin(), {++m_lastNumber, application, what, iconOf(m_desktop, application)});
-    endInsertRows();
+    std::vector<Banner> banners{{++m_lastNumber, application, what, iconOf(m_desktop, application)}};
+    for (const Banner &each : m_banners) {
+        if (banners.size() < kMost)
+            banners.push_back(each);
+    }
+    set(banners);
     after(kStay, &BannerModel::leave, m_lastNumber);
 }
 
@@ -45,39 +46,36 @@ void BannerModel::after(double seconds, void (BannerModel::*step)(int), int numb
 
 void BannerModel::leave(int number)
 {
-    const int row = rowOf(number);
-    if (row < 0)
+    std::vector<Banner> banners = m_banners;
+    const auto found = std::ranges::find(banners, number, &Banner::number);
+    if (found == banners.end())
         return;
-    m_banners[row].isLeaving = true;
-    Q_EMIT dataChanged(index(row), index(row), {LeavingRole});
+    found->isLeaving = true;
+    set(banners);
     after(kLeave, &BannerModel::remove, number);
 }
 
 void BannerModel::remove(int number)
 {
-    const int row = rowOf(number);
-    if (row < 0)
-        return;
-    beginRemoveRows({}, row, row);
-    m_banners.erase(m_banners.begin() + row);
-    endRemoveRows();
+    std::vector<Banner> banners = m_banners;
+    std::erase_if(banners, [&](const Banner &each) { return each.number == number; });
+    set(banners);
 }
 
-int BannerModel::rowOf(int number) const
+void BannerModel::set(const std::vector<Banner> &banners)
 {
-    const auto found =
-        std::find_if(m_banners.begin(), m_banners.end(), [&](const Banner &banner) { return banner.number == number; });
-    return found == m_banners.end() ? -1 : int(found - m_banners.begin());
+    setRows(
+        m_banners, banners, [](const Banner &each) { return QString::number(each.number); },
+        [](Banner &shown, const Banner &wanted) {
+            const bool starts = shown.isLeaving != wanted.isLeaving;
+            shown = wanted;
+            return starts ? QList<int>{LeavingRole} : QList<int>();
+        });
 }
 
-int BannerModel::rowCount(const QModelIndex &parent) const
+QVariant BannerModel::value(int row, int role) const
 {
-    return parent.isValid() ? 0 : int(m_banners.size());
-}
-
-QVariant BannerModel::data(const QModelIndex &index, int role) const
-{
-    const Banner &banner = m_banners[index.row()];
+    const Banner &banner = m_banners[std::size_t(row)];
     switch (role) {
     case ApplicationRole:
         return banner.application;

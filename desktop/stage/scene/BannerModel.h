@@ -2,8 +2,8 @@
 #include "desktop/core/Lifetime.h"
 #include "platform/Dispatch.h"
 #include "platform/Image.h"
+#include "ui/binding/ListModel.h"
 
-#include <QAbstractListModel>
 #include <qqml.h>
 #include <vector>
 
@@ -12,7 +12,8 @@ namespace brimshade::desktop {
 class Desktop;
 
 // What applications have to say, for three seconds each; the latest first. Main thread.
-class BannerModel : public QAbstractListModel {
+// The base is spelled in full: the registrar of QML types finds it by its spelling.
+class BannerModel : public brimshade::ui::ListModel {
     Q_OBJECT
     QML_ELEMENT
     QML_UNCREATABLE("belongs to a scene")
@@ -24,9 +25,11 @@ public:
 
     void show(const QString &application, const QString &what);
 
-    int rowCount(const QModelIndex &parent = {}) const override;
-    QVariant data(const QModelIndex &index, int role) const override;
     QHash<int, QByteArray> roleNames() const override;
+
+protected:
+    int count() const override { return int(m_banners.size()); }
+    QVariant value(int row, int role) const override;
 
 private:
     struct Banner {
@@ -38,7 +41,7 @@ private:
     void after(double seconds, void (BannerModel::*step)(int), int number);
     void leave(int number);
     void remove(int number);
-    int rowOf(int number) const; // -1 when it is gone
+    void set(const std::vector<Banner> &banners);
 
     Desktop &m_desktop;
     std::vector<Banner> m_banners;

@@ -118,11 +118,34 @@ TEST_F(MenuTest, FollowsEntriesThatComeLater)
     EXPECT_FALSE(context.desktop().menus().openMenu()) << "an empty menu closes";
 }
 
-TEST_F(MenuTest, MakesOnlyTheRowsOfALongListThatShow)
+std::vector<MenuEntry> numbered(int first, int last)
 {
     std::vector<MenuEntry> entries;
-    for (int id = 1; id <= 600; ++id)
+    for (int id = first; id <= last; ++id)
         entries.push_back(entry(id, u"Entry %1"_s.arg(id)));
+    return entries;
+}
+
+TEST_F(MenuTest, StaysWhereItIsScrolledToWhenEntriesComeAndGoAbove)
+{
+    const auto menu = std::make_shared<ScriptedMenu>(numbered(100, 300));
+    context.desktop().menus().open(menu, QRectF(300, 0, 30, 30));
+    context.settle();
+    context.key(kVK_UpArrow);
+    const double last = rowFrame(u"Entry 300"_s).top();
+    for (const int first : {90, 95, 100, 150}) {
+        menu->replace(numbered(first, 300));
+        context.settle();
+        context.key(kVK_UpArrow); // to the one before
+        context.key(kVK_DownArrow); // and back, which scrolls to it
+        EXPECT_EQ(rowFrame(u"Entry 300"_s).top(), last) << first;
+        EXPECT_EQ(rowFrame(u"Entry 290"_s).top(), last - 10 * 22) << first;
+    }
+}
+
+TEST_F(MenuTest, MakesOnlyTheRowsOfALongListThatShow)
+{
+    const std::vector<MenuEntry> entries = numbered(1, 600);
     const auto menu = std::make_shared<ScriptedMenu>(entries);
     context.desktop().menus().open(menu, QRectF(300, 0, 30, 30));
     context.settle();

@@ -168,6 +168,22 @@ TEST(Windows, AreTakenOverByASceneMadeLaterAndOutliveIt)
     EXPECT_EQ(context.recorder().take(), QStringList({u"enter a"_s, u"press a"_s, u"release a"_s}));
 }
 
+TEST(Bar, KeepsTheViewsOfTheItemsThatStay)
+{
+    SceneContext context;
+    ASSERT_EQ(context.findAll(u"barItem"_s).size(), 1);
+    const QPointer<QQuickItem> relay = context.findAll(u"barItem"_s).first();
+    context.desktop().launch({.description = application(900, u"Ledger"_s, {extra(u"ledger.main"_s, 40)})});
+    context.advance(0.2);
+    ASSERT_EQ(context.findAll(u"barItem"_s).size(), 2);
+    const QPointer<QQuickItem> ledger = context.findAll(u"barItem"_s).first(); // the latest is the leftmost
+    context.desktop().quit(812);
+    context.advance(0.2);
+    EXPECT_FALSE(relay);
+    ASSERT_TRUE(ledger);
+    EXPECT_EQ(ledger->width(), 40);
+}
+
 TEST(BuiltInDesktop, HasReadablePicturesAndMenusThatSayWhatWasChosen)
 {
     QStringList icons;
