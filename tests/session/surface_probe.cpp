@@ -234,7 +234,6 @@ void Probe::sync()
 int main(int argc, char **argv)
 {
     qInstallMessageHandler([](QtMsgType, const QMessageLogContext &, const QString &message) {
-        ShellBackend::endIfDisplayIsGone();
         // Of the runtime folder, which belongs to the compositor's user; and of having no screen.
         if (!message.startsWith("QStandardPaths"_L1) && !message.startsWith("Creating a fake screen"_L1))
             std::cerr << qUtf8Printable(message) << std::endl;

@@ -2,7 +2,6 @@
 
 #include <QCoreApplication>
 #include <array>
-#include <cstdio>
 #include <cstdlib>
 #include <mutex>
 #include <poll.h>
@@ -27,12 +26,18 @@ constexpr std::string_view kGone = "brimshade: the connection to the display is 
     _exit(EXIT_FAILURE);
 }
 
+QtMessageHandler &usualHandler()
+{
+    static QtMessageHandler handler = nullptr;
+    return handler;
+}
+
 // In front of Qt's exit() stand words of its own.
 void handleMessage(QtMsgType type, const QMessageLogContext &context, const QString &text)
 {
     if (text.contains("connection broke"_L1))
         endAtOnce();
-    std::fprintf(stderr, "%s\n", qUtf8Printable(qFormatLogMessage(type, context, text)));
+    usualHandler()(type, context, text);
 }
 
 void waitForEnd(int connection, int stop)
@@ -57,13 +62,14 @@ ConnectionWatch::ConnectionWatch(int fileDescriptor)
     : m_stop(eventfd(0, EFD_CLOEXEC)), m_thread(waitForEnd, fileDescriptor, m_stop)
 {
     on_exit(leaveAtOnce, nullptr);
-    qInstallMessageHandler(handleMessage);
+    usualHandler() = qInstallMessageHandler(handleMessage);
 }
 
 ConnectionWatch::~ConnectionWatch()
 {
     eventfd_write(m_stop, 1);
     m_thread.join();
+    qInstallMessageHandler(usualHandler());
     close(m_stop);
 }
 

@@ -4,10 +4,7 @@
 #include "X11Backend.h"
 
 #include <QGuiApplication>
-#include <chrono>
-#include <qpa/qplatformnativeinterface.h>
 #include <qpa/qplatformscreen.h>
-#include <thread>
 #include <wayland-client-core.h>
 #include <xcb/xcb.h>
 
@@ -17,7 +14,6 @@ namespace brimshade::desktop::session {
 
 namespace {
 
-constexpr std::chrono::milliseconds kWatchPatience{500};
 constexpr auto kPlatform = "QT_QPA_PLATFORM";
 
 bool hasCompositor()
@@ -34,17 +30,6 @@ bool hasXServer()
     const bool answers = !xcb_connection_has_error(connection);
     xcb_disconnect(connection);
     return answers;
-}
-
-bool isDisplayGone()
-{
-    QPlatformNativeInterface *native = qGuiApp ? QGuiApplication::platformNativeInterface() : nullptr;
-    if (!native)
-        return false;
-    if (const auto *x11 = qGuiApp->nativeInterface<QNativeInterface::QX11Application>())
-        return xcb_connection_has_error(x11->connection());
-    auto *wayland = static_cast<wl_display *>(native->nativeResourceForIntegration("wl_display"));
-    return wayland && wl_display_get_error(wayland);
 }
 
 std::unexpected<QString> noDisplay()
@@ -79,13 +64,6 @@ std::expected<std::unique_ptr<ShellBackend>, QString> ShellBackend::create()
     if (QGuiApplication::platformName() == "xcb"_L1)
         return X11Backend::create();
     return noDisplay();
-}
-
-// The connection's watch is about to end the process, if it is not faster anyway.
-void ShellBackend::endIfDisplayIsGone()
-{
-    if (isDisplayGone())
-        std::this_thread::sleep_for(kWatchPatience);
 }
 
 QList<QScreen *> ShellBackend::screens()

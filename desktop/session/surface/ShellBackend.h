@@ -21,10 +21,6 @@ public:
     // After it. The error is for standard error: what the compositor lacks, and what works instead.
     static std::expected<std::unique_ptr<ShellBackend>, QString> create();
 
-    // For a message handler, before it prints: when Qt is about to complain that the display is gone, this is where the
-    // process ends, with Brimshade's own word for it. Any thread.
-    static void endIfDisplayIsGone();
-
     // The screens that something can be shown on: none while every one is switched off, when Qt makes one up.
     static QList<QScreen *> screens();
 
