@@ -2,6 +2,7 @@
 // answered by one on standard output; what happens comes as lines with "event"_L1 in between. See surface_test.py for
 // the commands.
 #include "desktop/session/surface/ShellBackend.h"
+#include "desktop/session/surface/WaylandGlobals.h"
 
 #include <QGuiApplication>
 #include <QJsonArray>
@@ -19,7 +20,6 @@
 #include <qpa/qplatformnativeinterface.h>
 #include <string>
 #include <unistd.h>
-#include <wayland-client-core.h>
 #include <xcb/xcb.h>
 
 using namespace Qt::StringLiterals;
@@ -226,7 +226,7 @@ void Probe::sync()
         return;
     }
     auto *native = QGuiApplication::platformNativeInterface();
-    wl_display_roundtrip(static_cast<wl_display *>(native->nativeResourceForIntegration("wl_display")));
+    waitForAnswer(static_cast<wl_display *>(native->nativeResourceForIntegration("wl_display")));
 }
 
 } // namespace

@@ -1,5 +1,6 @@
 #include "WaylandGlobals.h"
 
+#include <QEventLoop>
 #include <QGuiApplication>
 #include <algorithm>
 #include <cstring>
@@ -19,7 +20,8 @@ namespace {
 constexpr std::uint32_t kLayerShellVersion = 4;
 constexpr std::uint32_t kToplevelVersion = 3;
 constexpr std::uint32_t kSeatVersion = 3;
-constexpr std::uint32_t kOutputVersion = 2;
+constexpr std::uint32_t kOutputVersion = 2; // at least
+constexpr std::uint32_t kOutputReleaseVersion = 3;
 constexpr std::uint32_t kLayerShellDestroyVersion = 3;
 
 template <class Proxy>
@@ -43,8 +45,12 @@ WaylandGlobals::WaylandGlobals(wl_display *display) : m_display(display), m_regi
 WaylandGlobals::~WaylandGlobals()
 {
     m_seats.clear();
-    for (const auto &[name, output] : m_outputs)
-        wl_output_destroy(output);
+    for (wl_output *output : m_outputs) {
+        if (wl_output_get_version(output) >= kOutputReleaseVersion)
+            wl_output_release(output);
+        else
+            wl_output_destroy(output);
+    }
     if (m_layerShell && zwlr_layer_shell_v1_get_version(m_layerShell) >= kLayerShellDestroyVersion)
         zwlr_layer_shell_v1_destroy(m_layerShell);
     else if (m_layerShell)
@@ -61,7 +67,7 @@ WaylandGlobals::~WaylandGlobals()
 std::expected<std::unique_ptr<WaylandGlobals>, QString> WaylandGlobals::bind(wl_display *display)
 {
     std::unique_ptr<WaylandGlobals> globals(new WaylandGlobals(display));
-    wl_display_roundtrip(display);
+    waitForAnswer(display);
     const QString missing = globals->missing();
     if (missing.isEmpty())
         return globals;
@@ -85,7 +91,7 @@ void WaylandGlobals::add(std::uint32_t name, const char *interface, std::uint32_
     else if (is(zwlr_foreign_toplevel_manager_v1_interface))
         m_toplevelManager = {name, std::min(version, kToplevelVersion)};
     else if (is(wl_output_interface) && version >= kOutputVersion)
-        addOutput(name);
+        addOutput(name, std::min(version, kOutputReleaseVersion));
     else if (is(wl_seat_interface))
         m_seats.push_back(std::make_unique<WaylandSeat>(
             versioned<wl_seat>(m_registry, name, wl_seat_interface, std::min(version, kSeatVersion)), name,
@@ -95,7 +101,7 @@ void WaylandGlobals::add(std::uint32_t name, const char *interface, std::uint32_
             }));
 }
 
-void WaylandGlobals::addOutput(std::uint32_t name)
+void WaylandGlobals::addOutput(std::uint32_t name, std::uint32_t version)
 {
     static const wl_output_listener kListener = [] {
         wl_output_listener listener{};
@@ -109,14 +115,12 @@ void WaylandGlobals::addOutput(std::uint32_t name)
         };
         return listener;
     }();
-    m_outputs[name] = versioned<wl_output>(m_registry, name, wl_output_interface, kOutputVersion);
-    wl_output_add_listener(m_outputs[name], &kListener, this);
+    m_outputs.push_back(versioned<wl_output>(m_registry, name, wl_output_interface, version));
+    wl_output_add_listener(m_outputs.back(), &kListener, this);
 }
 
 void WaylandGlobals::remove(std::uint32_t name)
 {
-    if (const auto output = m_outputs.extract(name))
-        wl_output_destroy(output.mapped());
     std::erase_if(m_seats, [name](const auto &seat) { return seat->name() == name; });
 }
 
@@ -136,6 +140,17 @@ QString WaylandGlobals::missing() const
     if (!m_viewporter)
         return QString::fromLatin1(wp_viewporter_interface.name);
     return {};
+}
+
+void waitForAnswer(wl_display *display)
+{
+    QEventLoop loop;
+    static constexpr wl_callback_listener kListener{
+        [](void *self, wl_callback *, std::uint32_t) { static_cast<QEventLoop *>(self)->quit(); }};
+    wl_callback *callback = wl_display_sync(display);
+    wl_callback_add_listener(callback, &kListener, &loop);
+    loop.exec(QEventLoop::ExcludeUserInputEvents | QEventLoop::ExcludeSocketNotifiers);
+    wl_callback_destroy(callback);
 }
 
 wl_output *outputOf(QScreen *screen)

@@ -5,7 +5,6 @@
 #include <cstdint>
 #include <expected>
 #include <functional>
-#include <map>
 #include <memory>
 #include <utility>
 #include <vector>
@@ -47,7 +46,7 @@ public:
 
 private:
     explicit WaylandGlobals(wl_display *display);
-    void addOutput(std::uint32_t name);
+    void addOutput(std::uint32_t name, std::uint32_t version);
     void add(std::uint32_t name, const char *interface, std::uint32_t version);
     void remove(std::uint32_t name);
     QString missing() const; // the name of a protocol, or empty
@@ -60,10 +59,17 @@ private:
     zwlr_layer_shell_v1 *m_layerShell = nullptr;
     std::pair<std::uint32_t, std::uint32_t> m_toplevelManager; // name and version; 0 for none
     std::vector<std::unique_ptr<WaylandSeat>> m_seats;
-    std::map<std::uint32_t, wl_output *> m_outputs; // by the name in the registry
+    // Those that were unplugged too: a surface may still be told that it leaves one, and Qt does not expect that to be
+    // gone already.
+    std::vector<wl_output *> m_outputs;
     std::function<void(wl_surface *)> m_pressed;
     std::function<void()> m_outputChanged;
 };
+
+// Until the compositor has done what it was asked for before. Qt's threads read the connection meanwhile:
+// wl_display_roundtrip() would be a third reader, and of three that read side by side all have been seen waiting for
+// each other for good.
+void waitForAnswer(wl_display *display);
 
 // The output that Qt knows as that screen, which is one of ShellBackend::screens().
 wl_output *outputOf(QScreen *screen);
