@@ -29,8 +29,9 @@ using platform::weakly;
 namespace {
 
 constexpr qlonglong kFirstPosition = 5; // right of every other item that can move
+constexpr double kSettled = 1; // seconds after the launch: what it shows has come to rest
 
-}
+} // namespace
 
 AppDelegate::AppDelegate(const platform::Platform &platform)
     : m_platform(platform), m_model(std::make_shared<model::NotchModel>(platform.userDefaults, platform.loginItems)),
@@ -58,6 +59,7 @@ void AppDelegate::applicationDidFinishLaunching()
         QString::fromLatin1(platform::kNSApplicationDidChangeScreenParametersNotification), nullptr,
         weakly(weak_from_this(), &AppDelegate::screensChanged));
     welcome();
+    m_platform.dispatch.mainAfter(kSettled, weakly(std::weak_ptr(m_panel), &PanelPresenter::prepare));
 }
 
 void AppDelegate::createStatusItem()

@@ -51,6 +51,11 @@ PanelPresenter::PanelPresenter(const platform::Platform &platform, const ScanSch
 
 PanelPresenter::~PanelPresenter() = default;
 
+void PanelPresenter::prepare()
+{
+    panel();
+}
+
 void PanelPresenter::open(bool byHover)
 {
     if (const QString moving = m_model->movingID(); !moving.isEmpty()) {

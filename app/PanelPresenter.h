@@ -30,6 +30,7 @@ public:
     ~PanelPresenter();
 
     bool shown() const { return m_shown; }
+    void prepare(); // makes the panel ahead of its first opening, which takes as long as any then
     // Refused while an item is being moved. By hover the panel leaves the keys where they are.
     void open(bool byHover);
     void present(); // open and with the keys, whatever it was before
@@ -62,7 +63,7 @@ private:
     const std::unique_ptr<model::TileActions> m_tileActions;
     const std::unique_ptr<model::PermissionRequest> m_permission;
     const KeyHandler m_keys;
-    std::unique_ptr<platform::Window> m_panel; // from the first opening on
+    std::unique_ptr<platform::Window> m_panel; // from prepare() or the first opening on
     std::shared_ptr<platform::DispatchWorkItem> m_orderOut; // of the last closing; an opening cancels it
     EventMonitors m_monitors;
     std::unique_ptr<platform::Timer> m_pointerWatch; // only while a panel opened by hover is shown

@@ -1,6 +1,7 @@
 // From the click on the icon to the first frame that has the tiles of 60 items in it, in a real window. The tiles' own
 // entrance, which begins 0.07 s after the opening by design, is not waited for: the frame counts in which all of them
-// are laid out and drawn in their first state. Prints milliseconds, one opening a line.
+// are laid out and drawn in their first state. Prints milliseconds, one opening a line, the first after the launch
+// first.
 #include "SixtyApplications.h"
 #include "app/AppDelegate.h"
 #include "composition/Session.h"
@@ -100,8 +101,7 @@ int main(int argc, char **argv)
     session.scene().quickWindow()->show();
     pass(1500);
     Bench bench(session);
-    bench.openOnce(); // the one that makes the panel and scans for the first time
-    for (int i = 0; i < openings; ++i)
+    for (int i = 0; i <= openings; ++i)
         std::printf("%.3f\n", bench.openOnce());
     return 0;
 }

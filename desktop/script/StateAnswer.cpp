@@ -17,6 +17,22 @@ namespace brimshade::desktop {
 
 namespace {
 
+// As a desktop file describes them.
+QJsonArray screensAnswer(const platform::Screens &screens)
+{
+    QJsonArray answer;
+    for (const platform::Screen &screen : screens.screens()) {
+        QJsonValue notch;
+        if (screen.auxiliaryTopLeftArea && screen.auxiliaryTopRightArea) {
+            notch = QJsonArray{platform::maxX(*screen.auxiliaryTopLeftArea) - screen.frame.x(),
+                               platform::minX(*screen.auxiliaryTopRightArea) - screen.frame.x()};
+        }
+        answer.append(QJsonObject{
+            {u"name"_s, screen.localizedName}, {u"frame"_s, json::rect(screen.frame)}, {u"notch"_s, notch}});
+    }
+    return answer;
+}
+
 QJsonArray menuBarAnswer(const MenuBar &bar)
 {
     QJsonArray items;
@@ -40,10 +56,13 @@ QJsonValue statusItemAnswer(const MenuBar &bar)
     return {};
 }
 
+// A window that was made ahead has no place yet: for a script it is not there.
 QJsonArray windowsAnswer(const WindowStack &stack)
 {
     QJsonArray windows;
     for (const DesktopWindow *window : stack.windows()) {
+        if (window->frame().isEmpty())
+            continue;
         windows.append(QJsonObject{{u"name"_s, window->attributes().name},
                                    {u"title"_s, window->attributes().title},
                                    {u"frame"_s, json::rect(window->frame())},
@@ -53,7 +72,7 @@ QJsonArray windowsAnswer(const WindowStack &stack)
     return windows;
 }
 
-// Before its first opening there is no panel yet: that reads as one without a frame.
+// Before its first opening there is no panel, or one without a frame: both read like that.
 QJsonObject panelAnswer(const WindowStack &stack)
 {
     const DesktopWindow *panel = stack.named(u"panel"_s);
@@ -128,7 +147,8 @@ QJsonObject stateAnswer(Desktop &desktop)
     WindowStack &windows = desktop.windows();
     Inspection &inspection = desktop.inspection();
     const bool menuOpen = desktop.menus().openMenu();
-    return {{u"panel"_s, panelAnswer(windows)},
+    return {{u"screens"_s, screensAnswer(desktop.platform().screens)},
+            {u"panel"_s, panelAnswer(windows)},
             {u"strip"_s, stripAnswer(windows)},
             {u"statusItem"_s, statusItemAnswer(bar)},
             {u"hotkey"_s, hotkeyAnswer(desktop.hotkeys())},

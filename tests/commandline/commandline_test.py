@@ -172,6 +172,13 @@ class Script(Files):
         self.assertEqual(set(opened["log"][0]), {"level", "text"})
         self.assertEqual((first["panel"]["onScreen"], opened["panel"]["onScreen"]), (False, True))
 
+    def test_a_panel_that_was_never_opened_has_no_frame(self):
+        done, answers = play({"do": "advance", "seconds": 60}, {"do": "state"},
+                             arguments=["--desktop", self.desktop(defaults={"onboardingDone": True})])
+        state = answers[1]
+        self.assertEqual(state["panel"], {"frame": [0, 0, 0, 0], "onScreen": False, "isKey": False}, done.stderr)
+        self.assertEqual(state["windows"], [])
+
     def test_each_setting_survives_a_restart(self):
         store = str(pathlib.Path(self.folder.name) / "settings.json")
         desktop = self.desktop(defaults={"onboardingDone": True})

@@ -22,6 +22,16 @@ TEST(Launch, ScansNothingAndOpensNothingOnceSetUp)
     EXPECT_EQ(brimshade.statusItem(), QRectF(1304, 0, 28, 37));
 }
 
+TEST(Launch, MakesThePanelOnceItHasSettled)
+{
+    Brimshade brimshade;
+    brimshade.wait(1);
+    EXPECT_EQ(brimshade.windowCount(u"panel"_s), 1);
+    EXPECT_FALSE(brimshade.isOnScreen(u"panel"_s));
+    brimshade.open();
+    EXPECT_EQ(brimshade.windowCount(u"panel"_s), 1);
+}
+
 TEST(Launch, FirstOneStoresItsPlaceAndShowsTheSetupWindow)
 {
     Brimshade brimshade(firstLaunch());
