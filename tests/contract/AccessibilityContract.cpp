@@ -19,7 +19,7 @@ protected:
     }
 };
 
-TEST_P(AccessibilityContract, FindsItemsThroughTheExtrasMenuBar)
+TEST_F(AccessibilityContract, FindsItemsThroughTheExtrasMenuBar)
 {
     const int pid = driver->launch({{u"first"_s}, {u"second"_s}});
     driver->settleMenuBar();
@@ -36,7 +36,7 @@ TEST_P(AccessibilityContract, FindsItemsThroughTheExtrasMenuBar)
     EXPECT_NE(errorOf(platform.accessibility.createApplication(pid), u"AXPosition"_s), kAXErrorSuccess);
 }
 
-TEST_P(AccessibilityContract, AnswersInvalidElementForAnApplicationThatQuit)
+TEST_F(AccessibilityContract, AnswersInvalidElementForAnApplicationThatQuit)
 {
     const int pid = driver->launch({{u"only"_s}});
     const auto element = items(pid).at(0);
@@ -46,7 +46,7 @@ TEST_P(AccessibilityContract, AnswersInvalidElementForAnApplicationThatQuit)
     EXPECT_EQ(perform(element, u"AXPress"_s), kAXErrorInvalidUIElement);
 }
 
-TEST_P(AccessibilityContract, AnswersDisabledWithoutThePermission)
+TEST_F(AccessibilityContract, AnswersDisabledWithoutThePermission)
 {
     const auto element = items(driver->launch({{u"only"_s}})).at(0);
     EXPECT_TRUE(platform.accessibility.isProcessTrusted());
@@ -59,7 +59,7 @@ TEST_P(AccessibilityContract, AnswersDisabledWithoutThePermission)
     EXPECT_EQ(errorOf(element, u"AXRole"_s), kAXErrorSuccess);
 }
 
-TEST_P(AccessibilityContract, GivesUpOnAHungApplicationAfterTheMessagingTimeout)
+TEST_F(AccessibilityContract, GivesUpOnAHungApplicationAfterTheMessagingTimeout)
 {
     const int pid = driver->launch({{u"only"_s}});
     const auto element = items(pid).at(0);
@@ -83,7 +83,7 @@ TEST_P(AccessibilityContract, GivesUpOnAHungApplicationAfterTheMessagingTimeout)
     EXPECT_NEAR(pressTook, 0.5, 0.1) << "each element has its own";
 }
 
-TEST_P(AccessibilityContract, AnswersSideBySide)
+TEST_F(AccessibilityContract, AnswersSideBySide)
 {
     std::vector<int> pids;
     for (int i = 0; i < 10; ++i)
@@ -105,7 +105,7 @@ TEST_P(AccessibilityContract, AnswersSideBySide)
     EXPECT_NEAR(took, 0.25, 0.1) << "none waits for another";
 }
 
-TEST_P(AccessibilityContract, PressesOpenMenusAndMissingActionsAreRefused)
+TEST_F(AccessibilityContract, PressesOpenMenusAndMissingActionsAreRefused)
 {
     const auto elements = items(driver->launch({{u"pressed"_s, {u"AXPress"_s}, {u"Open"_s, u"-"_s, u"Quit"_s}},
                                                 {u"shown"_s, {u"AXShowMenu"_s}, {u"Other"_s}}}));
@@ -118,7 +118,7 @@ TEST_P(AccessibilityContract, PressesOpenMenusAndMissingActionsAreRefused)
     EXPECT_EQ(driver->openMenu(), QStringList(u"Other"_s)) << "one menu at a time";
 }
 
-TEST_P(AccessibilityContract, ListsApplicationsAndAnnouncesTheirComingAndGoing)
+TEST_F(AccessibilityContract, ListsApplicationsAndAnnouncesTheirComingAndGoing)
 {
     const auto isListed = [this](int pid) {
         for (const auto &application : platform.workspace.runningApplications()) {
@@ -144,7 +144,5 @@ TEST_P(AccessibilityContract, ListsApplicationsAndAnnouncesTheirComingAndGoing)
     EXPECT_EQ(told, QStringList({u"DidLaunch"_s, u"DidTermin"_s}));
     EXPECT_FALSE(platform.workspace.iconForFile(u"/no/such/file"_s).isNull());
 }
-
-INSTANTIATE_TEST_SUITE_P(On, AccessibilityContract, implementations(), implementationName);
 
 } // namespace brimshade::contract

@@ -6,7 +6,7 @@ namespace brimshade::contract {
 
 class DefaultsContract : public Contract { };
 
-TEST_P(DefaultsContract, TellsTypesApartAndWritesAreVisibleAtOnce)
+TEST_F(DefaultsContract, TellsTypesApartAndWritesAreVisibleAtOnce)
 {
     UserDefaults &defaults = platform.userDefaults;
     EXPECT_FALSE(defaults.objectForKey(u"none"_s).isValid());
@@ -28,7 +28,7 @@ TEST_P(DefaultsContract, TellsTypesApartAndWritesAreVisibleAtOnce)
     EXPECT_EQ(defaults.objectForKey(u"flag"_s).typeId(), QMetaType::QString) << "the latest value's type";
 }
 
-TEST_P(DefaultsContract, ObserversHearOnlyWhatTheyAskedForInOrder)
+TEST_F(DefaultsContract, ObserversHearOnlyWhatTheyAskedForInOrder)
 {
     // Posted by nobody but the system: the order shows with an arrangement of screens.
     std::string order;
@@ -41,7 +41,5 @@ TEST_P(DefaultsContract, ObserversHearOnlyWhatTheyAskedForInOrder)
     driver->runDue();
     EXPECT_EQ(order, "ab");
 }
-
-INSTANTIATE_TEST_SUITE_P(On, DefaultsContract, implementations(), implementationName);
 
 } // namespace brimshade::contract

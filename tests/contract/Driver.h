@@ -36,9 +36,10 @@ public:
     virtual void changeScreens() = 0; // some other arrangement
 };
 
-using DriverFactory = std::function<std::unique_ptr<Driver>()>;
+// Of the implementation that the suite is linked with.
+std::unique_ptr<Driver> makeDriver();
 
-class Contract : public testing::TestWithParam<DriverFactory> {
+class Contract : public testing::Test {
 protected:
     // Runs work on another thread while up to so many seconds pass.
     void onWorker(const platform::Work &work, double limit = 10);
@@ -48,22 +49,8 @@ protected:
     QPointF toDisplay(QPointF inScreenSpace) const;
     QPointF emptySpot() const; // of the first screen, far from its menu bar; display space
 
-    std::unique_ptr<Driver> driver = GetParam()();
+    std::unique_ptr<Driver> driver = makeDriver();
     platform::Platform platform = driver->platform();
 };
-
-std::unique_ptr<Driver> makeDesktopDriver(); // the virtual desktop, in virtual time
-
-// Every implementation of the platform that can be driven here.
-inline auto implementations()
-{
-    return testing::Values(DriverFactory(makeDesktopDriver));
-}
-
-inline std::string implementationName(const testing::TestParamInfo<DriverFactory> &implementation)
-{
-    static constexpr const char *kNames[] = {"Desktop"};
-    return kNames[implementation.index];
-}
 
 } // namespace brimshade::contract

@@ -11,7 +11,7 @@ protected:
     std::shared_ptr<StatusItem> item = platform.statusBar.createStatusItem(28);
 };
 
-TEST_P(StatusItemContract, IsAsLongAsItSaysOnceTheBarHasSettled)
+TEST_F(StatusItemContract, IsAsLongAsItSaysOnceTheBarHasSettled)
 {
     item->setAutosaveName(u"Contract"_s);
     driver->settleMenuBar();
@@ -34,7 +34,7 @@ TEST_P(StatusItemContract, IsAsLongAsItSaysOnceTheBarHasSettled)
     EXPECT_EQ(item->length(), kSquareStatusItemLength);
 }
 
-TEST_P(StatusItemContract, SendsItsActionOnTheEventsOfTheMask)
+TEST_F(StatusItemContract, SendsItsActionOnTheEventsOfTheMask)
 {
     std::vector<std::optional<NSEventType>> types;
     item->button()->setAction(kLeftMouseUpMask | kRightMouseUpMask,
@@ -48,7 +48,7 @@ TEST_P(StatusItemContract, SendsItsActionOnTheEventsOfTheMask)
     EXPECT_EQ(outside, 0) << "a press on it is not one in another application";
 }
 
-TEST_P(StatusItemContract, SendsNoActionForAPressThatEndsOrBeganElsewhere)
+TEST_F(StatusItemContract, SendsNoActionForAPressThatEndsOrBeganElsewhere)
 {
     int actions = 0;
     item->button()->setAction(kLeftMouseUpMask, [&] { ++actions; });
@@ -58,7 +58,7 @@ TEST_P(StatusItemContract, SendsNoActionForAPressThatEndsOrBeganElsewhere)
     EXPECT_EQ(actions, 0);
 }
 
-TEST_P(StatusItemContract, OpensAnAttachedMenuInsteadAndTellsWhenItIsGone)
+TEST_F(StatusItemContract, OpensAnAttachedMenuInsteadAndTellsWhenItIsGone)
 {
     std::string order;
     item->button()->setAction(kLeftMouseUpMask, [&] { order += 'a'; });
@@ -80,7 +80,7 @@ TEST_P(StatusItemContract, OpensAnAttachedMenuInsteadAndTellsWhenItIsGone)
     EXPECT_EQ(order, "sda");
 }
 
-TEST_P(StatusItemContract, AContextMenuDismissesTheOneBefore)
+TEST_F(StatusItemContract, AContextMenuDismissesTheOneBefore)
 {
     std::string order;
     const auto menu = [&](char name) {
@@ -98,7 +98,7 @@ TEST_P(StatusItemContract, AContextMenuDismissesTheOneBefore)
     EXPECT_EQ(order, "1b23");
 }
 
-TEST_P(StatusItemContract, LeavesTheBarWhenItIsDestroyed)
+TEST_F(StatusItemContract, LeavesTheBarWhenItIsDestroyed)
 {
     driver->settleMenuBar();
     const QPointF at = middle();
@@ -109,7 +109,5 @@ TEST_P(StatusItemContract, LeavesTheBarWhenItIsDestroyed)
     driver->click(at);
     EXPECT_EQ(outside, 1);
 }
-
-INSTANTIATE_TEST_SUITE_P(On, StatusItemContract, implementations(), implementationName);
 
 } // namespace brimshade::contract

@@ -6,7 +6,7 @@ namespace brimshade::contract {
 
 class WindowContract : public Contract { };
 
-TEST_P(WindowContract, IsShownMadeKeyAndOrderedOutButNotDestroyed)
+TEST_F(WindowContract, IsShownMadeKeyAndOrderedOutButNotDestroyed)
 {
     const auto window = makeWindow(QRectF(50, 60, 300, 200));
     EXPECT_FALSE(window->isVisible());
@@ -29,7 +29,7 @@ TEST_P(WindowContract, IsShownMadeKeyAndOrderedOutButNotDestroyed)
     EXPECT_TRUE(window->isKeyWindow());
 }
 
-TEST_P(WindowContract, HasTheKeysOnlyWhenItCanAndLosesThemToOthers)
+TEST_F(WindowContract, HasTheKeysOnlyWhenItCanAndLosesThemToOthers)
 {
     const auto first = makeWindow(QRectF(50, 60, 300, 200)), second = makeWindow(QRectF(400, 60, 300, 200));
     const auto never = makeWindow(QRectF(50, 400, 300, 200), false);
@@ -48,7 +48,7 @@ TEST_P(WindowContract, HasTheKeysOnlyWhenItCanAndLosesThemToOthers)
     EXPECT_FALSE(first->isKeyWindow()) << "another application has them";
 }
 
-TEST_P(WindowContract, MonitorsSeeOtherApplicationsEventsOrThisOnesByKind)
+TEST_F(WindowContract, MonitorsSeeOtherApplicationsEventsOrThisOnesByKind)
 {
     QStringList heard;
     const auto global = platform.application.addGlobalMonitor(
@@ -80,7 +80,7 @@ TEST_P(WindowContract, MonitorsSeeOtherApplicationsEventsOrThisOnesByKind)
     EXPECT_FALSE(platform.application.currentEventType());
 }
 
-TEST_P(WindowContract, HotkeysComeBeforeWindowsAndMayBeTakenOnce)
+TEST_F(WindowContract, HotkeysComeBeforeWindowsAndMayBeTakenOnce)
 {
     int presses = 0, keys = 0;
     platform.hotkeyCenter.installEventHandler([&] { ++presses; });
@@ -103,7 +103,7 @@ TEST_P(WindowContract, HotkeysComeBeforeWindowsAndMayBeTakenOnce)
     EXPECT_EQ(keys, 1);
 }
 
-TEST_P(WindowContract, DescribesScreensConsistentlyAndAnnouncesAnotherArrangement)
+TEST_F(WindowContract, DescribesScreensConsistentlyAndAnnouncesAnotherArrangement)
 {
     const auto screens = platform.screens.screens();
     ASSERT_FALSE(screens.empty());
@@ -130,7 +130,7 @@ TEST_P(WindowContract, DescribesScreensConsistentlyAndAnnouncesAnotherArrangemen
     EXPECT_NE(whenTold, screens) << "it is in force when it is announced";
 }
 
-TEST_P(WindowContract, PointerIsWhereEventsAndWarpsPutIt)
+TEST_F(WindowContract, PointerIsWhereEventsAndWarpsPutIt)
 {
     const QPointF spot = emptySpot();
     driver->movePointer(spot);
@@ -143,7 +143,5 @@ TEST_P(WindowContract, PointerIsWhereEventsAndWarpsPutIt)
     });
     EXPECT_EQ(platform.eventServices.pointerLocation(), spot);
 }
-
-INSTANTIATE_TEST_SUITE_P(On, WindowContract, implementations(), implementationName);
 
 } // namespace brimshade::contract

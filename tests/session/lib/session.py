@@ -70,11 +70,11 @@ class Session:
         # Open for writing here too, or it would be at its end whenever a writer leaves.
         return path, self.own(Lines(os.open(path, os.O_RDWR)))
 
-    def until_picture(self, what, holds):
-        """Takes picture() after picture, since no display tells when it has drawn, until holds(picture); that one."""
+    def until_picture(self, what, holds, *of):
+        """Takes picture(*of) after picture, since no display tells when it has drawn, until holds(picture); that one."""
         deadline = Deadline(f"a picture of {what}")
         while True:
-            picture = self.picture()
+            picture = self.picture(*of)
             if holds(picture):
                 return picture
             deadline.check()
