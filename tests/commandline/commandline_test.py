@@ -158,8 +158,8 @@ class Script(Files):
         first, opened = answers[0], answers[3]
         for state in (first, opened):
             self.assertEqual(set(state), set(
-                "ok time model shown panel strip statusItem divider hotkey menuBar windows menu defaults loginItem pointer "
-                "openedURLs messages prompts events actions requests log".split()))
+                "ok time model shown screens panel strip statusItem divider hotkey menuBar windows menu defaults loginItem "
+                "pointer openedURLs messages prompts events actions requests log".split()))
             self.assertEqual(set(state["model"]), set(
                 "isOpen extras scanned trusted hoveredID query selectedID notch movingID message showVisible hoverToOpen "
                 "shortcut dividerEnabled launchAtLogin hiddenMatches visibleMatches hiddenCount columns panelSize".split()))
