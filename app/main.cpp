@@ -192,5 +192,7 @@ int main(int argc, char **argv)
     if (line->isSession)
         i18n::installSessionTexts(*application, QLocale());
 
-    return line->isSession ? runSession(*line, script.handle()) : runStage(*line, script.handle());
+    if (line->isSession)
+        desktop::session::ShellBackend::end(runSession(*line, script.handle()));
+    return runStage(*line, script.handle());
 }

@@ -122,5 +122,5 @@ int main(int argc, char **argv)
     QGuiApplication application(argc, argv);
     application.setQuitOnLastWindowClosed(false);
     testing::InitGoogleTest(&argc, argv);
-    return RUN_ALL_TESTS();
+    ShellBackend::end(RUN_ALL_TESTS());
 }

@@ -229,9 +229,7 @@ void Probe::sync()
     waitForAnswer(static_cast<wl_display *>(native->nativeResourceForIntegration("wl_display")));
 }
 
-} // namespace
-
-int main(int argc, char **argv)
+int run(int argc, char **argv)
 {
     qInstallMessageHandler([](QtMsgType, const QMessageLogContext &, const QString &message) {
         // Of the runtime folder, which belongs to the compositor's user; and of having no screen.
@@ -244,8 +242,8 @@ int main(int argc, char **argv)
     }
     QQuickWindow::setGraphicsApi(QSGRendererInterface::Software);
     QQuickWindow::setDefaultAlphaBuffer(true);
-    QGuiApplication application(argc, argv);
-    application.setQuitOnLastWindowClosed(false);
+    new QGuiApplication(argc, argv); // for good, see ShellBackend::end
+    QGuiApplication::setQuitOnLastWindowClosed(false);
     const auto backend = ShellBackend::create();
     if (!backend) {
         std::cerr << qUtf8Printable(backend.error()) << std::endl;
@@ -265,4 +263,11 @@ int main(int argc, char **argv)
     });
     say({{"event"_L1, "ready"_L1}});
     return QGuiApplication::exec();
+}
+
+} // namespace
+
+int main(int argc, char **argv)
+{
+    ShellBackend::end(run(argc, argv));
 }

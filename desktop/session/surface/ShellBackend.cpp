@@ -4,6 +4,8 @@
 #include "X11Backend.h"
 
 #include <QGuiApplication>
+#include <cstdio>
+#include <cstdlib>
 #include <qpa/qplatformscreen.h>
 #include <wayland-client-core.h>
 #include <xcb/xcb.h>
@@ -64,6 +66,12 @@ std::expected<std::unique_ptr<ShellBackend>, QString> ShellBackend::create()
     if (QGuiApplication::platformName() == "xcb"_L1)
         return X11Backend::create();
     return noDisplay();
+}
+
+void ShellBackend::end(int status)
+{
+    std::fflush(nullptr);
+    std::_Exit(status);
 }
 
 QList<QScreen *> ShellBackend::screens()

@@ -21,6 +21,10 @@ public:
     // After it. The error is for standard error: what the compositor lacks, and what works instead.
     static std::expected<std::unique_ptr<ShellBackend>, QString> create();
 
+    // Instead of the application object's end, when all else has ended: Qt 6.4 takes down the threads that read a
+    // Wayland connection so that now and then one waits for another for good.
+    [[noreturn]] static void end(int status);
+
     // The screens that something can be shown on: none while every one is switched off, when Qt makes one up.
     static QList<QScreen *> screens();
 
