@@ -66,7 +66,7 @@ void BarModel::refresh()
     std::vector<BarItem> items = m_bar.items();
     std::erase_if(items, [](const BarItem &item) { return !item.drawn && item.dragOffset == 0; });
     setRows(m_items, items, keyOf, [](BarItem &shown, const BarItem &wanted) {
-        const QList<int> roles = changes(shown, wanted);
+        QList<int> roles = changes(shown, wanted);
         shown = wanted;
         return roles;
     });

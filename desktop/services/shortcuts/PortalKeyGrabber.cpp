@@ -172,7 +172,7 @@ void PortalKeyGrabber::bindShortcuts()
             [](const Results &) {});
 }
 
-void PortalKeyGrabber::request(const QString &method, QVariantList arguments, const QVariantMap &options,
+void PortalKeyGrabber::request(const QString &method, const QVariantList &arguments, const QVariantMap &options,
                                std::optional<std::chrono::milliseconds> limit, PortalRequest::Handler handler)
 {
     m_request.reset(new PortalRequest(m_bus, method, arguments, options, limit,

@@ -48,7 +48,7 @@ private:
     void listShortcuts();
     void bindShortcuts();
     void closeSession();
-    void request(const QString &method, QVariantList arguments, const QVariantMap &options,
+    void request(const QString &method, const QVariantList &arguments, const QVariantMap &options,
                  std::optional<std::chrono::milliseconds> limit, PortalRequest::Handler handler);
 
     struct Later {
