@@ -1,10 +1,10 @@
 #include "ScriptLoop.h"
+#include "desktop/script/ScriptLine.h"
 
 #include <QCoreApplication>
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QSocketNotifier>
-#include <algorithm>
 #include <cstdio>
 #include <unistd.h>
 
@@ -21,12 +21,6 @@ int complain(const QString &message)
 {
     std::fprintf(stderr, "brimshade: %s\n", qUtf8Printable(message));
     return kBadScript;
-}
-
-// From 1, in characters. The parser's offset is that after the offending one.
-qsizetype columnOf(const QJsonParseError &error, const QByteArray &line)
-{
-    return QString::fromUtf8(line.first(std::clamp<qsizetype>(error.offset - 1, 0, line.size()))).size() + 1;
 }
 
 } // namespace
@@ -69,16 +63,11 @@ std::optional<int> ScriptLoop::runLine(const QByteArray &line)
 {
     if (line.trimmed().isEmpty())
         return {};
-    const QString place = u"%1:%2"_s.arg(m_name).arg(m_lineNumber);
-    QJsonParseError error;
-    const QJsonDocument document = QJsonDocument::fromJson(line, &error);
-    if (error.error != QJsonParseError::NoError)
-        return complain(
-            u"%1:%2: expected a JSON object: %3"_s.arg(place).arg(columnOf(error, line)).arg(error.errorString()));
-    if (!document.isObject())
-        return complain(u"%1: expected a JSON object"_s.arg(place));
+    const auto command = desktop::parseScriptLine(line);
+    if (!command)
+        return complain(u"%1:%2%3"_s.arg(m_name, QString::number(m_lineNumber), command.error()));
 
-    const QByteArray answer = QJsonDocument(m_run(document.object())).toJson(QJsonDocument::Compact);
+    const QByteArray answer = QJsonDocument(m_run(*command)).toJson(QJsonDocument::Compact);
     std::fwrite(answer.constData(), 1, answer.size(), stdout);
     std::fputc('\n', stdout);
     std::fflush(stdout);

@@ -4,6 +4,9 @@
 
 namespace brimshade::desktop {
 
+// Points; a coordinate or a side beyond it, in a file or a script, is a mistake.
+inline constexpr double kFarthest = 1e6;
+
 // Rectangles in screen space.
 platform::Screen makeScreen(const ScreenDescription &description);
 // The screen that holds most of the rectangle; none when no screen holds any of it. A rectangle without area is on the

@@ -1,4 +1,5 @@
 #include "Arguments.h"
+#include "desktop/core/ScreenGeometry.h"
 
 #include <QJsonArray>
 #include <cmath>
@@ -67,10 +68,11 @@ QPointF Arguments::point(const QString &name)
 {
     const QJsonValue value = required(name, false);
     const QJsonArray pair = value.toArray();
-    if (pair.size() == 2 && pair[0].isDouble() && pair[1].isDouble())
-        return {pair[0].toDouble(), pair[1].toDouble()};
+    const QPointF point(pair.at(0).toDouble(NAN), pair.at(1).toDouble(NAN));
+    if (pair.size() == 2 && std::abs(point.x()) <= kFarthest && std::abs(point.y()) <= kFarthest)
+        return point;
     if (!value.isUndefined())
-        fail(name, u"[x, y]"_s);
+        fail(name, u"[x, y], each from -%1 to %1"_s.arg(static_cast<int>(kFarthest)));
     return {};
 }
 

@@ -127,6 +127,8 @@ class Script(Files):
             ({"do": "advance", "seconds": -1}, "seconds"),
             ({"do": "advance", "seconds": 1, "minutes": 2}, "minutes"),
             ({"do": "move", "to": [1]}, "to"),
+            ({"do": "move", "to": [1, 2, 3]}, "to"),
+            ({"do": "move", "to": [1, 1e300]}, "to"),
             ({"do": "click", "at": [1, 1], "button": "middle"}, "button"),
             ({"do": "click", "at": [1, 1], "modifiers": ["hyper"]}, "modifiers"),
             ({"do": "key", "code": 70000}, "code"),

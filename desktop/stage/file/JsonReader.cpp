@@ -1,4 +1,5 @@
 #include "JsonReader.h"
+#include "desktop/core/ScreenGeometry.h"
 
 #include <array>
 #include <cmath>
@@ -10,7 +11,6 @@ namespace brimshade::desktop {
 namespace {
 
 constexpr qsizetype kLongestText = 4096;
-constexpr double kFarthest = 1e6; // points; a coordinate or a side beyond it is a mistake
 
 QString named(double number)
 {
