@@ -10,7 +10,8 @@ target_compile_options(brimshade_options INTERFACE -Wall -Wextra -Wpedantic -Wer
 target_compile_definitions(brimshade_options INTERFACE QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII QT_NO_KEYWORDS
                                                        QT_NO_FOREACH QT_STRICT_ITERATORS)
 if(BRIMSHADE_SANITIZER)
-  target_compile_options(brimshade_options INTERFACE -fsanitize=${BRIMSHADE_SANITIZER} -Wno-maybe-uninitialized)
+  target_compile_options(brimshade_options INTERFACE -fsanitize=${BRIMSHADE_SANITIZER}
+                         $<$<CXX_COMPILER_ID:GNU>:-Wno-maybe-uninitialized>)
   target_link_options(brimshade_options INTERFACE -fsanitize=${BRIMSHADE_SANITIZER})
 endif()
 

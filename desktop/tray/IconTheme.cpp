@@ -24,7 +24,7 @@ struct Theme {
     QStringList folders; // inside a base's folder of the theme, best first
 };
 
-QStringList listOf(const QString &value)
+QStringList namesIn(const QString &value)
 {
     return value.split(u',', Qt::SkipEmptyParts).mid(0, kMostFolders);
 }
@@ -69,9 +69,9 @@ Theme readTheme(const QString &name, const QStringList &bases)
             groups = readKeyFile(index.read(kMostIndexBytes));
     }
     const auto about = groups.value(QStringLiteral("Icon Theme"));
-    theme.parents = listOf(about.value(QStringLiteral("Inherits")));
+    theme.parents = namesIn(about.value(QStringLiteral("Inherits")));
     theme.folders =
-        listOf(about.value(QStringLiteral("Directories"))) + listOf(about.value(QStringLiteral("ScaledDirectories")));
+        namesIn(about.value(QStringLiteral("Directories"))) + namesIn(about.value(QStringLiteral("ScaledDirectories")));
     for (auto base = bases.begin(); theme.folders.isEmpty() && base != bases.end(); ++base)
         theme.folders = listedFolders(*base + u'/' + name);
     std::stable_sort(theme.folders.begin(), theme.folders.end(), [&](const QString &a, const QString &b) {

@@ -6,7 +6,7 @@ namespace brimshade::desktop::tray {
 
 namespace {
 constexpr double kDebounceSeconds = 0.010;
-constexpr double kFirstPause = 1, kLongestPause = 300; // seconds
+constexpr double kFirstRetry = 1, kLongestRetry = 300; // seconds
 } // namespace
 
 Refresh::Refresh(platform::Dispatch &dispatch, platform::Work fetch) : m_dispatch(dispatch), m_fetch(std::move(fetch))
@@ -54,7 +54,7 @@ void Refresh::finished()
 
 void Refresh::failed()
 {
-    m_pause = std::clamp(2 * m_pause, kFirstPause, kLongestPause);
+    m_pause = std::clamp(2 * m_pause, kFirstRetry, kLongestRetry);
     if (std::exchange(m_state, State::idle) == State::readingStale)
         request();
     else

@@ -1,0 +1,31 @@
+// Desktop entries as they are read of installed programs and of the session's autostart folders.
+#include "Expect.h"
+#include "desktop/services/AutostartEntry.h"
+#include "desktop/services/KeyFile.h"
+#include "desktop/tray/DesktopEntry.h"
+
+using namespace brimshade;
+
+namespace {
+
+// Of one line, as a value is.
+bool comesBack(const QString &text)
+{
+    const QByteArray content = "[Desktop Entry]\nName=" + desktop::escaped(text).toUtf8();
+    return desktop::readDesktopEntry(content).value(QStringLiteral("Name")) == text;
+}
+
+} // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)
+{
+    const QByteArray content(reinterpret_cast<const char *>(data), static_cast<qsizetype>(size));
+    const auto entry =
+        desktop::tray::parseDesktopEntry(QStringLiteral("org.example"), content, QStringLiteral("de_DE"));
+    fuzz::expect(!entry || entry->name.size() <= 256, "a name that can be shown");
+    fuzz::expect(!entry || !entry->executable.contains(u'/'), "the name of a file");
+    desktop::readAutostartEntry(content);
+    const auto text = QString::fromUtf8(content).trimmed();
+    fuzz::expect(text.contains(QChar::ReplacementCharacter) || comesBack(text), "what was written");
+    return 0;
+}
