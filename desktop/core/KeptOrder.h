@@ -1,0 +1,68 @@
+#pragma once
+#include <QDate>
+#include <QString>
+#include <functional>
+#include <optional>
+#include <vector>
+
+namespace brimshade::desktop {
+
+// What an item is, whenever its program runs.
+struct KeptItem {
+    QString program; // its desktop entry, else the file that it runs
+    QString id; // as the item itself says; may be empty
+    int ordinal = 0; // of several that are there at once and say the same
+
+    bool isSame(const KeptItem &other) const { return program == other.program && id == other.id; }
+    bool operator==(const KeptItem &) const = default;
+};
+
+// The order in which the items that come and go and Brimshade's own one stand, right to left, those included that are
+// not there now: whoever comes back stands where it stood. A value; it knows neither frames nor files.
+class KeptOrder {
+public:
+    using Today = std::function<QDate()>;
+    using Slot = std::optional<KeptItem>; // nothing: Brimshade's own item
+
+    struct Record {
+        Slot slot;
+        QDate seen; // the day on which it was last there; not kept up while it is
+        bool isPresent = false;
+    };
+
+    static constexpr int kLongestText = 128; // characters that are kept of a program and of an id
+    // Absent ones are forgotten after so many days, and beyond so many items those that were not seen for longest.
+    static constexpr int kDaysKept = 90;
+    static constexpr std::size_t kMost = 600;
+
+    explicit KeptOrder(Today today = currentDay);
+    static QDate currentDay(); // UTC
+
+    const std::vector<Record> &records() const { return m_records; }
+    QDate lastSeen(const Record &record) const; // today for one that is present
+
+    // One that was never here is put right of the own item, beside it. The answer has the first ordinal that none that
+    // is present has.
+    KeptItem arrive(const KeptItem &who);
+    void leave(const KeptItem &item);
+    // A present one turns out to be another: it goes where that one stood, or stays when that one is unknown.
+    KeptItem rename(const KeptItem &item, const KeptItem &who);
+    // It now stands among the present ones as listed. It passes no more absent ones than it must.
+    void move(const Slot &moved, const std::vector<Slot> &present);
+
+    // Left of all, and not present. One that is there already keeps its place; the own item is brought there.
+    void append(const Slot &slot, QDate seen);
+    // An order that was kept before takes in those that are present here.
+    void restore(KeptOrder before);
+
+private:
+    std::vector<Record>::iterator find(const Slot &slot);
+    KeptItem numbered(KeptItem who);
+    void enter(const KeptItem &item);
+    void forget();
+
+    Today m_today;
+    std::vector<Record> m_records; // the own item's among them
+};
+
+} // namespace brimshade::desktop
