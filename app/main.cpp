@@ -4,6 +4,7 @@
 #include "composition/ScriptLoop.h"
 #include "composition/Session.h"
 #include "desktop/core/Desktop.h"
+#include "desktop/core/KeptOrderFile.h"
 #include "desktop/services/FileDefaults.h"
 #include "desktop/session/instance/Instance.h"
 #include "desktop/session/remote/Remote.h"
@@ -76,6 +77,13 @@ std::unique_ptr<desktop::FileDefaults> openDefaults(const composition::CommandLi
     return std::make_unique<desktop::FileDefaults>(path, [](const QString &message) { complain(message); });
 }
 
+std::optional<QString> stateFile(const composition::CommandLine &line)
+{
+    if (line.script || line.stateFile)
+        return line.stateFile;
+    return desktop::KeptOrderFile::defaultPath();
+}
+
 std::expected<composition::SessionOptions, QString> sessionOptions(const composition::CommandLine &line)
 {
     const auto description = line.desktopFile
@@ -89,6 +97,7 @@ std::expected<composition::SessionOptions, QString> sessionOptions(const composi
                                        .hasWindow = line.hasWindow,
                                        .isRealTime = line.isRealTime,
                                        .hostsTray = line.hostsTray,
+                                       .stateFile = stateFile(line),
                                        .scale = line.scale};
 }
 
@@ -142,6 +151,7 @@ int runSession(const composition::CommandLine &line, int scriptDescriptor)
     options.defaults = openDefaults(line);
     options.screen.name = line.screen.value_or(QString());
     options.hostsTray = line.hostsTray;
+    options.stateFile = stateFile(line);
     options.isNotchSaid = line.notch.has_value();
     options.screen.notch = line.notch.value_or(desktop::session::NotchChoice());
     auto session = composition::LiveSession::create(std::move(options));

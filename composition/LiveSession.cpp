@@ -1,4 +1,5 @@
 #include "LiveSession.h"
+#include "HostedTray.h"
 #include "RealClock.h"
 #include "StateReport.h"
 #include "app/AppDelegate.h"
@@ -17,11 +18,11 @@
 #include "desktop/session/watchdog/StickCommand.h"
 #include "desktop/session/watchdog/Watchdog.h"
 #include "desktop/time/RealDispatch.h"
-#include "desktop/tray/TrayHost.h"
+#include "desktop/tray/ItemPlaces.h"
 
+#include <QDBusConnection>
 #include <QFile>
 #include <QGuiApplication>
-#include <cstdio>
 
 using namespace Qt::StringLiterals;
 
@@ -39,11 +40,6 @@ QList<QByteArray> deviceTreeNames()
     constexpr qint64 most = 4096;
     QFile file(u"/proc/device-tree/compatible"_s);
     return file.open(QIODevice::ReadOnly) ? file.read(most).split('\0') : QList<QByteArray>();
-}
-
-void tell(const QString &text)
-{
-    std::fprintf(stderr, "brimshade: %s\n", qUtf8Printable(text));
 }
 
 } // namespace
@@ -64,7 +60,7 @@ public:
     SessionHost host;
     desktop::session::Watchdog watchdog;
     std::shared_ptr<app::AppDelegate> delegate;
-    std::unique_ptr<desktop::TrayHost> tray;
+    std::unique_ptr<HostedTray> tray;
     RealClock clock;
     desktop::ScriptRunner script;
 
@@ -107,10 +103,8 @@ LiveSession::Parts::Parts(LiveSessionOptions options, std::unique_ptr<ShellBacke
       script(desktop, host, clock, [this] { return stateReport(*delegate); })
 {
     desktop::session::launchClock(desktop);
-    if (options.hostsTray) {
-        tray = std::make_unique<desktop::TrayHost>(desktop, desktop::connectToSessionBus, dispatch);
-        QObject::connect(tray.get(), &desktop::TrayHost::message, tray.get(), tell);
-    }
+    if (options.hostsTray)
+        tray = std::make_unique<HostedTray>(desktop, dispatch, desktop::tray::ItemPlaces::kept, options.stateFile);
     refuseInvented();
     desktop::session::addStickCommand(script);
     grabKeys();

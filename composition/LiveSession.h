@@ -6,6 +6,7 @@
 #include <QString>
 #include <expected>
 #include <memory>
+#include <optional>
 
 namespace brimshade::app {
 class AppDelegate;
@@ -22,6 +23,7 @@ struct LiveSessionOptions {
     desktop::session::ScreenChoice screen; // what the command line says of it
     bool isNotchSaid = false; // there
     bool hostsTray = true;
+    std::optional<QString> stateFile; // keeps the order of the tray's items; absent: it begins anew
 };
 
 // Brimshade as the menu bar of the session that it was started in. Main thread; needs a QGuiApplication on the platform

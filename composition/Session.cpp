@@ -1,4 +1,5 @@
 #include "Session.h"
+#include "HostedTray.h"
 #include "RealClock.h"
 #include "StateReport.h"
 #include "app/AppDelegate.h"
@@ -12,11 +13,10 @@
 #include "desktop/stage/world/WorldCommands.h"
 #include "desktop/time/RealDispatch.h"
 #include "desktop/time/VirtualDispatch.h"
-#include "desktop/tray/TrayHost.h"
+#include "desktop/tray/ItemPlaces.h"
 
 #include <QGuiApplication>
 #include <QQuickWindow>
-#include <cstdio>
 
 namespace brimshade::composition {
 
@@ -57,7 +57,7 @@ public:
     std::unique_ptr<desktop::Desktop> desktop;
     std::unique_ptr<desktop::SceneHost> scene;
     std::shared_ptr<app::AppDelegate> delegate;
-    std::unique_ptr<desktop::TrayHost> tray;
+    std::unique_ptr<HostedTray> tray;
     std::unique_ptr<desktop::ScriptClock> clock;
     std::unique_ptr<desktop::ScriptRunner> script;
 
@@ -66,7 +66,6 @@ private:
     void buildDesktop(SessionOptions &options);
     void buildScene(const SessionOptions &options);
     void buildScript();
-    void hostTray();
 };
 
 platform::Dispatch &Session::Parts::dispatch() const
@@ -83,8 +82,10 @@ Session::Parts::Parts(SessionOptions options)
     buildDesktop(options);
     buildScene(options);
     delegate = std::make_shared<app::AppDelegate>(desktop->platform());
-    if (options.hostsTray)
-        hostTray();
+    if (options.hostsTray) {
+        const auto places = options.stateFile ? desktop::tray::ItemPlaces::kept : desktop::tray::ItemPlaces::listed;
+        tray = std::make_unique<HostedTray>(*desktop, dispatch(), places, options.stateFile);
+    }
     buildScript();
     desktop->platform().application.setActivationPolicyAccessory();
     delegate->applicationDidFinishLaunching();
@@ -123,13 +124,6 @@ void Session::Parts::buildScript()
     script =
         std::make_unique<desktop::ScriptRunner>(*desktop, *scene, *clock, [this] { return stateReport(*delegate); });
     desktop::addWorldCommands(*script, *desktop);
-}
-
-void Session::Parts::hostTray()
-{
-    tray = std::make_unique<desktop::TrayHost>(*desktop, desktop::connectToSessionBus, dispatch());
-    QObject::connect(tray.get(), &desktop::TrayHost::message, tray.get(),
-                     [](const QString &text) { std::fprintf(stderr, "brimshade: %s\n", qUtf8Printable(text)); });
 }
 
 Session::Parts::~Parts()

@@ -3,7 +3,9 @@
 #include "desktop/services/MemoryDefaults.h"
 
 #include <QJsonObject>
+#include <QString>
 #include <memory>
+#include <optional>
 
 namespace brimshade::desktop {
 class Desktop;
@@ -24,6 +26,7 @@ struct SessionOptions {
     bool hasWindow = false; // on the running session
     bool isRealTime = false; // always, with a window
     bool hostsTray = false;
+    std::optional<QString> stateFile = {}; // keeps the places of the tray's items; absent: they stand as they come
     double scale = 1; // pixels a point, for pictures of a script
 };
 

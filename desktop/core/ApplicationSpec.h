@@ -5,6 +5,7 @@
 
 #include <functional>
 #include <map>
+#include <optional>
 
 namespace brimshade::desktop {
 
@@ -12,12 +13,19 @@ namespace brimshade::desktop {
 // or does what else the item does. Main thread; the frame is the item's, in display space.
 using ItemHandler = std::function<void(ItemGesture gesture, const QRectF &itemFrame)>;
 
+// What keeps the place of an item that comes and goes.
+struct ItemOrigin {
+    QString instance; // this very item, whatever it says of itself, as long as it is there
+    QString program, id; // what it is, whenever its program runs
+};
+
 // What a description cannot say of an extra.
 struct ItemSpec {
-    platform::Image image; // null: the bar draws the description's symbol or the application's icon
-    ItemHandler handler; // null: every gesture opens the description's menu
-    QString toolTip;
+    platform::Image image = {}; // null: the bar draws the description's symbol or the application's icon
+    ItemHandler handler = {}; // null: every gesture opens the description's menu
+    QString toolTip = {};
     bool isAway = false; // it has nothing to say: it stands off-screen
+    std::optional<ItemOrigin> origin = {}; // absent: the item is a listed one
 };
 
 // A running application as the desktop hosts it: what its description says, and what a file cannot say.

@@ -20,17 +20,18 @@ bool isPinned(const ApplicationDescription &application, const ExtraDescription 
         && (identifier.endsWith(".clock"_L1) || identifier.endsWith(".controlcenter"_L1));
 }
 
-BarEntry::Place placeOf(const ApplicationDescription &application, const ExtraDescription &extra)
-{
-    if (extra.frameKind == ExtraDescription::Frame::fixed)
-        return BarEntry::Place::fixed;
-    return isPinned(application, extra) ? BarEntry::Place::pinned : BarEntry::Place::movable;
-}
-
 ItemSpec specOf(const ApplicationSpec &application, const ExtraDescription &extra)
 {
     const auto found = application.items.find(extra.identifier.value_or(QString()));
     return found == application.items.end() ? ItemSpec() : found->second;
+}
+
+BarEntry::Place placeOf(const ApplicationSpec &application, const ExtraDescription &extra)
+{
+    if (extra.frameKind == ExtraDescription::Frame::fixed)
+        return BarEntry::Place::fixed;
+    const bool isListed = !specOf(application, extra).origin; // no program pins an item by what it calls itself
+    return isListed && isPinned(application.description, extra) ? BarEntry::Place::pinned : BarEntry::Place::movable;
 }
 
 RunningApplication running(const ApplicationDescription &application, const Image &icon)
@@ -114,19 +115,30 @@ void Applications::host(Hosted &hosted)
     const auto extras = publish(hosted);
     auto before = std::exchange(hosted.items, {});
     m_menuBar.update([&] {
-        std::map<const Element *, BarEntryPointer> entries;
-        for (const Item &item : before)
-            entries[item.extra.element.get()] = item.entry;
-        for (const DescribedExtra &extra : extras)
-            hosted.items.push_back({extra, makeEntry(hosted, extra, std::exchange(entries[extra.element.get()], {}))});
-        for (const auto &[element, entry] : entries) {
-            if (entry)
-                m_menuBar.remove(entry);
+        for (const DescribedExtra &extra : extras) {
+            const auto origin = specOf(hosted.given, extra.description).origin;
+            Item item{extra, nullptr, origin ? origin->instance : QString()};
+            item.entry = makeEntry(hosted, extra, takeEntry(before, item));
+            hosted.items.push_back(std::move(item));
+        }
+        for (const Item &gone : before) {
+            if (gone.entry)
+                m_menuBar.remove(gone.entry);
         }
         m_menuBar.widthChanged();
         m_menuBar.lookChanged();
     });
     dismissOrphanedMenu();
+}
+
+// Which it had before: of the same instance, else of the same element.
+BarEntryPointer Applications::takeEntry(std::vector<Item> &before, const Item &item)
+{
+    const auto found = std::ranges::find_if(before, [&item](const Item &earlier) {
+        return item.instance.isEmpty() ? earlier.extra.element == item.extra.element
+                                       : earlier.instance == item.instance;
+    });
+    return found == before.end() ? nullptr : std::exchange(found->entry, nullptr);
 }
 
 std::vector<DescribedExtra> Applications::publish(Hosted &hosted)
@@ -164,36 +176,54 @@ std::vector<DescribedExtra> Applications::publish(Hosted &hosted)
 
 BarEntryPointer Applications::makeEntry(const Hosted &hosted, const DescribedExtra &extra, BarEntryPointer before)
 {
-    const ApplicationDescription &application = hosted.given.description;
-    const ExtraDescription &description = extra.description;
-    const auto place = placeOf(application, description);
-    if (before && (before->place != place || description.frameKind == ExtraDescription::Frame::unreadable))
+    const bool isInBar = extra.description.frameKind != ExtraDescription::Frame::unreadable;
+    const auto place = placeOf(hosted.given, extra.description);
+    const auto origin = specOf(hosted.given, extra.description).origin;
+    if (before && (!isInBar || before->place != place || before->kept.has_value() != origin.has_value()))
         m_menuBar.remove(std::exchange(before, nullptr));
-    if (description.frameKind == ExtraDescription::Frame::unreadable)
+    if (!isInBar)
         return nullptr;
     auto entry = before ? before : std::make_shared<BarEntry>();
-    entry->pid = application.pid;
     entry->place = place;
-    entry->width = description.width;
-    if (place == BarEntry::Place::fixed)
-        entry->frame = description.frame;
-    entry->element = extra.element;
-    entry->handler = [this, pid = application.pid, element = extra.element.get()](ItemGesture gesture) {
+    describe(*entry, hosted, extra);
+    if (before && origin)
+        m_menuBar.rename(entry, {origin->program, origin->id});
+    if (before)
+        return entry;
+    if (origin)
+        entry->kept = {origin->program, origin->id};
+    m_menuBar.add(entry);
+    return entry;
+}
+
+void Applications::describe(BarEntry &entry, const Hosted &hosted, const DescribedExtra &extra)
+{
+    const ExtraDescription &description = extra.description;
+    entry.pid = hosted.given.description.pid;
+    entry.width = description.width;
+    if (entry.place == BarEntry::Place::fixed)
+        entry.frame = description.frame;
+    attach(entry, extra.element);
+    entry.handler = [this, pid = entry.pid, element = extra.element.get()](ItemGesture gesture) {
         carryOut(gesture, pid, element);
     };
-    entry->identifier = description.identifier.value_or(QString());
-    entry->title = description.title.value_or(QString());
-    entry->description = description.description.value_or(QString());
-    entry->symbol = description.symbol;
+    entry.identifier = description.identifier.value_or(QString());
+    entry.title = description.title.value_or(QString());
+    entry.description = description.description.value_or(QString());
+    entry.symbol = description.symbol;
     const ItemSpec spec = specOf(hosted.given, description);
-    entry->toolTip = spec.toolTip;
-    entry->isAway = spec.isAway;
-    entry->image = spec.image;
+    entry.toolTip = spec.toolTip;
+    entry.isAway = spec.isAway;
+    entry.image = spec.image;
     if (spec.image.isNull() && description.role == "AXMenuBarItem"_L1)
-        entry->image = hosted.icon;
-    if (!before)
-        m_menuBar.add(entry);
-    return entry;
+        entry.image = hosted.icon;
+}
+
+// An item that calls itself otherwise has a new element, where the old one was.
+void Applications::attach(BarEntry &entry, const ElementPointer &element)
+{
+    if (std::exchange(entry.element, element) != element && entry.frame)
+        m_state.write([&](DisplayState &) { element->frame = entry.frame; });
 }
 
 void Applications::pressed(const ElementPointer &element)

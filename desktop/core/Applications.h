@@ -35,6 +35,7 @@ private:
     struct Item {
         DescribedExtra extra;
         BarEntryPointer entry; // null: its frame is unreadable, the bar does not have it
+        QString instance; // of its origin; empty without one
     };
     struct Hosted {
         ApplicationSpec given;
@@ -43,7 +44,10 @@ private:
     };
     std::vector<DescribedExtra> publish(Hosted &hosted);
     void host(Hosted &hosted);
+    static BarEntryPointer takeEntry(std::vector<Item> &before, const Item &item);
     BarEntryPointer makeEntry(const Hosted &hosted, const DescribedExtra &extra, BarEntryPointer before);
+    void describe(BarEntry &entry, const Hosted &hosted, const DescribedExtra &extra);
+    void attach(BarEntry &entry, const ElementPointer &element);
     void dismissOrphanedMenu();
     void carryOut(ItemGesture gesture, int pid, const Element *element);
     void carryOut(ItemGesture gesture, const Hosted &hosted, const Item &item);

@@ -1,5 +1,6 @@
 #pragma once
 #include "ItemGesture.h"
+#include "KeptOrder.h"
 #include "SharedState.h"
 #include "platform/Image.h"
 
@@ -14,6 +15,8 @@ struct BarEntry {
 
     int pid = 0;
     Place place = Place::movable;
+    // Of one that comes and goes; the bar fills in the ordinal. Absent: it stands as it was listed.
+    std::optional<KeptItem> kept;
     double width = 0; // points; what the next layout takes
     bool isAway = false; // off-screen in the next layout, whatever room there is
     std::optional<QRectF> frame; // the settled one, display space; absent until the bar has laid the item out

@@ -17,6 +17,11 @@ bool hasNotch(const Screen &screen)
     return screen.auxiliaryTopLeftArea && screen.auxiliaryTopRightArea;
 }
 
+double drawnFrom(const BarGeometry &bar)
+{
+    return bar.notch ? bar.notch->second : bar.applicationMenusEnd;
+}
+
 bool hasRoom(double left, double right, const BarGeometry &bar)
 {
     return bar.notch ? right > bar.notch->first : left >= bar.applicationMenusEnd;
@@ -82,9 +87,14 @@ std::vector<QRectF> layOutAway(const std::vector<double> &widths, const std::vec
     return frames;
 }
 
+double roomFor(const BarGeometry &bar)
+{
+    return maxX(bar.frame) - kRightMargin - drawnFrom(bar);
+}
+
 bool isDrawnAt(const QRectF &frame, const BarGeometry &bar)
 {
-    return minX(frame) >= (bar.notch ? bar.notch->second : bar.applicationMenusEnd);
+    return minX(frame) >= drawnFrom(bar);
 }
 
 std::size_t dropIndex(const std::vector<QRectF> &frames, double x)

@@ -34,6 +34,9 @@ std::vector<QRectF> layOut(const std::vector<double> &widths, const BarGeometry 
 std::vector<QRectF> layOutAway(const std::vector<double> &widths, const std::vector<QRectF> &others,
                                const BarGeometry &bar);
 
+// Points for the items that are drawn.
+double roomFor(const BarGeometry &bar);
+
 // Wholly right of the notch, without one of the application menus: only then is an item drawn and takes clicks.
 bool isDrawnAt(const QRectF &frame, const BarGeometry &bar);
 

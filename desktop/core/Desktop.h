@@ -55,7 +55,7 @@ public:
 
     // A pid is used once at a time; false when it is taken, or unknown to quit and change. A change keeps the
     // elements and the places of the extras that are there before and after: those of the same identifier, or
-    // without one of the same role, title and description.
+    // without one of the same role, title and description. An extra with an origin keeps its place by that.
     bool launch(const ApplicationSpec &application);
     bool quit(int pid);
     bool change(int pid, const ApplicationSpec &application);

@@ -17,16 +17,14 @@ namespace {
 constexpr double kSettleDelay = 0.1; // seconds
 constexpr QRectF kNotYet(std::numeric_limits<float>::lowest(), 0, 0, 0); // left of everything
 
-using Entries = std::vector<BarEntryPointer>;
-
-Entries entriesThatAre(bool away, const Entries &all)
+BarEntries entriesThatAre(bool away, const BarEntries &all)
 {
-    Entries entries;
+    BarEntries entries;
     std::ranges::copy_if(all, std::back_inserter(entries), [away](const auto &entry) { return entry->isAway == away; });
     return entries;
 }
 
-std::vector<double> widthsOf(const Entries &entries)
+std::vector<double> widthsOf(const BarEntries &entries)
 {
     std::vector<double> widths;
     std::ranges::transform(entries, std::back_inserter(widths), [](const auto &entry) { return entry->width; });
@@ -35,6 +33,13 @@ std::vector<double> widthsOf(const Entries &entries)
 
 } // namespace
 
+struct MenuBar::Layout {
+    std::vector<std::pair<EntryPointer, QRectF>> frames; // of each item that is laid out, right to left
+    bool isCrowded = false;
+
+    bool operator==(const Layout &) const = default;
+};
+
 struct MenuBar::Private {
     Dispatch &dispatch;
     SharedState &state;
@@ -42,6 +47,7 @@ struct MenuBar::Private {
     BarOrder order = {};
     std::optional<BarGeometry> geometry = {}; // absent without a screen
     Layout latest = {}; // what shows once it has settled
+    bool isCrowded = false; // in what shows
     int settled = 0; // times that everything showed at once: what waited to show then is outdated
     int updates = 0; // nesting of update(): what is due waits for its end
     bool needsLayout = false;
@@ -74,8 +80,9 @@ double MenuBar::applicationMenusEnd() const
 
 double MenuBar::ownItemLength() const
 {
-    const auto widths = m_d->order.widths(BarEntry::Place::own);
-    return widths.empty() ? 0 : widths.front();
+    const auto &entries = m_d->order.laidOut();
+    const auto own = std::ranges::find(entries, BarEntry::Place::own, &BarEntry::place);
+    return own == entries.end() ? 0 : (*own)->width;
 }
 
 std::vector<BarItem> MenuBar::items() const
@@ -103,6 +110,8 @@ void MenuBar::add(const EntryPointer &entry)
         touch();
     else
         relayout();
+    if (entry->kept)
+        Q_EMIT keptOrderChanged();
 }
 
 void MenuBar::remove(const EntryPointer &entry)
@@ -111,6 +120,28 @@ void MenuBar::remove(const EntryPointer &entry)
     entry->element = nullptr; // layouts that are still to show hold the entry
     relayout();
     touch(); // it is gone at once; the others close up when they settle
+    if (entry->kept)
+        Q_EMIT keptOrderChanged();
+}
+
+void MenuBar::rename(const EntryPointer &entry, const KeptItem &who)
+{
+    if (!m_d->order.rename(entry, who))
+        return;
+    relayout();
+    Q_EMIT keptOrderChanged();
+}
+
+const KeptOrder &MenuBar::keptOrder() const
+{
+    return m_d->order.kept();
+}
+
+void MenuBar::restore(KeptOrder order)
+{
+    m_d->order.restore(std::move(order));
+    relayout();
+    Q_EMIT keptOrderChanged();
 }
 
 void MenuBar::widthChanged()
@@ -125,10 +156,8 @@ void MenuBar::lookChanged()
 
 void MenuBar::placeOwn(const EntryPointer &entry, double pointsFromRight)
 {
-    const auto pinned = m_d->order.widths(BarEntry::Place::pinned);
-    const auto movable = m_d->order.widths(BarEntry::Place::movable);
-    if (m_d->order.moveTo(entry, pinned.size() + preferredIndex(pinned, movable, pointsFromRight)))
-        relayout();
+    m_d->order.placeOwn(entry, pointsFromRight);
+    relayout();
 }
 
 void MenuBar::setScreens()
@@ -172,18 +201,25 @@ void MenuBar::settleNow(const std::function<void()> &changes)
     apply(m_d->latest);
 }
 
+double MenuBar::room() const
+{
+    return m_d->geometry ? roomFor(*m_d->geometry) : std::numeric_limits<double>::infinity();
+}
+
 MenuBar::Layout MenuBar::layout() const
 {
     Layout layout;
     if (!m_d->geometry)
         return layout;
-    const auto shown = entriesThatAre(false, m_d->order.laidOut()), away = entriesThatAre(true, m_d->order.laidOut());
-    const auto frames = layOut(widthsOf(shown), *m_d->geometry);
+    const auto shown = m_d->order.shown(room());
+    const auto inBar = entriesThatAre(false, shown), away = entriesThatAre(true, shown);
+    const auto frames = layOut(widthsOf(inBar), *m_d->geometry);
     const auto awayFrames = layOutAway(widthsOf(away), frames, *m_d->geometry);
-    for (std::size_t i = 0; i < shown.size(); ++i)
-        layout.emplace_back(shown[i], frames[i]);
+    for (std::size_t i = 0; i < inBar.size(); ++i)
+        layout.frames.emplace_back(inBar[i], frames[i]);
     for (std::size_t i = 0; i < away.size(); ++i)
-        layout.emplace_back(away[i], awayFrames[i]);
+        layout.frames.emplace_back(away[i], awayFrames[i]);
+    layout.isCrowded = shown != m_d->order.laidOut();
     return layout;
 }
 
@@ -216,13 +252,14 @@ void MenuBar::touch()
 void MenuBar::apply(const Layout &layout)
 {
     m_d->state.write([&](DisplayState &) {
-        for (const auto &[entry, frame] : layout) {
+        for (const auto &[entry, frame] : layout.frames) {
             entry->frame = frame;
             entry->dragOffset = 0;
             if (entry->element)
                 entry->element->frame = frame;
         }
     });
+    m_d->isCrowded = layout.isCrowded;
     Q_EMIT settled();
     Q_EMIT changed();
 }
@@ -259,23 +296,31 @@ bool MenuBar::move(const EntryPointer &entry, double x)
     if (!m_areMovesAccepted)
         return false;
     std::vector<QRectF> others;
-    for (const auto &other : m_d->order.laidOut()) {
+    for (const auto &other : m_d->order.shown(room())) {
         if (other != entry)
             others.push_back(other->frame.value_or(kNotYet));
     }
-    if (!m_d->order.moveTo(entry, dropIndex(others, x)))
+    if (!m_d->order.drop(entry, dropIndex(others, x), room()))
         return false;
     relayout();
+    Q_EMIT keptOrderChanged();
     return true;
 }
 
 double MenuBar::pointsFromRight(const BarEntry &entry) const
 {
-    for (const auto &[laidOut, rect] : m_d->latest) {
+    double kept = 0; // points that items right of it fill
+    for (const auto &[laidOut, rect] : m_d->latest.frames) {
         if (laidOut.get() == &entry)
-            return maxX(frame()) - maxX(rect);
+            return maxX(frame()) - maxX(rect) - kept;
+        kept += laidOut->kept ? laidOut->width : 0;
     }
     return 0;
+}
+
+bool MenuBar::isCrowded() const
+{
+    return m_d->isCrowded;
 }
 
 } // namespace brimshade::desktop

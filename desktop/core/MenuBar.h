@@ -18,8 +18,10 @@ namespace brimshade::desktop {
 
 class MenuHost;
 class SharedState;
+class KeptOrder;
 struct BarEntry;
 struct BarGeometry;
+struct KeptItem;
 
 // One item as the bar shows it now.
 struct BarItem {
@@ -56,9 +58,12 @@ public:
     // The next layout has exactly these items, as rightToLeft says. Nothing happens when nothing differs.
     void add(const EntryPointer &entry);
     void remove(const EntryPointer &entry);
+    void rename(const EntryPointer &entry, const KeptItem &who); // one that comes and goes is another than it seemed
     void widthChanged();
     void lookChanged();
-    void placeOwn(const EntryPointer &entry, double pointsFromRight); // left of what fills that many points
+    void placeOwn(const EntryPointer &entry, double pointsFromRight); // left of the listed items that fill them
+    const KeptOrder &keptOrder() const;
+    void restore(KeptOrder order); // one that was kept before; those that are here already take their places in it
     void setScreens(); // read them anew
     void setShowing(bool showing);
     void setMovesAccepted(bool accepted) { m_areMovesAccepted = accepted; }
@@ -72,15 +77,19 @@ public:
     bool containsRow(QPointF point) const; // in the bar's row, whatever its x
     // A drop at x. False when the order stays: moves are refused, or it is there already.
     bool move(const EntryPointer &entry, double x);
-    double pointsFromRight(const BarEntry &entry) const; // of the layout that shows next
+    // Of the layout that shows next; items that come and go do not count.
+    double pointsFromRight(const BarEntry &entry) const;
+    bool isCrowded() const; // items that belong right of the own one stand left of it, where it shows
 
 Q_SIGNALS:
     void changed(); // once a layout has settled, or an item's look changed
     void settled(); // frames were applied; before changed()
+    void keptOrderChanged(); // or who of it is present
 
 private:
     struct Private;
-    using Layout = std::vector<std::pair<EntryPointer, QRectF>>; // of each item that is laid out
+    struct Layout;
+    double room() const; // points for what is drawn
     Layout layout() const;
     void relayout();
     void touch();

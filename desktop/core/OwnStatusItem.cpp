@@ -155,7 +155,8 @@ void OwnStatusItem::send(NSEventType type)
     action();
 }
 
-// An item that finds no room any more has left its screen, as one that shows on another screen has.
+// An item that finds no room any more has left its screen, as one that shows on another screen has; one that would have
+// left it had others not made way counts, too.
 void OwnStatusItem::barSettled()
 {
     const auto screen = m_window.screen();
@@ -163,7 +164,8 @@ void OwnStatusItem::barSettled()
         return;
     const auto before = std::exchange(m_screen, screen->localizedName);
     const bool wasDrawn = std::exchange(m_isDrawn, m_bar->m_parts.menuBar.isDrawn(*m_entry));
-    if ((before && before != m_screen) || (wasDrawn && !m_isDrawn))
+    const bool wasCrowded = std::exchange(m_isCrowded, m_bar->m_parts.menuBar.isCrowded());
+    if ((before && before != m_screen) || (wasDrawn && !m_isDrawn) || (!wasCrowded && m_isCrowded))
         m_bar->m_parts.notifications.post(kNSWindowDidChangeScreenNotification, static_cast<Window *>(&m_window));
 }
 

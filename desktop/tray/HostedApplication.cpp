@@ -41,17 +41,21 @@ platform::Image applicationIcon(const HostedProgram &program, const std::vector<
     return icon;
 }
 
-ItemSpec specOf(const HostedItem &hosted)
+ItemSpec specOf(const HostedItem &hosted, const QString &program)
 {
-    return {hosted.image, hosted.handler, toolTipOf(hosted.item), hosted.item.status == TrayItem::Status::passive};
+    return {.image = hosted.image,
+            .handler = hosted.handler,
+            .toolTip = toolTipOf(hosted.item),
+            .isAway = hosted.item.status == TrayItem::Status::passive,
+            .origin = ItemOrigin{hosted.key.text(), program, hosted.item.id}};
 }
 
 } // namespace
 
 QString applicationName(const HostedProgram &program, const std::vector<HostedItem> &items)
 {
-    if (program.entry && !program.entry->name.isEmpty())
-        return program.entry->name;
+    if (program.found.entry && !program.found.entry->name.isEmpty())
+        return program.found.entry->name;
     for (const auto &hosted : items) {
         if (!hosted.item.nameForPeople().isEmpty())
             return hosted.item.nameForPeople();
@@ -64,8 +68,8 @@ ApplicationSpec describeApplication(int pid, const HostedProgram &program, const
     ApplicationSpec given;
     given.description.pid = pid;
     given.description.name = applicationName(program, items);
-    if (program.entry)
-        given.description.bundleIdentifier = program.entry->id;
+    if (program.found.entry)
+        given.description.bundleIdentifier = program.found.entry->id;
     given.icon = applicationIcon(program, items);
     auto &extras = given.description.extras.emplace();
     for (const auto &hosted : items) {
@@ -75,7 +79,7 @@ ApplicationSpec describeApplication(int pid, const HostedProgram &program, const
         if (given.items.contains(identifier)) // the same path on another connection of the program
             identifier = hosted.key.text();
         extras.push_back(describeExtra(hosted.item, identifier));
-        given.items.emplace(identifier, specOf(hosted));
+        given.items.emplace(identifier, specOf(hosted, program.found.name));
     }
     return given;
 }

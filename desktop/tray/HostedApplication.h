@@ -1,5 +1,6 @@
 #pragma once
 #include "ItemClient.h"
+#include "Program.h"
 #include "desktop/core/ApplicationSpec.h"
 #include "desktop/services/DesktopEntry.h"
 
@@ -15,7 +16,7 @@ struct HostedItem {
 
 // What is known of a program besides its items.
 struct HostedProgram {
-    std::optional<DesktopEntry> entry;
+    FoundProgram found;
     platform::Image icon; // the entry's; null when there is none
 };
 
@@ -24,7 +25,7 @@ QString applicationName(const HostedProgram &program, const std::vector<HostedIt
 
 // The application that a process with these items, in the order in which they came, is on the desktop. Its icon is the
 // desktop entry's, else that of the first item that has one. An extra is identified by the item's id, or where that is
-// missing or taken by the object path.
+// missing or taken by the object path; its place is kept by the program and the item's id.
 ApplicationSpec describeApplication(int pid, const HostedProgram &program, const std::vector<HostedItem> &items);
 
 } // namespace brimshade::desktop::tray

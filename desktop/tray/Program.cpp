@@ -94,14 +94,16 @@ std::optional<DesktopEntry> findEntry(const Process &process, const std::vector<
 
 ProgramFinder::ProgramFinder(std::function<double()> now) : m_now(std::move(now)) { }
 
-std::optional<DesktopEntry> ProgramFinder::find(int pid)
+FoundProgram ProgramFinder::find(int pid)
 {
     if (!m_readAt || m_now() > *m_readAt + kTrustSeconds) {
         const auto folders = QStandardPaths::standardLocations(QStandardPaths::ApplicationsLocation);
         m_entries = readDesktopEntries(folders, QLocale::system().name());
         m_readAt = m_now();
     }
-    return findEntry(readProcess(pid), m_entries);
+    const auto process = readProcess(pid);
+    const auto entry = findEntry(process, m_entries);
+    return {entry, entry ? entry->id : programNames(process).value(0)};
 }
 
 } // namespace brimshade::desktop::tray

@@ -19,13 +19,19 @@ QStringList programNames(const Process &process);
 // The desktop entry that belongs to a process; nothing when there is none.
 std::optional<DesktopEntry> findEntry(const Process &process, const std::vector<DesktopEntry> &entries);
 
-// Finds entries in the user's and the system's folders, which it reads again when it has not for a while. Reads files:
-// not on the main thread, and on one at a time.
+// What tells a program from others.
+struct FoundProgram {
+    std::optional<DesktopEntry> entry;
+    QString name; // the same whenever it runs: its entry, else the file that it runs; empty when neither is known
+};
+
+// Finds programs by the entries in the user's and the system's folders, which it reads again when it has not for a
+// while. Reads files: not on the main thread, and on one at a time.
 class ProgramFinder {
 public:
     explicit ProgramFinder(std::function<double()> now); // seconds
 
-    std::optional<DesktopEntry> find(int pid); // of the process with that id
+    FoundProgram find(int pid); // of the process with that id
 
 private:
     const std::function<double()> m_now;

@@ -16,11 +16,11 @@ struct TrayHost::Parts {
     std::unique_ptr<TrayPrograms> programs; // while there is a bus
 };
 
-TrayHost::TrayHost(Desktop &desktop, ConnectToBus connect, platform::Dispatch &dispatch)
+TrayHost::TrayHost(Desktop &desktop, ConnectToBus connect, platform::Dispatch &dispatch, ItemPlaces places)
     : m_parts(std::make_unique<Parts>(std::move(connect), dispatch))
 {
-    QObject::connect(&m_parts->bus, &BusLink::connected, this, [this, &desktop](const QDBusConnection &bus) {
-        m_parts->programs = std::make_unique<TrayPrograms>(desktop, bus, m_parts->workshop);
+    QObject::connect(&m_parts->bus, &BusLink::connected, this, [this, &desktop, places](const QDBusConnection &bus) {
+        m_parts->programs = std::make_unique<TrayPrograms>(desktop, bus, m_parts->workshop, places);
         QObject::connect(m_parts->programs.get(), &TrayPrograms::message, this, &TrayHost::message);
     });
     QObject::connect(&m_parts->bus, &BusLink::lost, this, [this, &desktop] {

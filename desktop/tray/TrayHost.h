@@ -1,5 +1,6 @@
 #pragma once
 #include "BusLink.h"
+#include "ItemPlaces.h"
 
 namespace brimshade::desktop {
 
@@ -14,7 +15,7 @@ class Desktop;
 class TrayHost : public QObject {
     Q_OBJECT
 public:
-    TrayHost(Desktop &desktop, tray::ConnectToBus connect, platform::Dispatch &dispatch);
+    TrayHost(Desktop &desktop, tray::ConnectToBus connect, platform::Dispatch &dispatch, tray::ItemPlaces places);
     ~TrayHost() override;
 
 Q_SIGNALS:

@@ -14,8 +14,8 @@ namespace {
 constexpr int kFirstSpareId = 1 << 23;
 } // namespace
 
-TrayPrograms::TrayPrograms(Desktop &desktop, const QDBusConnection &bus, const Workshop &workshop)
-    : m_desktop(desktop), m_bus(bus), m_workshop(workshop), m_registry(bus)
+TrayPrograms::TrayPrograms(Desktop &desktop, const QDBusConnection &bus, const Workshop &workshop, ItemPlaces places)
+    : m_desktop(desktop), m_bus(bus), m_workshop(workshop), m_places(places), m_registry(bus)
 {
     connect(&m_registry, &ItemRegistry::added, this, &TrayPrograms::add);
     connect(&m_registry, &ItemRegistry::removed, this, &TrayPrograms::remove);
@@ -71,8 +71,8 @@ void TrayPrograms::lookUp(int pid)
 {
     const auto find = [pid](Workshop::Tools &tools) {
         HostedProgram known{tools.programs.find(pid), {}};
-        if (known.entry)
-            known.icon = tools.icons.find(known.entry->icon, {});
+        if (known.found.entry)
+            known.icon = tools.icons.find(known.found.entry->icon, {});
         return known;
     };
     m_workshop.run(find, m_lifetime.guard([this, pid](const HostedProgram &known) { lookedUp(pid, known); }));
@@ -112,14 +112,24 @@ void TrayPrograms::update(int pid)
         m_desktop.quit(std::exchange(program.hostedId, 0));
 }
 
+ApplicationSpec TrayPrograms::describe(const Program &program, const std::vector<HostedItem> &items) const
+{
+    ApplicationSpec given = describeApplication(program.hostedId, program.known, items);
+    if (m_places == ItemPlaces::listed) {
+        for (auto &[identifier, item] : given.items)
+            item.origin.reset();
+    }
+    return given;
+}
+
 void TrayPrograms::show(int pid, Program &program, const std::vector<HostedItem> &items)
 {
     if (program.hostedId != 0) {
-        m_desktop.change(program.hostedId, describeApplication(program.hostedId, program.known, items));
+        m_desktop.change(program.hostedId, describe(program, items));
         return;
     }
     program.hostedId = pid;
-    for (int spare = kFirstSpareId; !m_desktop.launch(describeApplication(program.hostedId, program.known, items));)
+    for (int spare = kFirstSpareId; !m_desktop.launch(describe(program, items));)
         program.hostedId = spare++;
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 #include "HostedApplication.h"
+#include "ItemPlaces.h"
 #include "ItemRegistry.h"
 
 #include <map>
@@ -15,7 +16,7 @@ namespace brimshade::desktop::tray {
 class TrayPrograms : public QObject {
     Q_OBJECT
 public:
-    TrayPrograms(Desktop &desktop, const QDBusConnection &bus, const Workshop &workshop);
+    TrayPrograms(Desktop &desktop, const QDBusConnection &bus, const Workshop &workshop, ItemPlaces places);
     ~TrayPrograms() override;
 
 Q_SIGNALS:
@@ -36,6 +37,7 @@ private:
     void lookUp(int pid);
     void lookedUp(int pid, const HostedProgram &known);
     void update(int pid);
+    ApplicationSpec describe(const Program &program, const std::vector<HostedItem> &items) const;
     void show(int pid, Program &program, const std::vector<HostedItem> &items);
     void openMenu(MenuClient *menu, const QRectF &frame);
     void lapsePresses();
@@ -45,6 +47,7 @@ private:
     Desktop &m_desktop;
     QDBusConnection m_bus;
     const Workshop &m_workshop;
+    const ItemPlaces m_places;
     ItemRegistry m_registry;
     std::map<int, Program> m_programs; // by process id
     Lifetime m_lifetime;

@@ -79,6 +79,8 @@ class RealPrograms(unittest.TestCase):
         self.assertEqual(icons, {"Redshift": True, "KeePassXC": True})
         self.brimshade.do("key", code=ESCAPE)
         self.brimshade.until("closed panel", lambda s: not s["panel"]["onScreen"])
+        # Places are not kept here: what appears later stands at the left end.
+        self.assertEqual(self.brimshade.state()["menuBar"][-1]["identifier"], "BrimshadeButton")
 
     def test_2_an_indicator_is_switched_off_and_on_by_its_menu(self):
         self.assertIn("redshift-status-on", self.icon_of("redshift"))

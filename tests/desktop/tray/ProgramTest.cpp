@@ -3,6 +3,7 @@
 #include "support/Test.h"
 
 #include <QCoreApplication>
+#include <QFileInfo>
 
 namespace brimshade::desktop::tray {
 
@@ -44,22 +45,30 @@ TEST(Programs, TheRunningOneIsReadFromTheSystem)
     EXPECT_EQ(process.executable, QCoreApplication::applicationFilePath());
     EXPECT_EQ(process.arguments.value(0), QCoreApplication::arguments().value(0));
     EXPECT_TRUE(readProcess(-1).executable.isEmpty());
+    ProgramFinder finder([] { return 0.; });
+    const auto found = finder.find(static_cast<int>(QCoreApplication::applicationPid()));
+    EXPECT_FALSE(found.entry);
+    EXPECT_EQ(found.name, QFileInfo(process.executable).fileName());
+    EXPECT_EQ(finder.find(-1).name, QString());
 }
 
 TEST(HostedApplications, SeveralItemsAreSeveralExtrasInTheirOrder)
 {
-    const auto given = describeApplication(41, {DesktopEntry{u"app"_s, u"Program"_s, {}, {}, true}, {}},
+    const auto given = describeApplication(41, {{DesktopEntry{u"app"_s, u"Program"_s, {}, {}, true}, u"app"_s}, {}},
                                            {item(u"one"_s, u"One"_s, u"/a"_s), item(u"one"_s, {}, u"/b"_s),
                                             item({}, u"Three"_s, u"/c"_s), item({}, u"Four"_s, u"/c"_s, u":1.2"_s)});
     EXPECT_EQ(given.description.pid, 41);
     EXPECT_EQ(given.description.name, u"Program"_s);
     EXPECT_EQ(given.description.bundleIdentifier, u"app"_s);
-    QStringList identifiers;
+    QStringList identifiers, origins;
     for (const auto &extra : *given.description.extras) {
         identifiers.append(*extra.identifier);
-        EXPECT_TRUE(given.items.at(*extra.identifier).handler);
+        const ItemSpec &spec = given.items.at(*extra.identifier);
+        EXPECT_TRUE(spec.handler);
+        origins.append(QStringList{spec.origin->instance, spec.origin->program, spec.origin->id}.join(u' '));
     }
     EXPECT_EQ(identifiers, (QStringList{u"one"_s, u"/b"_s, u"/c"_s, u":1.2/c"_s}));
+    EXPECT_EQ(origins, (QStringList{u":1.1/a app one"_s, u":1.1/b app one"_s, u":1.1/c app "_s, u":1.2/c app "_s}));
     EXPECT_EQ(given.description.extras->at(0).title, u"One"_s);
     EXPECT_EQ(given.description.extras->at(1).title, std::nullopt);
 }

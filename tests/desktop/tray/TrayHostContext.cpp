@@ -8,7 +8,7 @@ namespace brimshade::desktop::tray {
 TrayHostContext::TrayHostContext(const DesktopDescription &description)
     : m_desktop({m_dispatch, m_symbols, nullptr, nullptr}, description),
       m_host(
-          m_desktop, [this](const QString &) { return m_bus.connection(u"own"_s); }, m_dispatch)
+          m_desktop, [this](const QString &) { return m_bus.connection(u"own"_s); }, m_dispatch, ItemPlaces::kept)
 {
     waitForWatcher();
 }

@@ -1,0 +1,36 @@
+#pragma once
+#include <QString>
+#include <memory>
+#include <optional>
+
+namespace brimshade::platform {
+class Dispatch;
+}
+
+namespace brimshade::desktop {
+class Desktop;
+class KeptOrderFile;
+class TrayHost;
+namespace tray {
+enum class ItemPlaces;
+}
+} // namespace brimshade::desktop
+
+namespace brimshade::composition {
+
+// The session's tray in a desktop's bar. What it has to say goes to standard error. Main thread; the desktop and the
+// dispatch outlive it.
+class HostedTray {
+public:
+    // stateFile keeps the order of items whose places are kept; without one it begins anew.
+    HostedTray(desktop::Desktop &desktop, platform::Dispatch &dispatch, desktop::tray::ItemPlaces places,
+               const std::optional<QString> &stateFile);
+    ~HostedTray();
+    Q_DISABLE_COPY_MOVE(HostedTray)
+
+private:
+    std::unique_ptr<desktop::KeptOrderFile> m_order;
+    std::unique_ptr<desktop::TrayHost> m_host;
+};
+
+} // namespace brimshade::composition
