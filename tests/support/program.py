@@ -62,7 +62,8 @@ class Session:
         }
         self._processes = []
         self.environment["DISPLAY"] = ":" + self._first_line_of(
-            "Xvfb", "-displayfd", "1", "-screen", "0", "1440x900x24", "-nolisten", "tcp")
+            "Xvfb", "-displayfd", "1", "-screen", "0", "1440x900x24", "-nolisten", "tcp",
+            "-noreset")  # else it is away for a moment whenever its last client ends
         self.environment["DBUS_SESSION_BUS_ADDRESS"] = self._first_line_of(
             "dbus-daemon", "--session", "--nofork", "--print-address=1")
 

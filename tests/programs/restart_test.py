@@ -1,0 +1,151 @@
+"""What was tucked away is tucked away again, whoever was restarted. Usage: restart_test.py PROGRAM [ARGUMENT…]: how the
+program is started when not by a script on a desktop of its own, say with --session --script - --real-time."""
+import itertools
+import json
+import pathlib
+import signal
+import subprocess
+import sys
+import unittest
+
+SUPPORT = pathlib.Path(__file__).resolve().parent.parent / "support"
+sys.path.insert(0, str(SUPPORT))
+from program import Program, Session  # noqa: E402
+
+COMMAND = sys.argv[1:]
+del sys.argv[1:]
+ESCAPE = 53
+ROUNDS = 10
+AT_REST = 1.6  # seconds: the divider measures anew one after the last item came, which takes 0.3, and settles in 0.1
+DESKTOP = {
+    "screens": [{"name": "Built-in Display", "frame": [0, 0, 1512, 982], "menuBarHeight": 37, "notch": [663, 849]}],
+    "applications": [{"pid": 401, "bundleIdentifier": "com.apple.MenuBarAgent",
+                      "extras": [{"identifier": "com.example.menuextra.clock", "width": 132}]}],
+}
+NAMES = ["Relay", "Vault", "Quill"]
+OWN = "BrimshadeButton"
+
+
+class Restarts(unittest.TestCase):
+    def setUp(self):
+        self.session = Session()
+        self.addCleanup(self.session.close)
+        self.session.write("desktop.json", json.dumps(DESKTOP))
+        self.session.write("settings.json", json.dumps({"onboardingDone": True}))
+        self.programs = {}
+
+    def start_brimshade(self):
+        command = COMMAND if len(COMMAND) > 1 else [
+            *COMMAND, "--script", "-", "--real-time", "--tray", "--desktop", self.session.home / "desktop.json"]
+        self.process = self.session.start(
+            *command, "--defaults", self.session.home / "settings.json", "--state", self.session.home / "bar.json",
+            stdin=subprocess.PIPE, stdout=subprocess.PIPE, text=True)
+        self.brimshade = Program(self.process)
+
+    def end_brimshade(self, killed):
+        if killed:
+            self.process.send_signal(signal.SIGKILL)
+        status = self.brimshade.end()
+        self.assertEqual(status, -signal.SIGKILL if killed else 0)
+
+    def start(self, names):
+        for name in names:
+            self.programs[name] = self.session.start("/usr/bin/python3", SUPPORT / "tray_item.py", name)
+
+    def end(self, names):
+        for name in names:
+            program = self.programs.pop(name)
+            program.terminate()
+            program.wait(timeout=30)
+
+    @staticmethod
+    def items(state):
+        """The programs' items and the own one, left to right."""
+        known = [name.lower() for name in [*NAMES, "Pigment"]]
+        return [item for item in state["menuBar"] if item["identifier"] in [*known, OWN]]
+
+    def order(self, state):
+        return [item["identifier"] for item in self.items(state)]
+
+    def until_order(self, order, when=""):
+        self.came = self.brimshade.until(f"{when}the order {order}", lambda s: self.order(s) == order and s)["time"]
+
+    def open_panel(self, names, hidden, when=""):
+        """Once the bar is at rest: a scan takes what it finds."""
+        drawn = {OWN: True} | {name.lower(): name not in hidden for name in names}
+        self.brimshade.until(f"{when}{drawn} in the bar", lambda s: s["time"] >= self.came + AT_REST
+                             and s["divider"]["isExpanded"]
+                             and drawn == {item["identifier"]: item["drawn"] for item in self.items(s)})
+        self.brimshade.do("click", at=self.brimshade.status_item())
+        self.brimshade.until("all tiles", lambda s: s["panel"]["isKey"] and len(self.hidden(s)) == len(names))
+
+    def close_panel(self):
+        self.brimshade.do("key", code=ESCAPE)
+        self.brimshade.until("closed panel", lambda s: not s["panel"]["onScreen"])
+
+    @staticmethod
+    def hidden(state):
+        return {e["name"]: e["isHidden"] for e in state["model"]["extras"] if e["name"] in [*NAMES, "Pigment"]}
+
+    def tuck_away(self, name):
+        self.open_panel(NAMES, hidden=[])
+        x, y, width, height = self.brimshade.until(
+            f"tile of {name}", lambda s: next((e["frame"] for e in self.brimshade.do("find", text=name)["elements"]
+                                               if e["window"] == "panel" and e["role"] == "Button"), None))
+        self.brimshade.do("menu", at=[x + width / 2, y + height / 2])
+        self.brimshade.do("choose", title="Hide from Menu Bar")
+        self.brimshade.until(f"{name} tucked away", lambda s: not s["model"]["movingID"] and self.hidden(s)[name])
+
+    def expect_only_vault_hidden(self, names, when=""):
+        self.open_panel(names, ["Vault"], when)
+        self.brimshade.until(f"{when}vault alone hidden",
+                             lambda s: self.hidden(s) == {name: name == "Vault" for name in names})
+        self.close_panel()
+
+    def restart(self, number, names):
+        killed = number % 2 == 1
+        kind = number % 5
+        if kind == 0:  # Brimshade alone
+            self.end_brimshade(killed)
+            self.start_brimshade()
+        elif kind == 1:  # the programs alone
+            self.end(names)
+            self.start(names)
+        elif kind == 2:  # both, the programs first
+            self.end(names)
+            self.end_brimshade(killed)
+            self.start(names)
+            self.start_brimshade()
+        elif kind == 3:  # both, Brimshade first
+            self.end_brimshade(killed)
+            self.end(names)
+            self.start_brimshade()
+            self.start(names)
+        else:  # Brimshade between the programs
+            self.end_brimshade(killed)
+            self.end(names)
+            self.start(names[:1])
+            self.start_brimshade()
+            self.start(names[1:])
+
+    def test_the_same_item_is_hidden_after_every_restart(self):
+        self.start_brimshade()
+        self.start(NAMES)
+        self.came = self.brimshade.until("three items", lambda s: len(self.order(s)) == 4 and s)["time"]
+        self.tuck_away("Vault")
+        order = self.order(self.brimshade.state())
+        self.assertEqual(order[:2], ["vault", OWN])
+        self.expect_only_vault_hidden(NAMES)
+        permutations = itertools.cycle(itertools.permutations(NAMES))
+        for number in range(ROUNDS):
+            self.restart(number, next(permutations))
+            self.until_order(order, f"restart {number}: ")
+            self.expect_only_vault_hidden(NAMES, f"restart {number}: ")
+        self.start(["Pigment"])
+        self.until_order([*order[:2], "pigment", *order[2:]])
+        self.expect_only_vault_hidden([*NAMES, "Pigment"])
+        self.end_brimshade(False)
+
+
+if __name__ == "__main__":
+    unittest.main(verbosity=2)
