@@ -67,6 +67,7 @@ public:
 private:
     desktop::session::ScreenChoice screenChoice(const LiveSessionOptions &options) const;
     static desktop::DesktopDescription described(const SessionScreens &screens);
+    QJsonObject state();
     void refuseInvented();
     void grabKeys();
     void watchOverKeys();
@@ -100,7 +101,7 @@ LiveSession::Parts::Parts(LiveSessionOptions options, std::unique_ptr<ShellBacke
       host(desktop, screens, *shell),
       watchdog({.askMain = [this](const platform::Work &work) { dispatch.mainAsync(work); }}),
       delegate(std::make_shared<app::AppDelegate>(desktop.platform())), clock(dispatch, host),
-      script(desktop, host, clock, [this] { return stateReport(*delegate); })
+      script(desktop, host, clock, [this] { return state(); })
 {
     desktop::session::launchClock(desktop);
     if (options.hostsTray)
@@ -111,6 +112,14 @@ LiveSession::Parts::Parts(LiveSessionOptions options, std::unique_ptr<ShellBacke
     watchOverKeys();
     desktop.platform().application.setActivationPolicyAccessory();
     delegate->applicationDidFinishLaunching();
+}
+
+QJsonObject LiveSession::Parts::state()
+{
+    QJsonObject state = stateReport(*delegate);
+    const QString window = host.windowWithKeys();
+    state.insert(u"keys"_s, window.isEmpty() ? QJsonValue() : window);
+    return state;
 }
 
 // What a script can do to an invented desktop only.

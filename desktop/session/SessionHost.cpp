@@ -125,6 +125,13 @@ bool SessionHost::takesKeyboard() const
         || std::ranges::any_of(m_windows, [](const auto &each) { return each.second->takesKeyboard(); });
 }
 
+QString SessionHost::windowWithKeys() const
+{
+    const auto all = panes();
+    const auto found = std::ranges::find_if(all, [](Pane *pane) { return pane->window().isActive(); });
+    return found == all.end() ? QString() : (*found)->name();
+}
+
 void SessionHost::pressedOutside()
 {
     InputRouter &router = m_desktop.input();

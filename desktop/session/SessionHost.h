@@ -33,6 +33,7 @@ public:
     ~SessionHost() override;
 
     bool takesKeyboard() const; // all keys of the session come to this program: panel or menu are open
+    QString windowWithKeys() const; // the session's keys come to it by now; empty while another program has them
 
     void settle() override;
     std::vector<View> views() const override;

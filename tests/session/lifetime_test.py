@@ -36,7 +36,7 @@ class Lifetime:
 
     def open_panel(self):
         self.request("--toggle")
-        self.brimshade.until("the open panel", lambda s: s["model"]["isOpen"] and s["panel"]["isKey"])
+        self.brimshade.until("the open panel", lambda s: s["model"]["isOpen"] and s["keys"] == "panel")
 
     def tell(self, **command):
         """And no answer is waited for."""

@@ -65,7 +65,7 @@ class Living:
 
     def open_panel(self):
         self.assertEqual(self.request("--toggle").returncode, 0)
-        self.brimshade.until("the open panel", lambda s: s["model"]["isOpen"] and s["panel"]["isKey"])
+        self.brimshade.until("the open panel", lambda s: s["model"]["isOpen"] and s["keys"] == "panel")
 
     def search(self, text):
         self.hands.type(text)
@@ -76,7 +76,7 @@ class Living:
         self.open_panel()
         self.search(text)
         self.hands.key("Return")
-        return self.brimshade.until(f"the menu of {text}", lambda s: s["menu"])
+        return self.brimshade.until(f"the menu of {text}", lambda s: s["keys"] == "menu" and s["menu"])
 
     def assert_terminal_has_keys(self, text):
         self.hands.type(text + "\n")

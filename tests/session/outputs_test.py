@@ -17,9 +17,11 @@ BLACK = (0, 0, 0)
 
 
 class Outputs(unittest.TestCase):
-    def live_on(self, session, *arguments):
+    def live_on(self, session, *arguments, hands=()):
+        """With such hands on the seat, or both."""
         self.session = session
         self.addCleanup(session.close)
+        self.hands = session.hands(*hands)
         session.start_bus()
         self.brimshade = Brimshade(session, PROGRAM, *arguments)
         self.brimshade.until("the bar", lambda s: s["statusItem"])
@@ -34,7 +36,7 @@ class Outputs(unittest.TestCase):
 
     def open_panel(self):
         self.toggle()
-        return self.brimshade.until("the open panel", lambda s: s["model"]["isOpen"] and s["panel"]["isKey"] and s["panel"])
+        return self.brimshade.until("the open panel", lambda s: s["model"]["isOpen"] and s["keys"] == "panel" and s["panel"])
 
     def close_panel(self):
         self.toggle()
@@ -87,7 +89,6 @@ class Outputs(unittest.TestCase):
         outer = Sway()
         self.addCleanup(outer.close)
         self.live_on(Sway(inside=outer))
-        hands = self.session.hands()
         self.session.command("create_output")
         self.brimshade.until("two screens", lambda s: len(s["screens"]) == 2)
         for gone, left in (("WL-1", 1), ("WL-2", 0)):
@@ -99,20 +100,19 @@ class Outputs(unittest.TestCase):
         self.session.command("create_output")
         self.until_reserved("WL-3", BAR_HEIGHT)
         self.open_panel()
-        hands.key("Escape")
+        self.hands.key("Escape")
         self.brimshade.until("the closed panel", lambda s: not s["shown"])
 
     def test_a_seat_may_be_without_a_pointer(self):
-        self.live_on(Sway())
-        self.keyboard = self.session.hands("keyboard")
+        self.live_on(Sway(), hands=["keyboard"])
         self.session.start("redshift-gtk", "-l", "50:10", "-m", "dummy")
         self.brimshade.until("the item", lambda s: any(item["identifier"] == "redshift" for item in s["menuBar"]))
         self.open_panel()
-        self.keyboard.type("redsh")
+        self.hands.type("redsh")
         self.brimshade.until("a selected match", lambda s: s["model"]["query"] == "redsh" and s["model"]["selectedID"])
-        self.keyboard.key("Return")
-        self.brimshade.until("its menu", lambda s: s["menu"])
-        self.keyboard.key("Escape")
+        self.hands.key("Return")
+        self.brimshade.until("its menu", lambda s: s["menu"] and s["keys"] == "menu")
+        self.hands.key("Escape")
         self.brimshade.until("no menu", lambda s: not s["menu"])
 
 
