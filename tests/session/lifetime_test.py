@@ -26,8 +26,8 @@ class Lifetime:
         self.session.start_bus()
         self.brimshade = Brimshade(self.session, PROGRAM, settings={"onboardingDone": True, "foreign": ["kept"] * 1000})
         self.brimshade.until("the bar", lambda state: state["statusItem"])
+        self.hands = self.session.hands()  # before the terminal, which has to learn of a new keyboard
         self.terminal = self.session.terminal()
-        self.hands = self.session.hands()
 
     def request(self, word):
         done = subprocess.run([PROGRAM, word], env=self.session.environment, capture_output=True, text=True,

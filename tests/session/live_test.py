@@ -34,8 +34,8 @@ class Living:
         cls.redshift = cls.session.start("redshift-gtk", "-l", "50:10", "-m", "dummy")
         cls.keepassxc = cls.session.start("keepassxc")
         cls.brimshade.until("both items", lambda state: {"redshift", "KeePassXC"} <= bar_items(state))
+        cls.hands = cls.session.hands()  # before the terminal, which has to learn of a new keyboard
         cls.terminal = cls.session.terminal()
-        cls.hands = cls.session.hands()
 
     def setUp(self):
         self.click_terminal()
