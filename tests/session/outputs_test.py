@@ -29,6 +29,10 @@ class Outputs(unittest.TestCase):
     def until_size(self, *size):
         self.brimshade.until(f"a bar on {size}", lambda s: s["screens"][0]["frame"][2:] == list(size) and s["statusItem"])
 
+    def until_widths(self, *widths):
+        self.brimshade.until(f"screens as wide as {widths}",
+                             lambda s: [screen["frame"][2] for screen in s["screens"]] == list(widths))
+
     def toggle(self):
         done = subprocess.run([PROGRAM, "--toggle"], env=self.session.environment, capture_output=True, text=True,
                               timeout=PATIENCE)
@@ -90,15 +94,17 @@ class Outputs(unittest.TestCase):
         self.addCleanup(outer.close)
         self.live_on(Sway(inside=outer))
         self.session.command("create_output")
-        self.brimshade.until("two screens", lambda s: len(s["screens"]) == 2)
-        for gone, left in (("WL-1", 1), ("WL-2", 0)):
+        self.until_widths(756, 756)  # the other one's windows, side by side
+        for gone, left in (("WL-1", [1512]), ("WL-2", [])):
             self.open_panel()
             self.session.unplug(gone)
-            self.brimshade.until(f"{left} screens", lambda s, left=left: len(s["screens"]) == left and not s["shown"])
+            self.until_widths(*left)
+            self.brimshade.until("the closed panel", lambda s: not s["shown"])
             if left:
                 self.until_reserved("WL-2", BAR_HEIGHT)
         self.session.command("create_output")
         self.until_reserved("WL-3", BAR_HEIGHT)
+        self.until_widths(1512)
         self.open_panel()
         self.hands.key("Escape")
         self.brimshade.until("the closed panel", lambda s: not s["shown"])

@@ -117,7 +117,13 @@ class X11(Session):
         return X11Hands(self)
 
     def picture(self):
-        return from_xwd(self.output_of("xwd", "-root", "-silent"))
+        """xwd stumbles over a window that goes while it looks: then it looks again."""
+        deadline = Deadline("a picture of the screen")
+        while True:
+            try:
+                return from_xwd(self.output_of("xwd", "-root", "-silent"))
+            except subprocess.CalledProcessError:
+                deadline.check()
 
     def kill_display(self):
         self.server.kill()
