@@ -16,6 +16,7 @@ class PanelMetrics : public QObject {
     Q_PROPERTY(double sentenceHeight MEMBER sentenceHeight CONSTANT)
     Q_PROPERTY(double waitingHeight MEMBER waitingHeight CONSTANT)
     Q_PROPERTY(double footerHeight MEMBER footerHeight CONSTANT)
+    Q_PROPERTY(double bottomMargin MEMBER bottomMargin CONSTANT)
     Q_PROPERTY(double sidePadding MEMBER sidePadding CONSTANT)
     Q_PROPERTY(double notchClearance MEMBER notchClearance CONSTANT)
     Q_PROPERTY(double openFlare MEMBER openFlare CONSTANT)

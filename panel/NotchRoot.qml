@@ -59,20 +59,26 @@ Item {
         animated: root.presented
     }
 
+    // Of what the tab has room for when the glides have ended; items that come into an empty panel find it so at once.
+    Glide {
+        id: contentWidth
+        target: geometry.openSize.width - 2 * (PanelMetrics.openFlare + PanelMetrics.sidePadding)
+        animated: root.presented && panelState.body === PanelState.Tiles
+    }
+
     MouseArea {
         objectName: "panelBackground"
         anchors.fill: parent
         onClicked: panelState.dismiss()
     }
-    Shadow {
+    NotchShadow {
         objectName: "panelShadow"
-        x: tab.x + PanelMetrics.openFlare
+        x: tab.x
         y: 14
-        width: tab.width - 2 * PanelMetrics.openFlare
+        width: tab.width
         height: tab.height
         visible: opacity > 0
         opacity: openness.clamped
-        radius: PanelMetrics.openCorner
         blur: 28
         color: Qt.rgba(0, 0, 0, 0.55)
     }
@@ -84,9 +90,9 @@ Item {
         openness: openness.value
     }
     Item {
+        id: interior
         objectName: "interior"
         x: tab.interior.x
-        y: tab.interior.y
         width: tab.interior.width
         height: tab.interior.height
         clip: true
@@ -96,7 +102,7 @@ Item {
             id: content
             objectName: "content"
             x: (root.width - width) / 2 - parent.x
-            width: openWidth.value - 2 * (PanelMetrics.openFlare + PanelMetrics.sidePadding)
+            width: contentWidth.value
 
             PanelHeader {
                 objectName: "header"
@@ -107,6 +113,7 @@ Item {
                 helpTip: helpTip
             }
             PanelBody {
+                id: body
                 objectName: "body"
                 y: root.model.notch.height
                 width: parent.width
@@ -116,8 +123,42 @@ Item {
                 panelState: panelState
                 geometry: geometry
                 presented: root.presented
-                openness: openness.value
             }
+        }
+        // What is laid out for the open panel goes on beyond a smaller one.
+        EdgeFade {
+            y: -PanelMetrics.sidePadding // the upper edge is the screen's
+            width: parent.width
+            height: parent.height - y
+            depth: 14
+            radius: 8 // and the depth: no more than the padding
+        }
+    }
+    Scroller {
+        objectName: "scroller"
+        x: interior.x + content.x + content.width + (PanelMetrics.sidePadding - width) / 2
+        y: root.model.notch.height
+        height: geometry.viewportHeight
+        visible: root.presented && body.overflows
+        opacity: footer.opacity
+        contentHeight: geometry.contentHeight
+        position: body.scrollPosition
+    }
+    PanelFooter {
+        id: footer
+        x: (root.width - width) / 2
+        y: root.model.notch.height + footerY.value
+        width: contentWidth.value
+        visible: root.presented && panelState.body === PanelState.Tiles
+        // It is never cut: before the tab has room for it nothing of it is seen.
+        opacity: openness.clamped * Math.max(0, Math.min(1, (tab.height - y - height + 2) / (PanelMetrics.bottomMargin + 2)))
+        panelState: panelState
+        animated: root.open
+
+        Glide {
+            id: footerY
+            target: geometry.footerY
+            animated: root.presented && footer.visible
         }
     }
     HelpTip {

@@ -15,7 +15,6 @@ using Metrics = model::PanelMetrics;
 
 constexpr NotchShape kClosedShape{Metrics::closedFlare, Metrics::closedCorner};
 constexpr NotchShape kOpenShape{Metrics::openFlare, Metrics::openCorner};
-constexpr double kContentInset = Metrics::openFlare + Metrics::sidePadding; // of the content from the open tab's frame
 constexpr double kHalfPixel = 0.5; // points: how far the shape on whole pixels may be from the exact one
 
 // How far above the lower edge a lower corner of that radius begins, at a distance from the body's side.
@@ -57,15 +56,13 @@ void NotchTab::place()
     Q_EMIT interiorChanged();
 }
 
-// The body between its straight sides. Content that is laid out for a wider tab would stick out of its lower corners:
-// it loses a little at the sides, which are long, and more below, where little is to be seen while the tab grows.
+// It loses a little at the sides, which are long, and more below, where the panel has its footer.
 QRectF NotchTab::interior() const
 {
     const double radius = m_shape.effectiveBottom(size());
-    const double content = width() / 2 - m_shape.top - (m_openSize.width() / 2 - kContentInset); // from the side
-    const double nearest = std::max(content, radius / 8 + kHalfPixel);
-    const double inset = m_shape.top + (nearest > content ? nearest : 0);
-    const double below = std::max(Metrics::bottomMargin, cornerHeight(radius + kHalfPixel, nearest - kHalfPixel));
+    const double side = radius / 8 + kHalfPixel;
+    const double inset = m_shape.top + side;
+    const double below = cornerHeight(radius + kHalfPixel, side - kHalfPixel);
     return {x() + inset, 0, std::max(0.0, width() - 2 * inset), std::max(0.0, height() - below)};
 }
 

@@ -15,8 +15,7 @@ class NotchTab : public QQuickItem {
     Q_PROPERTY(QSizeF closedSize MEMBER m_closedSize NOTIFY sizesChanged)
     Q_PROPERTY(QSizeF openSize MEMBER m_openSize NOTIFY sizesChanged)
     Q_PROPERTY(double openness MEMBER m_openness NOTIFY sizesChanged) // 0 closed, 1 open; springs overshoot
-    // The part of the parent that shows content: clipping to this rectangle keeps inside the outline whatever is laid
-    // out at the open size, 22 points from the body's sides and 4 above its lower edge.
+    // The part of the parent that shows content: a rectangle inside the outline, lower corners included.
     Q_PROPERTY(QRectF interior READ interior NOTIFY interiorChanged)
 
 public:

@@ -68,20 +68,13 @@ QImage paintedPiece(const QRectF &piece, const QPainterPath &path, const QPen &p
 
 } // namespace
 
-NotchTabNode::NotchTabNode(QQuickWindow &window) : m_window(window)
-{
-    for (QSGRectangleNode *&rectangle : m_rectangles) {
-        rectangle = window.createRectangleNode();
-        rectangle->setColor(Qt::black);
-        appendChildNode(rectangle);
-    }
-}
+NotchTabNode::NotchTabNode(QQuickWindow &window) : m_window(window) { }
 
 void NotchTabNode::show(const NotchShape &shape, QSizeF size, double outlineOpacity, double scale)
 {
     const auto inner = innerPieces(shape, size);
     for (std::size_t i = 0; i < kRectangles; ++i)
-        m_rectangles[i]->setRect(inner[i].isValid() ? inner[i] : QRectF());
+        showRectangle(i, inner[i]);
     const QPainterPath path = shape.path(QRectF(QPointF(), size));
     const QPen pen = outlinePen(size, outlineOpacity);
     const auto pieces = outlinePieces(shape, size);
@@ -89,11 +82,28 @@ void NotchTabNode::show(const NotchShape &shape, QSizeF size, double outlineOpac
         showPicture(i, pieces[i], pieces[i].isValid() ? paintedPiece(pieces[i], path, pen, scale) : QImage());
 }
 
+// What is not to be seen leaves the tree: where a node merely became empty the software renderer draws nothing anew.
+void NotchTabNode::showRectangle(std::size_t index, const QRectF &rect)
+{
+    QSGRectangleNode *&node = m_rectangles[index];
+    if (!rect.isValid()) {
+        delete node;
+        node = nullptr;
+        return;
+    }
+    if (!node) {
+        node = m_window.createRectangleNode();
+        node->setColor(Qt::black);
+        appendChildNode(node);
+    }
+    node->setRect(rect);
+}
+
 void NotchTabNode::showPicture(std::size_t index, const QRectF &rect, const QImage &picture)
 {
     QSGImageNode *&node = m_pictures[index];
     if (picture.isNull()) {
-        delete node; // it leaves the tree by itself
+        delete node;
         node = nullptr;
         return;
     }

@@ -24,6 +24,7 @@ private:
     static constexpr std::size_t kPictures = 7;
     static constexpr std::size_t kRectangles = 2;
 
+    void showRectangle(std::size_t index, const QRectF &rect);
     void showPicture(std::size_t index, const QRectF &rect, const QImage &picture);
 
     QQuickWindow &m_window;

@@ -4,7 +4,7 @@ import Brimshade.Model
 import Brimshade.Panel
 import Brimshade.Ui
 
-// Under the header: the permission card, a spinner, a sentence, or the sections and the footer.
+// Under the header: the permission card, a spinner, a sentence, or the sections.
 Item {
     id: root
 
@@ -14,7 +14,8 @@ Item {
     required property PanelState panelState
     required property PanelGeometry geometry
     required property bool presented
-    required property real openness
+    readonly property bool overflows: sections.visible && sections.overflows
+    readonly property real scrollPosition: sections.scrollPosition
 
     PermissionCard {
         objectName: "permissionCard"
@@ -43,6 +44,7 @@ Item {
         verticalAlignment: Text.AlignVCenter
     }
     Sections {
+        id: sections
         objectName: "sections"
         visible: root.panelState.body === PanelState.Tiles
         width: parent.width
@@ -51,19 +53,5 @@ Item {
         panelState: root.panelState
         geometry: root.geometry
         presented: root.presented
-    }
-    PanelFooter {
-        visible: root.panelState.body === PanelState.Tiles
-        y: footerY.value
-        width: parent.width
-        opacity: Math.max(0, Math.min(1, root.openness))
-        panelState: root.panelState
-        animated: root.model.isOpen
-
-        Glide {
-            id: footerY
-            target: root.geometry.footerY
-            animated: root.presented
-        }
     }
 }

@@ -46,6 +46,11 @@ QSizeF PanelGeometry::openSize() const
     return m_source ? m_source->panelSize().boundedTo(QSizeF(m_source->panelSize().width(), m_limit)) : QSizeF();
 }
 
+double PanelGeometry::gridLeft() const
+{
+    return Metrics::openFlare + Metrics::sidePadding - openSize().width() / 2;
+}
+
 double PanelGeometry::hiddenSectionY() const
 {
     return Metrics::topPadding;

@@ -17,6 +17,7 @@ class PanelGeometry : public QObject {
     Q_PROPERTY(double limit MEMBER m_limit NOTIFY changed) // of the tab's height
     Q_PROPERTY(QSizeF closedSize READ closedSize NOTIFY changed)
     Q_PROPERTY(QSizeF openSize READ openSize NOTIFY changed)
+    Q_PROPERTY(double gridLeft READ gridLeft NOTIFY changed) // of the first column, from the middle of the panel
     Q_PROPERTY(double hiddenSectionY READ hiddenSectionY CONSTANT)
     Q_PROPERTY(double visibleSectionY READ visibleSectionY NOTIFY changed)
     Q_PROPERTY(double contentHeight READ contentHeight NOTIFY changed) // of the sections, or of the sentence instead
@@ -31,6 +32,7 @@ public:
 
     QSizeF closedSize() const;
     QSizeF openSize() const;
+    double gridLeft() const;
     double hiddenSectionY() const;
     double visibleSectionY() const;
     double contentHeight() const;

@@ -15,6 +15,14 @@ Item {
     required property bool presented
 
     readonly property bool overflows: root.geometry.contentHeight > root.geometry.viewportHeight
+    readonly property real scrollPosition: scroll.value
+
+    component EdgeShade: RoundedShape {
+        visible: root.overflows
+        width: root.width
+        height: Theme.fadeHeight
+        gradient: RoundedShape.Vertical
+    }
 
     function scrollTo(position: real) {
         scroll.target = root.geometry.clampedScroll(position);
@@ -55,37 +63,35 @@ Item {
 
         TileSection {
             objectName: "hiddenSection"
-            y: root.geometry.hiddenSectionY
-            visible: root.model.hiddenMatchCount > 0
+            width: parent.width
             title: qsTr("Behind the notch")
             section: TilesModel.BehindTheNotch
             startIndex: 0
+            count: root.model.hiddenMatchCount
             model: root.model
             actions: root.actions
             panelState: root.panelState
             presented: root.presented
-            viewTop: scroll.value - y
-            viewBottom: viewTop + root.geometry.viewportHeight
+            gridLeft: root.geometry.gridLeft
+            sectionTop: root.geometry.hiddenSectionY
+            viewTop: scroll.value
+            viewBottom: scroll.value + root.geometry.viewportHeight
         }
         TileSection {
             objectName: "visibleSection"
-            y: place.value
-            visible: root.model.visibleMatchCount > 0
+            width: parent.width
             title: qsTr("In the menu bar")
             section: TilesModel.InTheMenuBar
             startIndex: root.model.hiddenMatchCount
+            count: root.model.visibleMatchCount
             model: root.model
             actions: root.actions
             panelState: root.panelState
             presented: root.presented
-            viewTop: scroll.value - root.geometry.visibleSectionY
-            viewBottom: viewTop + root.geometry.viewportHeight
-
-            Glide {
-                id: place
-                target: root.geometry.visibleSectionY
-                animated: root.presented
-            }
+            gridLeft: root.geometry.gridLeft
+            sectionTop: root.geometry.visibleSectionY
+            viewTop: scroll.value
+            viewBottom: scroll.value + root.geometry.viewportHeight
         }
         NoMatches {
             objectName: "noMatches"
@@ -96,25 +102,17 @@ Item {
             panelState: root.panelState
         }
     }
-    RoundedShape {
+    EdgeShade {
+        objectName: "upperFade"
+        opacity: Theme.fadeOpacity(scroll.value)
+        color: "black"
+        endColor: Qt.rgba(0, 0, 0, 0)
+    }
+    EdgeShade {
         objectName: "fade" // more below
-        visible: root.overflows
         opacity: Theme.fadeOpacity(root.geometry.contentHeight - root.geometry.viewportHeight - scroll.value)
         y: root.height - height
-        width: parent.width
-        height: Theme.fadeHeight
-        gradient: RoundedShape.Vertical
         color: Qt.rgba(0, 0, 0, 0)
         endColor: "black"
-    }
-    RoundedShape {
-        objectName: "scroller"
-        visible: root.overflows
-        anchors.right: parent.right // in the free space beside the last column's faces
-        y: scroll.value / (root.geometry.contentHeight - root.geometry.viewportHeight) * (root.height - height)
-        width: 3
-        height: Math.max(28, Math.round(root.height * root.height / root.geometry.contentHeight))
-        radius: 1.5
-        color: Qt.rgba(1, 1, 1, 0.22)
     }
 }

@@ -13,6 +13,8 @@ Item {
     required property bool highlighted
     required property int index // across both sections, in reading order
     required property bool isNew
+    required property bool isFirst
+    required property bool isLeaving
     required property string extraID
     required property string name
     required property string detail
@@ -21,9 +23,13 @@ Item {
     required property color tint
     required property bool isHidden
 
+    signal gone // it was leaving and has faded
+
+    enabled: !root.isLeaving
+    z: root.isLeaving ? -1 : 0
     width: PanelMetrics.tileWidth
     height: PanelMetrics.tileHeight
-    opacity: entrance.clamped * arrival.value
+    opacity: entrance.clamped * arrival.value * departure.value
     transform: [
         Scale {
             origin.x: root.width / 2
@@ -36,11 +42,18 @@ Item {
     Accessible.role: Accessible.Button
     Accessible.name: root.name
     Accessible.description: root.detail
+    Accessible.ignored: root.isLeaving
     Accessible.onPressAction: root.actions.open(root.extraID)
 
+    // The first items come in as at every opening.
     Component.onCompleted: {
         if (root.isNew && root.open)
-            arrival.run(0, 1);
+            (root.isFirst ? entrance : arrival).run(0, 1);
+    }
+
+    function leave() {
+        if (root.isLeaving && !departure.running)
+            root.gone();
     }
 
     SpringValue {
@@ -59,11 +72,17 @@ Item {
         response: 0.4
         damping: 1
     }
+    Fade {
+        id: departure
+        target: root.isLeaving ? 0 : 1
+        onRunningChanged: Qt.callLater(root.leave)
+    }
     PressStyle {
         id: press
         pressed: area.pressed && area.pressedButtons === Qt.LeftButton
     }
     HoverHandler {
+        enabled: root.enabled
         onHoveredChanged: hovered ? root.actions.pointerEntered(root.extraID) : root.actions.pointerLeft(root.extraID)
     }
     MouseArea {

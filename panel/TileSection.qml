@@ -4,7 +4,8 @@ import Brimshade.Model
 import Brimshade.Panel
 import Brimshade.Ui
 
-// A title and its grid, of which only the rows in view exist.
+// A title and its grid, of which only the rows in view exist. Both have their places in the panel, not in each other:
+// what stays glides, what leaves stays where it is.
 Item {
     id: root
 
@@ -14,25 +15,30 @@ Item {
     required property string title
     required property int section
     required property int startIndex
+    required property int count
     required property bool presented // on screen: whatever moves may be seen to move
-    required property real viewTop // what of the section is in view, in its own coordinates
+    required property real gridLeft //, from the middle
+    required property real sectionTop
+    required property real viewTop // what is in view
     required property real viewBottom
+    readonly property real gridTop: root.sectionTop + PanelMetrics.sectionTitleHeight
 
-    StyledText {
-        height: PanelMetrics.sectionTitleHeight
-        text: root.title.toUpperCase()
-        size: 9.5
-        font.weight: Font.Bold
-        font.letterSpacing: 1.2
-        color: Qt.rgba(1, 1, 1, 0.32)
-        Accessible.description: root.title
+    SectionTitle {
+        objectName: root.objectName + "Title"
+        title: root.title
+        shown: root.count > 0
+        presented: root.presented
+        gridLeft: root.gridLeft
+        sectionTop: root.sectionTop
     }
     Repeater {
         model: TilesModel {
+            id: tiles
             source: root.model
             section: root.section
-            viewTop: root.viewTop - PanelMetrics.sectionTitleHeight
-            viewBottom: root.viewBottom - PanelMetrics.sectionTitleHeight
+            viewTop: root.viewTop - root.gridTop
+            viewBottom: root.viewBottom - root.gridTop
+            keepsLeaving: root.presented
         }
         delegate: Tile {
             id: tile
@@ -41,22 +47,25 @@ Item {
             readonly property int columns: root.model.columns
 
             objectName: "tile"
-            x: column.value * PanelMetrics.columnPitch
-            y: PanelMetrics.sectionTitleHeight + row.value * PanelMetrics.rowPitch
+            x: root.width / 2 + across.value
+            y: down.value
             index: root.startIndex + tile.position
             actions: root.actions
             open: root.model.isOpen
             highlighted: root.panelState.highlightedID === tile.extraID
+            onGone: tiles.drop(tile.extraID)
 
             Glide {
-                id: column
-                target: tile.position % tile.columns
+                id: across
+                target: root.gridLeft + tile.position % tile.columns * PanelMetrics.columnPitch
                 animated: root.presented
+                held: tile.isLeaving
             }
             Glide {
-                id: row
-                target: Math.floor(tile.position / tile.columns)
+                id: down
+                target: root.gridTop + Math.floor(tile.position / tile.columns) * PanelMetrics.rowPitch
                 animated: root.presented
+                held: tile.isLeaving
             }
         }
     }

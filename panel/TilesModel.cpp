@@ -2,6 +2,9 @@
 #include "TilesInView.h"
 #include "ui/binding/Follow.h"
 
+#include <QSet>
+#include <algorithm>
+
 namespace brimshade::panel {
 
 namespace {
@@ -19,18 +22,19 @@ void TilesModel::setSource(model::NotchModel *source)
     if (!ui::follow(*this, m_source, source))
         return;
     if (source) {
-        connect(source, &model::NotchModel::matchesChanged, this, [this] { update(false); });
-        connect(this, &TilesModel::viewChanged, this, [this] { update(true); });
+        connect(source, &model::NotchModel::matchesChanged, this, &TilesModel::matchesChanged);
+        connect(this, &TilesModel::viewChanged, this, &TilesModel::update);
+        matchesChanged();
     }
-    update(false);
+    update();
     Q_EMIT sourceChanged();
 }
 
 QHash<int, QByteArray> TilesModel::roleNames() const
 {
-    return {{ExtraIDRole, "extraID"},   {NameRole, "name"},         {DetailRole, "detail"},
-            {IconRole, "icon"},         {SymbolRole, "symbol"},     {TintRole, "tint"},
-            {IsHiddenRole, "isHidden"}, {PositionRole, "position"}, {IsNewRole, "isNew"}};
+    return {{ExtraIDRole, "extraID"}, {NameRole, "name"},       {DetailRole, "detail"},      {IconRole, "icon"},
+            {SymbolRole, "symbol"},   {TintRole, "tint"},       {IsHiddenRole, "isHidden"},  {PositionRole, "position"},
+            {IsNewRole, "isNew"},     {IsFirstRole, "isFirst"}, {IsLeavingRole, "isLeaving"}};
 }
 
 QVariant TilesModel::value(int row, int role) const
@@ -55,12 +59,46 @@ QVariant TilesModel::value(int row, int role) const
         return tile.position;
     case IsNewRole:
         return tile.isNew;
+    case IsFirstRole:
+        return tile.isFirst;
+    case IsLeavingRole:
+        return tile.isLeaving;
     default:
         return {};
     }
 }
 
-std::vector<TilesModel::Tile> TilesModel::wanted(bool byScrolling) const
+void TilesModel::setKeepsLeaving(bool keeps)
+{
+    if (m_keepsLeaving == keeps)
+        return;
+    m_keepsLeaving = keeps;
+    update();
+    Q_EMIT keepsLeavingChanged();
+}
+
+void TilesModel::drop(const QString &id)
+{
+    const auto found =
+        std::ranges::find_if(m_tiles, [&](const Tile &tile) { return tile.isLeaving && tile.extra.id == id; });
+    if (found == m_tiles.end())
+        return;
+    std::vector<Tile> rest = m_tiles;
+    rest.erase(rest.begin() + (found - m_tiles.begin()));
+    setRows(m_tiles, rest, &TilesModel::idOf, &TilesModel::refresh);
+}
+
+void TilesModel::matchesChanged()
+{
+    m_isFirst = m_isFirst || !m_hasItems;
+    m_hasItems = m_source->itemCount() > 0;
+    m_isRenewing = true;
+    QMetaObject::invokeMethod(
+        this, [this] { m_isRenewing = m_isFirst = false; }, Qt::QueuedConnection);
+    update();
+}
+
+std::vector<TilesModel::Tile> TilesModel::wanted() const
 {
     std::vector<Tile> tiles;
     if (!m_source || m_viewBottom <= m_viewTop)
@@ -70,15 +108,30 @@ std::vector<TilesModel::Tile> TilesModel::wanted(bool byScrolling) const
     tiles.reserve(std::size_t(end - first));
     for (int i = first; i < end; ++i) {
         const auto &extra = m_source->extras()[std::size_t(matches[std::size_t(i)])];
-        tiles.push_back({extra, i, !byScrolling});
+        tiles.push_back({extra, i, m_isRenewing, m_isFirst});
     }
     return tiles;
 }
 
-void TilesModel::update(bool byScrolling)
+void TilesModel::keepLeaving(std::vector<Tile> &wanted) const
 {
-    setRows(
-        m_tiles, wanted(byScrolling), [](const Tile &tile) { return tile.extra.id; }, &TilesModel::refresh);
+    QSet<QString> ids;
+    for (const Tile &tile : wanted)
+        ids.insert(tile.extra.id);
+    for (const Tile &tile : m_tiles) {
+        if (ids.contains(tile.extra.id) || !(m_isRenewing || tile.isLeaving))
+            continue;
+        wanted.push_back(tile);
+        wanted.back().isLeaving = true;
+    }
+}
+
+void TilesModel::update()
+{
+    std::vector<Tile> tiles = wanted();
+    if (m_keepsLeaving)
+        keepLeaving(tiles);
+    setRows(m_tiles, tiles, &TilesModel::idOf, &TilesModel::refresh);
 }
 
 QList<int> TilesModel::refresh(Tile &shown, const Tile &wanted)
@@ -86,11 +139,14 @@ QList<int> TilesModel::refresh(Tile &shown, const Tile &wanted)
     QList<int> roles;
     if (shown.position != wanted.position)
         roles << PositionRole;
+    if (shown.isLeaving != wanted.isLeaving)
+        roles << IsLeavingRole;
     if (!looksEqual(shown.extra, wanted.extra))
         roles << NameRole << DetailRole << IconRole << SymbolRole << TintRole << IsHiddenRole;
-    const bool isNew = shown.isNew; // since it came
+    const Tile before = shown;
     shown = wanted;
-    shown.isNew = isNew;
+    shown.isNew = before.isNew; // since it came
+    shown.isFirst = before.isFirst;
     return roles;
 }
 

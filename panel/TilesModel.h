@@ -8,7 +8,8 @@
 namespace brimshade::panel {
 
 // The tiles of one section that are in view, and one grid row beyond on either side. Rows are kept by id: across
-// searches and scans an item that stays keeps its delegate, which learns its new place.
+// searches and scans an item that stays keeps its delegate, which learns its new place. Tiles that a search or a scan
+// takes away stay as leaving ones, last in the list and as they were, until the view has faded and dropped them.
 // The base is spelled in full: the registrar of QML types finds it by its spelling.
 class TilesModel : public brimshade::ui::ListModel {
     Q_OBJECT
@@ -17,6 +18,7 @@ class TilesModel : public brimshade::ui::ListModel {
     Q_PROPERTY(Section section MEMBER m_section NOTIFY sectionChanged REQUIRED)
     Q_PROPERTY(double viewTop MEMBER m_viewTop NOTIFY viewChanged) // points, from the top of the first grid row
     Q_PROPERTY(double viewBottom MEMBER m_viewBottom NOTIFY viewChanged)
+    Q_PROPERTY(bool keepsLeaving READ keepsLeaving WRITE setKeepsLeaving NOTIFY keepsLeavingChanged)
 
 public:
     enum Section { BehindTheNotch, InTheMenuBar };
@@ -31,7 +33,9 @@ public:
         TintRole,
         IsHiddenRole,
         PositionRole, // in the whole section
-        IsNewRole // it came with a search or a scan, not into view by scrolling
+        IsNewRole, // it came with a search or a scan, not into view by scrolling
+        IsFirstRole, // and there were no items before
+        IsLeavingRole
     };
 
     using ListModel::ListModel;
@@ -39,12 +43,16 @@ public:
     model::NotchModel *source() const { return m_source; }
     void setSource(model::NotchModel *source);
 
+    bool keepsLeaving() const { return m_keepsLeaving; }
+    void setKeepsLeaving(bool keeps);
     QHash<int, QByteArray> roleNames() const override;
+    Q_INVOKABLE void drop(const QString &id); // nothing if it is not leaving
 
 Q_SIGNALS:
     void sourceChanged();
     void sectionChanged();
     void viewChanged();
+    void keepsLeavingChanged();
 
 protected:
     int count() const override { return int(m_tiles.size()); }
@@ -55,16 +63,26 @@ private:
         model::MenuExtra extra;
         int position = 0;
         bool isNew = false;
+        bool isFirst = false;
+        bool isLeaving = false;
     };
 
-    void update(bool byScrolling);
-    std::vector<Tile> wanted(bool byScrolling) const;
+    void matchesChanged();
+    void update();
+    std::vector<Tile> wanted() const;
+    void keepLeaving(std::vector<Tile> &wanted) const;
+    static QString idOf(const Tile &tile) { return tile.extra.id; }
     static QList<int> refresh(Tile &shown, const Tile &wanted);
 
     QPointer<model::NotchModel> m_source;
     Section m_section = BehindTheNotch;
     double m_viewTop = 0;
     double m_viewBottom = 0;
+    bool m_keepsLeaving = false;
+    bool m_hasItems = false;
+    bool m_isRenewing =
+        false; // until the turn of the event loop that brought other matches ends: the view follows them
+    bool m_isFirst = false; // the same, and there were no items before
     std::vector<Tile> m_tiles;
 };
 

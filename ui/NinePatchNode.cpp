@@ -52,7 +52,24 @@ std::array<QRectF, 8> sources(const QRectF &picture, const QMarginsF &border)
 } // namespace
 
 NinePatchNode::NinePatchNode() = default;
-NinePatchNode::~NinePatchNode() = default;
+
+NinePatchNode::~NinePatchNode()
+{
+    for (QSGImageNode *piece : m_pieces)
+        delete piece;
+}
+
+// An empty node in the tree would leave on screen what it showed before: the software renderer draws nothing anew
+// there.
+void NinePatchNode::show(QSGNode &piece, bool shown)
+{
+    if (shown == (piece.parent() != nullptr))
+        return;
+    if (shown)
+        appendChildNode(&piece);
+    else
+        removeChildNode(&piece);
+}
 
 void NinePatchNode::setPicture(QQuickWindow *window, const QImage &picture, const QMarginsF &border)
 {
@@ -61,7 +78,7 @@ void NinePatchNode::setPicture(QQuickWindow *window, const QImage &picture, cons
         if (!piece) {
             piece = window->createImageNode();
             piece->setFiltering(QSGTexture::Nearest);
-            appendChildNode(piece);
+            piece->setFlag(OwnedByParent, false); // it may be out of the tree
         }
         piece->setTexture(texture.get());
     }
@@ -81,6 +98,7 @@ void NinePatchNode::setTarget(const QRectF &target, const QMarginsF &border, dou
             continue;
         m_pieces[i]->setSourceRect(from[i]);
         m_pieces[i]->setRect(to[i]);
+        show(*m_pieces[i], !to[i].isEmpty());
     }
 }
 

@@ -28,10 +28,12 @@ public:
 private:
     static constexpr int kPieces = 8;
 
+    void show(QSGNode &piece, bool shown);
+
     std::unique_ptr<QSGTexture> m_texture;
     QRectF m_picture; // pixels
     QMarginsF m_pictureBorder;
-    std::array<QSGImageNode *, kPieces> m_pieces{}; // owned by the tree
+    std::array<QSGImageNode *, kPieces> m_pieces{}; // in the tree while they have a size
 };
 
 } // namespace brimshade::ui

@@ -1,17 +1,15 @@
 #pragma once
-#include "PictureCache.h"
+#include "NinePatchItem.h"
 
 #include <QColor>
-#include <QPointer>
-#include <QQuickItem>
-#include <qqml.h>
+#include <QPainterPath>
 
 namespace brimshade::ui {
 
 // The shadow that a rounded rectangle of the item's size casts around itself; it reaches beyond the item by three blur
-// radii. Drawn once for any size: resizing is cheap. Place it with y for an offset, and behind what casts it: there is
-// nothing under the middle of the caster.
-class Shadow : public QQuickItem {
+// radii. Place it with y for an offset, and behind what casts it: there is nothing under the middle of the caster.
+// The base is spelled in full: the registrar of QML types finds it by its spelling.
+class Shadow : public brimshade::ui::NinePatchItem {
     Q_OBJECT
     QML_ELEMENT
     Q_PROPERTY(double radius MEMBER m_radius NOTIFY changed) // of the caster's corners
@@ -25,21 +23,17 @@ Q_SIGNALS:
     void changed();
 
 protected:
-    QSGNode *updatePaintNode(QSGNode *node, UpdatePaintNodeData *) override;
-    void itemChange(ItemChange change, const ItemChangeData &data) override;
-    void geometryChange(const QRectF &newGeometry, const QRectF &oldGeometry) override;
+    QByteArray pictureKey() const override;
+    double reach() const override;
+    double border() const override;
+    QImage draw(int side, double scale) const override;
+    // The caster, as large as the rectangle. A subclass with another one has its own key.
+    virtual QPainterPath outline(const QRectF &rect, double scale) const;
 
 private:
-    double reach() const; // beyond the item
-    double border() const; // of the picture: everything a corner bends
-    QRectF target(double scale) const;
-    QImage picture(const QByteArray &key, double scale) const;
-
     double m_radius = 0;
     double m_blur = 0;
     QColor m_color = Qt::black;
-    QPointer<PictureCache> m_cache;
-    QByteArray m_shownKey;
 };
 
 } // namespace brimshade::ui

@@ -30,17 +30,49 @@ void SpringValue::setTarget(double target)
 {
     if (m_target == target || !std::isfinite(target))
         return;
-    if (!m_isComplete || !m_isAnimated) {
+    if (m_isComplete && m_isHeld)
+        m_target = target;
+    else
+        moveTo(target);
+    Q_EMIT targetChanged();
+}
+
+void SpringValue::moveTo(double target)
+{
+    m_target = target;
+    if (!m_isComplete || !m_isAnimated || !m_hasAppeared) {
         jumpTo(target);
         return;
     }
     m_now.position = m_value - target;
     m_start = m_now;
     m_motion = m_next;
-    m_target = target;
     m_clock.stop();
     m_clock.start();
-    Q_EMIT targetChanged();
+}
+
+void SpringValue::setAnimated(bool animated)
+{
+    if (m_isAnimated == animated)
+        return;
+    m_isAnimated = animated;
+    m_hasAppeared = !m_isComplete;
+    if (animated && m_isComplete)
+        QMetaObject::invokeMethod(
+            this, [this] { m_hasAppeared = m_isAnimated; }, Qt::QueuedConnection);
+    Q_EMIT parametersChanged();
+}
+
+void SpringValue::setHeld(bool held)
+{
+    if (m_isHeld == held)
+        return;
+    m_isHeld = held;
+    if (held)
+        m_clock.stop();
+    else if (m_value != m_target)
+        moveTo(m_target);
+    Q_EMIT parametersChanged();
 }
 
 void SpringValue::jumpTo(double value)

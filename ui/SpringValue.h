@@ -23,8 +23,11 @@ class SpringValue : public QObject, public QQmlParserStatus {
     Q_PROPERTY(double clamped READ clamped NOTIFY valueChanged)
     // What may be left of the way when a spring is said to rest. The default is a tenth of a point of a panel's width.
     Q_PROPERTY(double precision MEMBER m_precision NOTIFY parametersChanged)
-    // False: changes of target jump, as for what nobody sees.
-    Q_PROPERTY(bool animated MEMBER m_isAnimated NOTIFY parametersChanged)
+    // False: changes of target jump, as for what nobody sees. So do those of the turn of the event loop in which it
+    // becomes true: what comes into view appears in its place.
+    Q_PROPERTY(bool animated READ isAnimated WRITE setAnimated NOTIFY parametersChanged)
+    // True: the value stays where it is, whatever the target; false again, it moves there.
+    Q_PROPERTY(bool held READ isHeld WRITE setHeld NOTIFY parametersChanged)
     Q_PROPERTY(bool running READ isRunning NOTIFY runningChanged)
     Q_PROPERTY(Curve curve READ curve WRITE setCurve NOTIFY parametersChanged)
     Q_PROPERTY(double response READ response WRITE setResponse NOTIFY parametersChanged)
@@ -43,6 +46,8 @@ public:
     double value() const { return m_value; }
     double clamped() const { return std::clamp(m_value, 0.0, 1.0); }
     bool isRunning() const;
+    bool isAnimated() const { return m_isAnimated; }
+    bool isHeld() const { return m_isHeld; }
     Curve curve() const { return m_next.curve; }
     double response() const { return m_next.spring.response; }
     double damping() const { return m_next.spring.dampingFraction; }
@@ -50,6 +55,8 @@ public:
     double delay() const { return m_next.delay; }
 
     void setTarget(double target);
+    void setAnimated(bool animated);
+    void setHeld(bool held);
     void setCurve(Curve curve);
     void setResponse(double response);
     void setDamping(double damping);
@@ -89,6 +96,7 @@ private:
         SpringValue &m_value;
     };
 
+    void moveTo(double target);
     void changeParameter(auto &parameter, auto value);
     void advance(double seconds);
     bool advanceSpring(double seconds);
@@ -104,6 +112,8 @@ private:
     double m_precision = 2e-4;
     bool m_isComplete = false;
     bool m_isAnimated = true;
+    bool m_hasAppeared = true; // animated since an earlier turn
+    bool m_isHeld = false;
     Clock m_clock{*this};
 };
 

@@ -82,9 +82,16 @@ void PanelScene::open()
     finishMotion();
 }
 
+QList<QQuickItem *> PanelScene::tiles() const
+{
+    QList<QQuickItem *> tiles = scene.findAll(u"tile"_s);
+    tiles.removeIf([](QQuickItem *tile) { return tile->property("isLeaving").toBool(); });
+    return tiles;
+}
+
 QQuickItem *PanelScene::tile(const QString &name) const
 {
-    for (QQuickItem *tile : scene.findAll(u"tile"_s)) {
+    for (QQuickItem *tile : tiles()) {
         if (tile->property("name").toString() == name)
             return tile;
     }
@@ -93,10 +100,10 @@ QQuickItem *PanelScene::tile(const QString &name) const
 
 QStringList PanelScene::tileNames() const
 {
-    QList<QQuickItem *> tiles = scene.findAll(u"tile"_s);
-    std::ranges::sort(tiles, {}, [](QQuickItem *tile) { return tile->property("index").toInt(); });
+    QList<QQuickItem *> sorted = tiles();
+    std::ranges::sort(sorted, {}, [](QQuickItem *tile) { return tile->property("index").toInt(); });
     QStringList names;
-    for (QQuickItem *tile : tiles)
+    for (QQuickItem *tile : sorted)
         names << tile->property("name").toString();
     return names;
 }

@@ -26,6 +26,7 @@ public:
 
     void open(); // and lets every motion end
     void finishMotion() { scene.advance(3000); }
+    QList<QQuickItem *> tiles() const; // those that are not leaving
     QQuickItem *tile(const QString &name) const; // null when it has no delegate
     QStringList tileNames() const; // in reading order
     QRectF frame(const QString &objectName) const;

@@ -82,6 +82,68 @@ TEST(Panel, TheCardAsksForThePermissionAndIsAllThereIs)
     EXPECT_FALSE(panel.scene.find(u"permissionCard"_s)->isVisible());
 }
 
+TEST(Panel, TheFirstItemsAppearInTheirPlacesInAPanelThatIsOpening)
+{
+    PanelScene panel(0, 0);
+    panel.model.setScanned(false);
+    panel.model.setIsOpen(true);
+    panel.scene.advance(48);
+    panel.model.setExtras(makeExtras(12, 9));
+    panel.model.setScanned(true);
+    panel.scene.settle();
+    const auto places = [&] {
+        QList<QPointF> result;
+        for (const QString &name : {u"hiddenSectionTitle"_s, u"visibleSectionTitle"_s, u"footer"_s, u"itemCount"_s})
+            result << panel.frame(name).topLeft();
+        return result;
+    };
+    const QList<QPointF> first = places();
+    const double width = panel.frame(u"notchTab"_s).width();
+    QQuickItem *relay = panel.tile(u"Relay"_s);
+    EXPECT_EQ(relay->opacity(), 0);
+    panel.scene.advance(120);
+    EXPECT_GT(panel.frame(u"notchTab"_s).width(), width + 50) << "while the panel grows";
+    EXPECT_EQ(places(), first);
+    EXPECT_GT(relay->opacity(), 0.1);
+    EXPECT_EQ(panel.tile(panel.tileNames().last())->opacity(), 0) << "tiles come one after the other";
+    panel.finishMotion();
+    EXPECT_EQ(places(), first);
+}
+
+TEST(Panel, TheFooterIsNeverSeenOutsideTheTab)
+{
+    PanelScene panel(12, 9);
+    const QQuickItem *footer = panel.scene.find(u"footer"_s)->parentItem();
+    for (const bool open : {true, false}) {
+        panel.model.setIsOpen(open);
+        for (int frame = 0; frame < 60; ++frame) {
+            panel.scene.advance(16);
+            if (footer->opacity() > 0) {
+                EXPECT_LE(panel.scene.frameOf(footer).bottom(), panel.frame(u"notchTab"_s).bottom() + 2) << frame;
+            }
+        }
+        EXPECT_EQ(footer->opacity(), open ? 1 : 0);
+    }
+}
+
+// Pieces of shadow and tab come, go and change size: whatever a frame does not draw anew must be as it was.
+TEST(Panel, NoFrameLeavesAnythingBehind)
+{
+    for (const double scale : {1.0, 2.0}) {
+        PanelScene panel(6, 5, scale);
+        const QImage closed = panel.scene.picture();
+        panel.model.setIsOpen(true);
+        panel.scene.advance(400);
+        panel.scene.picture();
+        panel.model.setIsOpen(false);
+        for (int frame = 0; frame < 12; ++frame) {
+            panel.scene.advance(50);
+            panel.scene.picture();
+        }
+        EXPECT_EQ(panel.scene.picture(), closed) << "scale " << scale;
+    }
+}
+
 TEST(Panel, NothingRunsOnceItRestsOpenOrClosed)
 {
     PanelScene panel(12, 9);

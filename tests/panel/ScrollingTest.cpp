@@ -59,6 +59,19 @@ TEST_F(ScrollingTest, TheWheelMovesTheSectionsAndStopsAtTheirEnds)
     EXPECT_EQ(panel.scene.frameOf(panel.tile(u"Relay"_s)), before);
 }
 
+TEST_F(ScrollingTest, TheScrollerStandsBesideTheNames)
+{
+    const QRectF scroller = panel.frame(u"scroller"_s);
+    const QRectF content = panel.frame(u"content"_s);
+    EXPECT_GE(scroller.left(), content.right() + 4);
+    EXPECT_LE(scroller.right(), panel.frame(u"notchTab"_s).right() - 14 - 4);
+    EXPECT_EQ(panel.scene.find(u"upperFade"_s)->opacity(), 0);
+    panel.model.moveSelection(1'000'000);
+    panel.finishMotion();
+    EXPECT_EQ(panel.scene.find(u"upperFade"_s)->opacity(), 1);
+    EXPECT_EQ(panel.scene.find(u"fade"_s)->opacity(), 0);
+}
+
 TEST_F(ScrollingTest, ASearchThatFitsIsShownFromItsTop)
 {
     panel.model.moveSelection(3000);
@@ -66,7 +79,7 @@ TEST_F(ScrollingTest, ASearchThatFitsIsShownFromItsTop)
     panel.model.setQuery(u"Relay 12"_s);
     panel.model.setQuery(u"Relay 1200"_s);
     panel.finishMotion();
-    EXPECT_EQ(panel.frame(u"hiddenSection"_s).top(), 32 + 10);
+    EXPECT_EQ(panel.frame(u"hiddenSectionTitle"_s).top(), 32 + 10);
     EXPECT_EQ(panel.tileNames(), QStringList{u"Relay 1200"_s});
     EXPECT_FALSE(panel.scene.find(u"scroller"_s)->isVisible());
 }

@@ -45,6 +45,39 @@ TEST(Tile, IsSeenOnItsWayInAndInTheFirstFrameOfItsWayOut)
     }
 }
 
+TEST(Tile, FadesInItsPlaceWhenItLeavesWhileOthersGlide)
+{
+    PanelScene panel(12, 9);
+    panel.open();
+    QQuickItem *relay = panel.tile(u"Relay"_s);
+    QQuickItem *pebble = panel.tile(u"Pebble"_s);
+    const QRectF relayWas = panel.scene.frameOf(relay);
+    const QRectF pebbleWas = panel.scene.frameOf(pebble);
+    panel.model.setQuery(u"pebble"_s);
+    panel.scene.advance(96);
+    EXPECT_EQ(panel.scene.frameOf(relay), relayWas);
+    EXPECT_GT(relay->opacity(), 0.1);
+    EXPECT_LT(relay->opacity(), 0.6);
+    EXPECT_FALSE(relay->isEnabled());
+    EXPECT_NE(panel.scene.frameOf(pebble), pebbleWas);
+    panel.model.setQuery({});
+    panel.scene.settle();
+    EXPECT_EQ(panel.tile(u"Relay"_s), relay) << "what comes back in time never went";
+    panel.finishMotion();
+    EXPECT_EQ(panel.scene.frameOf(relay), relayWas);
+    EXPECT_EQ(relay->opacity(), 1);
+    panel.model.setQuery(u"pebble"_s);
+    panel.scene.advance(224);
+    EXPECT_EQ(panel.scene.findAll(u"tile"_s).size(), 1);
+    panel.model.setQuery({});
+    panel.finishMotion();
+    panel.model.setIsOpen(false);
+    panel.finishMotion();
+    panel.model.setExtras(makeExtras(1, 0));
+    panel.scene.settle();
+    EXPECT_EQ(panel.scene.findAll(u"tile"_s).size(), 1) << "nothing lingers where nobody looks";
+}
+
 TEST(Tile, OnlyTheTileInFocusIsHighlighted)
 {
     PanelScene panel(4, 3);

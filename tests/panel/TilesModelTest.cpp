@@ -75,11 +75,53 @@ TEST_F(TilesModelTest, ScrollingBringsRowsThatAreNotNew)
     const int columns = model.columns();
     EXPECT_EQ(tiles.rowCount(), 6 * columns); // 400 points touch five rows; one beyond
     EXPECT_EQ(tiles.index(0).data(TilesModel::IsNewRole), true);
+    QCoreApplication::processEvents(); // the turn in which the view follows the items
     tiles.setProperty("viewBottom", 400 + 840);
     tiles.setProperty("viewTop", 840);
     EXPECT_EQ(tiles.rowCount(), 7 * columns);
     EXPECT_EQ(tiles.index(0).data(TilesModel::PositionRole), 9 * columns);
     EXPECT_EQ(tiles.index(tiles.rowCount() - 1).data(TilesModel::IsNewRole), false);
+}
+
+TEST_F(TilesModelTest, WhatTheFirstItemsBringIntoViewIsFirstWhateverOrderTheViewLearnsThemIn)
+{
+    tiles.setProperty("viewBottom", 1);
+    model.setExtras(makeExtras(40, 0));
+    tiles.setProperty("viewBottom", 400);
+    QCoreApplication::processEvents();
+    const int rows = tiles.rowCount();
+    EXPECT_GT(rows, 30);
+    for (int row = 0; row < rows; ++row)
+        EXPECT_TRUE(tiles.index(row).data(TilesModel::IsFirstRole).toBool()) << row;
+    model.setExtras(makeExtras(41, 0));
+    EXPECT_FALSE(tiles.index(rows).data(TilesModel::IsFirstRole).toBool());
+    EXPECT_TRUE(tiles.index(rows).data(TilesModel::IsNewRole).toBool());
+}
+
+TEST_F(TilesModelTest, WhatLeavesStaysLastAndAsItWasUntilItIsDroppedOrComesBack)
+{
+    show(u"a b c"_s);
+    tiles.setKeepsLeaving(true);
+    const auto leaving = [&] {
+        QStringList ids;
+        for (int row = 0; row < tiles.rowCount(); ++row) {
+            if (tiles.index(row).data(TilesModel::IsLeavingRole).toBool())
+                ids << tiles.index(row).data(TilesModel::ExtraIDRole).toString();
+        }
+        return ids;
+    };
+    show(u"b d"_s);
+    EXPECT_EQ(names(), QStringList({u"b"_s, u"d"_s, u"a"_s, u"c"_s}));
+    EXPECT_EQ(leaving(), QStringList({u"a"_s, u"c"_s}));
+    EXPECT_EQ(tiles.index(3).data(TilesModel::PositionRole), 2);
+    tiles.drop(u"b"_s);
+    tiles.drop(u"a"_s);
+    EXPECT_EQ(names(), QStringList({u"b"_s, u"d"_s, u"c"_s})) << "only what leaves can be dropped";
+    show(u"c"_s);
+    EXPECT_EQ(leaving(), QStringList({u"b"_s, u"d"_s}));
+    EXPECT_EQ(tiles.index(0).data(TilesModel::PositionRole), 0);
+    tiles.setKeepsLeaving(false);
+    EXPECT_EQ(names(), QStringList{u"c"_s});
 }
 
 } // namespace brimshade::panel

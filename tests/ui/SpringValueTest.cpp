@@ -58,6 +58,36 @@ TEST_F(SpringValueTest, TakesTheParametersThatComeWithTheTargetInEitherOrder)
     EXPECT_NEAR(seconds(20), 1 + springAt({0.2, 0.8}, {-1, 0}, 0.06).position, 1e-9);
 }
 
+TEST_F(SpringValueTest, WhatComesIntoViewAppearsInItsPlaceWhicheverIsSaidFirst)
+{
+    value.setAnimated(false);
+    value.setAnimated(true);
+    value.setTarget(5); // in the turn in which it came into view
+    EXPECT_EQ(value.value(), 5);
+    QCoreApplication::processEvents();
+    value.setTarget(6);
+    EXPECT_EQ(value.value(), 5) << "from then on it moves";
+    value.setAnimated(false);
+    value.setTarget(8);
+    value.setAnimated(true);
+    EXPECT_EQ(value.value(), 8);
+}
+
+TEST_F(SpringValueTest, HeldItStaysAndThenGoesToWhereverTheTargetIs)
+{
+    value.setTarget(1);
+    const double reached = seconds(60);
+    value.setTarget(3);
+    value.setHeld(true); // the binding that ran last
+    EXPECT_EQ(seconds(500), reached);
+    value.setTarget(7);
+    EXPECT_EQ(seconds(500), reached);
+    EXPECT_FALSE(value.isRunning());
+    value.setHeld(false);
+    EXPECT_EQ(value.value(), reached);
+    EXPECT_EQ(seconds(5000), 7);
+}
+
 TEST(SpringValueCreation, JumpsToItsFirstTarget)
 {
     SpringValue value;

@@ -1,0 +1,20 @@
+#pragma once
+#include "ui/Shadow.h"
+
+namespace brimshade::panel {
+
+// The shadow of the open panel, flares included.
+// The base is spelled in full: the registrar of QML types finds it by its spelling.
+class NotchShadow : public brimshade::ui::Shadow {
+    Q_OBJECT
+    QML_ELEMENT
+
+public:
+    explicit NotchShadow(QQuickItem *parent = nullptr);
+
+protected:
+    QByteArray pictureKey() const override { return "notch" + Shadow::pictureKey(); }
+    QPainterPath outline(const QRectF &rect, double scale) const override;
+};
+
+} // namespace brimshade::panel

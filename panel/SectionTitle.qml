@@ -1,0 +1,46 @@
+pragma ComponentBehavior: Bound
+import QtQuick
+import Brimshade.Model
+import Brimshade.Ui
+
+// Says what the tiles under it are. Without tiles it fades out in its place.
+StyledText {
+    id: root
+
+    required property string title
+    required property bool shown
+    required property bool presented
+    required property real gridLeft // from the middle of its parent
+    required property real sectionTop
+
+    x: root.parent.width / 2 + across.value
+    y: down.value
+    height: PanelMetrics.sectionTitleHeight
+    visible: root.shown || presence.running
+    opacity: presence.value
+    text: root.title.toUpperCase()
+    size: 9.5
+    font.weight: Font.Bold
+    font.letterSpacing: 1.2
+    color: Qt.rgba(1, 1, 1, 0.32)
+    Accessible.description: root.title
+    Accessible.ignored: !root.shown
+
+    Glide {
+        id: across
+        target: root.gridLeft
+        animated: root.presented && root.visible
+        held: !root.shown
+    }
+    Glide {
+        id: down
+        target: root.sectionTop
+        animated: root.presented && root.visible
+        held: !root.shown
+    }
+    Fade {
+        id: presence
+        target: root.shown ? 1 : 0
+        animated: root.presented
+    }
+}

@@ -1,0 +1,75 @@
+#include "NinePatchItem.h"
+#include "NinePatchNode.h"
+
+#include <QDataStream>
+#include <QIODevice>
+#include <QQuickWindow>
+#include <cmath>
+
+namespace brimshade::ui {
+
+NinePatchItem::NinePatchItem(QQuickItem *parent) : QQuickItem(parent)
+{
+    setFlag(ItemHasContents);
+}
+
+QSGNode *NinePatchItem::updatePaintNode(QSGNode *node, UpdatePaintNodeData *)
+{
+    auto *patch = static_cast<NinePatchNode *>(node);
+    QByteArray key = pictureKey();
+    if (!m_cache || key.isEmpty() || width() <= 0 || height() <= 0) {
+        delete patch;
+        m_shownKey.clear();
+        return nullptr;
+    }
+    const double scale = window()->effectiveDevicePixelRatio();
+    QDataStream(&key, QIODevice::Append) << scale;
+    if (!patch || key != m_shownKey) {
+        if (!patch)
+            patch = new NinePatchNode;
+        const double pixels = std::round(border() * scale);
+        patch->setPicture(window(), picture(key, scale), QMarginsF(pixels, pixels, pixels, pixels));
+        m_shownKey = key;
+    }
+    patch->setTarget(target(scale), QMarginsF(border(), border(), border(), border()), scale);
+    return patch;
+}
+
+// What it covers, its edges on device pixels.
+QRectF NinePatchItem::target(double scale) const
+{
+    const double r = reach();
+    const QRectF scene = mapRectToScene(boundingRect().adjusted(-r, -r, r, r));
+    const QPointF origin = mapToScene({0, 0});
+    const auto snapped = [scale](double place) { return std::round(place * scale) / scale; };
+    const QPointF topLeft(snapped(scene.left()), snapped(scene.top()));
+    const QPointF bottomRight(snapped(scene.right()), snapped(scene.bottom()));
+    return {topLeft - origin, bottomRight - origin};
+}
+
+QImage NinePatchItem::picture(const QByteArray &key, double scale) const
+{
+    if (const QImage *known = m_cache->find(key))
+        return *known;
+    const QImage drawn = draw(2 * int(std::round(border() * scale)) + 2, scale);
+    m_cache->insert(key, drawn);
+    return drawn;
+}
+
+void NinePatchItem::itemChange(ItemChange change, const ItemChangeData &data)
+{
+    if (change == ItemSceneChange)
+        m_cache = data.window ? PictureCache::of(data.window) : nullptr;
+    if (change == ItemDevicePixelRatioHasChanged || change == ItemSceneChange)
+        update();
+    QQuickItem::itemChange(change, data);
+}
+
+void NinePatchItem::geometryChange(const QRectF &newGeometry, const QRectF &oldGeometry)
+{
+    QQuickItem::geometryChange(newGeometry, oldGeometry);
+    if (newGeometry.size() != oldGeometry.size())
+        update();
+}
+
+} // namespace brimshade::ui
