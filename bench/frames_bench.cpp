@@ -1,5 +1,5 @@
-// Frames of the panel's opening on the software renderer, beside a scene of plain moving rectangles and text of the
-// same number and size: what the toolkit itself takes.
+// Frames of the panel's opening and closing on the software renderer, beside a scene of plain moving rectangles and
+// text of the same number and size: what the toolkit itself takes.
 #include "OffscreenScene.h"
 #include "PanelScene.h"
 
@@ -17,6 +17,7 @@ using namespace brimshade;
 namespace {
 
 constexpr int kFrames = 72; // of a 60th of a second: every spring of the opening has ended by then
+constexpr int kClosingFrames = 24; // the same
 constexpr int kRounds = 12;
 
 // Milliseconds of each frame: on the clock, and of this process's processor time, which a busy machine hardly changes.
@@ -45,10 +46,10 @@ double percentile(std::vector<double> times, double share)
 }
 
 // Advances the clock by one frame, then evaluates, synchronises and renders it; all of that is timed.
-Times renderFrames(ui::OffscreenScene &scene)
+Times renderFrames(ui::OffscreenScene &scene, int frames = kFrames)
 {
     Times times;
-    for (int frame = 1; frame <= kFrames; ++frame) {
+    for (int frame = 1; frame <= frames; ++frame) {
         const auto begin = std::chrono::steady_clock::now();
         const double processorBegin = processorTime();
         scene.renderFrame(frame % 3 == 0 ? 16 : 17);
@@ -59,20 +60,29 @@ Times renderFrames(ui::OffscreenScene &scene)
     return times;
 }
 
-Times openings(double scale)
+struct Motions {
+    Times opening, closing;
+};
+
+Motions motions(double scale)
 {
     panel::PanelScene panel(18, 9, scale);
-    Times times;
+    Motions motions;
     for (int round = 0; round < kRounds; ++round) {
         panel.scene.picture();
         panel.model.setIsOpen(true);
-        const Times frames = renderFrames(panel.scene);
-        if (round > 0) // the first draws every picture once
-            times.append(frames);
-        panel.model.setIsOpen(false);
+        const Times opening = renderFrames(panel.scene);
         panel.finishMotion();
+        panel.scene.picture();
+        panel.model.setIsOpen(false);
+        const Times closing = renderFrames(panel.scene, kClosingFrames);
+        panel.finishMotion();
+        if (round == 0) // draws every picture once
+            continue;
+        motions.opening.append(opening);
+        motions.closing.append(closing);
     }
-    return times;
+    return motions;
 }
 
 Times reference(double scale)
@@ -139,6 +149,8 @@ int main(int argc, char **argv)
         scales = {1, 2};
     for (const double scale : scales) {
         print("plain rectangles (reference)", scale, reference(scale));
-        print("panel opening, 27 tiles", scale, openings(scale));
+        const Motions panel = motions(scale);
+        print("panel opening, 27 tiles", scale, panel.opening);
+        print("panel closing, 27 tiles", scale, panel.closing);
     }
 }

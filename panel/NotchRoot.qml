@@ -59,13 +59,6 @@ Item {
         animated: root.presented
     }
 
-    // Of what the tab has room for when the glides have ended; items that come into an empty panel find it so at once.
-    Glide {
-        id: contentWidth
-        target: geometry.openSize.width - 2 * (PanelMetrics.openFlare + PanelMetrics.sidePadding)
-        animated: root.presented && panelState.body === PanelState.Tiles
-    }
-
     MouseArea {
         objectName: "panelBackground"
         anchors.fill: parent
@@ -89,77 +82,17 @@ Item {
         openSize: Qt.size(openWidth.value, openHeight.value)
         openness: openness.value
     }
-    Item {
-        id: interior
-        objectName: "interior"
-        x: tab.interior.x
-        width: tab.interior.width
-        height: tab.interior.height
-        clip: true
-        visible: root.presented
-
-        Item {
-            id: content
-            objectName: "content"
-            x: (root.width - width) / 2 - parent.x
-            width: contentWidth.value
-
-            PanelHeader {
-                objectName: "header"
-                width: parent.width
-                height: root.model.notch.height
-                model: root.model
-                panelState: panelState
-                helpTip: helpTip
-            }
-            PanelBody {
-                id: body
-                objectName: "body"
-                y: root.model.notch.height
-                width: parent.width
-                model: root.model
-                actions: root.actions
-                permission: root.permission
-                panelState: panelState
-                geometry: geometry
-                presented: root.presented
-            }
-        }
-        // What is laid out for the open panel goes on beyond a smaller one.
-        EdgeFade {
-            y: -PanelMetrics.sidePadding // the upper edge is the screen's
-            width: parent.width
-            height: parent.height - y
-            depth: 14
-            radius: 8 // and the depth: no more than the padding
-        }
-    }
-    Scroller {
-        objectName: "scroller"
-        x: interior.x + content.x + content.width + (PanelMetrics.sidePadding - width) / 2
-        y: root.model.notch.height
-        height: geometry.viewportHeight
-        visible: root.presented && body.overflows
-        opacity: footer.opacity
-        contentHeight: geometry.contentHeight
-        position: body.scrollPosition
-    }
-    PanelFooter {
-        id: footer
-        x: (root.width - width) / 2
-        y: root.model.notch.height + footerY.value
-        width: contentWidth.value
-        visible: root.presented && panelState.body === PanelState.Tiles
-        // It is never cut: before the tab has room for it nothing of it is seen.
-        opacity: openness.clamped * Math.max(0, Math.min(1, (tab.height - y - height + 2) / (PanelMetrics.bottomMargin + 2)))
+    PanelContent {
+        anchors.fill: parent
+        model: root.model
+        actions: root.actions
+        permission: root.permission
         panelState: panelState
-        animated: root.open
-
-        Glide {
-            id: footerY
-            target: geometry.footerY
-            animated: root.presented && footer.visible
-        }
+        geometry: geometry
+        tab: tab
+        helpTip: helpTip
+        presented: root.presented
+        shown: openness.clamped
     }
     HelpTip {
         id: helpTip

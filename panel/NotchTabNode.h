@@ -13,7 +13,8 @@ namespace brimshade::panel {
 
 // The tab in pieces that fit without overlap: plain black rectangles, and small pictures wherever the outline runs. A
 // frame of an animation so draws some thousand antialiased pixels and not the whole tab. Scene graph thread.
-class NotchTabNode : public QSGNode {
+// It transforms nothing: the software renderer gives a child that comes later its place only under a node that could.
+class NotchTabNode : public QSGTransformNode {
 public:
     explicit NotchTabNode(QQuickWindow &window);
 

@@ -51,11 +51,6 @@ Item {
             (root.isFirst ? entrance : arrival).run(0, 1);
     }
 
-    function leave() {
-        if (root.isLeaving && !departure.running)
-            root.gone();
-    }
-
     SpringValue {
         id: entrance
         target: root.open ? 1 : 0
@@ -75,7 +70,10 @@ Item {
     Fade {
         id: departure
         target: root.isLeaving ? 0 : 1
-        onRunningChanged: Qt.callLater(root.leave)
+        onArrived: {
+            if (root.isLeaving)
+                root.gone();
+        }
     }
     PressStyle {
         id: press
@@ -109,6 +107,7 @@ Item {
             isHidden: root.isHidden
             hovered: root.highlighted
             scaled: press.value !== 1
+            sharpness: entrance.clamped
         }
         StyledText {
             objectName: "name"
@@ -116,6 +115,7 @@ Item {
             width: parent.width
             height: parent.height - y
             text: root.name
+            opacity: entrance.clamped // beside that of the tile: blurred, little of it would be seen
             size: 10
             font.weight: Font.Medium
             color: Qt.rgba(1, 1, 1, root.highlighted ? 0.95 : root.isHidden ? 0.62 : 0.45)

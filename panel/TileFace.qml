@@ -14,6 +14,7 @@ Item {
     required property bool isHidden
     required property bool hovered
     required property bool scaled // by whatever it is part of
+    required property real sharpness // 0: wholly blurred, 1: not at all
 
     readonly property real shown: motion.clamped
     readonly property bool resampled: root.scaled || root.scale !== 1
@@ -93,8 +94,10 @@ Item {
         width: 36
         height: 36
         image: root.icon
+        opacity: root.sharpness
     }
     SymbolIcon {
+        id: glyph
         objectName: "symbol"
         smooth: root.resampled
         anchors.centerIn: parent
@@ -102,7 +105,15 @@ Item {
         name: root.symbol
         pointSize: 19
         weight: SymbolIcon.Semibold
-        opacity: 0.85 + 0.15 * root.shown
+        opacity: (0.85 + 0.15 * root.shown) * root.sharpness
+    }
+    Blurred {
+        objectName: "blurred"
+        anchors.fill: source
+        visible: root.sharpness < 1
+        opacity: 1 - root.sharpness
+        source: picture.isNull ? glyph : picture
+        radius: 8
     }
     RoundedShape {
         objectName: "marker"

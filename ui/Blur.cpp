@@ -40,17 +40,8 @@ std::array<int, 3> halfWidths(double deviation)
     return result;
 }
 
-} // namespace
-
-QImage blurredSilhouette(const QImage &picture, const QColor &color, double deviation)
+void blurPlane(std::vector<float> &values, int width, int height, double deviation)
 {
-    const QImage alpha = picture.convertToFormat(QImage::Format_Alpha8);
-    const int width = alpha.width();
-    const int height = alpha.height();
-    std::vector<float> values(std::size_t(width) * std::size_t(height));
-    for (int y = 0; y < height; ++y)
-        std::copy_n(alpha.constScanLine(y), width, values.begin() + std::ptrdiff_t(y) * width);
-
     std::vector<float> line(std::size_t(std::max(width, height)));
     for (const int half : halfWidths(deviation)) {
         for (int y = 0; y < height; ++y)
@@ -58,6 +49,30 @@ QImage blurredSilhouette(const QImage &picture, const QColor &color, double devi
         for (int x = 0; x < width; ++x)
             averageLine(values, std::size_t(x), std::size_t(width), height, half, line);
     }
+}
+
+// One of the `count` bytes of each pixel.
+std::vector<float> plane(const QImage &picture, int index, int count)
+{
+    std::vector<float> values;
+    values.reserve(std::size_t(picture.width()) * std::size_t(picture.height()));
+    for (int y = 0; y < picture.height(); ++y) {
+        const uchar *byte = picture.constScanLine(y) + index;
+        for (int x = 0; x < picture.width(); ++x, byte += count)
+            values.push_back(*byte);
+    }
+    return values;
+}
+
+} // namespace
+
+QImage blurredSilhouette(const QImage &picture, const QColor &color, double deviation)
+{
+    const QImage alpha = picture.convertToFormat(QImage::Format_Alpha8);
+    const int width = alpha.width();
+    const int height = alpha.height();
+    std::vector<float> values = plane(alpha, 0, 1);
+    blurPlane(values, width, height, deviation);
 
     QImage result(width, height, QImage::Format_ARGB32_Premultiplied);
     for (int y = 0; y < height; ++y) {
@@ -65,6 +80,22 @@ QImage blurredSilhouette(const QImage &picture, const QColor &color, double devi
         for (int x = 0; x < width; ++x) {
             const float a = values[std::size_t(y) * std::size_t(width) + std::size_t(x)] * color.alphaF();
             pixels[x] = qPremultiply(qRgba(color.red(), color.green(), color.blue(), int(std::lround(a))));
+        }
+    }
+    return result;
+}
+
+QImage blurred(const QImage &picture, double deviation)
+{
+    constexpr int kPlanes = 4;
+    QImage result = picture.convertToFormat(QImage::Format_ARGB32_Premultiplied);
+    for (int index = 0; index < kPlanes; ++index) {
+        std::vector<float> values = plane(result, index, kPlanes);
+        blurPlane(values, result.width(), result.height(), deviation);
+        for (int y = 0; y < result.height(); ++y) {
+            uchar *byte = result.scanLine(y) + index;
+            for (int x = 0; x < result.width(); ++x, byte += kPlanes)
+                *byte = uchar(std::lround(values[std::size_t(y) * std::size_t(result.width()) + std::size_t(x)]));
         }
     }
     return result;

@@ -8,4 +8,7 @@ namespace brimshade::ui {
 // Same size as the picture: leave about three deviations of room around the shape.
 QImage blurredSilhouette(const QImage &picture, const QColor &color, double deviation);
 
+// The picture itself, blurred in the same way; premultiplied.
+QImage blurred(const QImage &picture, double deviation);
+
 } // namespace brimshade::ui

@@ -30,33 +30,39 @@ QRectF DrawnItem::pictureRect() const
 QSGNode *DrawnItem::updatePaintNode(QSGNode *node, UpdatePaintNodeData *)
 {
     auto *image = static_cast<QSGImageNode *>(node);
-    const QRectF rect = pictureRect();
-    QByteArray key = pictureKey();
-    if (rect.isEmpty() || key.isEmpty() || !m_cache) {
+    const QByteArray name = pictureName();
+    if (name.isEmpty()) {
         delete image;
         m_shownKey.clear();
         m_shownOwner.reset();
         return nullptr;
     }
-    key += bytesOf(rect, window()->effectiveDevicePixelRatio());
     if (!image) {
         image = window()->createImageNode();
         image->setOwnsTexture(true);
     }
     image->setFiltering(smooth() ? QSGTexture::Linear : QSGTexture::Nearest);
-    if (key == m_shownKey)
+    if (name == m_shownKey)
         return image;
-    image->setTexture(window()->createTextureFromImage(picture(rect, key), QQuickWindow::TextureCanUseAtlas));
-    image->setRect(rect);
-    m_shownKey = key;
+    image->setTexture(window()->createTextureFromImage(picture(name), QQuickWindow::TextureCanUseAtlas));
+    image->setRect(pictureRect());
+    m_shownKey = name;
     m_shownOwner = pictureOwner();
     return image;
 }
 
-QImage DrawnItem::picture(const QRectF &rect, const QByteArray &key) const
+QByteArray DrawnItem::pictureName() const
 {
-    if (const QImage *known = m_cache->find(key))
+    const QRectF rect = pictureRect();
+    const QByteArray key = rect.isEmpty() || !m_cache ? QByteArray() : pictureKey();
+    return key.isEmpty() ? key : key + bytesOf(rect, window()->effectiveDevicePixelRatio());
+}
+
+QImage DrawnItem::picture(const QByteArray &name) const
+{
+    if (const QImage *known = m_cache->find(name))
         return *known;
+    const QRectF rect = pictureRect();
     constexpr int largest = 8192; // pixels a side
     const double scale = window()->effectiveDevicePixelRatio();
     QImage drawn(std::clamp(int(std::ceil(rect.width() * scale)), 1, largest),
@@ -68,7 +74,7 @@ QImage DrawnItem::picture(const QRectF &rect, const QByteArray &key) const
     painter.translate(-rect.topLeft());
     draw(painter, scale);
     painter.end();
-    m_cache->insert(key, drawn, pictureOwner());
+    m_cache->insert(name, drawn, pictureOwner());
     return drawn;
 }
 

@@ -19,13 +19,17 @@ class DrawnItem : public QQuickItem {
 public:
     explicit DrawnItem(QQuickItem *parent = nullptr);
 
-protected:
-    // Names everything that draw() reads but size and scale. Empty: there is nothing to draw.
-    virtual QByteArray pictureKey() const = 0;
+    // For who shows the picture in another way, too; while the scene graph synchronises.
+    QByteArray pictureName() const; // its key with size and scale; empty: there is none
+    QImage picture(const QByteArray &name) const;
     // What the key names by address.
     virtual std::shared_ptr<const void> pictureOwner() const { return {}; }
     // What the picture covers, in the item's coordinates; by default the item.
     virtual QRectF pictureRect() const;
+
+protected:
+    // Names everything that draw() reads but size and scale. Empty: there is nothing to draw.
+    virtual QByteArray pictureKey() const = 0;
     // With the item's coordinates, antialiased. scale: device pixels a point. While the scene graph synchronises.
     virtual void draw(QPainter &painter, double scale) const = 0;
 
@@ -34,8 +38,6 @@ protected:
     void geometryChange(const QRectF &newGeometry, const QRectF &oldGeometry) override;
 
 private:
-    QImage picture(const QRectF &rect, const QByteArray &key) const;
-
     QPointer<PictureCache> m_cache;
     QByteArray m_shownKey; // of the node's texture
     std::shared_ptr<const void> m_shownOwner; // so that nothing else gets its address

@@ -52,35 +52,15 @@ std::array<QRectF, 8> sources(const QRectF &picture, const QMarginsF &border)
 } // namespace
 
 NinePatchNode::NinePatchNode() = default;
-
-NinePatchNode::~NinePatchNode()
-{
-    for (QSGImageNode *piece : m_pieces)
-        delete piece;
-}
-
-// An empty node in the tree would leave on screen what it showed before: the software renderer draws nothing anew
-// there.
-void NinePatchNode::show(QSGNode &piece, bool shown)
-{
-    if (shown == (piece.parent() != nullptr))
-        return;
-    if (shown)
-        appendChildNode(&piece);
-    else
-        removeChildNode(&piece);
-}
+NinePatchNode::~NinePatchNode() = default;
 
 void NinePatchNode::setPicture(QQuickWindow *window, const QImage &picture, const QMarginsF &border)
 {
+    m_window = window;
     std::unique_ptr<QSGTexture> texture(window->createTextureFromImage(picture));
-    for (QSGImageNode *&piece : m_pieces) {
-        if (!piece) {
-            piece = window->createImageNode();
-            piece->setFiltering(QSGTexture::Nearest);
-            piece->setFlag(OwnedByParent, false); // it may be out of the tree
-        }
-        piece->setTexture(texture.get());
+    for (QSGImageNode *piece : m_pieces) {
+        if (piece)
+            piece->setTexture(texture.get());
     }
     m_texture = std::move(texture);
     m_picture = QRectF(QPointF(), QSizeF(picture.size()));
@@ -93,13 +73,27 @@ void NinePatchNode::setTarget(const QRectF &target, const QMarginsF &border, dou
                        std::min(1.0, target.height() / std::max(1e-6, border.top() + border.bottom())));
     const auto from = sources(m_picture, shared(m_pictureBorder, share));
     const auto to = cells(target, onPixels(shared(border, share), scale));
-    for (std::size_t i = 0; i < m_pieces.size(); ++i) {
-        if (!m_pieces[i])
-            continue;
-        m_pieces[i]->setSourceRect(from[i]);
-        m_pieces[i]->setRect(to[i]);
-        show(*m_pieces[i], !to[i].isEmpty());
+    for (std::size_t i = 0; i < m_pieces.size(); ++i)
+        showPiece(i, from[i], to[i]);
+}
+
+// What is not to be seen leaves the tree: where a node merely became empty the software renderer draws nothing anew.
+void NinePatchNode::showPiece(std::size_t index, const QRectF &source, const QRectF &rect)
+{
+    QSGImageNode *&piece = m_pieces[index];
+    if (rect.isEmpty()) {
+        delete piece;
+        piece = nullptr;
+        return;
     }
+    if (!piece) {
+        piece = m_window->createImageNode();
+        piece->setFiltering(QSGTexture::Nearest);
+        piece->setTexture(m_texture.get());
+        appendChildNode(piece);
+    }
+    piece->setSourceRect(source);
+    piece->setRect(rect);
 }
 
 } // namespace brimshade::ui

@@ -14,7 +14,8 @@ namespace brimshade::ui {
 
 // A picture whose four corners keep their size while the sides between them stretch. The inside is left out: what
 // casts a shadow covers it. Scene graph thread.
-class NinePatchNode : public QSGNode {
+// It transforms nothing: the software renderer gives a child that comes later its place only under a node that could.
+class NinePatchNode : public QSGTransformNode {
 public:
     NinePatchNode();
     ~NinePatchNode() override;
@@ -28,12 +29,13 @@ public:
 private:
     static constexpr int kPieces = 8;
 
-    void show(QSGNode &piece, bool shown);
+    void showPiece(std::size_t index, const QRectF &source, const QRectF &rect);
 
+    QQuickWindow *m_window = nullptr;
     std::unique_ptr<QSGTexture> m_texture;
     QRectF m_picture; // pixels
     QMarginsF m_pictureBorder;
-    std::array<QSGImageNode *, kPieces> m_pieces{}; // in the tree while they have a size
+    std::array<QSGImageNode *, kPieces> m_pieces{}; // owned by the tree; null while there is nothing of it
 };
 
 } // namespace brimshade::ui

@@ -15,6 +15,11 @@ class PictureCache : public QObject {
 public:
     static PictureCache *of(QQuickWindow *window); // main thread
 
+    // Whether pictures that are made in the background are waited for: where a frame is to be complete rather than in
+    // time, as for a script.
+    bool isAwaited() const { return m_isAwaited; }
+    void setAwaited(bool isAwaited) { m_isAwaited = isAwaited; }
+
     const QImage *find(const QByteArray &key) const;
     // `owner`: whose address the key holds, null where it holds none. The picture is found while the owner lives; it is
     // not kept for that, as it may be large where the picture is small.
@@ -33,6 +38,7 @@ private:
     void dropOrphans();
 
     QCache<QByteArray, Entry> m_pictures;
+    bool m_isAwaited = false;
     int m_insertions = 0; // since it was last looked through for pictures that nobody can show any more
 };
 

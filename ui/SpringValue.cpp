@@ -134,10 +134,12 @@ void SpringValue::advance(double seconds)
     if (!isRunning() || moving < 0)
         return;
     const bool isDone = m_motion.curve == Spring ? advanceSpring(moving) : advanceEase(moving);
-    if (isDone)
-        jumpTo(m_target);
-    else
+    if (!isDone) {
         setValue(m_target + m_now.position);
+        return;
+    }
+    jumpTo(m_target);
+    Q_EMIT arrived();
 }
 
 bool SpringValue::advanceSpring(double seconds)

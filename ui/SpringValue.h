@@ -72,6 +72,7 @@ Q_SIGNALS:
     void targetChanged();
     void valueChanged();
     void runningChanged();
+    void arrived(); // a motion has ended at its target
     void parametersChanged();
 
 private:

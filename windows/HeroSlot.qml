@@ -26,13 +26,23 @@ Item {
         id: picture
         anchors.fill: parent
         image: root.image
+        opacity: pop.clamped
     }
     RoundedShape {
+        id: placeholder
         anchors.fill: parent
         visible: picture.isNull
         radius: 10
         gradient: RoundedShape.Diagonal
         color: root.tint
         endColor: Qt.rgba(1, 1, 1, 0.3)
+        opacity: pop.clamped
+    }
+    Blurred {
+        anchors.fill: parent
+        visible: pop.clamped < 1
+        opacity: 1 - pop.clamped
+        source: picture.isNull ? placeholder : picture
+        radius: 6
     }
 }

@@ -131,16 +131,18 @@ TEST(Panel, NoFrameLeavesAnythingBehind)
 {
     for (const double scale : {1.0, 2.0}) {
         PanelScene panel(6, 5, scale);
+        const auto show = [&](bool open) {
+            panel.model.setIsOpen(open);
+            for (int frame = 0; frame < 40; ++frame) {
+                panel.scene.advance(frame < 20 ? 25 : 100);
+                panel.scene.picture();
+            }
+            return panel.scene.picture();
+        };
         const QImage closed = panel.scene.picture();
-        panel.model.setIsOpen(true);
-        panel.scene.advance(400);
-        panel.scene.picture();
-        panel.model.setIsOpen(false);
-        for (int frame = 0; frame < 12; ++frame) {
-            panel.scene.advance(50);
-            panel.scene.picture();
-        }
-        EXPECT_EQ(panel.scene.picture(), closed) << "scale " << scale;
+        const QImage open = show(true);
+        EXPECT_EQ(show(false), closed) << "scale " << scale;
+        EXPECT_EQ(show(true), open) << "scale " << scale;
     }
 }
 

@@ -54,6 +54,57 @@ TEST(Items, TheSpinnerTurnsOnlyWhileItIsSeen)
     EXPECT_TRUE(turnedIn(160));
 }
 
+TEST(Items, AnEdgeFadeCoversTheEdgesAndNothingFartherIn)
+{
+    for (const double scale : {1.0, 2.0}) {
+        OffscreenScene scene({200, 100}, scale);
+        ASSERT_TRUE(scene.load(R"(
+            import QtQuick
+            import Brimshade.Ui
+            Rectangle { color: "white"; EdgeFade { anchors.fill: parent; depth: 14; radius: 8 } })"));
+        const QImage picture = scene.picture();
+        const auto light = [&](double x, double y) { return qRed(picture.pixel(int(x * scale), int(y * scale))); };
+        EXPECT_LE(light(0, 50), 3);
+        EXPECT_LE(light(199.5, 50), 3);
+        EXPECT_LE(light(100, 99.5), 3);
+        EXPECT_NEAR(light(7, 50), 128, 20);
+        EXPECT_EQ(light(14.5, 50), 255);
+        EXPECT_EQ(light(100, 50), 255);
+        EXPECT_LE(light(2, 98), 3) << "the corner";
+    }
+}
+
+TEST(Items, WhatIsBlurredSpreadsAndKeepsItsLight)
+{
+    for (const double scale : {1.0, 2.0}) {
+        OffscreenScene scene({120, 120}, scale);
+        QQuickItem *root = scene.load(R"(
+            import QtQuick
+            import Brimshade.Ui
+            Rectangle {
+                color: "black"
+                property bool isBlurred: true
+                RoundedShape { id: shape; x: 42; y: 42; width: 36; height: 36; color: "white"; visible: !parent.isBlurred }
+                Blurred { anchors.fill: shape; source: shape; radius: 8; visible: parent.isBlurred }
+            })");
+        ASSERT_TRUE(root);
+        const auto sum = [](const QImage &picture) {
+            double total = 0;
+            for (int y = 0; y < picture.height(); ++y)
+                for (int x = 0; x < picture.width(); ++x)
+                    total += qGreen(picture.pixel(x, y));
+            return total;
+        };
+        const QImage soft = scene.picture();
+        const auto light = [&](double x) { return qGreen(soft.pixel(int(x * scale), int(60 * scale))); };
+        EXPECT_NEAR(light(60), 243, 12);
+        EXPECT_NEAR(light(42), 125, 14) << "half way where the edge was";
+        EXPECT_NEAR(light(34), 40, 12) << "one deviation beyond it";
+        root->setProperty("isBlurred", false);
+        EXPECT_NEAR(sum(soft), sum(scene.picture()), 0.06 * sum(soft));
+    }
+}
+
 // A program that draws its icon anew all the time costs what is shown of it.
 TEST(Items, AnImageIsKeptWhileItIsShownAndNeverTakenForAnother)
 {

@@ -1,4 +1,5 @@
 #include "OffscreenScene.h"
+#include "ui/PictureCache.h"
 
 #include <QMouseEvent>
 #include <QQmlComponent>
@@ -15,6 +16,7 @@ OffscreenScene::OffscreenScene(QSize size, double scale)
 {
     m_engine->addImportPath(QStringLiteral("qrc:/qt/qml"));
     m_window->setColor(kBackground);
+    PictureCache::of(m_window.get())->setAwaited(true);
     m_window->setGeometry(QRect(QPoint(), size));
     m_window->contentItem()->setSize(size);
     m_image.setDevicePixelRatio(scale);

@@ -1,4 +1,5 @@
 #include "OffscreenSurface.h"
+#include "ui/PictureCache.h"
 
 #include <QCoreApplication>
 #include <QFocusEvent>
@@ -12,6 +13,7 @@ OffscreenSurface::OffscreenSurface()
     : m_control(std::make_unique<QQuickRenderControl>()), m_window(std::make_unique<QQuickWindow>(m_control.get()))
 {
     m_window->setColor(Qt::transparent);
+    ui::PictureCache::of(m_window.get())->setAwaited(true);
     // No window system ever makes it the active window, without which no item gets a key.
     QFocusEvent focus(QEvent::FocusIn, Qt::ActiveWindowFocusReason);
     QCoreApplication::sendEvent(m_window.get(), &focus);

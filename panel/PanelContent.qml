@@ -1,0 +1,98 @@
+pragma ComponentBehavior: Bound
+import QtQuick
+import Brimshade.Model
+import Brimshade.Panel
+import Brimshade.Ui
+
+// What is in the tab, laid out for the open panel: what reaches beyond a smaller tab fades into its black.
+Item {
+    id: root
+
+    required property NotchModel model
+    required property TileActions actions
+    required property PermissionRequest permission
+    required property PanelState panelState
+    required property PanelGeometry geometry
+    required property NotchTab tab
+    required property HelpTip helpTip
+    required property bool presented
+    required property real shown // from 0, closed, to 1, open
+    readonly property real bodyTop: root.model.notch.height
+    readonly property real contentLeft: (root.width - contentWidth.value) / 2
+
+    // Items that come into an empty panel find it as wide as it is going to be.
+    Glide {
+        id: contentWidth
+        target: root.geometry.openSize.width - 2 * (PanelMetrics.openFlare + PanelMetrics.sidePadding)
+        animated: root.presented && root.panelState.body === PanelState.Tiles
+    }
+    Item {
+        objectName: "interior"
+        x: root.tab.interior.x
+        width: root.tab.interior.width
+        height: root.tab.interior.height
+        clip: true
+        visible: root.presented
+
+        Item {
+            objectName: "content"
+            x: root.contentLeft - parent.x
+            width: contentWidth.value
+
+            PanelHeader {
+                objectName: "header"
+                width: parent.width
+                height: root.bodyTop
+                model: root.model
+                panelState: root.panelState
+                helpTip: root.helpTip
+            }
+            PanelBody {
+                id: body
+                objectName: "body"
+                y: root.bodyTop
+                width: parent.width
+                model: root.model
+                actions: root.actions
+                permission: root.permission
+                panelState: root.panelState
+                geometry: root.geometry
+                presented: root.presented
+            }
+        }
+        EdgeFade {
+            y: -PanelMetrics.sidePadding // the upper edge is the screen's
+            width: parent.width
+            height: parent.height - y
+            depth: 14
+            radius: 8 // and the depth: no more than the padding
+        }
+    }
+    Scroller {
+        objectName: "scroller"
+        x: root.contentLeft + contentWidth.value + (PanelMetrics.sidePadding - width) / 2
+        y: root.bodyTop
+        height: root.geometry.viewportHeight
+        visible: root.presented && body.overflows
+        opacity: footer.opacity
+        contentHeight: root.geometry.contentHeight
+        position: body.scrollPosition
+    }
+    PanelFooter {
+        id: footer
+        x: root.contentLeft
+        y: root.bodyTop + footerY.value
+        width: contentWidth.value
+        visible: root.presented && root.panelState.body === PanelState.Tiles
+        // It is never cut: before the tab has room for it nothing of it is seen.
+        opacity: root.shown * Math.max(0, Math.min(1, (root.tab.height - y - height + 2) / (PanelMetrics.bottomMargin + 2)))
+        panelState: root.panelState
+        animated: root.model.isOpen
+
+        Glide {
+            id: footerY
+            target: root.geometry.footerY
+            animated: root.presented && footer.visible
+        }
+    }
+}
