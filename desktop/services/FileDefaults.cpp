@@ -1,7 +1,6 @@
 #include "FileDefaults.h"
+#include "SettingsFormat.h"
 
-#include <QJsonDocument>
-#include <QJsonObject>
 #include <QStandardPaths>
 
 using namespace Qt::StringLiterals;
@@ -31,9 +30,9 @@ FileDefaults::Content FileDefaults::read(const StoredFile &file, const Report &r
 {
     Content content;
     content.mayWrite = readStored(file, report, [&content](const QByteArray &bytes) {
-        const QJsonDocument document = QJsonDocument::fromJson(bytes);
-        content.values = document.object().toVariantMap();
-        return document.isObject() ? Verdict::good : Verdict::damaged;
+        const auto values = readSettings(bytes);
+        content.values = values.value_or(QVariantMap());
+        return values ? Verdict::good : Verdict::damaged;
     });
     return content;
 }
@@ -46,7 +45,7 @@ QString FileDefaults::defaultPath()
 void FileDefaults::changed()
 {
     if (m_writer)
-        m_writer->write(QJsonDocument(QJsonObject::fromVariantMap(all())).toJson());
+        m_writer->write(writeSettings(all()));
 }
 
 } // namespace brimshade::desktop

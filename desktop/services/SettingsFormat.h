@@ -1,0 +1,12 @@
+#pragma once
+#include <QByteArray>
+#include <QVariantMap>
+#include <optional>
+
+namespace brimshade::desktop {
+
+// The settings as one JSON object. Pure functions, any thread.
+QByteArray writeSettings(const QVariantMap &values);
+std::optional<QVariantMap> readSettings(const QByteArray &json); // nothing when it is none
+
+} // namespace brimshade::desktop
