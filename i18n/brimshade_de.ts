@@ -2,6 +2,44 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="de" sourcelanguage="en">
 <context>
+    <name>AccessibilityPage</name>
+    <message>
+        <source>Accessibility</source>
+        <translation>Bedienungshilfen</translation>
+    </message>
+    <message>
+        <source>Allow the applications below to control your computer.</source>
+        <translation>Erlaube den Apps unten, deinen Computer zu steuern.</translation>
+    </message>
+    <message>
+        <source>Allow Brimshade</source>
+        <translation>Brimshade erlauben</translation>
+    </message>
+</context>
+<context>
+    <name>ApplicationMenus</name>
+    <message>
+        <source>File</source>
+        <translation>Ablage</translation>
+    </message>
+    <message>
+        <source>Edit</source>
+        <translation>Bearbeiten</translation>
+    </message>
+    <message>
+        <source>View</source>
+        <translation>Darstellung</translation>
+    </message>
+    <message>
+        <source>Window</source>
+        <translation>Fenster</translation>
+    </message>
+    <message>
+        <source>Help</source>
+        <translation>Hilfe</translation>
+    </message>
+</context>
+<context>
     <name>BottomBar</name>
     <message>
         <source>Get started</source>
@@ -99,7 +137,7 @@
     </message>
     <message>
         <source>When on, the Brimshade icon widens up to the notch and everything to its left is tucked away into the notch. Switching an item does a quick Cmd-drag across the Brimshade icon for you, so the pointer jumps for a moment. You can also Cmd-drag items across it yourself.</source>
-        <translation>Wenn aktiviert, wird das Brimshade-Symbol bis zur Notch verbreitert und alles links davon in der Notch verstaut. Beim Umschalten eines Objekts zieht Brimshade es kurz mit gedrückter Befehlstaste über das Brimshade-Symbol, deshalb springt der Zeiger für einen Moment. Du kannst Objekte auch selbst mit gedrückter Befehlstaste darüberziehen.</translation>
+        <translation>Ist dies eingeschaltet, wird das Brimshade-Symbol bis zur Notch verbreitert und alles links davon in der Notch verstaut. Beim Umschalten eines Objekts zieht Brimshade es kurz mit gedrückter Befehlstaste über das Brimshade-Symbol, deshalb springt der Zeiger für einen Moment. Du kannst Objekte auch selbst mit gedrückter Befehlstaste darüberziehen.</translation>
     </message>
     <message>
         <source>Tuck away items left of Brimshade</source>
@@ -122,7 +160,7 @@
     </message>
     <message>
         <source>Lit items stay in the menu bar. Dimmed ones are tucked into the notch, one click away.</source>
-        <translation>Helle Objekte bleiben in der Menüleiste. Gedimmte sind in der Notch, einen Klick entfernt.</translation>
+        <translation>Helle Objekte bleiben in der Menüleiste. Gedimmte sind in der Notch verstaut, nur einen Klick entfernt.</translation>
     </message>
     <message>
         <source>Reading your menu bar…</source>
@@ -157,10 +195,24 @@
     </message>
 </context>
 <context>
+    <name>MenuBarView</name>
+    <message>
+        <source>Menu bar</source>
+        <translation>Menüleiste</translation>
+    </message>
+</context>
+<context>
+    <name>MenuView</name>
+    <message>
+        <source>Menu</source>
+        <translation>Menü</translation>
+    </message>
+</context>
+<context>
     <name>MessageRow</name>
     <message>
         <source>Dismiss</source>
-        <translation>Ausblenden</translation>
+        <translation>Schließen</translation>
     </message>
 </context>
 <context>
@@ -175,11 +227,11 @@
     </message>
     <message>
         <source>macOS didn&apos;t accept the move. Try again, or Cmd-drag it across the divider.</source>
-        <translation>macOS hat die Bewegung nicht angenommen. Versuche es erneut oder ziehe es bei gedrückter Befehlstaste über den Trenner.</translation>
+        <translation>macOS hat das Verschieben nicht angenommen. Versuche es erneut oder ziehe das Objekt mit gedrückter Befehlstaste über den Trenner.</translation>
     </message>
     <message>
         <source>Some items didn&apos;t move.</source>
-        <translation>Einige Objekte wurden nicht bewegt.</translation>
+        <translation>Einige Objekte wurden nicht verschoben.</translation>
     </message>
 </context>
 <context>
@@ -205,7 +257,7 @@
     </message>
     <message>
         <source>The icon right of the notch always works. Add a shortcut or a hover if you like.</source>
-        <translation>Das Symbol rechts der Notch geht immer. Kurzbefehl und Zeigen sind ein Zusatz.</translation>
+        <translation>Das Symbol rechts der Notch funktioniert immer. Kurzbefehl und Ruhenlassen des Zeigers sind optional.</translation>
     </message>
     <message>
         <source>Hover the notch</source>
@@ -226,13 +278,19 @@
 </context>
 <context>
     <name>PanelHeader</name>
-    <message>
-        <source>%1 hidden</source>
-        <translation>%1 ausgeblendet</translation>
+    <message numerus="yes">
+        <source>%n hidden</source>
+        <translation>
+            <numerusform>%n ausgeblendet</numerusform>
+            <numerusform>%n ausgeblendet</numerusform>
+        </translation>
     </message>
-    <message>
-        <source>%1 items</source>
-        <translation>%1 Objekte</translation>
+    <message numerus="yes">
+        <source>%n items</source>
+        <translation>
+            <numerusform>%n Objekt</numerusform>
+            <numerusform>%n Objekte</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -250,6 +308,29 @@ Nichts verlässt deinen Mac.</translation>
     <message>
         <source>Open Accessibility Settings</source>
         <translation>Bedienungshilfen-Einstellungen öffnen</translation>
+    </message>
+</context>
+<context>
+    <name>PermissionPrompt</name>
+    <message>
+        <source>Accessibility Access</source>
+        <translation>Zugriff auf Bedienungshilfen</translation>
+    </message>
+    <message>
+        <source>“Brimshade” would like to control this computer using accessibility features.</source>
+        <translation>„Brimshade“ möchte diesen Computer mithilfe der Bedienungshilfen steuern.</translation>
+    </message>
+    <message>
+        <source>Grant access to this application in the Accessibility settings.</source>
+        <translation>Erlaube dieser App den Zugriff in den Einstellungen unter „Bedienungshilfen“.</translation>
+    </message>
+    <message>
+        <source>Deny</source>
+        <translation>Ablehnen</translation>
+    </message>
+    <message>
+        <source>Open System Settings</source>
+        <translation>Systemeinstellungen öffnen</translation>
     </message>
 </context>
 <context>
@@ -278,7 +359,7 @@ Nichts verlässt deinen Mac.</translation>
     </message>
     <message>
         <source>Already listed but this doesn&apos;t turn green? Select Brimshade, remove it with –, then allow it again.</source>
-        <translation>Schon in der Liste, aber hier wird nichts grün? Wähle Brimshade aus, entferne es mit – und erlaube es dann erneut.</translation>
+        <translation>Schon in der Liste, aber hier wird nichts grün? Wähle Brimshade aus, entferne es mit „–“ und erlaube es dann erneut.</translation>
     </message>
 </context>
 <context>
@@ -397,10 +478,17 @@ Nichts verlässt deinen Mac.</translation>
     </message>
 </context>
 <context>
+    <name>TitleBar</name>
+    <message>
+        <source>Close</source>
+        <translation>Schließen</translation>
+    </message>
+</context>
+<context>
     <name>WelcomeStep</name>
     <message>
         <source>Your whole menu bar, one click away</source>
-        <translation>Deine Menüleiste, einen Klick entfernt</translation>
+        <translation>Deine ganze Menüleiste, nur einen Klick entfernt</translation>
     </message>
     <message>
         <source>The notch hides menu bar items when there&apos;s no room.
@@ -414,6 +502,28 @@ Brimshade öffnet die Notch und zeigt sie alle.</translation>
     <message>
         <source>Open or close Brimshade</source>
         <translation>Brimshade öffnen oder schließen</translation>
+    </message>
+</context>
+<context>
+    <name>brimshade::desktop::TrayHost</name>
+    <message>
+        <source>The session&apos;s message bus is gone, and the tray&apos;s items with it.</source>
+        <translation>Der Nachrichtenbus der Sitzung ist weg, und mit ihm die Symbole der Programme.</translation>
+    </message>
+</context>
+<context>
+    <name>brimshade::desktop::WallClock</name>
+    <message>
+        <source>ddd MMM d  HH:mm</source>
+        <translation>ddd d. MMM  HH:mm</translation>
+    </message>
+    <message>
+        <source>ddd HH:mm</source>
+        <translation>ddd HH:mm</translation>
+    </message>
+    <message>
+        <source>HH:mm</source>
+        <translation>HH:mm</translation>
     </message>
 </context>
 <context>
@@ -442,6 +552,13 @@ Brimshade öffnet die Notch und zeigt sie alle.</translation>
     </message>
 </context>
 <context>
+    <name>brimshade::desktop::tray::TrayPrograms</name>
+    <message>
+        <source>The program does not answer.</source>
+        <translation>Das Programm antwortet nicht.</translation>
+    </message>
+</context>
+<context>
     <name>brimshade::model::NotchModel</name>
     <message>
         <source>Couldn&apos;t change Launch at Login: </source>
@@ -464,7 +581,7 @@ Brimshade öffnet die Notch und zeigt sie alle.</translation>
     </message>
     <message>
         <source>Type to search  ·  ↩ to open  ·  right-click to hide or show  ·  esc to close</source>
-        <translation>Tippen sucht  ·  ↩ öffnet  ·  Rechtsklick blendet aus oder ein  ·  esc schließt</translation>
+        <translation>Tippen zum Suchen  ·  ↩ öffnet  ·  Rechtsklick blendet aus oder ein  ·  esc schließt</translation>
     </message>
 </context>
 <context>
@@ -498,7 +615,7 @@ Brimshade öffnet die Notch und zeigt sie alle.</translation>
     <name>brimshade::windows::ShortcutChoice</name>
     <message>
         <source>None</source>
-        <translation>Ohne</translation>
+        <translation>Keiner</translation>
     </message>
 </context>
 </TS>

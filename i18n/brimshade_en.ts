@@ -11,4 +11,21 @@
         </translation>
     </message>
 </context>
+<context>
+    <name>PanelHeader</name>
+    <message numerus="yes">
+        <source>%n hidden</source>
+        <translation>
+            <numerusform>%n hidden</numerusform>
+            <numerusform>%n hidden</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n items</source>
+        <translation>
+            <numerusform>%n item</numerusform>
+            <numerusform>%n items</numerusform>
+        </translation>
+    </message>
+</context>
 </TS>

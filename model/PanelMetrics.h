@@ -19,6 +19,7 @@ class PanelMetrics : public QObject {
     Q_PROPERTY(double bottomMargin MEMBER bottomMargin CONSTANT)
     Q_PROPERTY(double sidePadding MEMBER sidePadding CONSTANT)
     Q_PROPERTY(double notchClearance MEMBER notchClearance CONSTANT)
+    Q_PROPERTY(double closedFlare MEMBER closedFlare CONSTANT)
     Q_PROPERTY(double openFlare MEMBER openFlare CONSTANT)
     Q_PROPERTY(double openCorner MEMBER openCorner CONSTANT)
 

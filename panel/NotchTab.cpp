@@ -82,7 +82,8 @@ QSGNode *NotchTab::updatePaintNode(QSGNode *node, UpdatePaintNodeData *)
     if (!tab)
         tab = new NotchTabNode(*window());
     const NotchShape shape{m_shape.top, snapped(m_shape.effectiveBottom(size()))};
-    tab->show(shape, size(), std::clamp(m_openness, 0.0, 1.0), scale());
+    tab->show(shape, size(),
+              m_isBordered ? NotchOutline{1, true} : NotchOutline{std::clamp(m_openness, 0.0, 1.0), false}, scale());
     return tab;
 }
 

@@ -6,15 +6,18 @@
 
 namespace brimshade::panel {
 
-// The black tab with its outline, hanging from the top middle of its parent. It sizes and places itself, on whole
-// device pixels, between its closed and its open size. It takes the clicks that fall inside its outline and does
-// nothing with them.
+// A black tab with an outline, hanging from the top middle of its parent. It sizes and places itself, on whole
+// device pixels, between its closed and its open size, flares included. It takes the clicks that fall inside its
+// outline and does nothing with them.
 class NotchTab : public QQuickItem {
     Q_OBJECT
     QML_ELEMENT
     Q_PROPERTY(QSizeF closedSize MEMBER m_closedSize NOTIFY sizesChanged)
     Q_PROPERTY(QSizeF openSize MEMBER m_openSize NOTIFY sizesChanged)
     Q_PROPERTY(double openness MEMBER m_openness NOTIFY sizesChanged) // 0 closed, 1 open; springs overshoot
+    // False: the outline comes with the opening, and down the tab. True: it is always there, all around, inside the
+    // edge.
+    Q_PROPERTY(bool bordered MEMBER m_isBordered NOTIFY sizesChanged)
     // The part of the parent that shows content: a rectangle inside the outline, lower corners included.
     Q_PROPERTY(QRectF interior READ interior NOTIFY interiorChanged)
 
@@ -41,6 +44,7 @@ private:
     QSizeF m_closedSize;
     QSizeF m_openSize;
     double m_openness = 0;
+    bool m_isBordered = false;
     NotchShape m_shape; // at present, snapped
     QMetaObject::Connection m_parentWidth;
 };

@@ -42,18 +42,20 @@ std::array<QRectF, 2> innerPieces(const NotchShape &shape, QSizeF size)
             QRectF(QPointF(left + shape.bottom, low), QPointF(right - shape.bottom, size.height() - kEdge))};
 }
 
-QPen outlinePen(QSizeF size, double opacity)
+// A border's outer half is not drawn.
+QPen outlinePen(QSizeF size, const NotchOutline &outline)
 {
+    const QColor lower = QColor::fromRgbF(1, 1, 1, float(kLineOpacity * outline.opacity));
     QLinearGradient fade(0, 0, 0, size.height());
-    fade.setColorAt(0, QColor::fromRgbF(1, 1, 1, 0));
-    fade.setColorAt(1, QColor::fromRgbF(1, 1, 1, float(kLineOpacity * opacity)));
-    QPen pen(QBrush(fade), kLineWidth);
+    fade.setColorAt(0, outline.isBorder ? lower : QColor::fromRgbF(1, 1, 1, 0));
+    fade.setColorAt(1, lower);
+    QPen pen(QBrush(fade), outline.isBorder ? 2 * kLineWidth : kLineWidth);
     pen.setJoinStyle(Qt::MiterJoin);
     pen.setMiterLimit(kMiterLimit);
     return pen;
 }
 
-QImage paintedPiece(const QRectF &piece, const QPainterPath &path, const QPen &pen, double scale)
+QImage paintedPiece(const QRectF &piece, const QPainterPath &path, const QPen &pen, bool isInside, double scale)
 {
     QImage picture((piece.size() * scale).toSize().expandedTo({1, 1}), QImage::Format_ARGB32_Premultiplied);
     picture.fill(Qt::transparent);
@@ -62,6 +64,8 @@ QImage paintedPiece(const QRectF &piece, const QPainterPath &path, const QPen &p
     painter.scale(scale, scale);
     painter.translate(-piece.topLeft());
     painter.fillPath(path, Qt::black);
+    if (isInside)
+        painter.setCompositionMode(QPainter::CompositionMode_SourceAtop);
     painter.strokePath(path, pen);
     return picture;
 }
@@ -70,16 +74,17 @@ QImage paintedPiece(const QRectF &piece, const QPainterPath &path, const QPen &p
 
 NotchTabNode::NotchTabNode(QQuickWindow &window) : m_window(window) { }
 
-void NotchTabNode::show(const NotchShape &shape, QSizeF size, double outlineOpacity, double scale)
+void NotchTabNode::show(const NotchShape &shape, QSizeF size, const NotchOutline &outline, double scale)
 {
     const auto inner = innerPieces(shape, size);
     for (std::size_t i = 0; i < kRectangles; ++i)
         showRectangle(i, inner[i]);
     const QPainterPath path = shape.path(QRectF(QPointF(), size));
-    const QPen pen = outlinePen(size, outlineOpacity);
+    const QPen pen = outlinePen(size, outline);
     const auto pieces = outlinePieces(shape, size);
     for (std::size_t i = 0; i < kPictures; ++i)
-        showPicture(i, pieces[i], pieces[i].isValid() ? paintedPiece(pieces[i], path, pen, scale) : QImage());
+        showPicture(i, pieces[i],
+                    pieces[i].isValid() ? paintedPiece(pieces[i], path, pen, outline.isBorder, scale) : QImage());
 }
 
 // What is not to be seen leaves the tree: where a node merely became empty the software renderer draws nothing anew.

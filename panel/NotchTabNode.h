@@ -11,6 +11,12 @@ class QSGRectangleNode;
 
 namespace brimshade::panel {
 
+// A thin white line along the tab: even and inside its edge, or on its edge and fading upwards.
+struct NotchOutline {
+    double opacity = 1;
+    bool isBorder = false;
+};
+
 // The tab in pieces that fit without overlap: plain black rectangles, and small pictures wherever the outline runs. A
 // frame of an animation so draws some thousand antialiased pixels and not the whole tab. Scene graph thread.
 // It transforms nothing: the software renderer gives a child that comes later its place only under a node that could.
@@ -19,7 +25,7 @@ public:
     explicit NotchTabNode(QQuickWindow &window);
 
     // Shape and size lie on whole device pixels.
-    void show(const NotchShape &shape, QSizeF size, double outlineOpacity, double scale);
+    void show(const NotchShape &shape, QSizeF size, const NotchOutline &outline, double scale);
 
 private:
     static constexpr std::size_t kPictures = 7;

@@ -60,12 +60,14 @@ Item {
                 presented: root.presented
             }
         }
+        // It reaches a little beyond the clip, which lies between device pixels; the upper edge is the screen's.
         EdgeFade {
-            y: -PanelMetrics.sidePadding // the upper edge is the screen's
-            width: parent.width
-            height: parent.height - y
-            depth: 14
-            radius: 8 // and the depth: no more than the padding
+            x: -1
+            y: -PanelMetrics.sidePadding
+            width: parent.width + 2
+            height: parent.height - y + 1
+            depth: 15
+            radius: 7 // and the depth: no more than the padding
         }
     }
     Scroller {

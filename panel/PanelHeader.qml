@@ -42,7 +42,7 @@ Item {
             objectName: "hiddenCount"
             anchors.verticalCenter: parent.verticalCenter
             visible: root.model.query === ""
-            text: qsTr("%1 hidden").arg(root.model.hiddenCount)
+            text: qsTr("%n hidden", "", root.model.hiddenCount)
             size: 11
             font.weight: Font.DemiBold
             color: root.dim
@@ -63,7 +63,7 @@ Item {
                 Accessible.name: root.model.query
             }
             // "▍", which the font lacks.
-            Rectangle {
+            Line {
                 id: caret
                 objectName: "caret"
                 anchors.verticalCenter: parent.verticalCenter
@@ -83,7 +83,7 @@ Item {
         StyledText {
             objectName: "itemCount"
             anchors.verticalCenter: parent.verticalCenter
-            text: qsTr("%1 items").arg(root.model.itemCount)
+            text: qsTr("%n items", "", root.model.itemCount)
             size: 11
             font.weight: Font.DemiBold
             color: root.dim

@@ -3,7 +3,7 @@ import QtQuick
 import QtQuick.Templates as T
 import Brimshade.Ui
 
-// A pop-up button: shows one of its titles and opens a list of them over itself. The list is an item of the view it
+// A pop-up button as forms have it: one of its titles and grey arrows. It opens a list of the titles over itself. The list is an item of the view it
 // belongs to, not a popup of the toolkit, which would lie outside the view. Its text is its name to assistive programs;
 // it is not drawn.
 T.ComboBox {
@@ -52,41 +52,24 @@ T.ComboBox {
     }
 
     contentItem: StyledText {
-        leftPadding: 9
-        rightPadding: 24
+        rightPadding: 16
         text: control.currentTitle
         color: control.palette.buttonText
+        horizontalAlignment: Text.AlignRight
         verticalAlignment: Text.AlignVCenter
         elide: Text.ElideRight
         Accessible.ignored: true
     }
 
     background: Item {
-        ControlShadow {
-            radius: 6
-        }
-        RoundedShape {
-            anchors.fill: parent
-            radius: 6
-            color: control.palette.button
-        }
-        RoundedShape {
-            anchors.right: parent.right
-            anchors.rightMargin: 4
-            anchors.verticalCenter: parent.verticalCenter
-            width: 16
-            height: 16
-            radius: 4.5
-            color: control.palette.highlight
-        }
         SymbolIcon {
             anchors.right: parent.right
-            anchors.rightMargin: 12 - width / 2
+            anchors.rightMargin: 5 - width / 2
             anchors.verticalCenter: parent.verticalCenter
             name: "chevron.up.chevron.down"
-            pointSize: 9
-            weight: SymbolIcon.Bold
-            color: "white"
+            pointSize: 10
+            weight: SymbolIcon.Semibold
+            color: Theme.secondary(control.palette.buttonText)
         }
         FocusRing {
             visible: control.visualFocus

@@ -22,6 +22,7 @@ QtObject {
     readonly property color lightWindow: "#f2f2f4"
     readonly property color lightText: Qt.rgba(0, 0, 0, 0.85)
     readonly property color lightAccent: "#007aff"
+    readonly property color lightOrange: "#ff9500"
     readonly property color lightTrack: Qt.rgba(0, 0, 0, 0.16) // of a switch that is off
 
     readonly property real formInset: 12 // of what stands in a row of a form

@@ -23,7 +23,28 @@ Item {
         }
     }
 
+    // From its first moment on what comes can be found and pressed; what goes cannot.
+    component Presence: StepSpring {
+        property bool shown
+        readonly property real opacity: shown ? Math.max(0.02, clamped) : clamped
+
+        target: shown ? 1 : 0
+    }
+
     implicitHeight: primary.implicitHeight
+
+    Presence {
+        id: back
+        shown: root.flow.step > 0
+    }
+    Presence {
+        id: skipping
+        shown: root.skips
+    }
+    Presence {
+        id: acting
+        shown: !root.skips
+    }
 
     StepDots {
         objectName: "stepDots"
@@ -36,7 +57,10 @@ Item {
         anchors.right: root.skips ? skip.left : primary.left
         anchors.rightMargin: 14
         anchors.verticalCenter: parent.verticalCenter
-        visible: root.flow.step > 0
+        visible: opacity > 0
+        opacity: back.opacity
+        enabled: back.shown
+        Accessible.ignored: !back.shown
         style: PushButton.Plain
         textColor: Qt.rgba(1, 1, 1, 0.6)
         text: qsTr("Back")
@@ -47,7 +71,10 @@ Item {
         objectName: "skipButton"
         anchors.right: parent.right
         anchors.verticalCenter: parent.verticalCenter
-        visible: root.skips
+        visible: opacity > 0
+        opacity: skipping.opacity
+        enabled: root.skips
+        Accessible.ignored: !root.skips
         style: PushButton.Plain
         textColor: Qt.rgba(1, 1, 1, 0.6)
         text: root.title(OnboardingFlow.Skip)
@@ -58,7 +85,10 @@ Item {
         objectName: "primaryButton"
         anchors.right: parent.right
         anchors.verticalCenter: parent.verticalCenter
-        visible: !root.skips
+        visible: opacity > 0
+        opacity: acting.opacity
+        enabled: !root.skips
+        Accessible.ignored: root.skips
         text: root.title(root.flow.action)
         onClicked: root.flow.act()
     }

@@ -53,13 +53,14 @@ Item {
         cornerRadius: 18
         continuous: true
     }
-    Rectangle {
+    RoundedShape {
         objectName: "choiceBadge"
         x: parent.width - width + 2
         y: -2
-        width: Math.max(badge.width, badge.height) + 4
-        height: width
-        radius: width / 2
+        width: badge.width
+        height: badge.height
+        radius: height / 2
+        continuous: false
         color: "black"
 
         SymbolIcon {

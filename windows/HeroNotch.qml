@@ -1,5 +1,7 @@
 pragma ComponentBehavior: Bound
 import QtQuick
+import Brimshade.Model
+import Brimshade.Panel
 import Brimshade.Ui
 
 // The illustration of the welcome step: a notch that opens and shows what was behind it, again and again while it can
@@ -10,6 +12,8 @@ Item {
     required property list<var> icons
     property bool open: false
     property real waited: 0 // of the present wait, 0 to 1
+    readonly property size closedSize: Qt.size(130 + 2 * PanelMetrics.closedFlare, 26)
+    readonly property size openSize: Qt.size(360 + 2 * PanelMetrics.openFlare, 150)
     readonly property list<color> tints: [Theme.orange, Theme.purple, Theme.cyan, Theme.pink, Theme.green]
 
     function setOpen(open: bool) {
@@ -52,27 +56,25 @@ Item {
         damping: 0.75
     }
 
-    Shadow {
-        anchors.fill: body
-        anchors.topMargin: 10
-        anchors.bottomMargin: -10
-        radius: body.corner
+    NotchShadow {
+        anchors.horizontalCenter: parent.horizontalCenter
+        y: 10
+        width: root.closedSize.width + (root.openSize.width - root.closedSize.width) * unfold.value
+        height: root.closedSize.height + (root.openSize.height - root.closedSize.height) * unfold.value
         blur: 30
         color: Qt.alpha(Theme.orange, 0.35)
         opacity: unfold.clamped
     }
-    HeroBody {
-        id: body
+    NotchTab {
         objectName: "heroBody"
-        anchors.horizontalCenter: parent.horizontalCenter
-        y: 0
-        width: 130 + 230 * unfold.value
-        height: 26 + 124 * unfold.value
-        corner: 9 + 17 * Math.max(0, unfold.value)
+        closedSize: root.closedSize
+        openSize: root.openSize
+        openness: unfold.value
+        bordered: true
     }
     Row {
         anchors.horizontalCenter: parent.horizontalCenter
-        y: body.y + 56
+        y: 56
         spacing: 12
 
         Repeater {

@@ -18,7 +18,7 @@ Item {
         y: 10 + (16 - height) / 2
         name: "exclamationmark.triangle.fill"
         pointSize: 13
-        color: Theme.orange
+        color: Theme.lightOrange
     }
     StyledText {
         id: text

@@ -2,10 +2,22 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import QtQuick.Templates as T
 import Brimshade.Ui
+import Brimshade.Windows
 
 // The white call to action. The view that holds it presses it on Return, wherever the keyboard is.
 T.AbstractButton {
     id: control
+
+    property string leavingText // fades while the text that replaced it comes
+    property string latestText
+
+    component Label: StyledText {
+        anchors.centerIn: parent
+        size: 13
+        font.weight: Font.DemiBold
+        color: "black"
+        Accessible.ignored: true
+    }
 
     implicitWidth: implicitContentWidth
     implicitHeight: implicitContentHeight
@@ -13,6 +25,22 @@ T.AbstractButton {
     Accessible.name: control.text
     Accessible.onPressAction: control.clicked()
 
+    onTextChanged: {
+        control.leavingText = control.latestText;
+        control.latestText = control.text;
+        change.run(0, 1);
+    }
+
+    SpringValue {
+        id: change
+        target: 1
+        curve: SpringValue.EaseOut
+        duration: 0.2
+    }
+    StepSpring {
+        id: across
+        target: label.implicitWidth
+    }
     PressStyle {
         id: press
         pressed: control.down
@@ -29,16 +57,20 @@ T.AbstractButton {
             cornerRadius: parent.height / 2
         }
     }
-    contentItem: StyledText {
+    contentItem: Item {
         scale: press.value
-        leftPadding: 22
-        rightPadding: 22
-        topPadding: 9
-        bottomPadding: 9
-        text: control.text
-        size: 13
-        font.weight: Font.DemiBold
-        color: "black"
-        Accessible.ignored: true
+        implicitWidth: across.value + 44
+        implicitHeight: label.implicitHeight + 18
+
+        Label {
+            id: label
+            text: control.text
+            opacity: change.value
+        }
+        Label {
+            text: control.leavingText
+            visible: change.running
+            opacity: 1 - change.value
+        }
     }
 }

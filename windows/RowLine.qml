@@ -3,7 +3,7 @@ import QtQuick
 import Brimshade.Ui
 
 // What parts a row of the form from the one above.
-Rectangle {
+Line {
     id: root
 
     x: Theme.formInset

@@ -14,8 +14,8 @@ Column {
     spacing: 8
 
     StyledText {
-        x: 10
-        width: root.width - 20
+        x: Theme.formInset
+        width: root.width - 2 * Theme.formInset
         visible: root.title !== ""
         text: root.title
         size: 13
@@ -38,8 +38,8 @@ Column {
         }
     }
     StyledText {
-        x: 10
-        width: root.width - 20
+        x: Theme.formInset
+        width: root.width - 2 * Theme.formInset
         visible: root.footer !== ""
         text: root.footer
         size: 11

@@ -36,7 +36,7 @@ FocusScope {
         color: root.palette.window
     }
     // Under the title bar, once something has gone behind it.
-    Rectangle {
+    Line {
         objectName: "scrolledEdge"
         z: 1
         width: parent.width

@@ -25,7 +25,7 @@ TrayHost::TrayHost(Desktop &desktop, ConnectToBus connect, platform::Dispatch &d
     });
     QObject::connect(&m_parts->bus, &BusLink::lost, this, [this, &desktop] {
         m_parts->programs.reset();
-        const auto text = QStringLiteral("The session's message bus is gone, and the tray's items with it.");
+        const QString text = tr("The session's message bus is gone, and the tray's items with it.");
         desktop.notify(QStringLiteral("Brimshade"), text);
         Q_EMIT message(text);
     });

@@ -161,7 +161,7 @@ void TrayPrograms::lapsePresses()
 void TrayPrograms::tellUnanswered(int pid)
 {
     const auto &program = m_programs[pid];
-    m_desktop.notify(applicationName(program.known, hosted(program)), QStringLiteral("The program does not answer."));
+    m_desktop.notify(applicationName(program.known, hosted(program)), tr("The program does not answer."));
 }
 
 } // namespace brimshade::desktop::tray

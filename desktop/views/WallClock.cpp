@@ -31,9 +31,9 @@ QString WallClock::text(double width) const
     font.setWeight(QFont::Medium);
     const QFontMetricsF metrics(font);
     const QDateTime now = m_now();
-    const QLocale locale = QLocale::c();
+    const QLocale locale;
     QString text;
-    for (const QString &form : {u"ddd MMM d  HH:mm"_s, u"ddd HH:mm"_s, u"HH:mm"_s}) {
+    for (const QString &form : {tr("ddd MMM d  HH:mm"), tr("ddd HH:mm"), tr("HH:mm")}) {
         text = locale.toString(now, form);
         if (metrics.horizontalAdvance(text) <= width)
             return text;

@@ -10,7 +10,7 @@ import sys
 import tempfile
 import xml.etree.ElementTree as ElementTree
 
-SOURCES = ["app", "model", "panel", "ui", "windows", "desktop/core", "desktop/services", "desktop/session"]
+SOURCES = ["app", "model", "panel", "ui", "windows", "desktop"]
 LANGUAGES = {"de": [], "en": ["-pluralonly"]}
 lupdate, root = sys.argv[1], pathlib.Path(sys.argv[2])
 

@@ -16,7 +16,7 @@ Row {
         color: "white"
     }
     Repeater {
-        model: ["Atelier", "File", "Edit", "View", "Window", "Help"]
+        model: ["Atelier", qsTr("File"), qsTr("Edit"), qsTr("View"), qsTr("Window"), qsTr("Help")]
 
         StyledText {
             required property string modelData

@@ -1,0 +1,249 @@
+"""Pictures measured: positions within half a point, colours within two levels, no text cut, at every scale and language;
+at rest and in the moments of opening and closing.
+Usage: look_test.py PROGRAM"""
+import json
+import math
+import os
+import pathlib
+import subprocess
+import sys
+import tempfile
+import unittest
+
+from PIL import Image, ImageChops
+
+PROGRAM = sys.argv.pop(1)
+SCREEN = [0, 0, 1512, 982]
+NOTCH = (663, 849)
+BAR = 37
+HIDDEN, SHOWN = 6, 5
+DESKTOP = {
+    "screens": [{"name": "Built-in Display", "frame": SCREEN, "menuBarHeight": BAR, "notch": list(NOTCH)}],
+    "applications": [{"pid": 10 + i, "name": f"Oo{i}", "icon": "#2060c0", "bundlePath": f"/Applications/Oo{i}.app",
+                      "extras": [{"identifier": "a", "title": f"Oo{i}", "width": 40 if i < SHOWN else 400}]}
+                     for i in range(SHOWN + HIDDEN)],
+    "defaults": {"onboardingDone": True}}
+CONTENT = 22  # points of padding beside it
+FLARES, CORNERS = (6, 14), (10, 32)  # closed, open
+OPENING, CLOSING = (0.46, 0.74), (0.32, 0.92)  # response, damping fraction
+MOMENTS = (50, 100, 150, 200)  # milliseconds
+ESCAPE = 53
+BLACK = 3  # the lightest of what is black to the eye
+
+
+def sprung(start, end, spring, seconds):
+    """A damped oscillator that is let go at rest."""
+    response, damping = spring
+    frequency = 2 * math.pi / response
+    damped = frequency * math.sqrt(1 - damping ** 2)
+    decay = damping * frequency
+    return end + (start - end) * math.exp(-decay * seconds) * (
+        math.cos(damped * seconds) + decay / damped * math.sin(damped * seconds))
+
+
+class Picture:
+    """Read in points, whatever its scale."""
+
+    def __init__(self, file, scale):
+        with Image.open(file) as picture:
+            self.image = picture.convert("RGB")
+        self.scale = scale
+
+    def color(self, x, y):
+        return self.image.getpixel((int(x * self.scale), int(y * self.scale)))
+
+    def light(self, left, top, right, bottom):
+        """A black-and-white part of it: the lightest component of each pixel."""
+        box = [round(place * self.scale) for place in (left, top, right, bottom)]
+        red, green, blue = self.image.crop(box).split()
+        return ImageChops.lighter(ImageChops.lighter(red, green), blue)
+
+    def ink(self, left, top, right, bottom, above=BLACK):
+        """The box of what is lighter than that in the part, in points; None when there is nothing."""
+        box = self.light(left, top, right, bottom).point(lambda value: 255 if value > above else 0).getbbox()
+        return box and [place / self.scale + (left, top)[i % 2] for i, place in enumerate(box)]
+
+
+class Look:
+    def __init__(self, scale, language):
+        self.scale = scale
+        self.folder = tempfile.TemporaryDirectory(prefix="brimshade-look-")
+        desktop = pathlib.Path(self.folder.name) / "desktop.json"
+        desktop.write_text(json.dumps(DESKTOP))
+        self.process = subprocess.Popen(
+            [PROGRAM, "--script", "-", "--scale", str(scale), "--desktop", desktop], text=True, stdin=subprocess.PIPE,
+            stdout=subprocess.PIPE, env={**os.environ, "LC_ALL": language, "LANGUAGE": ""})
+        self.icon = self.middle(self.do("state")["statusItem"]["frame"])
+
+    @staticmethod
+    def middle(frame):
+        return [frame[0] + frame[2] / 2, frame[1] + frame[3] / 2]
+
+    def do(self, command, **fields):
+        self.process.stdin.write(json.dumps({"do": command, **fields}) + "\n")
+        self.process.stdin.flush()
+        answer = json.loads(self.process.stdout.readline())
+        assert answer["ok"], (command, fields, answer)
+        return answer
+
+    def wait(self, seconds):
+        self.do("advance", seconds=seconds)
+
+    def picture(self, of="desktop"):
+        file = pathlib.Path(self.folder.name) / "picture.png"
+        self.do("picture", file=str(file), of=of)
+        return Picture(file, self.scale)
+
+    def toggle(self):
+        self.do("click", at=self.icon)
+
+    def open_panel(self):
+        self.toggle()
+        self.wait(3)
+
+    def frames(self, text, role):
+        return [e["frame"] for e in self.do("find", text=text)["elements"] if e["role"] == role]
+
+    def panel_size(self):
+        return self.do("state")["model"]["panelSize"]
+
+    def end(self):
+        self.process.stdin.close()
+        self.process.wait(timeout=60)
+        self.process.stdout.close()
+        self.folder.cleanup()
+
+
+class LookCase(unittest.TestCase):
+    scale, language = 1, "C.UTF-8"
+
+    def setUp(self):
+        self.look = Look(self.scale, self.language)
+        self.addCleanup(self.look.end)
+
+    def assert_color(self, seen, wanted, what):
+        self.assertLessEqual(max(abs(a - b) for a, b in zip(seen, wanted)), 2, f"{what}: {seen}, not {wanted}")
+
+    def assert_at(self, seen, wanted, what):
+        self.assertAlmostEqual(seen, wanted, delta=0.5, msg=what)
+
+    def tab(self, shown):
+        """Left, right and lower edge of the body when it is open that far."""
+        width, height = self.look.panel_size()
+        closed = NOTCH[1] - NOTCH[0] + 2 * FLARES[0]
+        flare = FLARES[0] + (FLARES[1] - FLARES[0]) * shown
+        body = closed + (width - closed) * shown - 2 * flare
+        return SCREEN[2] / 2 - body / 2, SCREEN[2] / 2 + body / 2, BAR + (height - BAR) * shown
+
+    def assert_tab(self, picture, shown, what):
+        """Its edges are where they should be, and what it holds ends before them."""
+        left, right, bottom = self.tab(shown)
+        middle = (BAR + bottom) / 2 if shown > 0.2 else BAR / 2 + 8
+        # From outside: the first place that is as dark as the tab, whose outline is lighter than black.
+        start, top = math.floor(left - 30), math.floor(bottom - 20)
+        row = picture.light(start, middle, right + 30, middle + 1 / self.scale)
+        dark = [x for x in range(row.width) if row.getpixel((x, 0)) <= 40]
+        self.assert_at(start + dark[0] / self.scale, left, f"{what}: the left edge")
+        self.assert_at(start + (dark[-1] + 1) / self.scale, right, f"{what}: the right edge")
+        column = picture.light(SCREEN[2] / 2, top, SCREEN[2] / 2 + 1 / self.scale, bottom + 20)
+        lowest = max(y for y in range(column.height) if column.getpixel((0, y)) <= 40)
+        self.assert_at(top + (lowest + 1) / self.scale, bottom, f"{what}: the lower edge")
+        for inner, outer in ((left + 1.5, left + 5), (right - 5, right - 1.5)):
+            strip = picture.light(inner, BAR, outer, max(BAR + 1, bottom - CORNERS[1] - 2))
+            self.assertLessEqual(strip.getextrema()[1], BLACK + 12, f"{what}: something is cut at a side")
+
+
+class AtRest(LookCase):
+    def test_the_open_panel(self):
+        self.look.open_panel()
+        picture = self.look.picture()
+        width, height = self.look.panel_size()
+        left, _, _ = self.tab(1)
+        self.assert_tab(picture, 1, "open")
+        self.assert_color(picture.color(left + 60, height - 30), (0, 0, 0), "the tab")
+        tiles = {e["name"]: e["frame"] for e in self.look.do("state")["model"]["extras"]}
+        hidden = {e["name"]: e["isHidden"] for e in self.look.do("state")["model"]["extras"]}
+        self.assertEqual(set(hidden.values()), {True, False})
+        for name in tiles:
+            tile = self.look.frames(name, "Button")[-1]
+            fill = 255 * (0.06 if hidden[name] else 0.035)
+            self.assert_color(picture.color(tile[0] + 5 + 4, tile[1] + 27), [fill] * 3, f"the face of {name}")
+            face = picture.ink(tile[0], tile[1] + 20, tile[0] + 64, tile[1] + 30, above=fill / 2)
+            self.assert_at(face[0], tile[0] + 5, f"the face of {name}")
+            self.assert_at(face[2], tile[0] + 59, f"the face of {name}")
+            text = picture.ink(tile[0], tile[1] + 61, tile[0] + 64, tile[1] + 76, above=20)
+            self.assert_at((text[0] + text[2]) / 2, tile[0] + 32, f"the name of {name}")
+            self.assertGreater(text[0], tile[0], f"the name of {name} is cut")
+            self.assertLess(text[2], tile[0] + 64, f"the name of {name} is cut")
+            if hidden[name]:
+                self.assert_color(picture.color(tile[0] + 32 + 19, tile[1] + 27 - 19), (255, 158, 51), "the marker")
+
+    def test_the_texts_of_the_panel(self):
+        self.look.open_panel()
+        picture = self.look.picture()
+        width, height = self.look.panel_size()
+        left = (SCREEN[2] - width) / 2 + FLARES[1] + CONTENT
+        right = SCREEN[2] - left
+        title = picture.ink(left - 10, BAR + 10, left + 200, BAR + 34)
+        self.assert_at(title[0], left + 0.4, "the first section's title")  # a little beside it, as letters are
+        hint = picture.ink(left - 10, height - 22, right + 10, height - 8)
+        self.assert_at((hint[0] + hint[2]) / 2, SCREEN[2] / 2, "the hint")
+        self.assertGreater(hint[0], left, "the hint is cut")
+        if self.scale == 2:  # where strokes are wide enough to be wholly covered
+            for part, opacity in ((title, 0.32), (hint, 0.28)):
+                lightest = picture.light(*part).getextrema()[1]
+                self.assertAlmostEqual(lightest, 255 * opacity, delta=2)
+
+    def test_the_form_of_the_settings(self):
+        self.look.do("menu", at=self.look.icon)
+        self.look.do("choose", title=self.look.do("state")["menu"][0])
+        self.look.wait(1)
+        picture = self.look.picture("settings")
+        # The first row's line, 0.5 points of black at 12 % on white: as much ink at each scale.
+        middle = picture.image.width // 2
+        column = [255 - picture.image.getpixel((middle, row))[1] for row in range(int(110 * self.scale), int(118 * self.scale))]
+        darkness = sum(column) / self.scale
+        self.assertAlmostEqual(darkness, 0.5 * 0.12 * 255, delta=2)
+
+
+class InMotion(LookCase):
+    def test_nothing_is_cut_while_it_opens_and_closes(self):
+        self.look.open_panel()
+        self.look.toggle()
+        self.look.wait(2)
+        for motion, (start, end, spring) in {"opening": (0, 1, OPENING), "closing": (1, 0, CLOSING)}.items():
+            now = 0
+            self.look.toggle() if motion == "opening" else self.look.do("key", code=ESCAPE, characters="\x1b")
+            for moment in MOMENTS:
+                self.look.wait((moment - now) / 1000)
+                now = moment
+                self.assert_tab(self.look.picture(), sprung(start, end, spring, moment / 1000), f"{motion}, {moment} ms")
+            self.look.wait(3)
+
+    def test_the_first_items_stand_where_they_are_going_to_stand(self):
+        self.look.toggle()
+        self.look.wait(0.1)
+        tops = []
+        for _ in range(6):
+            self.look.wait(0.1)
+            width, height = self.look.panel_size()
+            left = (SCREEN[2] - width) / 2 + FLARES[1] + CONTENT
+            picture, part = self.look.picture(), (left, BAR + 10, left + 120, BAR + 20)
+            lightest = picture.light(*part).getextrema()[1]
+            if lightest > 20:
+                tops.append(picture.ink(*part, above=0.4 * lightest)[1])
+        self.assertGreater(len(tops), 3)
+        self.assertLessEqual(max(tops) - min(tops), 0.5, "the title moves")
+
+
+def load_tests(loader, _, __):
+    suite = unittest.TestSuite()
+    for scale in (1, 2):
+        for case, language in ((AtRest, "C.UTF-8"), (AtRest, "de_DE.UTF-8"), (InMotion, "C.UTF-8")):
+            name = f"{case.__name__}_{language[:2]}_{scale}"
+            suite.addTests(loader.loadTestsFromTestCase(type(name, (case,), {"scale": scale, "language": language})))
+    return suite
+
+
+if __name__ == "__main__":
+    unittest.main()

@@ -1,0 +1,32 @@
+#pragma once
+#include "DrawnItem.h"
+
+#include <QColor>
+
+namespace brimshade::ui {
+
+// A plain rectangle thinner than a few device pixels, as heavy as its size says: what covers a part of a pixel has a
+// part of its colour.
+// The base is spelled in full: the registrar of QML types finds it by its spelling.
+class Line : public brimshade::ui::DrawnItem {
+    Q_OBJECT
+    QML_ELEMENT
+    Q_PROPERTY(QColor color MEMBER m_color NOTIFY changed)
+
+public:
+    explicit Line(QQuickItem *parent = nullptr);
+
+    QRectF pictureRect() const override; // whole device pixels
+
+Q_SIGNALS:
+    void changed();
+
+protected:
+    QByteArray pictureKey() const override;
+    void draw(QPainter &painter, double scale) const override;
+
+private:
+    QColor m_color = Qt::white;
+};
+
+} // namespace brimshade::ui
