@@ -120,6 +120,7 @@ protected:
         waitForTitles({u"Sleeper"_s});
         waitForCall(u"GetLayout 0"_s);
         call(u"Sync"_s);
+        m_dispatch.runDue(); // its menu, read ahead, is parsed beside
     }
     ~StoppedProgramTest() override
     {
