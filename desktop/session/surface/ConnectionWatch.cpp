@@ -9,8 +9,6 @@
 #include <sys/eventfd.h>
 #include <unistd.h>
 
-using namespace Qt::StringLiterals;
-
 namespace brimshade::desktop::session {
 
 namespace {
@@ -26,25 +24,37 @@ constexpr std::string_view kGone = "brimshade: the connection to the display is 
     _exit(EXIT_FAILURE);
 }
 
-QtMessageHandler &usualHandler()
+// What a message handler cannot be given otherwise.
+struct Watched {
+    int connection = -1;
+    QtMessageHandler usualHandler = nullptr;
+};
+
+Watched &watched()
 {
-    static QtMessageHandler handler = nullptr;
-    return handler;
+    static Watched watched;
+    return watched;
 }
 
-// In front of Qt's exit() stand words of its own.
+bool isGone(int connection)
+{
+    pollfd state{connection, POLLRDHUP, 0};
+    return poll(&state, 1, 0) > 0;
+}
+
+// In front of Qt's exit() stand words of its own, and before it notices at all others of what does not work.
 void handleMessage(QtMsgType type, const QMessageLogContext &context, const QString &text)
 {
-    if (text.contains("connection broke"_L1))
+    if (isGone(watched().connection))
         endAtOnce();
-    usualHandler()(type, context, text);
+    watched().usualHandler(type, context, text);
 }
 
 void waitForEnd(int connection, int stop)
 {
-    std::array<pollfd, 2> watched{{{connection, POLLRDHUP, 0}, {stop, POLLIN, 0}}};
-    while (poll(watched.data(), watched.size(), -1) < 0) { }
-    if (watched[1].revents)
+    std::array<pollfd, 2> states{{{connection, POLLRDHUP, 0}, {stop, POLLIN, 0}}};
+    while (poll(states.data(), states.size(), -1) < 0) { }
+    if (states[1].revents)
         return;
     endAtOnce();
 }
@@ -62,14 +72,15 @@ ConnectionWatch::ConnectionWatch(int fileDescriptor)
     : m_stop(eventfd(0, EFD_CLOEXEC)), m_thread(waitForEnd, fileDescriptor, m_stop)
 {
     on_exit(leaveAtOnce, nullptr);
-    usualHandler() = qInstallMessageHandler(handleMessage);
+    watched() = {fileDescriptor, nullptr};
+    watched().usualHandler = qInstallMessageHandler(handleMessage);
 }
 
 ConnectionWatch::~ConnectionWatch()
 {
     eventfd_write(m_stop, 1);
     m_thread.join();
-    qInstallMessageHandler(usualHandler());
+    qInstallMessageHandler(watched().usualHandler);
     close(m_stop);
 }
 
