@@ -45,7 +45,8 @@ class Lifetime:
 
     def assert_ends(self, status, *words):
         """With these words on standard error and no others but its own."""
-        self.assertEqual(self.session.wait_for_end(self.brimshade.process, "the end of Brimshade"), status)
+        ended = self.session.wait_for_end(self.brimshade.process, "the end of Brimshade")
+        self.assertEqual(ended, status, self.session.errors("brimshade"))
         # sway is another user's where the tests are root's; Qt says so.
         lines = [line for line in self.session.errors("brimshade").splitlines() if "is not owned by UID 0" not in line]
         self.assertTrue(all(line.startswith("brimshade: ") for line in lines), lines)
