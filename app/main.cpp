@@ -3,6 +3,7 @@
 #include "composition/LiveSession.h"
 #include "composition/ScriptLoop.h"
 #include "composition/Session.h"
+#include "composition/WhatRuns.h"
 #include "desktop/core/Desktop.h"
 #include "desktop/core/KeptOrderFile.h"
 #include "desktop/services/FileDefaults.h"
@@ -98,7 +99,8 @@ std::expected<composition::SessionOptions, QString> sessionOptions(const composi
                                        .isRealTime = line.isRealTime,
                                        .hostsTray = line.hostsTray,
                                        .stateFile = stateFile(line),
-                                       .scale = line.scale};
+                                       .scale = line.scale,
+                                       .printsLog = line.printsLog};
 }
 
 template <typename AnySession> int runWindow(AnySession &session)
@@ -152,6 +154,7 @@ int runSession(const composition::CommandLine &line, int scriptDescriptor)
     options.screen.name = line.screen.value_or(QString());
     options.hostsTray = line.hostsTray;
     options.stateFile = stateFile(line);
+    options.printsLog = line.printsLog;
     options.isNotchSaid = line.notch.has_value();
     options.screen.notch = line.notch.value_or(desktop::session::NotchChoice());
     auto session = composition::LiveSession::create(std::move(options));
@@ -202,6 +205,8 @@ int main(int argc, char **argv)
     if (line->isSession)
         i18n::installSessionTexts(*application, QLocale());
 
+    if (line->printsLog)
+        std::fprintf(stderr, "brimshade: %s\n", qUtf8Printable(composition::whatRuns()));
     if (line->isSession)
         desktop::session::ShellBackend::end(runSession(*line, script.handle()));
     return runStage(*line, script.handle());

@@ -31,13 +31,14 @@ struct Options {
     QCommandLineOption window{u"window"_s, u"With --script: show the window too, in real time."_s};
     QCommandLineOption realTime{u"real-time"_s, u"With --script: time passes as on a clock."_s};
     QCommandLineOption scale{u"scale"_s, u"With --script: pixels a point in pictures, 1 to 4."_s, u"number"_s, u"1"_s};
+    QCommandLineOption debug{u"debug"_s, u"Log to standard error what it does and what it runs on."_s};
     QCommandLineOption help{{u"h"_s, u"help"_s}, u"Print this help."_s};
     QCommandLineOption version{{u"v"_s, u"version"_s}, u"Print the version."_s};
 
     QList<QCommandLineOption> all() const
     {
         return {session,  screen, notch,  toggle, settings, quit,  desktop, noTray, tray,
-                defaults, state,  script, window, realTime, scale, help,    version};
+                defaults, state,  script, window, realTime, scale, debug,   help,   version};
     }
 };
 
@@ -143,6 +144,7 @@ CommandLine read(const QCommandLineParser &parser, const Options &options)
     line.hasWindow = !isScript || line.isSession || parser.isSet(options.window);
     line.isRealTime = line.hasWindow || parser.isSet(options.realTime);
     line.scale = parser.value(options.scale).toDouble();
+    line.printsLog = parser.isSet(options.debug);
     return line;
 }
 

@@ -20,6 +20,7 @@ struct CommandLine {
     bool hostsTray = true;
     bool isRealTime = true; // always, with a window
     double scale = 1; // pixels a point, for pictures of a script
+    bool printsLog = false; // to standard error
     std::optional<QString> information; // to print instead of starting: the help text or the version
 };
 

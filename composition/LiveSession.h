@@ -24,6 +24,7 @@ struct LiveSessionOptions {
     bool isNotchSaid = false; // there
     bool hostsTray = true;
     std::optional<QString> stateFile; // keeps the order of the tray's items; absent: it begins anew
+    bool printsLog = false; // to standard error
 };
 
 // Brimshade as the menu bar of the session that it was started in. Main thread; needs a QGuiApplication on the platform

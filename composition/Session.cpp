@@ -100,7 +100,8 @@ void Session::Parts::buildDesktop(SessionOptions &options)
                                    .symbols = symbols,
                                    .defaults = std::move(options.defaults),
                                    .loginItems = options.isScripted ? std::unique_ptr<platform::LoginItems>()
-                                                                    : std::make_unique<desktop::AutostartLoginItem>()},
+                                                                    : std::make_unique<desktop::AutostartLoginItem>(),
+                                   .printsLog = options.printsLog},
         options.description);
 }
 

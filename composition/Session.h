@@ -28,6 +28,7 @@ struct SessionOptions {
     bool hostsTray = false;
     std::optional<QString> stateFile = {}; // keeps the places of the tray's items; absent: they stand as they come
     double scale = 1; // pixels a point, for pictures of a script
+    bool printsLog = false; // to standard error
 };
 
 // One whole Brimshade on one whole desktop: built, launched and taken down in the right order. Any number may live in

@@ -47,7 +47,7 @@ struct Desktop::Parts {
 
     Services services;
     SharedState state;
-    LogWriter log;
+    LogWriter log{services.printsLog};
     HotkeyRegistry hotkeys;
     Notifications notifications;
     Inspection inspection{state};

@@ -32,6 +32,7 @@ public:
         std::unique_ptr<platform::LoginItems> loginItems; // null: what the description and scripts say
         bool needsPermission = true; // for Accessibility
         platform::MenuBarPreferences *menuBarPreferences = nullptr; // of a bar that can be chosen; outlives the desktop
+        bool printsLog = false; // to standard error, as it is written
     };
     // The description's applications run and its bar has settled when this returns; what its defaults name is
     // stored where the store has nothing under that key.

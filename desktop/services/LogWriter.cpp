@@ -22,7 +22,7 @@ void LogWriter::write(platform::LogLevel level, const char *format,
     const std::lock_guard lock(m_mutex);
     if (m_prints) {
         const char *prefix = level == platform::LogLevel::error ? "error: " : "";
-        std::fprintf(stderr, "%s%s\n", prefix, text.toUtf8().constData());
+        std::fprintf(stderr, "brimshade: %s%s\n", prefix, text.toUtf8().constData());
     }
     m_entries.push_back({level, text});
     if (m_entries.size() > kMostEntries)

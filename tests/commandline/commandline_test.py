@@ -61,6 +61,15 @@ class CommandLine(Files):
             self.assertEqual(brimshade("--script", "-", *real_time, script=picture, env=bare).stderr, "")
         self.assertRegex(brimshade("--script", "/nowhere", env=bare).stderr, "^brimshade: .*\n$")
 
+    def test_a_log_says_what_runs_and_what_it_does(self):
+        _, (state,) = play({"do": "state"}, arguments=["--desktop", self.desktop()])
+        x, y, width, height = state["statusItem"]["frame"]
+        click = {"do": "click", "at": [x + width / 2, y + height / 2]}
+        done, _ = play(click, arguments=["--debug", "--desktop", self.desktop()])
+        lines = done.stderr.splitlines()
+        self.assertRegex(lines[0], r"^brimshade: Brimshade \d+\.\d+\.\d+, Qt 6\.")
+        self.assertTrue(any(line.startswith("brimshade: status item clicked") for line in lines), lines)
+
     def test_help_and_version_need_no_display(self):
         self.assertIn("--desktop", brimshade("--help").stdout)
         self.assertRegex(brimshade("--version").stdout, r"^Brimshade \d+\.\d+\.\d+\n$")
