@@ -21,8 +21,13 @@ QString quotedArgument(const QString &argument)
 
 } // namespace
 
-QByteArray autostartEntry(const QString &program)
+QByteArray autostartEntry(const QString &program, bool hasUnit)
 {
+    // It does not wait: the unit comes after the session that this entry is a part of.
+    const QString throughUnit = u"sh -c "_s
+        + quotedArgument(uR"(systemctl --user --no-block start brimshade.service || exec "$0" --session)"_s);
+    const QString quoted = quotedArgument(program);
+    const QString exec = hasUnit ? throughUnit + u' ' + quoted : quoted + u" --session"_s;
     const QStringList lines{u"[Desktop Entry]"_s,
                             u"Type=Application"_s,
                             u"Version=1.4"_s,
@@ -30,7 +35,7 @@ QByteArray autostartEntry(const QString &program)
                             u"Comment=Menu bar items behind the notch"_s,
                             u"Icon=org.brimshade.Brimshade"_s,
                             u"TryExec="_s + escaped(program),
-                            u"Exec="_s + escaped(quotedArgument(program)) + u" --session"_s,
+                            u"Exec="_s + escaped(exec),
                             u"Terminal=false"_s,
                             u"X-GNOME-Autostart-enabled=true"_s,
                             QString()};

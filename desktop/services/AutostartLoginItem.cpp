@@ -29,8 +29,9 @@ AutostartLoginItem::Places sessionPlaces()
     for (QString &folder : folders)
         folder += u"/autostart"_s;
     const QString user = folders.takeFirst();
-    const QString launcher = QCoreApplication::applicationDirPath() + QStringLiteral("/" BRIMSHADE_LAUNCHER);
-    return {user, folders, QDir::cleanPath(launcher)};
+    const QString launcher =
+        QDir::cleanPath(QCoreApplication::applicationDirPath() + QStringLiteral("/" BRIMSHADE_LAUNCHER));
+    return {user, folders, launcher, QFileInfo(launcher).dir().exists(QStringLiteral(BRIMSHADE_UNIT))};
 }
 
 bool resolves(const QString &tryExec)
@@ -60,7 +61,7 @@ LoginItemStatus AutostartLoginItem::status() const
 
 std::expected<void, QString> AutostartLoginItem::registerMainApp()
 {
-    return writeAtomically(userFile(), autostartEntry(m_places.program));
+    return writeAtomically(userFile(), autostartEntry(m_places.program, m_places.hasUnit));
 }
 
 std::expected<void, QString> AutostartLoginItem::unregisterMainApp()

@@ -63,6 +63,17 @@ class Lifetime:
         self.assert_ends(1)
         self.assertEqual(json.loads((self.session.home / "settings.json").read_text())["foreign"], ["kept"] * 1000)
 
+    def test_as_a_unit_of_systemd_it_says_that_the_display_has_gone(self):
+        self.request("--quit")
+        self.assert_ends(0)
+        unit = self.session.home / "unit"
+        unit.write_text(f'#!/bin/sh\nexport SYSTEMD_EXEC_PID=$$\nexec "{PROGRAM}" "$@"\n')
+        unit.chmod(0o755)
+        self.brimshade = Brimshade(self.session, unit)
+        self.brimshade.until("the bar", lambda state: state["statusItem"])
+        self.session.kill_display()
+        self.assert_ends(3)
+
     def test_a_hang_with_the_keyboard_ends_it_and_the_keys_are_the_users(self):
         self.open_panel()
         self.tell(do="stick", seconds=60)

@@ -15,13 +15,21 @@ namespace {
 
 constexpr std::string_view kGone = "brimshade: the connection to the display is gone\n";
 
+constexpr int kGoneInUnit = 3;
+
+// systemd names the unit's main process; its descendants inherit the variable.
+bool isMainProcessOfUnit()
+{
+    return qEnvironmentVariableIntValue("SYSTEMD_EXEC_PID") == getpid();
+}
+
 // By whoever finds out first, the watch or Qt; the other one waits here for the end.
 [[noreturn]] void endAtOnce()
 {
     static std::mutex first;
     const std::lock_guard lock(first);
     [[maybe_unused]] const auto written = write(STDERR_FILENO, kGone.data(), kGone.size());
-    _exit(EXIT_FAILURE);
+    _exit(isMainProcessOfUnit() ? kGoneInUnit : EXIT_FAILURE);
 }
 
 // What a message handler cannot be given otherwise.
@@ -60,10 +68,10 @@ void waitForEnd(int connection, int stop)
 }
 
 // Qt's own answer to a broken X connection is exit(), which would run destructors under the event loop's feet.
-void leaveAtOnce(int status, void *)
+void leaveAtOnce(int, void *)
 {
     if (QCoreApplication::instance())
-        _exit(status);
+        endAtOnce();
 }
 
 } // namespace

@@ -97,16 +97,51 @@ TEST_F(AutostartTest, AnEntryThatStartsNoSessionIsRewritten)
     expectValid(userFile);
 }
 
-// A shell undoes the quoting of an argument in the same way, once that of the string and the percent signs is undone.
-TEST_F(AutostartTest, ExecStartsASessionWhateverTheProgramsName)
+// What the entry's Exec does, where the session's programs include those of folder's bin.
+class AutostartExecTest : public AutostartTest {
+protected:
+    QString saidBy(AutostartLoginItem &registered)
+    {
+        EXPECT_TRUE(registered.registerMainApp());
+        expectValid(userFile);
+        const QString exec = QString::fromUtf8(readFile(userFile)).section(u"\nExec="_s, 1).section(u'\n', 0, 0);
+        QProcess shell;
+        shell.setProcessEnvironment([this] {
+            QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+            environment.insert(u"PATH"_s, folder.filePath(u"bin"_s) + u':' + environment.value(u"PATH"_s));
+            return environment;
+        }());
+        // A shell undoes the quoting of an argument in the same way, once that of the string and the percent signs is
+        // undone.
+        shell.start(u"sh"_s, {u"-c"_s, QString(exec).replace(u"\\\\"_s, u"\\"_s).replace(u"%%"_s, u"%"_s)});
+        EXPECT_TRUE(shell.waitForFinished());
+        return QString::fromUtf8(shell.readAllStandardOutput());
+    }
+    void provide(const QString &path, const QByteArray &script)
+    {
+        writeFile(path, "#!/bin/sh\n" + script);
+        QFile(path).setPermissions(QFile::ReadUser | QFile::ExeUser | QFile::WriteUser);
+    }
+    QString systemctl = folder.filePath(u"bin/systemctl"_s);
+    AutostartLoginItem withUnit{
+        {.userFolder = folder.filePath(u"user/autostart"_s), .systemFolders = {}, .program = program, .hasUnit = true}};
+};
+
+TEST_F(AutostartExecTest, StartsASessionWhateverTheProgramsName)
 {
-    ASSERT_TRUE(item.registerMainApp());
-    QString exec = QString::fromUtf8(readFile(userFile)).section(u"\nExec="_s, 1).section(u'\n', 0, 0);
-    exec.replace(u"\\\\"_s, u"\\"_s).replace(u"%%"_s, u"%"_s);
-    QProcess shell;
-    shell.start(u"sh"_s, {u"-c"_s, u"printf '%s|' "_s + exec});
-    ASSERT_TRUE(shell.waitForFinished());
-    EXPECT_EQ(QString::fromUtf8(shell.readAllStandardOutput()), program + u"|--session|"_s);
+    QFile::remove(program);
+    provide(program, "echo program $*");
+    provide(systemctl, "echo systemctl $*");
+    EXPECT_EQ(saidBy(item), u"program --session\n"_s);
+    EXPECT_EQ(saidBy(withUnit), u"systemctl --user --no-block start brimshade.service\n"_s);
+}
+
+TEST_F(AutostartExecTest, StartsTheProgramWhereSystemdCannot)
+{
+    QFile::remove(program);
+    provide(program, "echo program $*");
+    provide(systemctl, "exit 1");
+    EXPECT_EQ(saidBy(withUnit), u"program --session\n"_s);
 }
 
 } // namespace brimshade::desktop
