@@ -1,0 +1,66 @@
+#!/usr/bin/env python3
+"""installed_test.py PROGRAM: Brimshade as a package installs it, PREFIX/bin/brimshade with all that belongs to it, in a
+session of sway's without a screen."""
+import json
+import pathlib
+import subprocess
+import sys
+import unittest
+
+from lib.sway import Sway
+from lib.waiting import PATIENCE
+
+PROGRAM = pathlib.Path(sys.argv.pop(1)).resolve()
+SERVICE = PROGRAM.parents[1] / "share/dbus-1/services/org.brimshade.Brimshade.service"
+BELOW_THE_NOTCH = (756, 60)
+BLACK = (0, 0, 0)
+
+
+class Installed(unittest.TestCase):
+    def setUp(self):
+        self.session = Sway()
+        self.addCleanup(self.session.close)
+        settings = self.session.home / ".config/brimshade/settings.json"
+        settings.parent.mkdir(parents=True)
+        settings.write_text(json.dumps({"onboardingDone": True}))
+        self.install_service()
+        self.session.start_bus()
+
+    def install_service(self):
+        """Wherever the package has been unpacked: the bus starts that program, not one of the machine's."""
+        lines = [f"Exec={PROGRAM} --session" if line.startswith("Exec=") else line
+                 for line in SERVICE.read_text().splitlines()]
+        data = self.session.home / "data"
+        (data / "dbus-1/services").mkdir(parents=True)
+        (data / "dbus-1/services" / SERVICE.name).write_text("\n".join(lines) + "\n")
+        self.session.environment["XDG_DATA_HOME"] = str(data)
+
+    def tell(self, word):
+        done = subprocess.run([PROGRAM, word], env=self.session.environment, capture_output=True, text=True,
+                              timeout=PATIENCE)
+        self.assertEqual((done.returncode, done.stderr), (0, ""))
+
+    def until_panel(self, is_open):
+        self.session.until_picture(f"the panel open: {is_open}",
+                                   lambda picture: (picture[BELOW_THE_NOTCH] == BLACK) == is_open)
+
+    def test_it_is_the_menu_bar_and_its_panel_opens(self):
+        self.until_panel(False)
+        before = self.session.picture()[3, 3]
+        brimshade = self.session.start(PROGRAM, "--session")
+        self.session.until_picture("the bar", lambda picture: picture[3, 3] != before)
+        for is_open in (True, False):
+            self.tell("--toggle")
+            self.until_panel(is_open)
+        self.tell("--quit")
+        self.assertEqual(self.session.wait_for_end(brimshade, "the end of Brimshade"), 0)
+
+    def test_whoever_activates_it_on_the_bus_starts_it_with_its_panel_open(self):
+        self.session.output_of("dbus-send", "--session", "--print-reply", "--dest=org.brimshade.Brimshade",
+                               "/org/brimshade/Brimshade", "org.freedesktop.Application.Activate", "dict:string:variant:")
+        self.until_panel(True)
+        self.tell("--quit")
+
+
+if __name__ == "__main__":
+    unittest.main(verbosity=2)
