@@ -15,7 +15,7 @@ Item {
 
     readonly property bool open: root.model.isOpen
     // From the beginning of the opening to the end of the closing. At other times nothing moves or is read out.
-    readonly property bool presented: root.open || openness.running
+    readonly property bool presented: root.open || openness.running || root.rehearsing
 
     // For whoever shows the panel in a window that is not as large as this: what takes clicks, nothing while it is
     // closed, and how far shadow and springs reach beyond it.
@@ -24,6 +24,11 @@ Item {
         : Qt.rect(0, 0, 0, 0)
     readonly property real hitRadius: 32 // of its lower corners
     readonly property real drawnMargin: 64
+
+    // For whoever shows it in a window that waits for frames: tiles come a few at a time; and a drawing that nobody sees,
+    // ahead of the first opening, has one of everything.
+    property bool paced: false
+    property bool rehearsing: false
 
     implicitWidth: 1000
     implicitHeight: 720
@@ -36,6 +41,7 @@ Item {
     PanelState {
         id: panelState
         source: root.model
+        isPaced: root.paced
     }
     PanelGeometry {
         id: geometry
@@ -96,5 +102,24 @@ Item {
     }
     HelpTip {
         id: helpTip
+    }
+    Loader {
+        active: root.rehearsing
+        sourceComponent: Tile {
+            actions: root.actions
+            open: false
+            highlighted: true
+            index: 0
+            isNew: false
+            isFirst: false
+            isLeaving: false
+            extraID: ""
+            name: "Brimshade"
+            detail: ""
+            icon: undefined
+            symbol: "app.dashed"
+            tint: "gray"
+            isHidden: true
+        }
     }
 }

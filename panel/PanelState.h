@@ -12,6 +12,7 @@ class PanelState : public QObject {
     Q_OBJECT
     QML_ELEMENT
     Q_PROPERTY(brimshade::model::NotchModel *source READ source WRITE setSource NOTIFY sourceChanged REQUIRED)
+    Q_PROPERTY(bool isPaced MEMBER m_isPaced NOTIFY isPacedChanged) // see TilesModel
     Q_PROPERTY(Body body READ body NOTIFY bodyChanged)
     Q_PROPERTY(bool hasHeader READ hasHeader NOTIFY bodyChanged)
     Q_PROPERTY(QString sentence READ sentence NOTIFY bodyChanged) // instead of tiles; empty when there are some
@@ -41,6 +42,7 @@ public:
 
 Q_SIGNALS:
     void sourceChanged();
+    void isPacedChanged();
     void bodyChanged();
     void focusChanged();
 
@@ -48,6 +50,7 @@ private:
     const model::MenuExtra *focused() const;
 
     QPointer<model::NotchModel> m_source;
+    bool m_isPaced = false;
 };
 
 } // namespace brimshade::panel

@@ -38,6 +38,7 @@ Item {
             section: root.section
             viewTop: root.viewTop - root.gridTop
             viewBottom: root.viewBottom - root.gridTop
+            isPaced: root.panelState.isPaced
             keepsLeaving: root.presented
         }
         delegate: Tile {

@@ -9,6 +9,8 @@ namespace brimshade::panel {
 
 namespace {
 
+constexpr int kATurn = 4; // tiles: about a millisecond's making
+
 bool looksEqual(const model::MenuExtra &a, const model::MenuExtra &b)
 {
     return a.name == b.name && a.detail == b.detail && a.icon.isSameObject(b.icon) && a.symbol == b.symbol
@@ -16,6 +18,16 @@ bool looksEqual(const model::MenuExtra &a, const model::MenuExtra &b)
 }
 
 } // namespace
+
+TilesModel::TilesModel(QObject *parent) : ListModel(parent)
+{
+    m_next.setSingleShot(true);
+    m_next.setInterval(0);
+    connect(&m_next, &QTimer::timeout, this, [this] {
+        update();
+        endRenewal();
+    });
+}
 
 void TilesModel::setSource(model::NotchModel *source)
 {
@@ -93,9 +105,14 @@ void TilesModel::matchesChanged()
     m_isFirst = m_isFirst || !m_hasItems;
     m_hasItems = m_source->itemCount() > 0;
     m_isRenewing = true;
-    QMetaObject::invokeMethod(
-        this, [this] { m_isRenewing = m_isFirst = false; }, Qt::QueuedConnection);
+    QMetaObject::invokeMethod(this, &TilesModel::endRenewal, Qt::QueuedConnection);
     update();
+}
+
+void TilesModel::endRenewal()
+{
+    if (!m_next.isActive())
+        m_isRenewing = m_isFirst = false;
 }
 
 std::vector<TilesModel::Tile> TilesModel::wanted() const
@@ -126,11 +143,25 @@ void TilesModel::keepLeaving(std::vector<Tile> &wanted) const
     }
 }
 
+void TilesModel::holdBack(std::vector<Tile> &wanted)
+{
+    QSet<QString> shown;
+    for (const Tile &tile : m_tiles)
+        shown.insert(tile.extra.id);
+    int fresh = 0;
+    const auto held =
+        std::erase_if(wanted, [&](const Tile &tile) { return !shown.contains(tile.extra.id) && ++fresh > kATurn; });
+    if (held > 0)
+        m_next.start();
+}
+
 void TilesModel::update()
 {
     std::vector<Tile> tiles = wanted();
     if (m_keepsLeaving)
         keepLeaving(tiles);
+    if (m_isPaced)
+        holdBack(tiles);
     setRows(m_tiles, tiles, &TilesModel::idOf, &TilesModel::refresh);
 }
 

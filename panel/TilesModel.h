@@ -3,13 +3,15 @@
 #include "ui/binding/ListModel.h"
 
 #include <QPointer>
+#include <QTimer>
 #include <qqml.h>
 
 namespace brimshade::panel {
 
 // The tiles of one section that are in view, and one grid row beyond on either side. Rows are kept by id: across
 // searches and scans an item that stays keeps its delegate, which learns its new place. Tiles that a search or a scan
-// takes away stay as leaving ones, last in the list and as they were, until the view has faded and dropped them.
+// takes away stay as leaving ones, last in the list and as they were, until the view has faded and dropped them. Paced,
+// many new ones come a few a turn of the event loop, so that frames are drawn in between.
 // The base is spelled in full: the registrar of QML types finds it by its spelling.
 class TilesModel : public brimshade::ui::ListModel {
     Q_OBJECT
@@ -18,6 +20,7 @@ class TilesModel : public brimshade::ui::ListModel {
     Q_PROPERTY(Section section MEMBER m_section NOTIFY sectionChanged REQUIRED)
     Q_PROPERTY(double viewTop MEMBER m_viewTop NOTIFY viewChanged) // points, from the top of the first grid row
     Q_PROPERTY(double viewBottom MEMBER m_viewBottom NOTIFY viewChanged)
+    Q_PROPERTY(bool isPaced MEMBER m_isPaced NOTIFY isPacedChanged)
     Q_PROPERTY(bool keepsLeaving READ keepsLeaving WRITE setKeepsLeaving NOTIFY keepsLeavingChanged)
 
 public:
@@ -38,7 +41,7 @@ public:
         IsLeavingRole
     };
 
-    using ListModel::ListModel;
+    explicit TilesModel(QObject *parent = nullptr);
 
     model::NotchModel *source() const { return m_source; }
     void setSource(model::NotchModel *source);
@@ -52,6 +55,7 @@ Q_SIGNALS:
     void sourceChanged();
     void sectionChanged();
     void viewChanged();
+    void isPacedChanged();
     void keepsLeavingChanged();
 
 protected:
@@ -71,6 +75,8 @@ private:
     void update();
     std::vector<Tile> wanted() const;
     void keepLeaving(std::vector<Tile> &wanted) const;
+    void holdBack(std::vector<Tile> &wanted);
+    void endRenewal();
     static QString idOf(const Tile &tile) { return tile.extra.id; }
     static QList<int> refresh(Tile &shown, const Tile &wanted);
 
@@ -78,12 +84,14 @@ private:
     Section m_section = BehindTheNotch;
     double m_viewTop = 0;
     double m_viewBottom = 0;
+    bool m_isPaced = false;
     bool m_keepsLeaving = false;
     bool m_hasItems = false;
-    bool m_isRenewing =
-        false; // until the turn of the event loop that brought other matches ends: the view follows them
+    // Until the turn of the event loop that brought other matches ends, as the view follows them; or all have come.
+    bool m_isRenewing = false;
     bool m_isFirst = false; // the same, and there were no items before
     std::vector<Tile> m_tiles;
+    QTimer m_next; // runs while some are held back
 };
 
 } // namespace brimshade::panel

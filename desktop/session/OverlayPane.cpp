@@ -9,6 +9,7 @@ namespace brimshade::desktop::session {
 
 namespace {
 
+constexpr QSizeF kRehearsedSize(640, 480); // about a panel's
 const QRegion kNoInput(-2, -2, 1, 1); // an empty region would be the whole window
 
 // The rectangle with its lower corners rounded.
@@ -36,13 +37,30 @@ OverlayPane::OverlayPane(DesktopWindow &window, const Parts &parts)
     m_holder.setFlag(QQuickItem::ItemIsFocusScope);
     m_holder.setSize(window.frame().size());
     m_content = std::make_unique<HostedContent>(window, parts.engine, m_holder);
+    if (QQuickItem *view = m_content->view())
+        view->setProperty("paced", true);
     followView();
     connect(&window, &DesktopWindow::changed, this, &OverlayPane::update);
     connect(&parts.screens, &SessionScreens::changed, this, &OverlayPane::update);
     update();
+    QMetaObject::invokeMethod(this, &OverlayPane::rehearse, Qt::QueuedConnection);
 }
 
 OverlayPane::~OverlayPane() = default;
+
+// What most of the first frame's time would go into: the native window, the scene and its texts.
+void OverlayPane::rehearse()
+{
+    QQuickItem *view = m_content->view();
+    if (!view || m_window.isVisible())
+        return;
+    m_holder.setSize(kRehearsedSize);
+    m_pane.window().resize(kRehearsedSize.toSize());
+    view->setProperty("rehearsing", true);
+    m_pane.window().grabWindow();
+    view->setProperty("rehearsing", false);
+    m_holder.setSize(m_window.frame().size());
+}
 
 void OverlayPane::followView()
 {

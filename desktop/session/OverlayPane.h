@@ -8,13 +8,14 @@ namespace brimshade::desktop::session {
 class SessionScreens;
 
 // A window over everything, as the panel is. Of the window's frame only as much is a window of the session as the view
-// draws in: what is copied at each frame is small. The view tells by two properties of its root item, in its points:
+// draws in: what is copied at each frame is small. The view tells by properties of its root item, in its points:
 //   rect hitArea       what takes clicks now, and empty while the view takes no input, keys neither; a click beside it
-//   is
-//                      a click outside
+//                      is a click outside
 //   real hitRadius     of the area's lower corners, where the window has to be cut to it
 //   real drawnMargin   how far around it shadows and moves reach
-// Without them the window is as large as its frame.
+// Without them the window is as large as its frame. It is told by others, which it may have:
+//   bool paced         true: what takes long to make shall come in pieces, with frames in between
+//   bool rehearsing    true while it is drawn where nobody sees it, ahead of its first opening
 class OverlayPane : public WindowPane {
     Q_OBJECT
 public:
@@ -43,6 +44,7 @@ private Q_SLOTS:
     void update();
 
 private:
+    void rehearse();
     void followView();
     QRect drawnArea() const;
     std::optional<QRectF> hitArea() const; // absent: the view has none

@@ -54,6 +54,24 @@ protected:
     QAbstractItemModelTester tester{&tiles, QAbstractItemModelTester::FailureReportingMode::Fatal};
 };
 
+TEST_F(TilesModelTest, PacedManyNewOnesComeAFewATurnInTheirPlacesAndAsNew)
+{
+    tiles.setProperty("isPaced", true);
+    show(u"a b c d e f g h i j"_s);
+    EXPECT_EQ(names(), u"a b c d"_s.split(u' '));
+    QCoreApplication::processEvents();
+    EXPECT_EQ(names(), u"a b c d e f g h"_s.split(u' '));
+    show(u"b h i j k"_s); // while some are held back
+    EXPECT_EQ(names(), u"b h i j k"_s.split(u' '));
+    QCoreApplication::processEvents();
+    show(u"1 2 3 b 4 5 h i j k"_s);
+    EXPECT_EQ(names(), u"1 2 3 b 4 h i j k"_s.split(u' '));
+    QCoreApplication::processEvents();
+    EXPECT_EQ(names(), u"1 2 3 b 4 5 h i j k"_s.split(u' '));
+    for (int row = 0; row < tiles.rowCount(); ++row)
+        EXPECT_TRUE(tiles.index(row).data(TilesModel::IsNewRole).toBool()) << row;
+}
+
 TEST_F(TilesModelTest, AnyListFollowsAnyOtherEvenWithARepeatedId)
 {
     QRandomGenerator random(7);
