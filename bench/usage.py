@@ -14,6 +14,13 @@ def resident_kib(pid):
     return status(pid, "VmRSS")
 
 
+def private_dirty_kib(pid):
+    for line in pathlib.Path(f"/proc/{pid}/smaps_rollup").read_text().splitlines():
+        if line.startswith("Private_Dirty:"):
+            return int(line.split()[1])
+    raise KeyError("Private_Dirty")
+
+
 def cpu_seconds(pid):
     fields = pathlib.Path(f"/proc/{pid}/stat").read_text().rsplit(")", 1)[1].split()
     return (int(fields[11]) + int(fields[12])) / os.sysconf("SC_CLK_TCK")
