@@ -9,14 +9,15 @@ import subprocess
 import sys
 import time
 
-ROOT = pathlib.Path(__file__).resolve().parent
-sys.path.insert(0, str(ROOT.parent / "tests" / "support"))
+SUPPORT = pathlib.Path(__file__).resolve().parent.parent / "tests" / "support"
+sys.path.insert(0, str(SUPPORT))
 from program import Session  # noqa: E402
 
 CASES = {
-    "icon below /usr": {"theme": "/usr", "icon": "no-theme-has-this-icon"},
-    "200 menu icons below /usr/share": {"theme": "/usr/share", "icon": "no-theme-has-this-icon",
-                                        "menu": [[f"Entry {i}", f"nowhere{i}"] for i in range(200)]},
+    "icon below /usr": {"properties": {"IconThemePath": "/usr", "IconName": "no-theme-has-this-icon"}},
+    "200 menu icons below /usr/share": {
+        "properties": {"IconThemePath": "/usr/share", "IconName": "no-theme-has-this-icon"},
+        "menu": [[f"Entry {i}", f"nowhere{i}"] for i in range(200)]},
 }
 DESKTOP = {"screens": [{"name": "Display", "frame": [0, 0, 1512, 982], "menuBarHeight": 37, "notch": [663, 849]}],
            "applications": [], "defaults": {"onboardingDone": True}}
@@ -40,8 +41,8 @@ def measure(program, wanted):
             "dbus-send", "--session", "--print-reply", "--dest=org.freedesktop.DBus", "/",
             "org.freedesktop.DBus.NameHasOwner", "string:org.kde.StatusNotifierWatcher"))
         before = longest_answer(brimshade, 2)
-        item = session.start("/usr/bin/python3", str(ROOT / "tray_item.py"), json.dumps(wanted),
-                             stdout=subprocess.PIPE, text=True)
+        item = session.start("/usr/bin/python3", str(SUPPORT / "mock_item.py"), json.dumps(wanted),
+                             stdin=subprocess.PIPE, stdout=subprocess.PIPE, text=True)
         item.stdout.readline()
         registered = time.monotonic()
         during, shown = 0.0, None
