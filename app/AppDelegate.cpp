@@ -108,6 +108,7 @@ void AppDelegate::installCallbacks()
     const std::weak_ptr panel = m_panel;
     const std::weak_ptr windows = m_windows;
     m_model->onSelect = weakly(panel, &PanelPresenter::select);
+    m_model->onActivate = weakly(panel, &PanelPresenter::activate);
     m_model->onDismiss = weakly(panel, &PanelPresenter::close);
     m_model->onSetHidden = weakly(std::weak_ptr(m_moves), &ItemMoves::setHidden);
     m_model->onOpenSettings = weakly(windows, &SecondaryWindows::openSettings);

@@ -8,6 +8,7 @@
 #include "model/TileActions.h"
 #include "platform/Accessibility.h"
 #include "platform/Dispatch.h"
+#include "platform/ItemServices.h"
 #include "platform/Log.h"
 #include "platform/Platform.h"
 #include "platform/StatusBar.h"
@@ -43,7 +44,7 @@ PanelPresenter::PanelPresenter(const platform::Platform &platform, const ScanSch
                                std::shared_ptr<ScanScheduler> scans, std::shared_ptr<platform::StatusItem> statusItem)
     : m_platform(platform), m_model(parts.model), m_access(parts.access), m_placement(parts.placement),
       m_scans(std::move(scans)), m_statusItem(std::move(statusItem)),
-      m_tileActions(std::make_unique<model::TileActions>(*m_model, platform.menus)),
+      m_tileActions(std::make_unique<model::TileActions>(*m_model, platform.menus, platform.itemServices)),
       m_permission(std::make_unique<model::PermissionRequest>(platform.accessibility, platform.workspace)),
       m_keys(*m_model, [this] { close(); }), m_monitors(platform.application)
 {
@@ -145,6 +146,15 @@ void PanelPresenter::select(const menubar::MenuExtra &extra)
     close();
     m_platform.dispatch.mainAfter(kSelectDelay,
                                   weakly(std::weak_ptr(m_access), &menubar::MenuBarAccess::activate, extra));
+}
+
+void PanelPresenter::activate(const menubar::MenuExtra &extra)
+{
+    close();
+    m_platform.dispatch.mainAfter(kSelectDelay, [items = m_platform.itemServices, element = extra.element] {
+        if (items)
+            items->activate(element);
+    });
 }
 
 void PanelPresenter::hovered()

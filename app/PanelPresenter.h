@@ -37,6 +37,7 @@ public:
     void close(); // the panel goes off screen 0.35 s later, unless reopened
     void toggle();
     void select(const menubar::MenuExtra &extra); // closes, then presses the item
+    void activate(const menubar::MenuExtra &extra); // closes, then has it do what it does besides showing its menu
     void hovered(); // the pointer has rested on the notch
 
 private:

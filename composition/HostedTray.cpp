@@ -17,12 +17,14 @@ void say(const QString &text)
 
 } // namespace
 
-HostedTray::HostedTray(desktop::Desktop &desktop, platform::Dispatch &dispatch, desktop::tray::ItemPlaces places,
+HostedTray::HostedTray(desktop::Desktop &desktop, platform::Dispatch &dispatch,
+                       desktop::tray::Surroundings surroundings, desktop::tray::ItemPlaces places,
                        const std::optional<QString> &stateFile)
 {
     if (stateFile)
         m_order = std::make_unique<desktop::KeptOrderFile>(*stateFile, desktop.menuBar(), dispatch, say);
-    m_host = std::make_unique<desktop::TrayHost>(desktop, desktop::connectToSessionBus, dispatch, places);
+    m_host = std::make_unique<desktop::TrayHost>(desktop, desktop::connectToSessionBus, dispatch, places,
+                                                 std::move(surroundings));
     QObject::connect(m_host.get(), &desktop::TrayHost::message, m_host.get(), say);
 }
 

@@ -1,4 +1,6 @@
 #pragma once
+#include "desktop/tray/Surroundings.h"
+
 #include <QString>
 #include <memory>
 #include <optional>
@@ -23,8 +25,8 @@ namespace brimshade::composition {
 class HostedTray {
 public:
     // stateFile keeps the order of items whose places are kept; without one it begins anew.
-    HostedTray(desktop::Desktop &desktop, platform::Dispatch &dispatch, desktop::tray::ItemPlaces places,
-               const std::optional<QString> &stateFile);
+    HostedTray(desktop::Desktop &desktop, platform::Dispatch &dispatch, desktop::tray::Surroundings surroundings,
+               desktop::tray::ItemPlaces places, const std::optional<QString> &stateFile);
     ~HostedTray();
     Q_DISABLE_COPY_MOVE(HostedTray)
 

@@ -2,6 +2,7 @@
 #include "HostedTray.h"
 #include "RealClock.h"
 #include "StateReport.h"
+#include "TraySurroundings.h"
 #include "app/AppDelegate.h"
 #include "desktop/core/Desktop.h"
 #include "desktop/script/ScriptRunner.h"
@@ -12,6 +13,7 @@
 #include "desktop/services/shortcuts/PortalKeyGrabber.h"
 #include "desktop/session/SessionClock.h"
 #include "desktop/session/SessionHost.h"
+#include "desktop/session/SessionNotices.h"
 #include "desktop/session/SessionPreferences.h"
 #include "desktop/session/SessionScreens.h"
 #include "desktop/session/surface/ShellBackend.h"
@@ -60,6 +62,7 @@ public:
     SessionHost host;
     desktop::session::Watchdog watchdog;
     std::shared_ptr<app::AppDelegate> delegate;
+    std::unique_ptr<desktop::session::ActivationTokens> tokens = desktop::session::ActivationTokens::create();
     std::unique_ptr<HostedTray> tray;
     RealClock clock;
     desktop::ScriptRunner script;
@@ -105,8 +108,12 @@ LiveSession::Parts::Parts(LiveSessionOptions options, std::unique_ptr<ShellBacke
       script(desktop, host, clock, [this] { return state(); })
 {
     desktop::session::launchClock(desktop);
-    if (options.hostsTray)
-        tray = std::make_unique<HostedTray>(desktop, dispatch, desktop::tray::ItemPlaces::kept, options.stateFile);
+    desktop::session::showNotices(desktop);
+    if (options.hostsTray) {
+        tray = std::make_unique<HostedTray>(
+            desktop, dispatch, surroundings([this](QPointF point) { return host.toScreen(point); }, tokens.get()),
+            desktop::tray::ItemPlaces::kept, options.stateFile);
+    }
     refuseInvented();
     desktop::session::addStickCommand(script);
     grabKeys();

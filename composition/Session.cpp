@@ -2,6 +2,7 @@
 #include "HostedTray.h"
 #include "RealClock.h"
 #include "StateReport.h"
+#include "TraySurroundings.h"
 #include "app/AppDelegate.h"
 #include "desktop/core/Desktop.h"
 #include "desktop/script/ScriptRunner.h"
@@ -57,6 +58,7 @@ public:
     std::unique_ptr<desktop::Desktop> desktop;
     std::unique_ptr<desktop::SceneHost> scene;
     std::shared_ptr<app::AppDelegate> delegate;
+    std::unique_ptr<desktop::session::ActivationTokens> tokens; // where a person sees a window
     std::unique_ptr<HostedTray> tray;
     std::unique_ptr<desktop::ScriptClock> clock;
     std::unique_ptr<desktop::ScriptRunner> script;
@@ -82,9 +84,13 @@ Session::Parts::Parts(SessionOptions options)
     buildDesktop(options);
     buildScene(options);
     delegate = std::make_shared<app::AppDelegate>(desktop->platform());
+    if (options.hasWindow)
+        tokens = desktop::session::ActivationTokens::create();
     if (options.hostsTray) {
         const auto places = options.stateFile ? desktop::tray::ItemPlaces::kept : desktop::tray::ItemPlaces::listed;
-        tray = std::make_unique<HostedTray>(*desktop, dispatch(), places, options.stateFile);
+        tray = std::make_unique<HostedTray>(
+            *desktop, dispatch(), surroundings([this](QPointF point) { return scene->toScreen(point); }, tokens.get()),
+            places, options.stateFile);
     }
     buildScript();
     desktop->platform().application.setActivationPolicyAccessory();

@@ -476,6 +476,10 @@ Nichts verlässt deinen Mac.</translation>
         <source>Hide from Menu Bar</source>
         <translation>Aus der Menüleiste ausblenden</translation>
     </message>
+    <message>
+        <source>Activate</source>
+        <translation>Aktivieren</translation>
+    </message>
 </context>
 <context>
     <name>TitleBar</name>

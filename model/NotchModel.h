@@ -105,6 +105,7 @@ public:
 
     // Installed once by the coordinator; they do nothing until then.
     std::function<void(const MenuExtra &)> onSelect = [](const MenuExtra &) {};
+    std::function<void(const MenuExtra &)> onActivate = [](const MenuExtra &) {};
     std::function<void()> onDismiss = [] {};
     std::function<void(const MenuExtra &, bool hidden)> onSetHidden = [](const MenuExtra &, bool) {};
     std::function<void()> onOpenSettings = [] {};

@@ -1,6 +1,7 @@
 #include "TileActions.h"
 #include "NotchModel.h"
 #include "menubar/Text.h"
+#include "platform/ItemServices.h"
 #include "platform/Menu.h"
 #include "platform/Weakly.h"
 
@@ -22,6 +23,15 @@ platform::MenuItem openEntry(const Model &model, const MenuExtra &extra)
     return entry;
 }
 
+platform::MenuItem activateEntry(const Model &model, const MenuExtra &extra)
+{
+    platform::MenuItem entry;
+    entry.title = QCoreApplication::translate("Tile", "Activate");
+    entry.action = platform::weakly(
+        model, [](NotchModel &self, const MenuExtra &chosen) { self.onActivate(chosen); }, extra);
+    return entry;
+}
+
 platform::MenuItem moveEntry(const Model &model, const MenuExtra &extra)
 {
     platform::MenuItem entry;
@@ -35,9 +45,11 @@ platform::MenuItem moveEntry(const Model &model, const MenuExtra &extra)
 
 } // namespace
 
-TileActions::TileActions(NotchModel &model, platform::Menus &menus, QObject *parent)
-    : QObject(parent), m_model(model), m_menus(menus)
+TileActions::TileActions(NotchModel &model, platform::Menus &menus, platform::ItemServices *items)
+    : m_model(model), m_menus(menus), m_items(items)
 {
+    if (m_items)
+        m_items->addObserver(platform::weakly(QPointer(this), &TileActions::offersChanged));
 }
 
 void TileActions::open(const QString &id)
@@ -50,8 +62,31 @@ void TileActions::open(const QString &id)
 
 void TileActions::showMenu(const QString &id)
 {
-    if (const MenuExtra *extra = m_model.extraWithID(id))
-        m_menus.popUpContextMenu({{openEntry(&m_model, *extra), moveEntry(&m_model, *extra)}}, [] {});
+    const MenuExtra *extra = m_model.extraWithID(id);
+    if (!extra)
+        return;
+    platform::Menu menu{{openEntry(&m_model, *extra), moveEntry(&m_model, *extra)}};
+    if (offer(id).canBeActivated)
+        menu.items.insert(menu.items.begin(), activateEntry(&m_model, *extra));
+    m_menus.popUpContextMenu(menu, [] {});
+}
+
+platform::ItemOffer TileActions::offer(const QString &id) const
+{
+    const MenuExtra *extra = m_model.extraWithID(id);
+    return extra && m_items ? m_items->offer(extra->element) : platform::ItemOffer();
+}
+
+void TileActions::activateSecondary(const QString &id)
+{
+    if (const MenuExtra *extra = m_model.extraWithID(id); extra && m_items)
+        m_items->activateSecondary(extra->element);
+}
+
+void TileActions::scroll(const QString &id, QPoint by)
+{
+    if (const MenuExtra *extra = m_model.extraWithID(id); extra && m_items)
+        m_items->scroll(extra->element, by);
 }
 
 void TileActions::pointerEntered(const QString &id)

@@ -1,10 +1,13 @@
 #pragma once
 #include <QObject>
+#include <QPoint>
 #include <QString>
 
 namespace brimshade::platform {
+class ItemServices;
 class Menus;
-}
+struct ItemOffer;
+} // namespace brimshade::platform
 
 namespace brimshade::model {
 
@@ -14,19 +17,26 @@ class NotchModel;
 class TileActions : public QObject {
     Q_OBJECT
 public:
-    // Both outlive this object.
-    TileActions(NotchModel &model, platform::Menus &menus, QObject *parent = nullptr);
+    // All outlive this object; items may be null.
+    TileActions(NotchModel &model, platform::Menus &menus, platform::ItemServices *items);
 
     Q_INVOKABLE void open(const QString &id);
     // The context menu at the pointer. Its entries act on the item as it was when the menu opened.
     Q_INVOKABLE void showMenu(const QString &id);
+    Q_INVOKABLE void activateSecondary(const QString &id);
+    Q_INVOKABLE void scroll(const QString &id, QPoint by); // 120 is a notch of the wheel, up and left
+    platform::ItemOffer offer(const QString &id) const;
     // Enter and leave may come in either order when the pointer goes from one tile to the next.
     Q_INVOKABLE void pointerEntered(const QString &id);
     Q_INVOKABLE void pointerLeft(const QString &id);
 
+Q_SIGNALS:
+    void offersChanged(); // of some item
+
 private:
     NotchModel &m_model;
     platform::Menus &m_menus;
+    platform::ItemServices *m_items;
 };
 
 } // namespace brimshade::model

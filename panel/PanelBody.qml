@@ -10,6 +10,7 @@ Item {
 
     required property NotchModel model
     required property TileActions actions
+    required property HelpTip helpTip
     required property PermissionRequest permission
     required property PanelState panelState
     required property PanelGeometry geometry
@@ -50,6 +51,7 @@ Item {
         width: parent.width
         model: root.model
         actions: root.actions
+        helpTip: root.helpTip
         panelState: root.panelState
         geometry: root.geometry
         presented: root.presented

@@ -54,6 +54,7 @@ Item {
                 width: parent.width
                 model: root.model
                 actions: root.actions
+                helpTip: root.helpTip
                 permission: root.permission
                 panelState: root.panelState
                 geometry: root.geometry

@@ -10,6 +10,7 @@ Item {
 
     required property NotchModel model
     required property TileActions actions
+    required property HelpTip helpTip
     required property PanelState panelState
     required property PanelGeometry geometry
     required property bool presented
@@ -70,7 +71,9 @@ Item {
             count: root.model.hiddenMatchCount
             model: root.model
             actions: root.actions
+            helpTip: root.helpTip
             panelState: root.panelState
+            takesWheel: !root.overflows
             presented: root.presented
             gridLeft: root.geometry.gridLeft
             sectionTop: root.geometry.hiddenSectionY
@@ -86,7 +89,9 @@ Item {
             count: root.model.visibleMatchCount
             model: root.model
             actions: root.actions
+            helpTip: root.helpTip
             panelState: root.panelState
+            takesWheel: !root.overflows
             presented: root.presented
             gridLeft: root.geometry.gridLeft
             sectionTop: root.geometry.visibleSectionY

@@ -9,8 +9,10 @@ Item {
     id: root
 
     required property TileActions actions
+    required property HelpTip helpTip
     required property bool open
     required property bool highlighted
+    required property bool takesWheel // it is not the panel's to scroll with
     required property int index // across both sections, in reading order
     required property bool isNew
     required property bool isFirst
@@ -51,6 +53,18 @@ Item {
             (root.isFirst ? entrance : arrival).run(0, 1);
     }
 
+    Component.onDestruction: root.helpTip.hide(root)
+    onOpenChanged: root.helpTip.hide(root)
+
+    TileOffer {
+        id: offer
+
+        readonly property string tip: offer.toolTip !== "" ? offer.toolTip : root.name
+
+        actions: root.actions
+        extraID: root.extraID
+        onTipChanged: root.helpTip.follow(root, offer.tip)
+    }
     SpringValue {
         id: entrance
         target: root.open ? 1 : 0
@@ -81,17 +95,33 @@ Item {
     }
     HoverHandler {
         enabled: root.enabled
-        onHoveredChanged: hovered ? root.actions.pointerEntered(root.extraID) : root.actions.pointerLeft(root.extraID)
+        onHoveredChanged: {
+            if (hovered) {
+                root.actions.pointerEntered(root.extraID);
+                root.helpTip.show(root, offer.tip);
+            } else {
+                root.actions.pointerLeft(root.extraID);
+                root.helpTip.hide(root);
+            }
+        }
     }
     MouseArea {
         id: area
         anchors.fill: parent
-        acceptedButtons: Qt.LeftButton | Qt.RightButton
+        acceptedButtons: Qt.LeftButton | Qt.RightButton | Qt.MiddleButton
+        onPressed: root.helpTip.hide(root)
         onClicked: mouse => {
             if (mouse.button === Qt.RightButton)
                 root.actions.showMenu(root.extraID);
+            else if (mouse.button === Qt.MiddleButton)
+                root.actions.activateSecondary(root.extraID);
             else
                 root.actions.open(root.extraID);
+        }
+        onWheel: wheel => {
+            wheel.accepted = root.takesWheel;
+            if (root.takesWheel)
+                root.actions.scroll(root.extraID, wheel.angleDelta);
         }
     }
     Item {
@@ -108,6 +138,8 @@ Item {
             hovered: root.highlighted
             scaled: press.value !== 1
             sharpness: entrance.clamped
+            overlay: offer.overlay
+            wantsAttention: offer.wantsAttention
         }
         StyledText {
             objectName: "name"

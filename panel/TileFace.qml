@@ -15,6 +15,8 @@ Item {
     required property bool hovered
     required property bool scaled // by whatever it is part of
     required property real sharpness // 0: wholly blurred, 1: not at all
+    required property var overlay
+    required property bool wantsAttention
 
     readonly property real shown: motion.clamped
     readonly property bool resampled: root.scaled || root.scale !== 1
@@ -114,6 +116,29 @@ Item {
         opacity: 1 - root.sharpness
         source: picture.isNull ? glyph : picture
         radius: 8
+    }
+    ImageView {
+        objectName: "overlay"
+        smooth: root.resampled
+        anchors.right: picture.right
+        anchors.bottom: picture.bottom
+        width: 18
+        height: 18
+        visible: !isNull
+        opacity: root.sharpness
+        image: root.overlay
+    }
+    RoundedShape {
+        objectName: "attention"
+        smooth: root.resampled
+        anchors.centerIn: parent
+        anchors.horizontalCenterOffset: -19
+        anchors.verticalCenterOffset: -19
+        visible: root.wantsAttention
+        width: 7
+        height: 7
+        radius: 3.5
+        color: Theme.pink
     }
     RoundedShape {
         objectName: "marker"

@@ -11,11 +11,13 @@ Item {
 
     required property NotchModel model
     required property TileActions actions
+    required property HelpTip helpTip
     required property PanelState panelState
     required property string title
     required property int section
     required property int startIndex
     required property int count
+    required property bool takesWheel
     required property bool presented // on screen: whatever moves may be seen to move
     required property real gridLeft //, from the middle
     required property real sectionTop
@@ -52,7 +54,9 @@ Item {
             y: down.value
             index: root.startIndex + tile.position
             actions: root.actions
+            helpTip: root.helpTip
             open: root.model.isOpen
+            takesWheel: root.takesWheel
             highlighted: root.panelState.highlightedID === tile.extraID
             onGone: tiles.drop(tile.extraID)
 

@@ -7,6 +7,7 @@ class Application;
 class Dispatch;
 class EventServices;
 class HotkeyCenter;
+class ItemServices;
 class Log;
 class LoginItems;
 class MenuBarPreferences;
@@ -38,6 +39,7 @@ struct Platform {
     Windows &windows;
     WindowServer &windowServer;
     Workspace &workspace;
+    ItemServices *itemServices; // null where items of the bar offer nothing beyond Accessibility
     MenuBarPreferences *menuBarPreferences; // null where the menu bar is the system's own affair
 };
 

@@ -2,7 +2,9 @@
 #include "DesktopDescription.h"
 #include "ItemGesture.h"
 #include "platform/Image.h"
+#include "platform/ItemServices.h"
 
+#include <QPoint>
 #include <functional>
 #include <map>
 #include <optional>
@@ -13,6 +15,9 @@ namespace brimshade::desktop {
 // or does what else the item does. Main thread; the frame is the item's, in display space.
 using ItemHandler = std::function<void(ItemGesture gesture, const QRectF &itemFrame)>;
 
+// Scrolls over an item; 120 is a notch of the wheel, up and left.
+using ItemScroller = std::function<void(QPoint by)>;
+
 // What keeps the place of an item that comes and goes.
 struct ItemOrigin {
     QString instance; // this very item, whatever it says of itself, as long as it is there
@@ -22,8 +27,10 @@ struct ItemOrigin {
 // What a description cannot say of an extra.
 struct ItemSpec {
     platform::Image image = {}; // null: the bar draws the description's symbol or the application's icon
-    ItemHandler handler = {}; // null: every gesture opens the description's menu
-    QString toolTip = {};
+    ItemHandler handler = {}; // null: every gesture but secondary and activate opens the description's menu
+    ItemScroller scroller = {}; // null: nothing happens
+    QString label = {}; // beside the image
+    platform::ItemOffer offer = {};
     bool isAway = false; // it has nothing to say: it stands off-screen
     std::optional<ItemOrigin> origin = {}; // absent: the item is a listed one
 };

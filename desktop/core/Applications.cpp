@@ -69,10 +69,16 @@ bool Applications::change(int pid, const ApplicationSpec &application)
         return false;
     const bool hasSameIcon =
         application.icon.isNull() && application.description.icon == hosted->second.given.description.icon;
+    const bool offersTheSame =
+        std::ranges::equal(hosted->second.given.items, application.items, [](const auto &a, const auto &b) {
+            return a.first == b.first && a.second.offer == b.second.offer;
+        });
     hosted->second.given = application;
     if (!hasSameIcon)
         hosted->second.icon = {};
     host(hosted->second);
+    if (!offersTheSame)
+        Q_EMIT offersChanged();
     return true;
 }
 
@@ -212,7 +218,10 @@ void Applications::describe(BarEntry &entry, const Hosted &hosted, const Describ
     entry.description = description.description.value_or(QString());
     entry.symbol = description.symbol;
     const ItemSpec spec = specOf(hosted.given, description);
-    entry.toolTip = spec.toolTip;
+    entry.scroller = spec.scroller;
+    entry.label = spec.label;
+    entry.toolTip = spec.offer.toolTip;
+    entry.wantsAttention = spec.offer.wantsAttention;
     entry.isAway = spec.isAway;
     entry.image = spec.image;
     if (spec.image.isNull() && description.role == "AXMenuBarItem"_L1)
@@ -226,22 +235,38 @@ void Applications::attach(BarEntry &entry, const ElementPointer &element)
         m_state.write([&](DisplayState &) { element->frame = entry.frame; });
 }
 
-void Applications::pressed(const ElementPointer &element)
+void Applications::asked(ItemGesture gesture, const ElementPointer &element)
 {
+    if (!element)
+        return;
     Q_EMIT acted();
-    carryOut(ItemGesture::press, element->pid, element.get());
+    carryOut(gesture, element->pid, element.get());
+}
+
+ItemSpec Applications::itemSpec(const ElementPointer &element) const
+{
+    if (!element)
+        return {};
+    const auto [hosted, item] = find(element->pid, element.get());
+    return item ? specOf(hosted->given, item->extra.description) : ItemSpec();
+}
+
+std::pair<const Applications::Hosted *, const Applications::Item *> Applications::find(int pid,
+                                                                                       const Element *element) const
+{
+    const auto hosted = m_hosted.find(pid);
+    if (hosted == m_hosted.end())
+        return {};
+    const auto &items = hosted->second.items;
+    const auto item =
+        std::ranges::find_if(items, [element](const Item &item) { return item.extra.element.get() == element; });
+    return {&hosted->second, item == items.end() ? nullptr : &*item};
 }
 
 void Applications::carryOut(ItemGesture gesture, int pid, const Element *element)
 {
-    const auto hosted = m_hosted.find(pid);
-    if (hosted == m_hosted.end())
-        return; // it quit between the press and its effect
-    const auto &items = hosted->second.items;
-    const auto item =
-        std::ranges::find_if(items, [element](const Item &item) { return item.extra.element.get() == element; });
-    if (item != items.end())
-        carryOut(gesture, hosted->second, *item);
+    if (const auto [hosted, item] = find(pid, element); item) // else it went between the press and its effect
+        carryOut(gesture, *hosted, *item);
 }
 
 void Applications::carryOut(ItemGesture gesture, const Hosted &hosted, const Item &item)
@@ -252,6 +277,8 @@ void Applications::carryOut(ItemGesture gesture, const Hosted &hosted, const Ite
         handler(gesture, frame);
         return;
     }
+    if (gesture == ItemGesture::secondary || gesture == ItemGesture::activate)
+        return;
     const ApplicationDescription &application = hosted.given.description;
     const QString name = application.name.value_or(application.bundleIdentifier.value_or(QString()));
     if (extra.menu.isEmpty()) {

@@ -25,10 +25,12 @@ public:
     bool change(int pid, const ApplicationSpec &application);
     bool isRunning(int pid) const;
 
-    void pressed(const ElementPointer &element); // through Accessibility
+    void asked(ItemGesture gesture, const ElementPointer &element); // not by a click on it
+    ItemSpec itemSpec(const ElementPointer &element) const; // empty when it is gone
 
 Q_SIGNALS:
-    void acted(); // an item is about to be pressed
+    void offersChanged();
+    void acted(); // before anything comes of what was asked
     void notified(const QString &application, const QString &what);
 
 private:
@@ -49,6 +51,7 @@ private:
     void describe(BarEntry &entry, const Hosted &hosted, const DescribedExtra &extra);
     void attach(BarEntry &entry, const ElementPointer &element);
     void dismissOrphanedMenu();
+    std::pair<const Hosted *, const Item *> find(int pid, const Element *element) const; // null when it is gone
     void carryOut(ItemGesture gesture, int pid, const Element *element);
     void carryOut(ItemGesture gesture, const Hosted &hosted, const Item &item);
 

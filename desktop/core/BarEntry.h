@@ -4,6 +4,7 @@
 #include "SharedState.h"
 #include "platform/Image.h"
 
+#include <QPoint>
 #include <functional>
 
 namespace brimshade::desktop {
@@ -22,9 +23,11 @@ struct BarEntry {
     std::optional<QRectF> frame; // the settled one, display space; absent until the bar has laid the item out
     ElementPointer element; // null for the own item
     std::function<void(ItemGesture)> handler; // null for the own item
+    std::function<void(QPoint by)> scroller; // null: nothing scrolls
 
-    QString identifier, title, description, symbol, toolTip;
+    QString identifier, title, description, symbol, label, toolTip;
     platform::Image image;
+    bool wantsAttention = false;
     bool isPressed = false;
     double dragOffset = 0; // points to the right of its frame, while a hand has it and until the bar settles after that
 };

@@ -9,6 +9,7 @@ namespace brimshade::desktop {
 
 inline constexpr double kItemPicture = 18; // a side of the picture that an item shows
 inline constexpr double kItemPadding = 8; // at each side of it
+inline constexpr double kLabelGap = 5; // between it and a label
 
 // The bar with status items on its screen.
 struct BarGeometry {

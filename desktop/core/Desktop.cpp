@@ -4,6 +4,7 @@
 #include "BarLayout.h"
 #include "InputRouter.h"
 #include "Inspection.h"
+#include "ItemService.h"
 #include "MenuBar.h"
 #include "MenuHost.h"
 #include "Permission.h"
@@ -59,9 +60,11 @@ struct Desktop::Parts {
     MenuBar menuBar{services.dispatch, state, menus};
     ProgramApplication application{state, windows};
     Applications applications{state, menuBar, menus};
+    ItemService items{applications};
     WorkspaceService workspace;
-    AccessibilityService accessibility{services.dispatch, state, permission,
-                                       [this](const ElementPointer &item) { applications.pressed(item); }};
+    AccessibilityService accessibility{services.dispatch, state, permission, [this](const ElementPointer &item) {
+                                           applications.asked(ItemGesture::press, item);
+                                       }};
     StatusBarService statusBar;
     InputRouter input{{state, application, permission, windows, menus, menuBar, statusBar, hotkeys}};
     SyntheticEvents events{services.dispatch, state, input};
@@ -148,6 +151,7 @@ Desktop::Desktop(Services services, const DesktopDescription &description)
     connect(&m_parts->permission, &Permission::changed, this, &Desktop::changed);
     connect(&m_parts->applications, &Applications::notified, this, &Desktop::notify);
     connect(&m_parts->applications, &Applications::acted, this, &Desktop::acted);
+    connect(&m_parts->applications, &Applications::offersChanged, this, [this] { m_parts->items.tellObservers(); });
     connect(&m_parts->input, &InputRouter::acted, this, &Desktop::acted);
     m_parts->hotkeys.setObserver([this] { Q_EMIT acted(); });
     connect(&m_parts->application, &ProgramApplication::terminated, this, &Desktop::terminated);
@@ -178,6 +182,7 @@ Platform Desktop::platform()
             p.windows,
             p.windowInfo,
             p.workspace,
+            &p.items,
             p.services.menuBarPreferences};
 }
 

@@ -45,7 +45,7 @@ struct InputRouter::Private : Parts {
 
     CommandDrag drag;
     PointerTracking tracking;
-    std::array<std::optional<Press>, 2> held; // by MouseButton
+    std::array<std::optional<Press>, 3> held; // by MouseButton
     QPointF at; // of the event that is being handled; the pointer may be further when it was posted by a thread
 };
 
@@ -87,7 +87,9 @@ Target InputRouter::moved(QPointF to)
         return press->target;
     }
     m_d->tracking.pointerMoved(to);
-    return targetAt(to);
+    const Target target = targetAt(to);
+    Q_EMIT pointerAt(to, target);
+    return target;
 }
 
 Target InputRouter::pressed(MouseButton button, std::uint64_t modifierFlags)
@@ -119,6 +121,8 @@ Target InputRouter::takePress(MouseButton button, std::uint64_t modifierFlags)
     const Target target = targetAt(m_d->at);
     if (target == Target::menu)
         return target;
+    if (button == MouseButton::middle)
+        return pressMiddle(target);
     if (button == MouseButton::left && m_d->drag.begin(m_d->at, modifierFlags)) {
         if (!m_d->statusBar.itemOf(m_d->drag.entry()))
             m_d->monitors().tellGlobal(event);
@@ -162,12 +166,32 @@ Target InputRouter::pressInMenuBar(MouseButton button, const Event &event)
     return Target::menuBar;
 }
 
+// The program listens to no other buttons: only items of the bar and views do.
+Target InputRouter::pressMiddle(Target target)
+{
+    const auto entry = target == Target::menuBar ? m_d->menuBar.drawnEntryAt(m_d->at) : nullptr;
+    if (entry && entry->handler)
+        entry->handler(ItemGesture::secondary);
+    return target;
+}
+
+Target InputRouter::scrolled(QPointF at, QPoint by)
+{
+    const Target target = targetAt(at);
+    const auto entry = target == Target::menuBar ? m_d->menuBar.drawnEntryAt(at) : nullptr;
+    if (entry && entry->scroller)
+        entry->scroller(by);
+    return target;
+}
+
 Target InputRouter::release(MouseButton button, std::uint64_t modifierFlags)
 {
     const auto press = std::exchange(m_d->held[static_cast<std::size_t>(button)], std::nullopt);
     const Event event = mouseEvent(button, false, modifierFlags);
     if (!press)
         return targetAt(m_d->at);
+    if (button == MouseButton::middle)
+        return press->target;
     if (button == MouseButton::left && m_d->drag.isActive()) {
         OwnStatusItem *own = m_d->statusBar.itemOf(m_d->drag.entry());
         if (m_d->drag.end(m_d->at, modifierFlags) && own)

@@ -22,7 +22,7 @@ class SharedState;
 class StatusBarService;
 class WindowStack;
 
-enum class MouseButton { left, right };
+enum class MouseButton { left, right, middle };
 
 // Who takes a pointer event, in the order in which they are asked. A press on an item of the bar with Command held
 // goes to the bar before any window: it begins a drag of the item.
@@ -54,6 +54,7 @@ public:
     Target pointerMoved(QPointF to, std::uint64_t modifierFlags); // window: hand it to the view under it
     Target pressed(MouseButton button, std::uint64_t modifierFlags);
     Target released(MouseButton button, std::uint64_t modifierFlags); // the target of the press
+    Target scrolled(QPointF at, QPoint by); // 120 is a notch of the wheel, up and left
     // Hotkeys, then the local monitors when a window of this program is key. The event comes back when the key
     // window's view shall have it. While a menu is open the other keys are the scene's: nothing is done with them here.
     std::optional<platform::Event> keyDown(const platform::Event &event);
@@ -63,6 +64,7 @@ public:
     void synthetic(const platform::CGMouseEvent &event);
 
 Q_SIGNALS:
+    void pointerAt(QPointF point, Target target); // after a move without a button held
     void acted(); // a person pressed a button or a key, before anything comes of it
     void pointerWarped(); // moved by the program, not by a hand
     void syntheticHeld(bool held); // the program pressed the mouse button, or let it go
@@ -78,6 +80,7 @@ private:
     Target takePress(MouseButton button, std::uint64_t modifierFlags);
     Target pressInMenuBar(MouseButton button, const platform::Event &event);
     Target pressInWindow(const platform::Event &event);
+    Target pressMiddle(Target target);
 
     std::unique_ptr<Private> m_d;
 };

@@ -6,7 +6,9 @@ namespace brimshade::desktop {
 enum class ItemGesture {
     click, // with the left button
     menu, // with the right button, or with Control: its menu, whatever else it can do
+    secondary, // with the middle button
     press, // through Accessibility, as the panel does
+    activate, // what it does besides showing its menu
 };
 
 } // namespace brimshade::desktop

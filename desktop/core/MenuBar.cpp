@@ -94,13 +94,21 @@ std::vector<BarItem> MenuBar::items() const
             if (!entry->frame)
                 continue;
             const BarEntry &e = *entry;
-            items.push_back({e.pid, e.identifier, e.title, e.description, e.symbol, e.image, e.toolTip, *e.frame,
-                             isDrawn(e), e.place == BarEntry::Place::own,
-                             e.isPressed || (isMenuOpen && m_d->menus.anchor() == *e.frame), e.dragOffset});
+            items.push_back({e.pid, e.identifier, e.title, e.description, e.symbol, e.image, e.label, e.toolTip,
+                             *e.frame, isDrawn(e), e.place == BarEntry::Place::own,
+                             e.isPressed || (isMenuOpen && m_d->menus.anchor() == *e.frame),
+                             e.place == BarEntry::Place::own ? hiddenWantsAttention() : e.wantsAttention,
+                             e.dragOffset});
         }
     }
     std::ranges::stable_sort(items, {}, [](const BarItem &item) { return minX(item.frame); });
     return items;
+}
+
+bool MenuBar::hiddenWantsAttention() const
+{
+    return std::ranges::any_of(m_d->order.laidOut(),
+                               [this](const auto &entry) { return entry->wantsAttention && !isDrawn(*entry); });
 }
 
 void MenuBar::add(const EntryPointer &entry)

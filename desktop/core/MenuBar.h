@@ -29,11 +29,13 @@ struct BarItem {
     QString identifier, title, description; // empty where absent; the own item's identifier is its autosave name
     QString symbol; // drawn when not empty, else the image
     platform::Image image; // null: nothing to draw
+    QString label; // beside the image
     QString toolTip; // plain text
     QRectF frame; // display space; the settled one
     bool drawn = false; // also: takes clicks
     bool isOwn = false; // this program's own status item
     bool isHighlighted = false; // its menu is open or it is pressed
+    bool wantsAttention = false; // the own item: one that is not drawn does
     double dragOffset = 0; // points to the right of its frame, where a hand holds it
 };
 
@@ -91,6 +93,7 @@ private:
     struct Layout;
     double room() const; // points for what is drawn
     Layout layout() const;
+    bool hiddenWantsAttention() const;
     void relayout();
     void touch();
     void apply(const Layout &layout);

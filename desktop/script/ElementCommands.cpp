@@ -41,7 +41,7 @@ ScriptRunner::Result ScriptRunner::pressElement(Arguments &arguments)
         return std::unexpected(
             u"name: %1 interactive elements are named \"%2\", expected one"_s.arg(elements.size()).arg(name));
     }
-    clickAt(elements.front().frame.center(), false, 0);
+    clickAt(elements.front().frame.center(), MouseButton::left, 0);
     return {};
 }
 
@@ -50,7 +50,7 @@ ScriptRunner::Result ScriptRunner::menu(Arguments &arguments)
     const QPointF at = arguments.point(u"at"_s);
     if (const auto fault = arguments.finish())
         return std::unexpected(*fault);
-    clickAt(at, true, 0);
+    clickAt(at, MouseButton::right, 0);
     m_clock.settle();
     if (!m_desktop.menus().openMenu())
         return std::unexpected(u"at: no menu opens there"_s);

@@ -3,6 +3,7 @@
 #include "desktop/views/KeyMap.h"
 
 #include <QTextBoundaryFinder>
+#include <cmath>
 
 using namespace Qt::StringLiterals;
 
@@ -22,16 +23,19 @@ std::uint16_t keyCodeForCharacter(const QString &character)
 MouseButton buttonOf(Arguments &arguments)
 {
     const QString button = arguments.text(u"button"_s, u"left"_s);
-    if (button != "left"_L1 && button != "right"_L1)
-        arguments.fail(u"button"_s, u"\"left\" or \"right\""_s);
-    return button == "right"_L1 ? MouseButton::right : MouseButton::left;
+    if (button == "right"_L1)
+        return MouseButton::right;
+    if (button == "middle"_L1)
+        return MouseButton::middle;
+    if (button != "left"_L1)
+        arguments.fail(u"button"_s, u"\"left\", \"right\" or \"middle\""_s);
+    return MouseButton::left;
 }
 
 } // namespace
 
-void ScriptRunner::clickAt(QPointF at, bool right, std::uint64_t modifiers)
+void ScriptRunner::clickAt(QPointF at, MouseButton button, std::uint64_t modifiers)
 {
-    const MouseButton button = right ? MouseButton::right : MouseButton::left;
     m_host.movePointer(at, modifiers);
     m_clock.settle();
     m_host.press(button, modifiers);
@@ -56,7 +60,7 @@ ScriptRunner::Result ScriptRunner::click(Arguments &arguments)
     const auto modifiers = arguments.modifiers();
     if (const auto fault = arguments.finish())
         return std::unexpected(*fault);
-    clickAt(at, button == MouseButton::right, modifiers);
+    clickAt(at, button, modifiers);
     return {};
 }
 
@@ -105,6 +109,22 @@ ScriptRunner::Result ScriptRunner::drag(Arguments &arguments)
     }
     m_clock.settle();
     m_host.release(MouseButton::left, modifiers);
+    return {};
+}
+
+ScriptRunner::Result ScriptRunner::scroll(Arguments &arguments)
+{
+    constexpr double notch = 120, most = 100; // units of the wheel, notches
+    const QPointF at = arguments.point(u"at"_s);
+    const QPointF by = arguments.point(u"by"_s);
+    const auto modifiers = arguments.modifiers();
+    if (std::abs(by.x()) > most || std::abs(by.y()) > most)
+        arguments.fail(u"by"_s, u"at most %1 notches"_s.arg(most));
+    if (const auto fault = arguments.finish())
+        return std::unexpected(*fault);
+    m_host.movePointer(at, modifiers);
+    m_clock.settle();
+    m_host.scroll((by * notch).toPoint(), modifiers);
     return {};
 }
 

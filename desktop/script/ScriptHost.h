@@ -35,6 +35,7 @@ public:
     virtual void movePointer(QPointF to, std::uint64_t modifierFlags) = 0;
     virtual void press(MouseButton button, std::uint64_t modifierFlags) = 0;
     virtual void release(MouseButton button, std::uint64_t modifierFlags) = 0;
+    virtual void scroll(QPoint by, std::uint64_t modifierFlags) = 0; // 120 is a notch of the wheel, up and left
     virtual void key(const platform::Event &event) = 0; // down and up; code and characters arrive as they stand here
 };
 

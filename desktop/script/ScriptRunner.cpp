@@ -31,13 +31,21 @@ void ScriptRunner::addOwnCommands()
 {
     using Handler = Result (ScriptRunner::*)(Arguments &);
     const std::pair<QString, Handler> handlers[] = {
-        {u"advance"_s, &ScriptRunner::advance}, {u"state"_s, &ScriptRunner::state},
-        {u"picture"_s, &ScriptRunner::picture}, {u"move"_s, &ScriptRunner::move},
-        {u"click"_s, &ScriptRunner::click},     {u"press"_s, &ScriptRunner::press},
-        {u"release"_s, &ScriptRunner::release}, {u"drag"_s, &ScriptRunner::drag},
-        {u"key"_s, &ScriptRunner::key},         {u"type"_s, &ScriptRunner::type},
-        {u"find"_s, &ScriptRunner::find},       {u"press-element"_s, &ScriptRunner::pressElement},
-        {u"menu"_s, &ScriptRunner::menu},       {u"choose"_s, &ScriptRunner::choose},
+        {u"advance"_s, &ScriptRunner::advance},
+        {u"state"_s, &ScriptRunner::state},
+        {u"picture"_s, &ScriptRunner::picture},
+        {u"move"_s, &ScriptRunner::move},
+        {u"click"_s, &ScriptRunner::click},
+        {u"press"_s, &ScriptRunner::press},
+        {u"release"_s, &ScriptRunner::release},
+        {u"drag"_s, &ScriptRunner::drag},
+        {u"scroll"_s, &ScriptRunner::scroll},
+        {u"key"_s, &ScriptRunner::key},
+        {u"type"_s, &ScriptRunner::type},
+        {u"find"_s, &ScriptRunner::find},
+        {u"press-element"_s, &ScriptRunner::pressElement},
+        {u"menu"_s, &ScriptRunner::menu},
+        {u"choose"_s, &ScriptRunner::choose},
     };
     for (const auto &[name, handler] : handlers)
         add(name, [this, handler](Arguments &arguments) { return (this->*handler)(arguments); });

@@ -11,6 +11,7 @@ namespace brimshade::desktop {
 
 class Desktop;
 class ScriptHost;
+enum class MouseButton;
 
 // Carries out script commands, one JSON object at a time. docs/DESKTOP.md is the reference. Main thread.
 class ScriptRunner {
@@ -42,6 +43,7 @@ private:
     Result press(Arguments &arguments);
     Result release(Arguments &arguments);
     Result drag(Arguments &arguments);
+    Result scroll(Arguments &arguments);
     Result key(Arguments &arguments);
     Result type(Arguments &arguments);
 
@@ -50,7 +52,7 @@ private:
     Result menu(Arguments &arguments);
     Result choose(Arguments &arguments);
 
-    void clickAt(QPointF at, bool right, std::uint64_t modifiers);
+    void clickAt(QPointF at, MouseButton button, std::uint64_t modifiers);
 
     Desktop &m_desktop;
     ScriptHost &m_host;

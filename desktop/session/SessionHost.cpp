@@ -3,10 +3,12 @@
 #include "OverlayPane.h"
 #include "SessionBar.h"
 #include "SessionScreens.h"
+#include "TipPane.h"
 #include "TitledPane.h"
 #include "desktop/core/Desktop.h"
 #include "desktop/core/MenuBar.h"
 #include "desktop/core/MenuHost.h"
+#include "desktop/views/NativePoint.h"
 #include "desktop/views/ScriptHands.h"
 #include "platform/Platform.h"
 
@@ -35,6 +37,7 @@ SessionHost::SessionHost(Desktop &desktop, SessionScreens &screens, ShellBackend
     : m_desktop(desktop), m_screens(screens), m_shell(shell), m_engine(std::make_unique<QQmlEngine>()),
       m_clock(desktop.platform().dispatch, [] { return QDateTime::currentDateTime(); }),
       m_applicationNames(desktop.platform().dispatch), m_barState(desktop.menuBar(), m_clock),
+      m_barTip(desktop.menuBar(), desktop.input(), desktop.platform().dispatch),
       m_menu(desktop.menus(), [this](QPointF point) { return screenFrameAt(point); })
 {
     m_engine->addImportPath(u"qrc:/qt/qml"_s);
@@ -47,6 +50,7 @@ SessionHost::SessionHost(Desktop &desktop, SessionScreens &screens, ShellBackend
         SessionBar::Parts{desktop.menuBar(), m_barState, screens, shell, *m_engine, desktop.input(), m_menu});
     m_bar->pane().window().installEventFilter(this);
     m_menus = std::make_unique<MenuPanes>(MenuPanes::Parts{m_menu, screens, shell, *m_engine, desktop.input()});
+    m_tip = std::make_unique<TipPane>(TipPane::Parts{m_barTip, screens, shell, *m_engine, desktop.input(), m_menu});
     m_hands = std::make_unique<ScriptHands>(
         [this](QPointF display, const WindowInput *grab) {
             Pane *pane = grab ? paneOf(grab) : paneAt(display);
@@ -74,6 +78,7 @@ SessionHost::~SessionHost()
 {
     m_hands.reset();
     m_windows.clear(); // the views go before what they show
+    m_tip.reset();
     m_menus.reset();
     m_bar.reset();
 }
@@ -244,6 +249,10 @@ std::vector<ScriptHost::View> SessionHost::views() const
         views.push_back(
             {.window = &pane->window(), .toDisplay = [pane](QPointF inWindow) { return pane->toDisplay(inWindow); }});
     }
+    if (m_barTip.isShown()) {
+        views.push_back({.window = &m_tip->pane().window(),
+                         .toDisplay = [this](QPointF inWindow) { return m_tip->pane().toDisplay(inWindow); }});
+    }
     return views;
 }
 
@@ -272,6 +281,13 @@ std::optional<QImage> SessionHost::picture(const QString &windowName)
     return {};
 }
 
+QPoint SessionHost::toScreen(QPointF display) const
+{
+    const QScreen *screen = m_screens.screenAt(display);
+    return screen ? nativePoint(screen->geometry().topLeft() + display - m_screens.originOf(screen))
+                  : display.toPoint();
+}
+
 void SessionHost::movePointer(QPointF to, std::uint64_t modifierFlags)
 {
     m_hands->movePointer(to, modifierFlags);
@@ -285,6 +301,11 @@ void SessionHost::press(MouseButton button, std::uint64_t modifierFlags)
 void SessionHost::release(MouseButton button, std::uint64_t modifierFlags)
 {
     m_hands->release(button, modifierFlags);
+}
+
+void SessionHost::scroll(QPoint by, std::uint64_t modifierFlags)
+{
+    m_hands->scroll(by, modifierFlags);
 }
 
 void SessionHost::key(const platform::Event &event)

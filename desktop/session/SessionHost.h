@@ -4,6 +4,7 @@
 #include "Pane.h"
 #include "desktop/script/ScriptHost.h"
 #include "desktop/session/surface/ShellBackend.h"
+#include "desktop/views/BarTip.h"
 #include "desktop/views/MenuController.h"
 
 #include <map>
@@ -22,6 +23,7 @@ namespace brimshade::desktop::session {
 class MenuPanes;
 class SessionBar;
 class SessionScreens;
+class TipPane;
 class WindowPane;
 
 // The desktop in the session that the program was started in: the bar at the top edge of a screen, the open menu and
@@ -32,6 +34,7 @@ public:
     SessionHost(Desktop &desktop, SessionScreens &screens, ShellBackend &shell);
     ~SessionHost() override;
 
+    QPoint toScreen(QPointF display) const; // as other programs count
     bool takesKeyboard() const; // all keys of the session come to this program: panel or menu are open
     QString windowWithKeys() const; // the session's keys come to it by now; empty while another program has them
 
@@ -42,6 +45,7 @@ public:
     void movePointer(QPointF to, std::uint64_t modifierFlags) override;
     void press(MouseButton button, std::uint64_t modifierFlags) override;
     void release(MouseButton button, std::uint64_t modifierFlags) override;
+    void scroll(QPoint by, std::uint64_t modifierFlags) override;
     void key(const platform::Event &event) override;
 
     bool eventFilter(QObject *watched, QEvent *event) override;
@@ -70,9 +74,11 @@ private:
     WallClock m_clock;
     ApplicationNames m_applicationNames;
     BarState m_barState;
+    BarTip m_barTip;
     MenuController m_menu;
     std::unique_ptr<SessionBar> m_bar;
     std::unique_ptr<MenuPanes> m_menus;
+    std::unique_ptr<TipPane> m_tip;
     std::map<DesktopWindow *, std::unique_ptr<WindowPane>> m_windows;
     std::unique_ptr<ScriptHands> m_hands;
     QObject *m_hovered = nullptr; // the window that the pointer is in; only compared

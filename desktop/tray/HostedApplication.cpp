@@ -1,12 +1,22 @@
 #include "HostedApplication.h"
 
 #include "desktop/core/BarLayout.h"
+#include "desktop/core/BarText.h"
+
+#include <algorithm>
+#include <cmath>
 
 namespace brimshade::desktop::tray {
 
 namespace {
 
-constexpr double kItemWidth = kItemPadding + kItemPicture + kItemPadding;
+double widthOf(const TrayItem &item)
+{
+    const double width = kItemPadding + kItemPicture + kItemPadding;
+    if (item.label.isEmpty())
+        return width;
+    return width + kLabelGap + std::ceil(std::max(barTextWidth(item.label), barTextWidth(item.labelGuide)));
+}
 
 QString toolTipOf(const TrayItem &item)
 {
@@ -28,7 +38,7 @@ ExtraDescription describeExtra(const TrayItem &item, const QString &identifier)
     const auto description = item.toolTipTitle.isEmpty() ? item.label : item.toolTipTitle;
     if (!description.isEmpty())
         extra.description = description;
-    extra.width = kItemWidth;
+    extra.width = widthOf(item);
     extra.actions = {QStringLiteral("AXPress")};
     return extra;
 }
@@ -37,15 +47,18 @@ platform::Image applicationIcon(const HostedProgram &program, const std::vector<
 {
     auto icon = program.icon;
     for (auto it = items.begin(); icon.isNull() && it != items.end(); ++it)
-        icon = it->image;
+        icon = it->pictures.whole;
     return icon;
 }
 
 ItemSpec specOf(const HostedItem &hosted, const QString &program)
 {
-    return {.image = hosted.image,
+    return {.image = hosted.pictures.whole,
             .handler = hosted.handler,
-            .toolTip = toolTipOf(hosted.item),
+            .scroller = hosted.scroller,
+            .label = hosted.item.label,
+            .offer = {hosted.canBeActivated, hosted.item.status == TrayItem::Status::needsAttention,
+                      toolTipOf(hosted.item), hosted.pictures.overlay},
             .isAway = hosted.item.status == TrayItem::Status::passive,
             .origin = ItemOrigin{hosted.key.text(), program, hosted.item.id}};
 }

@@ -10,8 +10,10 @@ namespace brimshade::desktop::tray {
 struct HostedItem {
     ItemKey key;
     TrayItem item;
-    platform::Image image;
+    ItemPictures pictures;
     ItemHandler handler;
+    ItemScroller scroller = {};
+    bool canBeActivated = false;
 };
 
 // What is known of a program besides its items.

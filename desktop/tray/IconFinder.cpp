@@ -66,12 +66,13 @@ platform::Image IconFinder::find(const QString &name, const QString &themePath)
     return imageOf(picture, picture.size(), isSymbolic(name));
 }
 
-platform::Image IconFinder::itemImage(const TrayItem &item)
+ItemPictures IconFinder::itemPictures(const TrayItem &item)
 {
     auto picture = resolve(item.shownIcon(), item.iconThemePath);
     const bool isTemplate = isSymbolic(item.shownIcon().name);
-    addOverlay(picture, resolve(item.overlayIcon, item.iconThemePath));
-    return imageOf(picture, kItemSize, isTemplate);
+    const auto overlay = resolve(item.overlayIcon, item.iconThemePath);
+    addOverlay(picture, overlay);
+    return {imageOf(picture, kItemSize, isTemplate), imageOf(overlay, kItemSize)};
 }
 
 QImage IconFinder::resolve(const ItemIcon &icon, const QString &themePath)

@@ -10,6 +10,11 @@
 
 namespace brimshade::desktop::tray {
 
+struct ItemPictures {
+    platform::Image whole; // null when it has none
+    platform::Image overlay; // null for none
+};
+
 // Pictures by name: in the folder that a program brings along, in the user's icon theme, where programs install their
 // own icons, or at an absolute path. It reads folders and files: not on the main thread, and on one at a time. The
 // pictures may be drawn on any.
@@ -23,8 +28,8 @@ public:
     // "-symbolic" gives a template.
     platform::Image find(const QString &name, const QString &themePath);
 
-    // The picture of an item as its program wants it to look now, 22 × 22 points; null when it has none.
-    platform::Image itemImage(const TrayItem &item);
+    // The picture of an item as its program wants it to look now, 22 × 22 points, and what lies over it there.
+    ItemPictures itemPictures(const TrayItem &item);
 
 private:
     struct Found {

@@ -9,14 +9,19 @@ constexpr auto kItemInterface = "org.kde.StatusNotifierItem";
 constexpr auto kProperties = "org.freedesktop.DBus.Properties";
 } // namespace
 
-ItemClient::ItemClient(const QDBusConnection &bus, const ItemKey &key, const Workshop &workshop)
+ItemClient::ItemClient(const QDBusConnection &bus, const ItemKey &key, const Workshop &workshop,
+                       const Surroundings &surroundings)
     : m_bus(bus), m_key(key), m_address{key.owner, key.path, QString::fromLatin1(kItemInterface)}, m_workshop(workshop),
-      m_refresh(workshop.dispatch(), [this] { fetch(); }), m_life(bus, key.owner, workshop.dispatch()),
-      m_press(bus, m_address, m_life, workshop.dispatch())
+      m_surroundings(surroundings), m_refresh(workshop.dispatch(), [this] { fetch(); }),
+      m_life(bus, key.owner, workshop.dispatch()), m_activation(bus, m_address, surroundings, workshop.dispatch()),
+      m_press(bus, m_address, m_life, m_activation, workshop.dispatch())
 {
     connect(&m_press, &ItemPress::menuReady, this, &ItemClient::menuReady);
     connect(&m_press, &ItemPress::message, this, &ItemClient::say);
+    connect(&m_press, &ItemPress::learned, this, &ItemClient::changed);
+    connect(&m_life, &LifeSign::heard, this, &ItemClient::sendScroll);
     connect(&m_life, &LifeSign::silent, this, [this] {
+        m_scrolled = {};
         if (!m_press.isProgramBusy())
             Q_EMIT unanswered();
     });
@@ -42,6 +47,10 @@ void ItemClient::fetch()
 void ItemClient::receive(const BusReply &reply)
 {
     if (!reply) {
+        if (m_item && reply.error().isUnknown()) {
+            Q_EMIT gone();
+            return;
+        }
         say(QStringLiteral("it does not tell its properties: %1").arg(reply.error().text));
         m_refresh.failed();
         return;
@@ -49,20 +58,23 @@ void ItemClient::receive(const BusReply &reply)
     const auto parsed = parseItem(reply->value(0).toMap());
     if (!parsed.complaints.isEmpty())
         say(parsed.complaints.first());
-    m_workshop.run([item = parsed.item](Workshop::Tools &tools) { return tools.icons.itemImage(item); },
-                   m_lifetime.guard([this, item = parsed.item](const platform::Image &image) {
-                       take(item, image);
+    m_workshop.run([item = parsed.item](Workshop::Tools &tools) { return tools.icons.itemPictures(item); },
+                   m_lifetime.guard([this, item = parsed.item](const ItemPictures &pictures) {
+                       take(item, pictures);
                        m_refresh.finished();
                    }));
 }
 
-void ItemClient::take(const TrayItem &item, const platform::Image &image)
+void ItemClient::take(const TrayItem &item, const ItemPictures &pictures)
 {
-    // Some programs draw a new picture into the file that they named before.
-    if (m_item == item && m_image.bitmap() == image.bitmap())
+    // Some programs draw a new picture into the file that they named before. One that looks the same stays the same.
+    const bool isSameOverlay = m_pictures.overlay.bitmap() == pictures.overlay.bitmap();
+    if (m_item == item && m_pictures.whole.bitmap() == pictures.whole.bitmap() && isSameOverlay)
         return;
     m_item = item;
-    m_image = image;
+    m_pictures.whole = pictures.whole;
+    if (!isSameOverlay)
+        m_pictures.overlay = pictures.overlay;
     updateMenu();
     Q_EMIT changed();
 }
@@ -77,7 +89,7 @@ void ItemClient::updateMenu()
     m_menu.reset();
     if (m_item->menuPath.isEmpty())
         return;
-    m_menu = std::make_unique<MenuClient>(m_bus, m_key.owner, m_item->menuPath, m_workshop, m_life);
+    m_menu = std::make_unique<MenuClient>(m_bus, m_key.owner, m_item->menuPath, m_workshop, m_life, m_activation);
     m_menu->setIconThemePath(m_item->iconThemePath);
     connect(m_menu.get(), &MenuClient::ready, &m_press, &ItemPress::menuIsReady);
     connect(m_menu.get(), &MenuClient::unusable, &m_press, &ItemPress::tryNext);
@@ -86,13 +98,39 @@ void ItemClient::updateMenu()
 
 void ItemClient::press(ItemGesture gesture, const QRectF &frame)
 {
-    if (m_item)
-        m_press.start(pressOrder(*m_item, gesture), m_menu.get(), frame);
+    if (!m_item)
+        return;
+    const auto corner = frame.bottomLeft();
+    m_press.start(pressOrder(*m_item, gesture), m_menu.get(), frame,
+                  m_surroundings.toScreen ? m_surroundings.toScreen(corner) : corner.toPoint());
 }
 
 void ItemClient::lapse()
 {
     m_press.lapse();
+}
+
+// What comes while the program is being asked for a sign of life goes as one.
+void ItemClient::scroll(QPoint by)
+{
+    m_scrolled += by;
+    m_life.ask();
+}
+
+void ItemClient::sendScroll()
+{
+    if (!m_item)
+        return;
+    const auto by = takeScroll(*m_item, m_scrolled);
+    if (by.y() != 0)
+        notify(m_bus, m_address, QStringLiteral("Scroll"), {by.y(), QStringLiteral("vertical")});
+    if (by.x() != 0)
+        notify(m_bus, m_address, QStringLiteral("Scroll"), {by.x(), QStringLiteral("horizontal")});
+}
+
+bool ItemClient::canBeActivated() const
+{
+    return m_item && m_item->itemIsMenu == false && m_press.canActivate();
 }
 
 void ItemClient::say(const QString &text)

@@ -16,24 +16,28 @@ namespace brimshade::desktop::tray {
 class MenuClient;
 
 // One tray item over the bus: it reads the item, follows its changes and presses it. Main thread; nothing it asked for
-// arrives after it is gone. The workshop outlives it.
+// arrives after it is gone. The workshop and the surroundings outlive it.
 class ItemClient : public QObject {
     Q_OBJECT
 public:
-    ItemClient(const QDBusConnection &bus, const ItemKey &key, const Workshop &workshop);
+    ItemClient(const QDBusConnection &bus, const ItemKey &key, const Workshop &workshop,
+               const Surroundings &surroundings);
     ~ItemClient() override;
 
     const ItemKey &key() const { return m_key; }
     const std::optional<TrayItem> &item() const { return m_item; } // nothing until the first answer
-    platform::Image image() const { return m_image; }
+    const ItemPictures &pictures() const { return m_pictures; }
     MenuClient *menu() const { return m_menu.get(); }
 
     void press(ItemGesture gesture, const QRectF &frame); // of the item, in display space
     void lapse(); // the press under way
+    void scroll(QPoint by); // 120 is a notch of the wheel, up and left
+    bool canBeActivated() const; // it is more than a menu, and the program has not said otherwise
 
 Q_SIGNALS:
-    void changed(); // item() or image() is another one
+    void changed(); // item(), pictures() or canBeActivated() is another one
     void menuReady(const QRectF &frame); // show menu() at the item that was pressed
+    void gone(); // its program lives on without it; it does nothing more
     void unanswered(); // a press; the program does not answer anything
     void message(const QString &text);
 
@@ -43,18 +47,22 @@ private Q_SLOTS:
 private:
     void fetch();
     void receive(const BusReply &reply);
-    void take(const TrayItem &item, const platform::Image &image);
+    void take(const TrayItem &item, const ItemPictures &pictures);
     void updateMenu();
+    void sendScroll();
     void say(const QString &text);
 
     QDBusConnection m_bus;
     ItemKey m_key;
     BusAddress m_address;
     const Workshop &m_workshop;
+    const Surroundings &m_surroundings;
     Refresh m_refresh;
     std::optional<TrayItem> m_item;
-    platform::Image m_image;
+    ItemPictures m_pictures;
     LifeSign m_life;
+    Activation m_activation;
+    QPoint m_scrolled; // and not told yet
     ItemPress m_press;
     std::unique_ptr<MenuClient> m_menu;
     QString m_lastMessage;

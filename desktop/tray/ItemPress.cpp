@@ -2,23 +2,34 @@
 
 #include "MenuClient.h"
 
-#include <cmath>
-
 namespace brimshade::desktop::tray {
 
-ItemPress::ItemPress(const QDBusConnection &bus, const BusAddress &item, LifeSign &life, platform::Dispatch &dispatch)
-    : m_bus(bus), m_item(item), m_life(life), m_dispatch(dispatch)
+namespace {
+
+QString methodOf(Press press)
 {
-    connect(&life, &LifeSign::heard, this, &ItemPress::callWhenHeard);
+    if (press == Press::secondaryActivate)
+        return QStringLiteral("SecondaryActivate");
+    return press == Press::activate ? QStringLiteral("Activate") : QStringLiteral("ContextMenu");
 }
 
-void ItemPress::start(std::vector<Press> order, MenuClient *menu, const QRectF &frame)
+} // namespace
+
+ItemPress::ItemPress(const QDBusConnection &bus, const BusAddress &item, LifeSign &life, Activation &activation,
+                     platform::Dispatch &dispatch)
+    : m_bus(bus), m_item(item), m_life(life), m_activation(activation), m_dispatch(dispatch)
+{
+    connect(&life, &LifeSign::heard, this, &ItemPress::call);
+}
+
+void ItemPress::start(std::vector<Press> order, MenuClient *menu, const QRectF &frame, QPoint onScreen)
 {
     lapse();
     m_isUnderWay = true;
     m_untried = std::move(order);
     m_menu = menu;
     m_frame = frame;
+    m_onScreen = onScreen;
     m_dispatch.mainAfter(kAnswerSeconds, m_lifetime.guard([this, number = m_number] {
         if (number == m_number)
             timeOut();
@@ -57,38 +68,47 @@ void ItemPress::tryNext()
         return;
     if (m_untried.empty()) {
         lapse();
-        Q_EMIT message(QStringLiteral("it has no menu and cannot be activated"));
+        if (m_tried != Press::secondaryActivate) // which few programs have
+            Q_EMIT message(QStringLiteral("it has no menu and cannot be activated"));
         return;
     }
-    const auto press = m_untried.front();
+    m_tried = m_untried.front();
     m_untried.erase(m_untried.begin());
-    if (press == Press::menu && m_menu) {
+    if (m_tried == Press::menu && m_menu) {
         m_menu->open();
         return;
     }
-    m_method = press == Press::activate ? QStringLiteral("Activate") : QStringLiteral("ContextMenu");
+    m_method = methodOf(m_tried);
     if (m_life.isHeard())
-        callWhenHeard();
+        call();
 }
 
-void ItemPress::callWhenHeard()
+void ItemPress::call()
 {
     if (m_method.isEmpty())
         return;
-    const auto method = std::exchange(m_method, {});
-    const int x = static_cast<int>(std::lround(m_frame.left()));
-    const int y = static_cast<int>(std::lround(m_frame.bottom()));
-    ++m_unanswered;
-    callPatiently(m_bus, m_item, method, {x, y}, this, [this, method, number = m_number](const BusReply &reply) {
-        --m_unanswered;
+    m_activation.provide([this, method = std::exchange(m_method, {}), number = m_number] {
         if (number == m_number)
-            answered(method, reply);
+            send(method);
     });
+}
+
+void ItemPress::send(const QString &method)
+{
+    ++m_unanswered;
+    callPatiently(m_bus, m_item, method, {m_onScreen.x(), m_onScreen.y()}, this,
+                  [this, method, number = m_number](const BusReply &reply) {
+                      --m_unanswered;
+                      if (number == m_number)
+                          answered(method, reply);
+                  });
 }
 
 void ItemPress::answered(const QString &method, const BusReply &reply)
 {
     if (!reply && reply.error().isUnknown()) {
+        if (method == methodOf(Press::activate) && std::exchange(m_canActivate, false))
+            Q_EMIT learned();
         tryNext();
         return;
     }

@@ -1,4 +1,5 @@
 #pragma once
+#include "Activation.h"
 #include "LifeSign.h"
 #include "TrayItem.h"
 
@@ -15,39 +16,48 @@ class MenuClient;
 class ItemPress : public QObject {
     Q_OBJECT
 public:
-    ItemPress(const QDBusConnection &bus, const BusAddress &item, LifeSign &life, platform::Dispatch &dispatch);
+    // All outlive it.
+    ItemPress(const QDBusConnection &bus, const BusAddress &item, LifeSign &life, Activation &activation,
+              platform::Dispatch &dispatch);
 
-    // frame is the item's, in display space: a program that shows something itself gets its lower left corner. The one
-    // before lapses.
-    void start(std::vector<Press> order, MenuClient *menu, const QRectF &frame);
+    // frame is the item's, in display space; a program that shows something itself gets the point, on the screen. The
+    // press before lapses.
+    void start(std::vector<Press> order, MenuClient *menu, const QRectF &frame, QPoint onScreen);
     void lapse();
 
     void menuIsReady();
     void tryNext(); // the program has no such thing
 
+    bool canActivate() const { return m_canActivate; } // the program has not said otherwise
     // Calls whose answer may come when a menu closes that the program itself draws.
     bool isProgramBusy() const { return m_unanswered > 0; }
 
 Q_SIGNALS:
     void menuReady(const QRectF &frame);
+    void learned(); // canActivate() is another one
     void message(const QString &text);
 
 private:
     void timeOut();
-    void callWhenHeard();
+    void call();
+    void send(const QString &method);
     void answered(const QString &method, const BusReply &reply);
 
     QDBusConnection m_bus;
     BusAddress m_item;
     LifeSign &m_life;
+    Activation &m_activation;
     platform::Dispatch &m_dispatch;
 
     int m_number = 0; // of the press; what belongs to another one comes too late
     bool m_isUnderWay = false;
+    bool m_canActivate = true; // as far as is known
     std::vector<Press> m_untried;
+    Press m_tried = Press::menu; // last
     QString m_method; // to be called once the program is heard
     QPointer<MenuClient> m_menu;
     QRectF m_frame;
+    QPoint m_onScreen;
     int m_unanswered = 0;
     Lifetime m_lifetime;
 };

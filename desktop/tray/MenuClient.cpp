@@ -12,12 +12,12 @@ const auto kClicked = u"clicked";
 } // namespace
 
 MenuClient::MenuClient(const QDBusConnection &bus, const QString &owner, const QString &path, const Workshop &workshop,
-                       LifeSign &life)
-    : m_bus(bus), m_address{owner, path, QString::fromLatin1(kMenuInterface)}, m_life(life), m_workshop(workshop),
-      m_refresh(workshop.dispatch(), [this] { fetch(); })
+                       LifeSign &life, Activation &activation)
+    : m_bus(bus), m_address{owner, path, QString::fromLatin1(kMenuInterface)}, m_life(life), m_activation(activation),
+      m_workshop(workshop), m_refresh(workshop.dispatch(), [this] { fetch(); })
 {
-    connect(&life, &LifeSign::heard, this, [this] { sendHeld(true); });
-    connect(&life, &LifeSign::silent, this, [this] { sendHeld(false); });
+    connect(&life, &LifeSign::heard, this, &MenuClient::sendHeld);
+    connect(&life, &LifeSign::silent, this, &MenuClient::dropChoices);
     m_bus.connect(owner, path, m_address.interface, QStringLiteral("LayoutUpdated"), this,
                   SLOT(layoutUpdated(QDBusMessage)));
     m_bus.connect(owner, path, m_address.interface, QStringLiteral("ItemsPropertiesUpdated"), this,
@@ -178,16 +178,34 @@ void MenuClient::sendEvent(int id, const QString &event)
 {
     m_held.push_back({id, event, static_cast<uint>(QDateTime::currentSecsSinceEpoch())});
     if (m_life.isHeard())
-        sendHeld(true);
+        sendHeld();
     else
         m_life.ask();
 }
 
+void MenuClient::sendHeld()
+{
+    while (!m_held.empty() && !m_isProviding) {
+        const auto event = m_held.front();
+        m_held.pop_front();
+        if (event.name != kClicked) {
+            send(event);
+            continue;
+        }
+        m_isProviding = true;
+        m_activation.provide(m_lifetime.guard([this, event] {
+            m_isProviding = false;
+            send(event);
+            sendHeld();
+        }));
+    }
+}
+
 // A program that slept gets no choice that the person has given up; that its menu has closed it shall know.
-void MenuClient::sendHeld(bool isHeard)
+void MenuClient::dropChoices()
 {
     for (const auto &event : std::exchange(m_held, {})) {
-        if (isHeard || event.name != kClicked)
+        if (event.name != kClicked)
             send(event);
     }
 }

@@ -1,4 +1,5 @@
 #pragma once
+#include "Activation.h"
 #include "BusCall.h"
 #include "LifeSign.h"
 #include "MenuLayout.h"
@@ -7,6 +8,7 @@
 
 #include <QObject>
 #include <QPointer>
+#include <deque>
 #include <optional>
 
 class QDBusMessage;
@@ -18,9 +20,9 @@ namespace brimshade::desktop::tray {
 class MenuClient : public QObject {
     Q_OBJECT
 public:
-    // workshop and life, the owner's, outlive it.
+    // workshop, life and activation are the item's and outlive it.
     MenuClient(const QDBusConnection &bus, const QString &owner, const QString &path, const Workshop &workshop,
-               LifeSign &life);
+               LifeSign &life, Activation &activation);
 
     void setIconThemePath(const QString &path) { m_iconThemePath = path; }
     const QString &path() const { return m_address.path; }
@@ -62,11 +64,13 @@ private:
     void finishOpening(bool isRead);
     void sendEvent(int id, const QString &event); // once the program is heard
     void send(const Event &event);
-    void sendHeld(bool isHeard);
+    void sendHeld();
+    void dropChoices();
 
     QDBusConnection m_bus;
     BusAddress m_address;
     LifeSign &m_life;
+    Activation &m_activation;
     const Workshop &m_workshop;
     QString m_iconThemePath; // for the pictures of its entries
     Refresh m_refresh;
@@ -78,7 +82,8 @@ private:
     bool m_readsForOpening = false; // the read under way began after the program was told
     int m_opened = 0; // times that it was shown and not yet closed
     bool m_saidCut = false;
-    std::vector<Event> m_held; // until the program is heard
+    std::deque<Event> m_held; // until the program is heard and may bring up its windows
+    bool m_isProviding = false; // for the choice that is sent next
     std::vector<int> m_shown; // submenus that were told so, to be told the end
     Lifetime m_lifetime;
 };

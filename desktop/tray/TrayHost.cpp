@@ -8,19 +8,24 @@ namespace brimshade::desktop {
 using namespace tray;
 
 struct TrayHost::Parts {
-    Parts(ConnectToBus connect, platform::Dispatch &dispatch)
-        : workshop(dispatch), bus(std::move(connect), dispatch) { }
+    Parts(ConnectToBus connect, platform::Dispatch &dispatch, Surroundings given)
+        : surroundings(std::move(given)), workshop(dispatch), bus(std::move(connect), dispatch)
+    {
+    }
 
+    const Surroundings surroundings;
     Workshop workshop;
     BusLink bus;
     std::unique_ptr<TrayPrograms> programs; // while there is a bus
 };
 
-TrayHost::TrayHost(Desktop &desktop, ConnectToBus connect, platform::Dispatch &dispatch, ItemPlaces places)
-    : m_parts(std::make_unique<Parts>(std::move(connect), dispatch))
+TrayHost::TrayHost(Desktop &desktop, ConnectToBus connect, platform::Dispatch &dispatch, ItemPlaces places,
+                   Surroundings surroundings)
+    : m_parts(std::make_unique<Parts>(std::move(connect), dispatch, std::move(surroundings)))
 {
     QObject::connect(&m_parts->bus, &BusLink::connected, this, [this, &desktop, places](const QDBusConnection &bus) {
-        m_parts->programs = std::make_unique<TrayPrograms>(desktop, bus, m_parts->workshop, places);
+        m_parts->programs =
+            std::make_unique<TrayPrograms>(desktop, bus, m_parts->workshop, m_parts->surroundings, places);
         QObject::connect(m_parts->programs.get(), &TrayPrograms::message, this, &TrayHost::message);
     });
     QObject::connect(&m_parts->bus, &BusLink::lost, this, [this, &desktop] {

@@ -1,6 +1,7 @@
 #pragma once
 #include "BusLink.h"
 #include "ItemPlaces.h"
+#include "Surroundings.h"
 
 namespace brimshade::desktop {
 
@@ -15,7 +16,8 @@ class Desktop;
 class TrayHost : public QObject {
     Q_OBJECT
 public:
-    TrayHost(Desktop &desktop, tray::ConnectToBus connect, platform::Dispatch &dispatch, tray::ItemPlaces places);
+    TrayHost(Desktop &desktop, tray::ConnectToBus connect, platform::Dispatch &dispatch, tray::ItemPlaces places,
+             tray::Surroundings surroundings = {});
     ~TrayHost() override;
 
 Q_SIGNALS:

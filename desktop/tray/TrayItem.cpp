@@ -11,6 +11,7 @@ namespace brimshade::desktop::tray {
 namespace {
 
 constexpr int kLongestPath = 4096;
+constexpr int kLongestLabel = 48;
 
 // Tool tips may be written in markup; what people see is plain.
 QString withoutMarkup(QString text)
@@ -91,7 +92,8 @@ ParsedItem parseItem(const QVariantMap &values)
     TrayItem item;
     item.id = properties.line("Id");
     item.title = properties.line("Title");
-    item.label = properties.line("XAyatanaLabel");
+    item.label = properties.line("XAyatanaLabel", kLongestLabel);
+    item.labelGuide = properties.line("XAyatanaLabelGuide", kLongestLabel);
     item.status = parseStatus(properties.line("Status"));
     item.iconThemePath = properties.line("IconThemePath", kLongestPath);
     item.icon = properties.icon("IconName", "IconPixmap");
@@ -99,11 +101,16 @@ ParsedItem parseItem(const QVariantMap &values)
     item.overlayIcon = properties.icon("OverlayIconName", "OverlayIconPixmap");
     parseToolTip(properties.value("ToolTip"), item);
     parseMenu(properties, item);
+    item.isIndicator = values.contains(QStringLiteral("XAyatanaLabel"));
     return {std::move(item), properties.complaints()};
 }
 
 std::vector<Press> pressOrder(const TrayItem &item, ItemGesture gesture)
 {
+    if (gesture == ItemGesture::secondary)
+        return {Press::secondaryActivate};
+    if (gesture == ItemGesture::activate)
+        return {Press::activate};
     const bool isMoreThanMenu = item.itemIsMenu == false;
     const bool saysNothing = item.menuPath.isEmpty() && !item.showsOwnMenu && !item.itemIsMenu;
     std::vector<Press> order{Press::contextMenu, Press::activate};
@@ -115,6 +122,16 @@ std::vector<Press> pressOrder(const TrayItem &item, ItemGesture gesture)
     if (!item.menuPath.isEmpty())
         order.insert(gesture == ItemGesture::click && isMoreThanMenu ? order.begin() + 1 : order.begin(), Press::menu);
     return order;
+}
+
+QPoint takeScroll(const TrayItem &item, QPoint &by)
+{
+    constexpr int notch = 120;
+    if (!item.isIndicator)
+        return std::exchange(by, {});
+    const QPoint notches(by.x() / notch, by.y() / notch); // the rest waits for more
+    by -= notches * notch;
+    return -notches;
 }
 
 } // namespace brimshade::desktop::tray

@@ -2,6 +2,7 @@
 #include "desktop/core/ItemGesture.h"
 
 #include <QImage>
+#include <QPoint>
 #include <QString>
 #include <QStringList>
 #include <QVariantMap>
@@ -26,12 +27,14 @@ struct TrayItem {
     QString id, title;
     QString toolTipTitle, toolTipText;
     QString label; // shown beside the icon, "21 °C"
+    QString labelGuide; // as wide as labels get
     Status status = Status::active;
     ItemIcon icon, attentionIcon, overlayIcon;
     QString iconThemePath;
     QString menuPath; // empty: no menu; the path "/NO_DBUSMENU" counts as one that only the program can show
     bool showsOwnMenu = false;
     std::optional<bool> itemIsMenu;
+    bool isIndicator = false; // of the library that most GTK programs use
 
     QString nameForPeople() const; // title, the tool tip's title or the id; may be empty
     const ItemIcon &shownIcon() const; // by status
@@ -47,7 +50,11 @@ struct ParsedItem {
 ParsedItem parseItem(const QVariantMap &properties);
 
 // What carries out a gesture, in order; the next one is tried when the program has no such thing.
-enum class Press { menu, contextMenu, activate };
+enum class Press { menu, contextMenu, activate, secondaryActivate };
 std::vector<Press> pressOrder(const TrayItem &item, ItemGesture gesture);
+
+// What Scroll is told for so much of the wheel (120 is a notch, up and left), which is taken from it: most programs
+// count in those units, indicators in whole notches, down and right.
+QPoint takeScroll(const TrayItem &item, QPoint &by);
 
 } // namespace brimshade::desktop::tray

@@ -14,8 +14,10 @@ namespace {
 constexpr int kFirstSpareId = 1 << 23;
 } // namespace
 
-TrayPrograms::TrayPrograms(Desktop &desktop, const QDBusConnection &bus, const Workshop &workshop, ItemPlaces places)
-    : m_desktop(desktop), m_bus(bus), m_workshop(workshop), m_places(places), m_registry(bus)
+TrayPrograms::TrayPrograms(Desktop &desktop, const QDBusConnection &bus, const Workshop &workshop,
+                           const Surroundings &surroundings, ItemPlaces places)
+    : m_desktop(desktop), m_bus(bus), m_workshop(workshop), m_surroundings(surroundings), m_places(places),
+      m_registry(bus)
 {
     connect(&m_registry, &ItemRegistry::added, this, &TrayPrograms::add);
     connect(&m_registry, &ItemRegistry::removed, this, &TrayPrograms::remove);
@@ -47,10 +49,12 @@ void TrayPrograms::place(const ItemKey &key, int pid)
     // It may have been taken back, and even registered again, while the bus was asked.
     if (!m_registry.contains(key) || isPlaced(key))
         return;
-    auto client = std::make_unique<ItemClient>(m_bus, key, m_workshop);
+    auto client = std::make_unique<ItemClient>(m_bus, key, m_workshop, m_surroundings);
     auto *item = client.get();
     connect(item, &ItemClient::changed, this, [this, pid] { update(pid); });
     connect(item, &ItemClient::message, this, &TrayPrograms::message);
+    connect(
+        item, &ItemClient::gone, this, [this, key] { m_registry.drop(key); }, Qt::QueuedConnection);
     connect(item, &ItemClient::unanswered, this, [this, pid] { tellUnanswered(pid); });
     connect(item, &ItemClient::menuReady, this, [this, item](const QRectF &frame) { openMenu(item->menu(), frame); });
     const bool isNew = !m_programs.contains(pid);
@@ -138,8 +142,9 @@ std::vector<HostedItem> TrayPrograms::hosted(const Program &program)
     std::vector<HostedItem> items;
     for (const auto &client : program.items) {
         if (client->item()) {
-            items.push_back({client->key(), *client->item(), client->image(),
-                             platform::weakly(QPointer(client.get()), &ItemClient::press)});
+            items.push_back({client->key(), *client->item(), client->pictures(),
+                             platform::weakly(QPointer(client.get()), &ItemClient::press),
+                             platform::weakly(QPointer(client.get()), &ItemClient::scroll), client->canBeActivated()});
         }
     }
     return items;

@@ -12,11 +12,12 @@ class Desktop;
 namespace brimshade::desktop::tray {
 
 // The programs that have tray items on one bus, as applications of the desktop. They quit with it. Main thread; the
-// Desktop and the workshop outlive it.
+// Desktop, the workshop and the surroundings outlive it.
 class TrayPrograms : public QObject {
     Q_OBJECT
 public:
-    TrayPrograms(Desktop &desktop, const QDBusConnection &bus, const Workshop &workshop, ItemPlaces places);
+    TrayPrograms(Desktop &desktop, const QDBusConnection &bus, const Workshop &workshop,
+                 const Surroundings &surroundings, ItemPlaces places);
     ~TrayPrograms() override;
 
 Q_SIGNALS:
@@ -47,6 +48,7 @@ private:
     Desktop &m_desktop;
     QDBusConnection m_bus;
     const Workshop &m_workshop;
+    const Surroundings &m_surroundings;
     const ItemPlaces m_places;
     ItemRegistry m_registry;
     std::map<int, Program> m_programs; // by process id

@@ -11,10 +11,14 @@ Item {
     required property string name
     required property string description
     required property string text
+    required property string label
     required property string symbol
     required property var image
     required property size imageSize
+    required property real imageLeft
+    required property real labelLeft
     required property bool isHighlighted
+    required property bool wantsAttention
     required property real dragOffset
 
     objectName: "barItem"
@@ -55,10 +59,32 @@ Item {
     }
     ImageView {
         visible: root.text === "" && root.symbol === "" && !isNull
-        anchors.centerIn: parent
+        anchors.verticalCenter: parent.verticalCenter
+        x: root.imageLeft
         width: root.imageSize.width
         height: root.imageSize.height
         image: root.image
         templateColor: Theme.brightText
+    }
+    StyledText {
+        objectName: "label"
+        visible: root.label !== ""
+        anchors.verticalCenter: parent.verticalCenter
+        x: root.labelLeft
+        text: root.label
+        size: 13
+        font.weight: Font.Medium
+        color: Theme.brightText
+        Accessible.ignored: true
+    }
+    RoundedShape {
+        objectName: "attention"
+        visible: root.wantsAttention
+        x: root.imageLeft + root.imageSize.width - width / 2
+        y: root.height / 2 - 8 - height / 2
+        width: 6
+        height: 6
+        radius: 3
+        color: Theme.pink
     }
 }

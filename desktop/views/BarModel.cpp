@@ -6,11 +6,7 @@ using namespace Qt::StringLiterals;
 
 namespace brimshade::desktop {
 
-namespace {
-
-constexpr double kTextMargin = 6; // left and right of an item's text
-
-QString nameOf(const BarItem &item)
+QString barItemName(const BarItem &item)
 {
     for (const QString &text : {item.title, item.description, item.toolTip}) {
         if (!text.isEmpty())
@@ -19,10 +15,19 @@ QString nameOf(const BarItem &item)
     return item.identifier;
 }
 
+namespace {
+
+constexpr double kTextMargin = 6; // left and right of an item's text
+
 // The program draws its own image to measure; others come in any size.
 QSizeF imageSize(const BarItem &item)
 {
     return item.isOwn ? item.image.size() : QSizeF(kItemPicture, kItemPicture);
+}
+
+double imageLeft(const BarItem &item)
+{
+    return item.label.isEmpty() ? (item.frame.width() - imageSize(item).width()) / 2 : kItemPadding;
 }
 
 QString keyOf(const BarItem &item)
@@ -35,7 +40,11 @@ QList<int> changes(const BarItem &before, const BarItem &after)
     QList<int> roles;
     if (before.frame != after.frame)
         roles << BarModel::FrameRole << BarModel::TextRole;
-    if (nameOf(before) != nameOf(after))
+    if (imageLeft(before) != imageLeft(after))
+        roles << BarModel::ImageLeftRole << BarModel::LabelLeftRole;
+    if (before.label != after.label)
+        roles << BarModel::LabelRole;
+    if (barItemName(before) != barItemName(after))
         roles << BarModel::NameRole;
     if (before.description != after.description)
         roles << BarModel::DescriptionRole;
@@ -47,6 +56,8 @@ QList<int> changes(const BarItem &before, const BarItem &after)
         roles << BarModel::HighlightedRole;
     if (before.toolTip != after.toolTip)
         roles << BarModel::ToolTipRole;
+    if (before.wantsAttention != after.wantsAttention)
+        roles << BarModel::AttentionRole;
     if (before.dragOffset != after.dragOffset)
         roles << BarModel::DragOffsetRole;
     return roles;
@@ -85,21 +96,29 @@ QVariant BarModel::value(int row, int role) const
     case FrameRole:
         return item.frame;
     case NameRole:
-        return nameOf(item);
+        return barItemName(item);
     case DescriptionRole:
         return item.description;
     case TextRole:
         return text(item);
+    case LabelRole:
+        return item.label;
     case SymbolRole:
         return item.symbol;
     case ImageRole:
         return QVariant::fromValue(item.image);
     case ImageSizeRole:
         return imageSize(item);
+    case ImageLeftRole:
+        return imageLeft(item);
+    case LabelLeftRole:
+        return imageLeft(item) + kItemPicture + kLabelGap;
     case HighlightedRole:
         return item.isHighlighted;
     case ToolTipRole:
         return item.toolTip;
+    case AttentionRole:
+        return item.wantsAttention;
     case DragOffsetRole:
         return item.dragOffset;
     default:
@@ -113,11 +132,15 @@ QHash<int, QByteArray> BarModel::roleNames() const
             {NameRole, "name"},
             {DescriptionRole, "description"},
             {TextRole, "text"},
+            {LabelRole, "label"},
             {SymbolRole, "symbol"},
             {ImageRole, "image"},
             {ImageSizeRole, "imageSize"},
+            {ImageLeftRole, "imageLeft"},
+            {LabelLeftRole, "labelLeft"},
             {HighlightedRole, "isHighlighted"},
             {ToolTipRole, "toolTip"},
+            {AttentionRole, "wantsAttention"},
             {DragOffsetRole, "dragOffset"}};
 }
 

@@ -8,6 +8,8 @@ namespace brimshade::desktop {
 
 class WallClock;
 
+QString barItemName(const BarItem &item); // for people
+
 // The bar with status items as the views show it: the items that are drawn or dragged, left to right. Display space.
 // The base is spelled in full: the registrar of QML types finds it by its spelling.
 class BarModel : public brimshade::ui::ListModel {
@@ -28,11 +30,15 @@ public:
         NameRole,
         DescriptionRole,
         TextRole,
+        LabelRole,
         SymbolRole,
         ImageRole,
         ImageSizeRole,
+        ImageLeftRole, // in the item
+        LabelLeftRole,
         HighlightedRole,
         ToolTipRole,
+        AttentionRole,
         DragOffsetRole
     };
 

@@ -6,7 +6,15 @@ namespace {
 
 Qt::MouseButton toolkitButton(MouseButton button)
 {
-    return button == MouseButton::left ? Qt::LeftButton : Qt::RightButton;
+    switch (button) {
+    case MouseButton::left:
+        return Qt::LeftButton;
+    case MouseButton::right:
+        return Qt::RightButton;
+    case MouseButton::middle:
+        return Qt::MiddleButton;
+    }
+    return Qt::NoButton;
 }
 
 } // namespace
@@ -50,6 +58,15 @@ void ScriptHands::release(MouseButton button, std::uint64_t modifierFlags)
         there.input->send(QEvent::MouseButtonRelease, there.inWindow, toolkitButton(button), m_held, modifierFlags);
     else
         m_router.released(button, modifierFlags);
+}
+
+void ScriptHands::scroll(QPoint by, std::uint64_t modifierFlags)
+{
+    const Aim there = aim();
+    if (there.input)
+        there.input->sendWheel(there.inWindow, by, modifierFlags);
+    else
+        m_router.scrolled(m_pointer, by);
 }
 
 void ScriptHands::key(const platform::Event &event)

@@ -21,6 +21,7 @@ public:
     void movePointer(QPointF to, std::uint64_t modifierFlags);
     void press(MouseButton button, std::uint64_t modifierFlags);
     void release(MouseButton button, std::uint64_t modifierFlags);
+    void scroll(QPoint by, std::uint64_t modifierFlags);
     void key(const platform::Event &event);
 
 private:

@@ -1,7 +1,6 @@
 #include "WallClock.h"
+#include "desktop/core/BarText.h"
 
-#include <QFont>
-#include <QFontMetricsF>
 #include <QLocale>
 
 using namespace Qt::StringLiterals;
@@ -26,16 +25,12 @@ void WallClock::waitForMinute()
 
 QString WallClock::text(double width) const
 {
-    QFont font(u"Inter"_s);
-    font.setPixelSize(13);
-    font.setWeight(QFont::Medium);
-    const QFontMetricsF metrics(font);
     const QDateTime now = m_now();
     const QLocale locale;
     QString text;
     for (const QString &form : {tr("ddd MMM d  HH:mm"), tr("ddd HH:mm"), tr("HH:mm")}) {
         text = locale.toString(now, form);
-        if (metrics.horizontalAdvance(text) <= width)
+        if (barTextWidth(text) <= width)
             return text;
     }
     return text;

@@ -24,6 +24,8 @@ std::optional<MouseButton> buttonOf(const QMouseEvent &event)
         return MouseButton::left;
     if (event.button() == Qt::RightButton)
         return MouseButton::right;
+    if (event.button() == Qt::MiddleButton)
+        return MouseButton::middle;
     return {};
 }
 
@@ -118,7 +120,7 @@ bool WindowInput::takeKey(QEvent &event)
 bool WindowInput::takeWheel(const QWheelEvent &event)
 {
     if (!m_menu.isOpen())
-        return false;
+        return m_router.scrolled(m_toDisplay(event.position()), event.angleDelta()) == Target::menuBar;
     const QPoint pixels = event.pixelDelta();
     constexpr double pointsPerStep = 3 * MenuMetrics::rowHeight / 120; // three rows for a notch of the wheel
     m_menu.wheel(m_toDisplay(event.position()), pixels.isNull() ? event.angleDelta().y() * pointsPerStep : pixels.y());
@@ -142,6 +144,13 @@ void WindowInput::send(QEvent::Type type, QPointF inWindow, Qt::MouseButton butt
 {
     QMouseEvent event(type, inWindow, inWindow, m_window.mapToGlobal(inWindow), button, held,
                       modifiersFor(modifierFlags));
+    QCoreApplication::sendEvent(&m_window, &event);
+}
+
+void WindowInput::sendWheel(QPointF inWindow, QPoint by, std::uint64_t modifierFlags)
+{
+    QWheelEvent event(inWindow, m_window.mapToGlobal(inWindow), {}, by, Qt::NoButton, modifiersFor(modifierFlags),
+                      Qt::NoScrollPhase, false);
     QCoreApplication::sendEvent(&m_window, &event);
 }
 

@@ -28,6 +28,7 @@ public:
     // button: none for a move; held: those that are down after the event.
     void send(QEvent::Type type, QPointF inWindow, Qt::MouseButton button, Qt::MouseButtons held,
               std::uint64_t modifierFlags);
+    void sendWheel(QPointF inWindow, QPoint by, std::uint64_t modifierFlags); // 120 is a notch, up and left
     void sendKey(const platform::Event &event); // down and up; code and characters arrive as they stand here
 
     bool eventFilter(QObject *watched, QEvent *event) override;

@@ -4,7 +4,7 @@
 namespace brimshade::model::tests {
 
 struct Tile : testing::Test, ModelContext {
-    TileActions actions{model(), menus};
+    TileActions actions{model(), menus, &itemServices};
 
     Tile()
     {
@@ -13,6 +13,7 @@ struct Tile : testing::Test, ModelContext {
         model().onSetHidden = [this](const MenuExtra &extra, bool hidden) {
             journal << u"%1 %2"_s.arg(hidden ? u"hide"_s : u"show"_s, extra.id);
         };
+        model().onActivate = [this](const MenuExtra &extra) { journal << u"activate "_s + extra.id; };
         journal.clear();
     }
 };
@@ -30,6 +31,19 @@ TEST_F(Tile, OpensAndMovesItsItem)
         const QString select = u"select "_s + id;
         EXPECT_EQ(journal, (QStringList{select, opened, select, effect}));
     }
+}
+
+TEST_F(Tile, OffersWhatItsItemDoesBesidesShowingItsMenu)
+{
+    itemServices.offered.canBeActivated = true;
+    actions.showMenu(u"v0"_s);
+    menus.menu.items.at(0).action();
+    actions.activateSecondary(u"v0"_s);
+    actions.scroll(u"v0"_s, {0, -120});
+    actions.scroll(u"gone"_s, {0, -120});
+    EXPECT_EQ(journal,
+              (QStringList{u"menu Activate,Open,Hide from Menu Bar"_s, u"activate v0"_s, u"secondary"_s,
+                           u"scroll 0 -120"_s}));
 }
 
 TEST_F(Tile, AnOpenMenuOutlivesItsItemAndTheModel)

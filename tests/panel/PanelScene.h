@@ -31,7 +31,7 @@ public:
     QStringList tileNames() const; // in reading order
     QRectF frame(const QString &objectName) const;
 
-    model::TileActions actions{model, menus};
+    model::TileActions actions{model, menus, &itemServices};
     model::PermissionRequest permission{accessibility, workspace};
     ui::OffscreenScene scene;
 };

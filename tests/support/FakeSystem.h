@@ -118,6 +118,25 @@ private:
     QStringList &m_journal;
 };
 
+class FakeItemServices : public platform::ItemServices {
+public:
+    explicit FakeItemServices(QStringList &journal) : m_journal(journal) { }
+    platform::ItemOffer offered; // by every item
+
+    platform::ItemOffer offer(const platform::AXUIElement &) const override { return offered; }
+    void activate(const platform::AXUIElement &) override { m_journal << u"activate"_s; }
+    void activateSecondary(const platform::AXUIElement &) override { m_journal << u"secondary"_s; }
+    void addObserver(platform::Work offersChanged) override { changed = std::move(offersChanged); }
+    platform::Work changed = [] {};
+    void scroll(const platform::AXUIElement &, QPoint by) override
+    {
+        m_journal << u"scroll %1 %2"_s.arg(by.x()).arg(by.y());
+    }
+
+private:
+    QStringList &m_journal;
+};
+
 class FakeAccessibility : public platform::Accessibility {
 public:
     explicit FakeAccessibility(QStringList &journal) : m_journal(journal) { }
@@ -179,6 +198,7 @@ struct FakeSystem {
     FakeDefaults defaults{journal};
     FakeLoginItems loginItems{journal};
     FakeMenus menus{journal};
+    FakeItemServices itemServices{journal};
     FakeAccessibility accessibility{journal};
     FakeWorkspace workspace{journal};
 };

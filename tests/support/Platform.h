@@ -5,6 +5,7 @@
 #include "platform/Dispatch.h"
 #include "platform/EventServices.h"
 #include "platform/HotkeyCenter.h"
+#include "platform/ItemServices.h"
 #include "platform/LoginItems.h"
 #include "platform/Menu.h"
 #include "platform/NotificationCenter.h"

@@ -52,6 +52,10 @@ FocusScope {
                 topEdge: root.desktop.bar.frame.bottom + 10 + index * 80
             }
         }
+        BarTipView {
+            z: 110
+            tip: root.desktop.barTip
+        }
         AccessibilityPage {
             z: 200
             permission: root.desktop.permission

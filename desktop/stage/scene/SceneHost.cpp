@@ -6,6 +6,7 @@
 #include "desktop/core/Desktop.h"
 #include "desktop/core/WindowStack.h"
 #include "desktop/time/VirtualDispatch.h"
+#include "desktop/views/NativePoint.h"
 #include "desktop/views/ScriptHands.h"
 
 #include <QGuiApplication>
@@ -256,6 +257,13 @@ QPointF SceneHost::toDisplay(QPointF scene) const
     return d->space->mapFromScene(scene);
 }
 
+QPoint SceneHost::toScreen(QPointF display) const
+{
+    if (!quickWindow()->isVisible())
+        return display.toPoint();
+    return nativePoint(quickWindow()->mapToGlobal(d->space->mapToScene(display)));
+}
+
 void SceneHost::movePointer(QPointF to, std::uint64_t modifierFlags)
 {
     d->hands->movePointer(to, modifierFlags);
@@ -269,6 +277,11 @@ void SceneHost::press(MouseButton button, std::uint64_t modifierFlags)
 void SceneHost::release(MouseButton button, std::uint64_t modifierFlags)
 {
     d->hands->release(button, modifierFlags);
+}
+
+void SceneHost::scroll(QPoint by, std::uint64_t modifierFlags)
+{
+    d->hands->scroll(by, modifierFlags);
 }
 
 void SceneHost::key(const platform::Event &event)

@@ -31,6 +31,8 @@ public:
     QQuickWindow *quickWindow() const;
     QQmlEngine &engine() const;
 
+    QPoint toScreen(QPointF display) const; // the session's; without a window there, the same
+
     void settle() override;
     std::vector<View> views() const override;
     QImage picture() override; // at the scale, or that of the window
@@ -42,6 +44,7 @@ public:
     void movePointer(QPointF to, std::uint64_t modifierFlags = 0) override;
     void press(MouseButton button, std::uint64_t modifierFlags = 0) override;
     void release(MouseButton button, std::uint64_t modifierFlags = 0) override;
+    void scroll(QPoint by, std::uint64_t modifierFlags = 0) override;
     void key(const platform::Event &event) override;
 
 private:

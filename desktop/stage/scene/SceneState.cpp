@@ -9,6 +9,7 @@ namespace brimshade::desktop {
 SceneState::SceneState(Desktop &desktop, WallClock::Now now, bool alwaysDrawsPointer)
     : m_desktop(desktop), m_alwaysDrawsPointer(alwaysDrawsPointer),
       m_clock(desktop.platform().dispatch, std::move(now)), m_bar(desktop.menuBar(), m_clock),
+      m_barTip(desktop.menuBar(), desktop.input(), desktop.platform().dispatch),
       m_menu(desktop.menus(), [this](QPointF point) { return screenAt(point); }), m_banners(desktop)
 {
     connect(&desktop, &Desktop::changed, this, &SceneState::desktopChanged);

@@ -2,6 +2,7 @@
 #include "BannerModel.h"
 #include "ForeignTypes.h"
 #include "desktop/views/BarModel.h"
+#include "desktop/views/BarTip.h"
 #include "desktop/views/MenuController.h"
 #include "desktop/views/WallClock.h"
 
@@ -21,6 +22,7 @@ class SceneState : public QObject {
     Q_PROPERTY(QRectF bounds READ bounds NOTIFY screensChanged)
     Q_PROPERTY(QVariantList screens READ screens NOTIFY screensChanged) // rectangles
     Q_PROPERTY(brimshade::desktop::BarModel *bar READ bar CONSTANT)
+    Q_PROPERTY(brimshade::desktop::BarTip *barTip READ barTip CONSTANT)
     Q_PROPERTY(brimshade::desktop::MenuController *menu READ menu CONSTANT)
     Q_PROPERTY(brimshade::desktop::BannerModel *banners READ banners CONSTANT)
     Q_PROPERTY(brimshade::desktop::Permission *permission READ permission CONSTANT)
@@ -35,6 +37,7 @@ public:
     QRectF bounds() const; // of all screens together
     QVariantList screens() const;
     BarModel *bar() { return &m_bar; }
+    BarTip *barTip() { return &m_barTip; }
     MenuController *menu() { return &m_menu; }
     BannerModel *banners() { return &m_banners; }
     Permission *permission() const;
@@ -59,6 +62,7 @@ private:
     bool m_wasWarped = false;
     WallClock m_clock;
     BarModel m_bar;
+    BarTip m_barTip;
     MenuController m_menu;
     BannerModel m_banners;
 };

@@ -136,9 +136,34 @@ TEST_F(BarTest, TellsAnItemWhatThePersonAsksOfIt)
     click(at, MouseButton::right);
     press(at, MouseButton::left, kControlFlag);
     desktop.input().released(MouseButton::left, kControlFlag);
+    click(at, MouseButton::middle);
     accessibility().performAction(item(13, 0), u"AXPress"_s);
+    platform.itemServices->activate(item(13, 0));
+    platform.itemServices->activateSecondary(item(13, 0));
     dispatch.runDue();
-    EXPECT_EQ(asked, (std::vector{ItemGesture::click, ItemGesture::menu, ItemGesture::menu, ItemGesture::press}));
+    EXPECT_EQ(asked,
+              (std::vector{ItemGesture::click, ItemGesture::menu, ItemGesture::menu, ItemGesture::secondary,
+                           ItemGesture::activate, ItemGesture::secondary, ItemGesture::press}));
+}
+
+TEST_F(BarTest, ScrollsOverAnItemThatTakesIt)
+{
+    QPoint scrolled;
+    ApplicationSpec handled{.description = application(13, {extra(u"c.four"_s)})};
+    handled.items[u"c.four"_s].scroller = [&](QPoint by) { scrolled += by; };
+    desktop.launch(handled);
+    settle();
+    EXPECT_EQ(desktop.input().scrolled(barFrame(u"c.four"_s).center(), {7, -120}), Target::menuBar);
+    EXPECT_EQ(scrolled, QPoint(7, -120));
+    desktop.input().scrolled(barFrame(u"a.one"_s).center(), {0, 120}); // described: nobody takes it
+    desktop.input().scrolled({300, 500}, {0, 120});
+    EXPECT_EQ(scrolled, QPoint(7, -120));
+    platform.itemServices->scroll(item(13, 0), {0, 120});
+    EXPECT_EQ(scrolled, QPoint(7, 0));
+    const auto gone = item(13, 0);
+    desktop.quit(13);
+    platform.itemServices->scroll(gone, {0, 120});
+    EXPECT_EQ(scrolled, QPoint(7, 0));
 }
 
 TEST_F(BarTest, OpensTheMenuOfADescribedItemWhicheverButtonAsksForIt)

@@ -59,7 +59,7 @@ TEST_F(IconTest, ThePixelsStandInForAnUnknownNameAndTheOverlayLiesOverThem)
     item.icon.name = u"no-theme-has-this"_s;
     item.icon.pixmap = filled(16, 16, Qt::green);
     item.overlayIcon.pixmap = filled(4, 4, Qt::red);
-    const auto image = finder.itemImage(item);
+    const auto image = finder.itemPictures(item).whole;
     EXPECT_EQ(image.size(), QSizeF(22, 22));
     EXPECT_EQ(image.bitmap().pixelColor(2, 2), QColor(Qt::green));
     EXPECT_EQ(image.bitmap().pixelColor(12, 12), QColor(Qt::red));

@@ -18,7 +18,7 @@ protected:
     void start()
     {
         m_client = std::make_unique<ItemClient>(m_own, ItemKey{m_connection.baseService(), u"/StatusNotifierItem"_s},
-                                                m_workshop);
+                                                m_workshop, m_surroundings);
     }
     // The client of the scripted program, once it has been read.
     ItemClient &client()
@@ -31,6 +31,7 @@ protected:
     }
 
     Workshop m_workshop{m_dispatch};
+    Surroundings m_surroundings;
     std::unique_ptr<ItemClient> m_client;
 };
 
@@ -52,7 +53,7 @@ TEST_F(ItemClientTest, ReadsWhatComesOverTheWire)
     EXPECT_EQ(item.icon.pixmap.pixel(1, 0), qRgb(0x44, 0x55, 0x66));
     EXPECT_EQ(item.menuPath, u"/Menu"_s);
     EXPECT_EQ(item.itemIsMenu, true);
-    EXPECT_EQ(client().image().bitmap().size(), QSize(2, 1));
+    EXPECT_EQ(client().pictures().whole.bitmap().size(), QSize(2, 1));
 }
 
 TEST_F(ItemClientTest, ALyingPixmapIsOneMessageHoweverOftenItIsRead)
@@ -100,7 +101,7 @@ TEST_F(ItemClientTest, APictureDrawnIntoTheSameFileIsANewOne)
     ASSERT_TRUE(filled(8, 8, Qt::blue).save(file));
     m_program.signalItem(u"NewIcon"_s);
     waitUntil([&] { return !changes.isEmpty(); });
-    EXPECT_EQ(client().image().bitmap().pixelColor(0, 0), QColor(Qt::blue));
+    EXPECT_EQ(client().pictures().whole.bitmap().pixelColor(0, 0), QColor(Qt::blue));
 }
 
 TEST_F(ItemClientTest, AProgramThatDoesNotAnswerIsAskedAgainWithGrowingPauses)
@@ -154,7 +155,7 @@ TEST_F(ItemClientTest, PicturesAreLookedForOffTheMainThread)
 TEST_F(ItemClientTest, AGestureReachesTheProgramTheWayItUnderstands)
 {
     // At the item's lower left corner.
-    const QString activate = u"Activate 10 37"_s, contextMenu = u"ContextMenu 10 37"_s, opens = u"a menu"_s;
+    const QString activates = u"Activate 10 37"_s, contextMenu = u"ContextMenu 10 37"_s, opens = u"a menu"_s;
     const QString own = u"/NO_DBUSMENU"_s, full = u"/Menu"_s, unreachable = u"/Nowhere"_s;
     const auto empty = full; // with noEntries
     const bool noEntries = true;
@@ -169,24 +170,26 @@ TEST_F(ItemClientTest, AGestureReachesTheProgramTheWayItUnderstands)
         bool isEmpty = false;
     };
     const Case cases[] = {
-        {"says nothing", {}, {}, press, {activate}},
-        {"says nothing, cannot be activated", {}, {}, press, {activate, contextMenu}, {u"Activate"_s}},
+        {"says nothing", {}, {}, press, {activates}},
+        {"says nothing, cannot be activated", {}, {}, press, {activates, contextMenu}, {u"Activate"_s}},
         {"says nothing, its menu", {}, {}, menu, {contextMenu}},
         {"draws its menu", {}, own, press, {contextMenu}},
-        {"draws no menu after all", {}, own, press, {contextMenu, activate}, {u"ContextMenu"_s}},
+        {"draws no menu after all", {}, own, press, {contextMenu, activates}, {u"ContextMenu"_s}},
         {"an empty menu is none", {}, empty, press, {contextMenu}, {}, noEntries},
         {"a menu", {}, full, press, {opens}},
         {"a menu, clicked", true, full, click, {opens}},
-        {"more, without a menu", false, {}, press, {activate}},
-        {"more, draws its menu", false, own, press, {activate}},
-        {"more, with an empty menu", false, empty, press, {activate}, {}, noEntries},
-        {"more, with a menu that is not there", false, unreachable, press, {activate}},
-        {"more, cannot be activated", false, own, press, {activate, contextMenu}, {u"Activate"_s}},
+        {"more, without a menu", false, {}, press, {activates}},
+        {"more, draws its menu", false, own, press, {activates}},
+        {"more, with an empty menu", false, empty, press, {activates}, {}, noEntries},
+        {"more, with a menu that is not there", false, unreachable, press, {activates}},
+        {"more, cannot be activated", false, own, press, {activates, contextMenu}, {u"Activate"_s}},
         {"more, with a menu", false, full, press, {opens}},
-        {"more, with a menu, clicked", false, full, click, {activate}},
-        {"more, with a menu, cannot be activated", false, full, click, {activate, opens}, {u"Activate"_s}},
+        {"more, with a menu, clicked", false, full, click, {activates}},
+        {"more, with a menu, cannot be activated", false, full, click, {activates, opens}, {u"Activate"_s}},
         {"more, with a menu, asked for that", false, full, menu, {opens}},
         {"more, draws its menu, asked for that", false, own, menu, {contextMenu}},
+        {"with the middle button", true, full, secondary, {u"SecondaryActivate 10 37"_s}},
+        {"asked for what it does besides", false, full, activate, {activates}},
     };
     for (const auto &each : cases) {
         SCOPED_TRACE(each.name);
@@ -202,11 +205,90 @@ TEST_F(ItemClientTest, AGestureReachesTheProgramTheWayItUnderstands)
         settle(m_own, m_connection);
         m_program.takeEvents();
         client().press(each.gesture, {10, 5, 30, 32});
-        const auto done = [&] { return m_program.calls().filter(QRegularExpression(u"^(Act|Context|a menu)"_s)); };
+        const auto done = [&] {
+            return m_program.calls().filter(QRegularExpression(u"^(Act|Context|Second|a menu)"_s));
+        };
         waitUntil([&] { return done().size() >= each.expected.size(); });
         settle(m_own, m_connection);
         EXPECT_EQ(done(), each.expected);
     }
+}
+
+TEST_F(ItemClientTest, ScrollingIsTwoAxesAndWhatComesAtOnceIsOne)
+{
+    client().scroll({0, 120});
+    client().scroll({30, 120});
+    waitUntil([&] { return m_program.calls().contains(u"Scroll 30 horizontal"_s); });
+    EXPECT_EQ(m_program.calls().filter(u"Scroll"_s),
+              (QStringList{u"Scroll 240 vertical"_s, u"Scroll 30 horizontal"_s}));
+}
+
+TEST_F(ItemClientTest, AnIndicatorScrollsByWholeNotchesTheOtherWay)
+{
+    m_program.properties = {{u"XAyatanaLabel"_s, QString()}};
+    client().scroll({-120, 80});
+    waitUntil([&] { return m_program.calls().contains(u"Scroll 1 horizontal"_s); });
+    client().scroll({0, 80});
+    waitUntil([&] { return m_program.calls().contains(u"Scroll -1 vertical"_s); });
+    client().scroll({0, -40}); // takes back the rest
+    settle(m_own, m_connection);
+    settle(m_own, m_connection);
+    EXPECT_EQ(m_program.calls().filter(u"Scroll"_s).size(), 2);
+}
+
+TEST_F(ItemClientTest, CanBeActivatedWhereItSaysSoUntilItsProgramSaysOtherwise)
+{
+    EXPECT_FALSE(client().canBeActivated());
+    m_program.properties = {{u"ItemIsMenu"_s, false}};
+    m_client.reset();
+    EXPECT_TRUE(client().canBeActivated());
+    m_program.unknownMethods = {u"Activate"_s};
+    QSignalSpy changes(&client(), &ItemClient::changed);
+    client().press(ItemGesture::activate, {});
+    waitUntil([&] { return !changes.isEmpty(); });
+    EXPECT_FALSE(client().canBeActivated());
+}
+
+TEST_F(ItemClientTest, APressTellsAPlaceOnTheScreen)
+{
+    m_surroundings.toScreen = [](QPointF point) { return (2 * point + QPointF(1000, 0)).toPoint(); };
+    client().press(ItemGesture::press, {10, 5, 30, 32});
+    waitUntil([&] { return m_program.calls().contains(u"Activate 1020 74"_s); });
+}
+
+TEST_F(ItemClientTest, AProgramMayBringUpItsWindowsBeforeItIsAskedTo)
+{
+    std::function<void(const QString &)> give;
+    m_surroundings.requestToken = [&](const std::function<void(const QString &)> &wanted) { give = wanted; };
+    m_program.properties = {{u"ItemIsMenu"_s, false}, {u"Menu"_s, path(u"/Menu"_s)}};
+    m_program.menu.children = {labelled(1, u"Open"_s)};
+    const auto asked = [&] {
+        return m_program.calls().filter(QRegularExpression(u"^(Provide|Activate|Event 1 clicked|Event 0 closed)"_s));
+    };
+    client().press(ItemGesture::click, {});
+    waitUntil([&] { return bool(give); });
+    give(u"token-1"_s);
+    waitUntil([&] { return asked().size() == 2; });
+    EXPECT_EQ(asked(), (QStringList{u"ProvideXdgActivationToken token-1"_s, u"Activate 0 0"_s}));
+
+    m_program.takeEvents();
+    give = {};
+    settle(m_own, m_connection);
+    m_dispatch.runDue();
+    client().menu()->open();
+    client().menu()->choose(1);
+    client().menu()->close();
+    waitUntil([&] { return bool(give); });
+    give({}); // none is to be had
+    waitUntil([&] { return asked().size() == 2; });
+    EXPECT_EQ(asked(), (QStringList{u"Event 1 clicked"_s, u"Event 0 closed"_s}));
+
+    m_program.takeEvents();
+    client().press(ItemGesture::click, {});
+    settle(m_own, m_connection);
+    m_dispatch.advance(0.5); // nor is there an answer
+    waitUntil([&] { return asked().size() == 1; });
+    EXPECT_EQ(asked(), QStringList{u"Activate 0 0"_s});
 }
 
 TEST_F(ItemClientTest, NothingThatCanBePressedIsAMessage)

@@ -12,7 +12,8 @@ protected:
 
     void start()
     {
-        m_client = std::make_unique<MenuClient>(m_own, m_connection.baseService(), u"/Menu"_s, m_workshop, m_life);
+        m_client = std::make_unique<MenuClient>(m_own, m_connection.baseService(), u"/Menu"_s, m_workshop, m_life,
+                                                m_activation);
         m_ready = std::make_unique<QSignalSpy>(m_client.get(), &MenuClient::ready);
         m_changed = std::make_unique<QSignalSpy>(m_client.get(), &MenuClient::changed);
         waitUntil([&] { return m_program.calls().contains(u"GetLayout 0"_s); });
@@ -35,6 +36,9 @@ protected:
 
     Workshop m_workshop{m_dispatch};
     LifeSign m_life{m_own, m_connection.baseService(), m_dispatch};
+    Surroundings m_surroundings;
+    Activation m_activation{
+        m_own, {m_connection.baseService(), u"/StatusNotifierItem"_s, {}}, m_surroundings, m_dispatch};
     std::unique_ptr<MenuClient> m_client;
     std::unique_ptr<QSignalSpy> m_ready, m_changed;
 };

@@ -1,4 +1,6 @@
 #include "TrayHostContext.h"
+#include "platform/ItemServices.h"
+#include "platform/StatusBar.h"
 
 #include <QSignalSpy>
 
@@ -74,6 +76,64 @@ TEST_F(TrayHostTest, AnItemThatHasNothingToSayStandsOffScreenUntilItHas)
         quiet->signalItem(u"NewStatus"_s);
         waitUntil([&] { return frame() == expected; });
     }
+}
+
+TEST_F(TrayHostTest, WhatWantsAttentionIsMarkedAndWhatHidesItIsMarkedOnBrimshadesItem)
+{
+    const auto own = m_desktop.platform().statusBar.createStatusItem(28);
+    const auto program = start(u"urgent"_s, u"Urgent"_s);
+    waitForTitles({u"Urgent"_s});
+    int told = 0;
+    m_desktop.platform().itemServices->addObserver([&] { ++told; });
+    const auto marked = [&] {
+        QStringList names;
+        for (const BarItem &item : m_desktop.menuBar().items()) {
+            if (item.wantsAttention)
+                names.append(item.isOwn ? u"own"_s : item.title);
+        }
+        return names;
+    };
+    EXPECT_EQ(marked(), QStringList());
+    program->properties[u"Status"_s] = u"NeedsAttention"_s;
+    program->signalItem(u"NewStatus"_s);
+    waitUntil([&] { return marked() == QStringList{u"Urgent"_s}; });
+    EXPECT_EQ(told, 1);
+    own->setLength(640); // as the divider does
+    waitUntil([&] { return marked() == (QStringList{u"Urgent"_s, u"own"_s}); });
+    program->properties[u"Status"_s] = u"Active"_s;
+    program->signalItem(u"NewStatus"_s);
+    waitUntil([&] { return marked().isEmpty(); });
+}
+
+TEST_F(TrayHostTest, ALabelMakesAnItemAsWideAsItsGuideAndFollowsItsProgram)
+{
+    const auto program = start(u"weather"_s, u"Weather"_s);
+    waitForTitles({u"Weather"_s});
+    const auto item = [&] { return m_desktop.menuBar().items().front(); };
+    program->properties[u"XAyatanaLabel"_s] = u"9 °C"_s;
+    program->properties[u"XAyatanaLabelGuide"_s] = u"-88 °C"_s;
+    program->signalItem(u"XAyatanaNewLabel"_s);
+    waitUntil([&] { return item().label == u"9 °C"_s && item().frame.width() > 34; });
+    const double wide = item().frame.width();
+    program->properties[u"XAyatanaLabel"_s] = u"-12 °C"_s;
+    program->signalItem(u"XAyatanaNewLabel"_s);
+    waitUntil([&] { return item().label == u"-12 °C"_s; });
+    EXPECT_EQ(item().frame.width(), wide);
+    program->properties.remove(u"XAyatanaLabel"_s);
+    program->signalItem(u"XAyatanaNewLabel"_s);
+    waitUntil([&] { return item().label.isEmpty() && item().frame.width() == 34; });
+}
+
+TEST_F(TrayHostTest, AnItemThatItsProgramHasTakenAwayWithoutAWordGoes)
+{
+    const auto program = start(u"quiet"_s, u"Quiet"_s);
+    waitForTitles({u"Quiet"_s});
+    program->unknownMethods = {u"GetAll"_s};
+    program->signalItem(u"NewIcon"_s);
+    waitForTitles({});
+    program->unknownMethods.clear();
+    program->registerItem(u"/StatusNotifierItem"_s);
+    waitForTitles({u"Quiet"_s});
 }
 
 TEST_F(TrayHostTest, WithTheBusTheItemsGoAndComeWithTheNextOne)

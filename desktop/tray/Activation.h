@@ -1,0 +1,27 @@
+#pragma once
+#include "BusCall.h"
+#include "Surroundings.h"
+#include "desktop/core/Lifetime.h"
+#include "platform/Dispatch.h"
+
+namespace brimshade::desktop::tray {
+
+// Lets an item's program bring up its windows by what is asked of it next. Main thread; the surroundings outlive it.
+class Activation {
+public:
+    Activation(const QDBusConnection &bus, const BusAddress &item, const Surroundings &surroundings,
+               platform::Dispatch &dispatch);
+
+    // Gives the program a token where there is one, then runs ask; at once where there never is one, and without a
+    // token when none has come for a while.
+    void provide(platform::Work ask);
+
+private:
+    QDBusConnection m_bus;
+    BusAddress m_item;
+    const Surroundings &m_surroundings;
+    platform::Dispatch &m_dispatch;
+    Lifetime m_lifetime;
+};
+
+} // namespace brimshade::desktop::tray

@@ -1,0 +1,39 @@
+#pragma once
+#include "Accessibility.h"
+#include "Dispatch.h"
+#include "Image.h"
+
+#include <QPoint>
+#include <QString>
+
+namespace brimshade::platform {
+
+// What an item of the bar offers beyond Accessibility.
+struct ItemOffer {
+    bool canBeActivated = false; // its menu is not all it has
+    bool wantsAttention = false;
+    QString toolTip; // plain, a line of title and lines of text; empty where it says nothing of itself
+    Image overlay; // on its icon; null for none
+
+    bool operator==(const ItemOffer &other) const
+    {
+        return canBeActivated == other.canBeActivated && wantsAttention == other.wantsAttention
+            && toolTip == other.toolTip && overlay.isSameObject(other.overlay);
+    }
+};
+
+// What a person can do with items of the bar but press them. Main thread. An element is one that a scan found; one that
+// is gone offers nothing, and what is asked of it is ignored.
+class ItemServices {
+public:
+    virtual ~ItemServices() = default;
+
+    virtual ItemOffer offer(const AXUIElement &item) const = 0;
+    virtual void activate(const AXUIElement &item) = 0;
+    virtual void activateSecondary(const AXUIElement &item) = 0; // what the middle button does
+    virtual void scroll(const AXUIElement &item, QPoint by) = 0; // 120 is a notch of the wheel, up and left
+
+    virtual void addObserver(Work offersChanged) = 0; // of some item
+};
+
+} // namespace brimshade::platform

@@ -1,0 +1,141 @@
+"""Tray items that do what hardly a real program does, in the whole program: through its bar, its panel and its menus."""
+import json
+import pathlib
+import subprocess
+import sys
+import threading
+import unittest
+
+SUPPORT = pathlib.Path(__file__).resolve().parent.parent / "support"
+sys.path.insert(0, str(SUPPORT))
+from program import Session  # noqa: E402
+
+PROGRAM = sys.argv.pop(1)
+RETURN, ESCAPE = 36, 53
+DESKTOP = {
+    "screens": [{"name": "Built-in Display", "frame": [0, 0, 1512, 982], "menuBarHeight": 37, "notch": [663, 849]}],
+    "applications": [], "defaults": {"onboardingDone": True},
+}
+
+
+class MockItem:
+    """An item in a process of its own, and the calls that it has got."""
+
+    def __init__(self, session, **wanted):
+        self.calls = []
+        self._process = session.start("/usr/bin/python3", str(SUPPORT / "mock_item.py"), json.dumps(wanted),
+                                      stdin=subprocess.PIPE, stdout=subprocess.PIPE, text=True)
+        assert self._process.stdout.readline() == "registered\n"
+        threading.Thread(target=self._listen, daemon=True).start()
+
+    def _listen(self):
+        for line in self._process.stdout:
+            self.calls.append(json.loads(line))
+
+    def change(self, signal, **properties):
+        self._process.stdin.write(json.dumps({"properties": properties, "signal": signal}) + "\n")
+        self._process.stdin.flush()
+
+    def end(self):
+        self._process.stdin.close()
+        self._process.wait(timeout=30)
+
+
+class MockItems(unittest.TestCase):
+    def setUp(self):
+        self.session = Session()
+        self.addCleanup(self.session.close)
+        self.brimshade = self.session.start_program(PROGRAM, DESKTOP, "--tray", "--real-time")
+        self.brimshade.until("watcher", lambda s: "boolean true" in self.session.output_of(
+            "dbus-send", "--session", "--print-reply", "--dest=org.freedesktop.DBus", "/",
+            "org.freedesktop.DBus.NameHasOwner", "string:org.kde.StatusNotifierWatcher"))
+
+    def bar(self, title):
+        return next((item["frame"] for item in self.brimshade.state()["menuBar"] if item["title"] == title), None)
+
+    def middle_of(self, title):
+        x, y, width, height = self.brimshade.until(title, lambda s: self.bar(title))
+        return [x + width / 2, y + height / 2]
+
+    def until_called(self, item, *call):
+        self.brimshade.until(f"{call} in {item.calls}", lambda s: list(call) in item.calls)
+
+    def open_panel(self):
+        self.brimshade.do("click", at=self.brimshade.status_item())
+        self.brimshade.until("open panel", lambda s: s["model"]["isOpen"] and s["panel"]["isKey"])
+
+    def test_clicks_and_the_wheel_over_the_bar(self):
+        item = MockItem(self.session, properties={"Title": "More", "ItemIsMenu": False})
+        at = self.middle_of("More")
+        x, y, width, height = self.bar("More")
+        self.brimshade.do("click", at=at)
+        self.until_called(item, "Activate", int(x), int(y + height))
+        self.brimshade.do("click", at=at, button="middle")
+        self.until_called(item, "SecondaryActivate", int(x), int(y + height))
+        self.brimshade.do("scroll", at=at, by=[0, 2])
+        self.until_called(item, "Scroll", 240, "vertical")
+        self.brimshade.do("scroll", at=at, by=[-1, 0])
+        self.until_called(item, "Scroll", -120, "horizontal")
+        self.brimshade.do("menu", at=at)
+        self.assertEqual(self.brimshade.state()["menu"], ["Open"])
+        self.brimshade.do("choose", title="Open")
+        self.brimshade.until("the choice", lambda s: ["Event", 1, "clicked"] in [c[:3] for c in item.calls])
+
+    def test_the_tile_offers_the_same(self):
+        item = MockItem(self.session, properties={"Title": "More", "ItemIsMenu": False,
+                                                  "ToolTip": ["What it does", "and how"]})
+        self.middle_of("More")
+        self.open_panel()
+        tile = self.brimshade.until("the tile", lambda s: self.brimshade.do("find", text="More")["elements"])
+        x, y, width, height = next(e["frame"] for e in tile if e["window"] == "panel")
+        at = [x + width / 2, y + height / 2]
+        self.brimshade.do("click", at=at, button="middle")
+        self.brimshade.until("the middle click", lambda s: "SecondaryActivate" in [c[0] for c in item.calls])
+        self.brimshade.do("scroll", at=at, by=[0, -1])
+        self.until_called(item, "Scroll", -120, "vertical")
+        self.brimshade.until("the tooltip", lambda s: self.brimshade.do("find", text="What it does")["elements"])
+        self.brimshade.do("menu", at=at)
+        self.assertEqual(self.brimshade.state()["menu"][0], "Activate")
+        self.brimshade.do("choose", title="Activate")
+        self.brimshade.until("the activation", lambda s: "Activate" in [c[0] for c in item.calls])
+
+    def test_what_lacks_activation_opens_its_menu(self):
+        MockItem(self.session, properties={"Title": "Less", "ItemIsMenu": False}, unknown=["Activate"])
+        self.brimshade.do("click", at=self.middle_of("Less"))
+        self.assertEqual(self.brimshade.until("the menu", lambda s: s["menu"]), ["Open"])
+
+    def test_a_label_comes_changes_and_goes(self):
+        item = MockItem(self.session, properties={"Title": "Weather"})
+        self.middle_of("Weather")
+        plain = self.bar("Weather")[2]
+        item.change("XAyatanaNewLabel", XAyatanaLabel="9 °C", XAyatanaLabelGuide="-88 °C")
+        wide = self.brimshade.until("the label", lambda s: (w := self.bar("Weather")[2]) > plain and w)
+        item.change("XAyatanaNewLabel", XAyatanaLabel="-12 °C")
+        self.brimshade.until("the other label", lambda s: self.brimshade.do("find", text="-12 °C")["elements"])
+        self.assertEqual(self.bar("Weather")[2], wide)
+        item.change("XAyatanaNewLabel", XAyatanaLabel="")
+        self.brimshade.until("no label", lambda s: self.bar("Weather")[2] == plain)
+
+    def test_forty_items_come_are_opened_and_go(self):
+        items = [MockItem(self.session, path=f"/item/{i}", properties={"Id": f"mock{i}", "Title": f"Mock {i:02}"})
+                 for i in range(40)]
+        self.brimshade.until("all in the bar", lambda s: len(s["menuBar"]) == 41)
+        self.open_panel()
+        self.brimshade.until("all in the panel", lambda s: len(s["model"]["extras"]) == 40)
+        self.brimshade.do("type", text="Mock 3")
+        self.brimshade.until("ten of them", lambda s: len(
+            s["model"]["hiddenMatches"] + s["model"]["visibleMatches"]) == 10)
+        self.brimshade.do("type", text="7")
+        self.brimshade.until("one of them", lambda s: len(
+            s["model"]["hiddenMatches"] + s["model"]["visibleMatches"]) == 1)
+        self.brimshade.do("key", code=RETURN)
+        self.assertEqual(self.brimshade.until("its menu", lambda s: s["menu"]), ["Open"])
+        self.brimshade.do("choose", title="Open")
+        self.brimshade.until("the choice", lambda s: ["Event", 1, "clicked"] in [c[:3] for c in items[37].calls])
+        for item in items:
+            item.end()
+        self.brimshade.until("an empty bar", lambda s: len(s["menuBar"]) == 1)
+
+
+if __name__ == "__main__":
+    unittest.main(verbosity=2)
