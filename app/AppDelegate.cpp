@@ -1,6 +1,7 @@
 #include "AppDelegate.h"
 
 #include "ItemMoves.h"
+#include "ItemName.h"
 #include "PanelPlacement.h"
 #include "PanelPresenter.h"
 #include "ScanQueue.h"
@@ -157,6 +158,23 @@ void AppDelegate::togglePanel()
 void AppDelegate::openSettings()
 {
     m_windows->openSettings();
+}
+
+void AppDelegate::listItems(std::function<void(const menubar::ExtraList &)> then)
+{
+    m_scans->scanFor(std::move(then));
+}
+
+void AppDelegate::openItem(const QString &name, const std::function<void(const std::expected<void, QString> &)> &then)
+{
+    const auto open = [name, then](AppDelegate &self, const menubar::ExtraList &extras) {
+        const auto found = itemNamed(name, extras);
+        if (!found)
+            return then(std::unexpected(found.error()));
+        self.m_panel->select(**found);
+        then({});
+    };
+    m_scans->scanFor(weakly(weak_from_this(), open));
 }
 
 bool AppDelegate::shown() const

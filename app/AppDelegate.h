@@ -1,6 +1,9 @@
 #pragma once
+#include "menubar/MenuExtra.h"
 #include "platform/Platform.h"
 
+#include <expected>
+#include <functional>
 #include <memory>
 
 namespace brimshade::platform {
@@ -50,6 +53,9 @@ public:
     void openPanel(); // with the keys
     void togglePanel();
     void openSettings();
+    void listItems(std::function<void(const menubar::ExtraList &)> then); // later, as they are then
+    // Opens the menu of the one item of that name. The error is for whoever asked.
+    void openItem(const QString &name, const std::function<void(const std::expected<void, QString> &)> &then);
 
     model::NotchModel &model() { return *m_model; }
     bool shown() const; // from the ordering in of the panel until its closing begins

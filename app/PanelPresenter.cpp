@@ -143,9 +143,9 @@ void PanelPresenter::toggle()
 
 void PanelPresenter::select(const menubar::MenuExtra &extra)
 {
+    const double delay = m_shown ? kSelectDelay : 0;
     close();
-    m_platform.dispatch.mainAfter(kSelectDelay,
-                                  weakly(std::weak_ptr(m_access), &menubar::MenuBarAccess::activate, extra));
+    m_platform.dispatch.mainAfter(delay, weakly(std::weak_ptr(m_access), &menubar::MenuBarAccess::activate, extra));
 }
 
 void PanelPresenter::activate(const menubar::MenuExtra &extra)

@@ -33,10 +33,25 @@ void ScanScheduler::scan()
     });
 }
 
+void ScanScheduler::scanFor(Found found)
+{
+    m_waiting.push_back(std::move(found));
+    scan();
+    if (!m_parts.model->trusted())
+        handOver({});
+}
+
 void ScanScheduler::publish(menubar::ExtraList extras)
 {
     m_parts.model->setExtras(std::move(extras));
     m_parts.model->setScanned(true);
+    handOver(m_parts.model->extras());
+}
+
+void ScanScheduler::handOver(const menubar::ExtraList &extras)
+{
+    for (const Found &found : std::exchange(m_waiting, {}))
+        found(extras);
 }
 
 ScanBasis ScanScheduler::basis() const

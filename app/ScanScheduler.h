@@ -3,6 +3,7 @@
 #include "platform/Screens.h"
 
 #include <QRectF>
+#include <functional>
 #include <memory>
 #include <optional>
 
@@ -51,14 +52,19 @@ public:
 
     // Main thread; returns at once. The model learns whether the permission is there; without it nothing is scanned.
     void scan();
+    // The same, and hands over what this scan or one under way finds; nothing without the permission.
+    using Found = std::function<void(const menubar::ExtraList &)>;
+    void scanFor(Found found);
     ScanBasis basis() const; // now; main thread
 
 private:
     void publish(menubar::ExtraList extras);
+    void handOver(const menubar::ExtraList &extras);
 
     platform::Accessibility &m_accessibility;
     platform::Dispatch &m_dispatch;
     const Parts m_parts;
+    std::vector<Found> m_waiting; // for what is published next
 };
 
 } // namespace brimshade::app

@@ -15,6 +15,7 @@
 #include "desktop/stage/scene/SceneHost.h"
 #include "desktop/views/Rendering.h"
 #include "i18n/Translation.h"
+#include "menubar/MenuExtra.h"
 #include "platform/Application.h"
 #include "platform/Platform.h"
 
@@ -140,6 +141,14 @@ int openAnothersPanel()
     return kFailed;
 }
 
+QList<desktop::session::ListedItem> listed(const menubar::ExtraList &extras)
+{
+    QList<desktop::session::ListedItem> items;
+    for (const menubar::MenuExtra &extra : extras)
+        items.append({extra.detail, extra.name, extra.isHidden});
+    return items;
+}
+
 int runSession(const composition::CommandLine &line, int scriptDescriptor)
 {
     using desktop::session::Instance;
@@ -161,10 +170,14 @@ int runSession(const composition::CommandLine &line, int scriptDescriptor)
     if (!session)
         return complain(session.error());
     app::AppDelegate &delegate = (*session)->delegate();
-    instance.serve({.openPanel = [&delegate] { delegate.openPanel(); },
-                    .togglePanel = [&delegate] { delegate.togglePanel(); },
-                    .openSettings = [&delegate] { delegate.openSettings(); },
-                    .quit = [&session] { (*session)->desktop().platform().application.terminate(); }});
+    instance.serve(
+        {.openPanel = [&delegate] { delegate.openPanel(); },
+         .togglePanel = [&delegate] { delegate.togglePanel(); },
+         .openSettings = [&delegate] { delegate.openSettings(); },
+         .quit = [&session] { (*session)->desktop().platform().application.terminate(); }},
+        {.list =
+             [&delegate](const auto &give) { delegate.listItems([give](const auto &items) { give(listed(items)); }); },
+         .open = [&delegate](const QString &name, const auto &then) { delegate.openItem(name, then); }});
     return line.script ? runScript(**session, line, scriptDescriptor) : runWindow(**session);
 }
 

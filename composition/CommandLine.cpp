@@ -21,6 +21,9 @@ struct Options {
     QCommandLineOption toggle{u"toggle"_s, u"Open or close the panel of the Brimshade that runs in this session."_s};
     QCommandLineOption settings{u"settings"_s, u"Open its settings."_s};
     QCommandLineOption quit{u"quit"_s, u"End it."_s};
+    QCommandLineOption open{u"open"_s, u"Open the menu of the item that is named <name> there."_s, u"name"_s};
+    QCommandLineOption list{u"list"_s, u"Print the items there."_s};
+    QCommandLineOption json{u"json"_s, u"With --list: as JSON."_s};
     QCommandLineOption desktop{u"desktop"_s, u"Use the desktop that <file> describes."_s, u"file"_s};
     QCommandLineOption noTray{u"no-tray"_s, u"Do not host the session's tray items."_s};
     QCommandLineOption tray{u"tray"_s, u"With --script: host the session's tray items."_s};
@@ -37,8 +40,8 @@ struct Options {
 
     QList<QCommandLineOption> all() const
     {
-        return {session,  screen, notch,  toggle, settings, quit,  desktop, noTray, tray,
-                defaults, state,  script, window, realTime, scale, debug,   help,   version};
+        return {session, screen,   notch, toggle, settings, quit,     open,  list,  json, desktop, noTray,
+                tray,    defaults, state, script, window,   realTime, scale, debug, help, version};
     }
 };
 
@@ -67,10 +70,13 @@ std::optional<desktop::session::NotchChoice> parseNotch(const QString &text)
 // What goes to the Brimshade that runs never comes here, unless it is not alone: the launcher takes it.
 Fault faultInRequest(const QCommandLineParser &parser, const Options &options)
 {
-    for (const QCommandLineOption &each : {options.toggle, options.settings, options.quit}) {
+    for (const QCommandLineOption &each :
+         {options.toggle, options.settings, options.quit, options.open, options.list}) {
         if (parser.isSet(each))
             return u"%1 goes alone"_s.arg(written(each));
     }
+    if (parser.isSet(options.json))
+        return u"--json goes with --list"_s;
     return {};
 }
 

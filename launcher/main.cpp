@@ -2,13 +2,16 @@
 // process becomes the program itself. A key binding thus waits for few libraries.
 #include "desktop/session/remote/Remote.h"
 
+#include <algorithm>
 #include <cerrno>
 #include <climits>
 #include <cstdio>
 #include <cstring>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <unistd.h>
+#include <vector>
 
 using namespace brimshade::desktop::session;
 
@@ -31,6 +34,37 @@ const char *actionOf(std::string_view option)
     return nullptr;
 }
 
+int finish(const std::expected<void, std::string> &answer)
+{
+    return answer ? 0 : complain(answer.error());
+}
+
+int list(std::string (*written)(const std::vector<remote::Item> &))
+{
+    const auto items = remote::listItems();
+    if (!items)
+        return complain(items.error());
+    std::fputs(written(*items).c_str(), stdout);
+    return 0;
+}
+
+// Nothing where the arguments are no such word.
+std::optional<int> sayToTheOneThatRuns(const std::vector<const char *> &arguments)
+{
+    const auto are = [&](std::initializer_list<std::string_view> words) {
+        return std::ranges::equal(arguments, words);
+    };
+    if (const char *action = arguments.size() == 1 ? actionOf(arguments[0]) : nullptr)
+        return finish(remote::activateAction(action));
+    if (are({"--list"}))
+        return list(remote::asTable);
+    if (are({"--list", "--json"}))
+        return list(remote::asJson);
+    if (arguments.size() == 2 && arguments[0] == std::string_view("--open"))
+        return finish(remote::openItem(arguments[1]));
+    return {};
+}
+
 // BRIMSHADE_MAIN is relative to the folder of this one.
 std::string programPath()
 {
@@ -44,10 +78,8 @@ std::string programPath()
 
 int main(int argc, char **argv)
 {
-    if (const char *action = argc == 2 ? actionOf(argv[1]) : nullptr) {
-        const auto answer = remote::activateAction(action);
-        return answer ? 0 : complain(answer.error());
-    }
+    if (const auto status = sayToTheOneThatRuns({argv + std::min(argc, 1), argv + argc}))
+        return *status;
     const std::string program = programPath();
     execv(program.c_str(), argv);
     return complain(program + ": " + std::strerror(errno));

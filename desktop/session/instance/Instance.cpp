@@ -6,7 +6,7 @@
 
 namespace brimshade::desktop::session {
 
-Instance::Instance(const QDBusConnection &bus) : m_bus(bus) { }
+Instance::Instance(const QDBusConnection &bus) : m_bus(bus), m_items(new ItemsService(bus, &m_service)) { }
 
 Instance::~Instance()
 {
@@ -21,11 +21,18 @@ Instance::Claim Instance::claim()
     if (!m_bus.isConnected())
         return Claim::noBus;
     // First the object: once the name is there, it is called.
-    m_bus.registerObject(QString::fromLatin1(remote::kPath), &m_service, QDBusConnection::ExportScriptableSlots);
+    m_bus.registerObject(QString::fromLatin1(remote::kPath), &m_service,
+                         QDBusConnection::ExportScriptableSlots | QDBusConnection::ExportAdaptors);
     if (m_bus.registerService(QString::fromLatin1(remote::kService)))
         return Claim::ours;
     m_bus.unregisterObject(QString::fromLatin1(remote::kPath));
     return Claim::anothers;
+}
+
+void Instance::serve(const ApplicationService::Actions &actions, const ItemsService::Actions &items)
+{
+    m_service.setActions(actions);
+    m_items->setActions(items);
 }
 
 } // namespace brimshade::desktop::session

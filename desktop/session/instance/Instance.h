@@ -1,5 +1,6 @@
 #pragma once
 #include "ApplicationService.h"
+#include "ItemsService.h"
 
 #include <QDBusConnection>
 
@@ -20,11 +21,12 @@ public:
     Claim claim();
 
     // Before the event loop runs: what the session asks for waits for it.
-    void serve(const ApplicationService::Actions &actions) { m_service.setActions(actions); }
+    void serve(const ApplicationService::Actions &actions, const ItemsService::Actions &items);
 
 private:
     QDBusConnection m_bus;
     ApplicationService m_service;
+    ItemsService *const m_items; // the service's
 };
 
 } // namespace brimshade::desktop::session

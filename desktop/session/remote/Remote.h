@@ -1,4 +1,6 @@
 #pragma once
+#include "ItemList.h"
+
 #include <expected>
 #include <string>
 
@@ -9,13 +11,17 @@ inline constexpr char kService[] = "org.brimshade.Brimshade";
 inline constexpr char kPath[] = "/org/brimshade/Brimshade";
 inline constexpr char kInterface[] = "org.freedesktop.Application";
 
+inline constexpr char kItemsInterface[] = "org.brimshade.Brimshade.Items";
+
 inline constexpr char kToggle[] = "toggle"; // opens the panel or closes it
 inline constexpr char kSettings[] = "settings";
 inline constexpr char kQuit[] = "quit";
 
-// Both wait for the answer, at most five seconds, and never start a Brimshade. The error is for standard error. Any
+// All wait for the answer, at most five seconds, and never start a Brimshade. The error is for standard error. Any
 // thread.
 std::expected<void, std::string> activate(); // opens the panel
 std::expected<void, std::string> activateAction(const char *action);
+std::expected<std::vector<Item>, std::string> listItems();
+std::expected<void, std::string> openItem(const char *name); // shows its menu
 
 } // namespace brimshade::desktop::session::remote

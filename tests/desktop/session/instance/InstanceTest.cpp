@@ -5,6 +5,9 @@
 #include <QDBusMessage>
 #include <QDBusPendingCallWatcher>
 #include <QEventLoop>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
 #include <QProcessEnvironment>
 #include <QXmlStreamReader>
 
@@ -32,8 +35,15 @@ protected:
         instance.serve({.openPanel = [this] { done << u"open"_s; },
                         .togglePanel = [this] { done << u"toggle"_s; },
                         .openSettings = [this] { done << u"settings"_s; },
-                        .quit = [this] { done << u"quit"_s; }});
+                        .quit = [this] { done << u"quit"_s; }},
+                       {.list = [this](const auto &give) { later([this, give] { give(items); }); },
+                        .open =
+                            [this](const QString &name, const auto &then) {
+                                done << u"open "_s + name;
+                                later([then] { then(std::unexpected(u"no item is named so"_s)); });
+                            }});
     }
+    void later(const std::function<void()> &work) { QMetaObject::invokeMethod(qApp, work, Qt::QueuedConnection); }
     // The answer to a call from another program of the session.
     QDBusMessage call(const QString &interface, const QString &method, const QVariantList &arguments)
     {
@@ -50,8 +60,9 @@ protected:
     {
         return call(kInterface, u"ActivateAction"_s, {name, parameter, QVariantMap()});
     }
-    // Exit status and standard error of the command that people type.
-    std::pair<int, QString> launch(const QString &option)
+    // Exit status and standard error of the command that people type, or its standard output.
+    std::pair<int, QString> launch(const QString &option) { return launch(QStringList{option}); }
+    std::pair<int, QString> launch(const QStringList &options)
     {
         QProcess launcher;
         auto environment = QProcessEnvironment::systemEnvironment();
@@ -59,16 +70,18 @@ protected:
         launcher.setProcessEnvironment(environment);
         QEventLoop loop;
         QObject::connect(&launcher, &QProcess::finished, &loop, &QEventLoop::quit);
-        launcher.start(QStringLiteral(BRIMSHADE_LAUNCHER), {option});
+        launcher.start(QStringLiteral(BRIMSHADE_LAUNCHER), options);
         loop.exec();
         QCoreApplication::processEvents();
-        return {launcher.exitCode(), QString::fromUtf8(launcher.readAllStandardError())};
+        const auto output = launcher.readAllStandardOutput();
+        return {launcher.exitCode(), QString::fromUtf8(launcher.readAllStandardError() + output)};
     }
 
     QTemporaryDir folder;
     PrivateBus bus{folder.path()};
     Instance instance{bus.connection(u"own"_s)};
     QStringList done;
+    QList<ListedItem> items;
 };
 
 TEST_F(InstanceTest, OneProgramIsTheSessionsUntilItEnds)
@@ -131,6 +144,32 @@ TEST_F(InstanceTest, TheCommandsReachTheOneThatRuns)
     for (const QString &option : {u"--toggle"_s, u"--settings"_s, u"--quit"_s})
         EXPECT_EQ(launch(option), std::pair(0, QString())) << qPrintable(option);
     EXPECT_THAT(done, ElementsAre(u"toggle"_s, u"settings"_s, u"quit"_s));
+}
+
+TEST_F(InstanceTest, PrintsTheItemsForPeopleAndForScripts)
+{
+    items = {{u"Läufer"_s, u"Sport"_s, false}, {u"\"x\"\n"_s, u"a\\b"_s, true}};
+    EXPECT_EQ(launch({u"--list"_s, u"--json"_s}).second,
+              u"brimshade: none runs in this session; start one with: "
+              "brimshade --session\n"_s);
+    run();
+    const auto [status, json] = launch({u"--list"_s, u"--json"_s});
+    EXPECT_EQ(status, 0);
+    const QJsonArray read = QJsonDocument::fromJson(json.toUtf8()).array();
+    ASSERT_EQ(read.size(), 2);
+    EXPECT_EQ(read[0], (QJsonObject{{u"name"_s, u"Läufer"_s}, {u"program"_s, u"Sport"_s}, {u"side"_s, u"visible"_s}}));
+    EXPECT_EQ(read[1], (QJsonObject{{u"name"_s, u"\"x\"\n"_s}, {u"program"_s, u"a\\b"_s}, {u"side"_s, u"hidden"_s}}));
+    items.removeLast();
+    EXPECT_EQ(launch(u"--list"_s).second, u"NAME    PROGRAM  SIDE\nLäufer  Sport    visible\n"_s);
+    items.clear();
+    EXPECT_EQ(QJsonDocument::fromJson(launch({u"--list"_s, u"--json"_s}).second.toUtf8()), QJsonDocument(QJsonArray()));
+}
+
+TEST_F(InstanceTest, OpensAnItemByItsNameAndSaysWhyNot)
+{
+    run();
+    EXPECT_EQ(launch({u"--open"_s, u"Läufer"_s}), std::pair(1, u"brimshade: no item is named so\n"_s));
+    EXPECT_THAT(done, ElementsAre(u"open Läufer"_s));
 }
 
 TEST_F(InstanceTest, TheCommandsSayHowToStartOneAndStartNone)

@@ -1,0 +1,13 @@
+#pragma once
+#include "menubar/MenuExtra.h"
+
+#include <QString>
+#include <expected>
+
+namespace brimshade::app {
+
+// The one item that a person means by a name: its own or its program's, whole before a part of it, in any case of the
+// letters. It points into extras. The error says what is wrong with the name.
+std::expected<const menubar::MenuExtra *, QString> itemNamed(const QString &name, const menubar::ExtraList &extras);
+
+} // namespace brimshade::app
