@@ -15,6 +15,7 @@
 #include "model/NotchModel.h"
 #include "platform/Accessibility.h"
 #include "platform/Dispatch.h"
+#include "platform/ItemServices.h"
 #include "platform/NotificationCenter.h"
 #include "platform/StatusBar.h"
 #include "platform/Symbol.h"
@@ -116,6 +117,8 @@ void AppDelegate::installCallbacks()
     m_model->onSettingsChanged = weakly(weak_from_this(), &AppDelegate::applySettings);
     m_model->onRefresh = weakly(std::weak_ptr(m_scans), &ScanScheduler::scan);
     m_model->onShowOnboarding = weakly(windows, &SecondaryWindows::showOnboarding);
+    if (m_platform.itemServices)
+        m_platform.itemServices->observeItems(weakly(panel, &PanelPresenter::itemsChanged));
     m_hoverZone->setOnHover(weakly(panel, &PanelPresenter::hovered));
 }
 

@@ -27,6 +27,7 @@ namespace {
 
 constexpr double kOrderOutDelay = 0.35; // the views' closing animation
 constexpr double kSelectDelay = 0.22;
+constexpr double kItemsDelay = 0.15; // the bar needs 0.1 s to settle, and changes come in bursts
 constexpr double kWatchInterval = 0.25;
 constexpr double kAwayLimit = 2.5;
 constexpr double kClockRounding = 1e-6; // of a difference of two clock readings
@@ -155,6 +156,18 @@ void PanelPresenter::activate(const menubar::MenuExtra &extra)
         if (items)
             items->activate(element);
     });
+}
+
+void PanelPresenter::itemsChanged()
+{
+    if (!m_shown || std::exchange(m_isScanDue, true))
+        return;
+    const auto scan = [](PanelPresenter &self) {
+        self.m_isScanDue = false;
+        if (self.m_shown)
+            self.m_scans->scan();
+    };
+    m_platform.dispatch.mainAfter(kItemsDelay, weakly(weak_from_this(), scan));
 }
 
 void PanelPresenter::hovered()

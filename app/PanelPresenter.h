@@ -38,6 +38,7 @@ public:
     void toggle();
     void select(const menubar::MenuExtra &extra); // closes, then presses the item
     void activate(const menubar::MenuExtra &extra); // closes, then has it do what it does besides showing its menu
+    void itemsChanged(); // of those that change while a person looks at them
     void hovered(); // the pointer has rested on the notch
 
 private:
@@ -70,6 +71,7 @@ private:
     std::unique_ptr<platform::Timer> m_pointerWatch; // only while a panel opened by hover is shown
     std::optional<double> m_awaySince; // Dispatch seconds; absent while the pointer is inside
     bool m_shown = false;
+    bool m_isScanDue = false;
 };
 
 } // namespace brimshade::app

@@ -40,6 +40,13 @@
     </message>
 </context>
 <context>
+    <name>BarItemView</name>
+    <message>
+        <source>Wants attention</source>
+        <translation>Möchte Aufmerksamkeit</translation>
+    </message>
+</context>
+<context>
     <name>BottomBar</name>
     <message>
         <source>Get started</source>
@@ -482,6 +489,13 @@ Nichts verlässt deinen Mac.</translation>
     </message>
 </context>
 <context>
+    <name>TileFace</name>
+    <message>
+        <source>Wants attention</source>
+        <translation>Möchte Aufmerksamkeit</translation>
+    </message>
+</context>
+<context>
     <name>TitleBar</name>
     <message>
         <source>Close</source>
@@ -499,6 +513,13 @@ Nichts verlässt deinen Mac.</translation>
 Brimshade opens the notch and shows every one of them.</source>
         <translation>Die Notch verdeckt Objekte der Menüleiste, wenn der Platz nicht reicht.
 Brimshade öffnet die Notch und zeigt sie alle.</translation>
+    </message>
+</context>
+<context>
+    <name>brimshade::desktop::Applications</name>
+    <message>
+        <source>It is no longer there.</source>
+        <translation>Es ist nicht mehr da.</translation>
     </message>
 </context>
 <context>

@@ -49,7 +49,7 @@ TileActions::TileActions(NotchModel &model, platform::Menus &menus, platform::It
     : m_model(model), m_menus(menus), m_items(items)
 {
     if (m_items)
-        m_items->addObserver(platform::weakly(QPointer(this), &TileActions::offersChanged));
+        m_items->observeOffers(platform::weakly(QPointer(this), &TileActions::offersChanged));
 }
 
 void TileActions::open(const QString &id)

@@ -130,6 +130,8 @@ Item {
     }
     RoundedShape {
         objectName: "attention"
+        Accessible.role: Accessible.Indicator
+        Accessible.name: qsTr("Wants attention")
         smooth: root.resampled
         anchors.centerIn: parent
         anchors.horizontalCenterOffset: -19

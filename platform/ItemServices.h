@@ -33,7 +33,10 @@ public:
     virtual void activateSecondary(const AXUIElement &item) = 0; // what the middle button does
     virtual void scroll(const AXUIElement &item, QPoint by) = 0; // 120 is a notch of the wheel, up and left
 
-    virtual void addObserver(Work offersChanged) = 0; // of some item
+    virtual void observeOffers(Work changed) = 0; // of some item
+    // Items came, went or changed, of applications that a person expects to see doing so; the bar may still have to
+    // settle. Other applications are read again when they are needed.
+    virtual void observeItems(Work changed) = 0;
 };
 
 } // namespace brimshade::platform

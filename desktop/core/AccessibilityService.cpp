@@ -7,8 +7,8 @@ using namespace brimshade::platform;
 namespace brimshade::desktop {
 
 AccessibilityService::AccessibilityService(Dispatch &dispatch, SharedState &state, Permission &permission,
-                                           Pressed pressed)
-    : m_dispatch(dispatch), m_state(state), m_permission(permission), m_pressed(std::move(pressed))
+                                           Handlers handlers)
+    : m_dispatch(dispatch), m_state(state), m_permission(permission), m_handlers(std::move(handlers))
 {
 }
 
@@ -59,7 +59,9 @@ AXError AccessibilityService::performAction(const AXUIElement &object, const QSt
         return answer;
     });
     if (result == kAXErrorSuccess)
-        m_dispatch.mainAsync(m_lifetime.guard([this, element] { m_pressed(element); }));
+        m_dispatch.mainAsync(m_lifetime.guard([this, element] { m_handlers.pressed(element); }));
+    else if (result == kAXErrorInvalidUIElement)
+        m_dispatch.mainAsync(m_lifetime.guard([this, element] { m_handlers.pressedInVain(element); }));
     return result;
 }
 

@@ -10,9 +10,11 @@ class Permission;
 // application that hangs or is slow answers there at once.
 class AccessibilityService : public platform::Accessibility {
 public:
-    // pressed: on the main thread, after the action was answered.
-    using Pressed = std::function<void(const ElementPointer &item)>;
-    AccessibilityService(platform::Dispatch &dispatch, SharedState &state, Permission &permission, Pressed pressed);
+    // On the main thread, after the action was answered.
+    struct Handlers {
+        std::function<void(const ElementPointer &item)> pressed, pressedInVain; // the latter: it is gone
+    };
+    AccessibilityService(platform::Dispatch &dispatch, SharedState &state, Permission &permission, Handlers handlers);
 
     platform::AXUIElement createApplication(int processIdentifier) override;
     platform::AXError setMessagingTimeout(const platform::AXUIElement &element, double seconds) override;
@@ -30,7 +32,7 @@ private:
     platform::Dispatch &m_dispatch;
     SharedState &m_state;
     Permission &m_permission;
-    const Pressed m_pressed;
+    const Handlers m_handlers;
     Lifetime m_lifetime;
 };
 

@@ -39,8 +39,8 @@ struct ItemSpec {
 struct ApplicationSpec {
     ApplicationDescription description;
     platform::Image icon = {}; // null: made from description.icon
-
     std::map<QString, ItemSpec> items = {}; // by identifier of the extra
+    bool isLive = false; // a person who looks at its items sees what becomes of them
 };
 
 } // namespace brimshade::desktop

@@ -1,5 +1,6 @@
 #include "Applications.h"
 #include "AppIcons.h"
+#include "ApplicationChange.h"
 #include "DescribedMenu.h"
 #include "MenuBar.h"
 #include "MenuHost.h"
@@ -59,6 +60,8 @@ bool Applications::launch(const ApplicationSpec &application)
     if (pid <= 0 || isRunning(pid))
         return false;
     host(m_hosted.emplace(pid, Hosted{application, {}, {}}).first->second);
+    if (application.isLive)
+        Q_EMIT itemsChanged();
     return true;
 }
 
@@ -69,16 +72,14 @@ bool Applications::change(int pid, const ApplicationSpec &application)
         return false;
     const bool hasSameIcon =
         application.icon.isNull() && application.description.icon == hosted->second.given.description.icon;
-    const bool offersTheSame =
-        std::ranges::equal(hosted->second.given.items, application.items, [](const auto &a, const auto &b) {
-            return a.first == b.first && a.second.offer == b.second.offer;
-        });
-    hosted->second.given = application;
+    const ApplicationSpec before = std::exchange(hosted->second.given, application);
     if (!hasSameIcon)
         hosted->second.icon = {};
     host(hosted->second);
-    if (!offersTheSame)
+    if (!offerTheSame(before, application))
         Q_EMIT offersChanged();
+    if (application.isLive && !listTheSame(before, application))
+        Q_EMIT itemsChanged();
     return true;
 }
 
@@ -102,6 +103,8 @@ bool Applications::quit(int pid)
         }
     });
     dismissOrphanedMenu();
+    if (hosted.mapped().given.isLive)
+        Q_EMIT itemsChanged();
     return true;
 }
 
@@ -172,6 +175,8 @@ std::vector<DescribedExtra> Applications::publish(Hosted &hosted)
         }
         auto extras =
             describeChildren(*process.extrasMenuBar, description.extras.value_or(std::vector<ExtraDescription>()));
+        for (const DescribedExtra &extra : extras)
+            extra.element->owner = hosted.given.isLive ? description.name.value_or(QString()) : QString();
         if (!description.extras) {
             process.extrasMenuBar->isAlive = false;
             process.extrasMenuBar = nullptr;
@@ -241,6 +246,13 @@ void Applications::asked(ItemGesture gesture, const ElementPointer &element)
         return;
     Q_EMIT acted();
     carryOut(gesture, element->pid, element.get());
+}
+
+void Applications::askedInVain(const ElementPointer &element)
+{
+    const QString owner = m_state.read([&](const DisplayState &) { return element->owner; });
+    if (!owner.isEmpty())
+        Q_EMIT notified(owner, tr("It is no longer there."));
 }
 
 ItemSpec Applications::itemSpec(const ElementPointer &element) const

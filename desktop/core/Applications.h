@@ -26,10 +26,12 @@ public:
     bool isRunning(int pid) const;
 
     void asked(ItemGesture gesture, const ElementPointer &element); // not by a click on it
+    void askedInVain(const ElementPointer &element); // it is gone
     ItemSpec itemSpec(const ElementPointer &element) const; // empty when it is gone
 
 Q_SIGNALS:
     void offersChanged();
+    void itemsChanged(); // of a live application
     void acted(); // before anything comes of what was asked
     void notified(const QString &application, const QString &what);
 

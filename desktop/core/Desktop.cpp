@@ -62,9 +62,12 @@ struct Desktop::Parts {
     Applications applications{state, menuBar, menus};
     ItemService items{applications};
     WorkspaceService workspace;
-    AccessibilityService accessibility{services.dispatch, state, permission, [this](const ElementPointer &item) {
-                                           applications.asked(ItemGesture::press, item);
-                                       }};
+    AccessibilityService accessibility{
+        services.dispatch,
+        state,
+        permission,
+        {.pressed = [this](const ElementPointer &item) { applications.asked(ItemGesture::press, item); },
+         .pressedInVain = [this](const ElementPointer &item) { applications.askedInVain(item); }}};
     StatusBarService statusBar;
     InputRouter input{{state, application, permission, windows, menus, menuBar, statusBar, hotkeys}};
     SyntheticEvents events{services.dispatch, state, input};
@@ -151,7 +154,8 @@ Desktop::Desktop(Services services, const DesktopDescription &description)
     connect(&m_parts->permission, &Permission::changed, this, &Desktop::changed);
     connect(&m_parts->applications, &Applications::notified, this, &Desktop::notify);
     connect(&m_parts->applications, &Applications::acted, this, &Desktop::acted);
-    connect(&m_parts->applications, &Applications::offersChanged, this, [this] { m_parts->items.tellObservers(); });
+    connect(&m_parts->applications, &Applications::offersChanged, this, [this] { m_parts->items.tellOfOffers(); });
+    connect(&m_parts->applications, &Applications::itemsChanged, this, [this] { m_parts->items.tellOfItems(); });
     connect(&m_parts->input, &InputRouter::acted, this, &Desktop::acted);
     m_parts->hotkeys.setObserver([this] { Q_EMIT acted(); });
     connect(&m_parts->application, &ProgramApplication::terminated, this, &Desktop::terminated);

@@ -35,9 +35,8 @@ void ItemService::scroll(const AXUIElement &item, QPoint by)
         scroller(by);
 }
 
-void ItemService::tellObservers()
+void ItemService::tell(const Observers &observers)
 {
-    const auto observers = m_observers; // one may add another
     for (const Work &observer : observers)
         observer();
 }

@@ -1,7 +1,7 @@
 #pragma once
 #include "platform/ItemServices.h"
 
-#include <vector>
+#include <list>
 
 namespace brimshade::desktop {
 
@@ -15,13 +15,18 @@ public:
     void activate(const platform::AXUIElement &item) override;
     void activateSecondary(const platform::AXUIElement &item) override;
     void scroll(const platform::AXUIElement &item, QPoint by) override;
-    void addObserver(platform::Work offersChanged) override { m_observers.push_back(std::move(offersChanged)); }
+    void observeOffers(platform::Work changed) override { m_ofOffers.push_back(std::move(changed)); }
+    void observeItems(platform::Work changed) override { m_ofItems.push_back(std::move(changed)); }
 
-    void tellObservers();
+    void tellOfOffers() const { tell(m_ofOffers); }
+    void tellOfItems() const { tell(m_ofItems); }
 
 private:
+    using Observers = std::list<platform::Work>; // one that is told may add another
+    static void tell(const Observers &observers);
+
     Applications &m_applications;
-    std::vector<platform::Work> m_observers;
+    Observers m_ofOffers, m_ofItems;
 };
 
 } // namespace brimshade::desktop

@@ -34,6 +34,7 @@ struct Element final : platform::AXUIElementObject {
     std::optional<QRectF> frame; // display space; absent: unreadable, or not laid out yet
     QStringList actions;
     std::optional<platform::AXError> pressError;
+    QString owner; // the application's name, where a person is told that the element is gone; empty: nobody is
     std::vector<platform::AXUIElement> children;
 };
 using ElementPointer = std::shared_ptr<Element>;

@@ -84,6 +84,7 @@ ApplicationSpec describeApplication(int pid, const HostedProgram &program, const
     if (program.found.entry)
         given.description.bundleIdentifier = program.found.entry->id;
     given.icon = applicationIcon(program, items);
+    given.isLive = true;
     auto &extras = given.description.extras.emplace();
     for (const auto &hosted : items) {
         auto identifier = hosted.item.id;

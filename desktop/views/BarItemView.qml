@@ -79,6 +79,8 @@ Item {
     }
     RoundedShape {
         objectName: "attention"
+        Accessible.role: Accessible.Indicator
+        Accessible.name: qsTr("Wants attention")
         visible: root.wantsAttention
         x: root.imageLeft + root.imageSize.width - width / 2
         y: root.height / 2 - 8 - height / 2

@@ -86,8 +86,8 @@ class MockItems(unittest.TestCase):
                                                   "ToolTip": ["What it does", "and how"]})
         self.middle_of("More")
         self.open_panel()
-        tile = self.brimshade.until("the tile", lambda s: self.brimshade.do("find", text="More")["elements"])
-        x, y, width, height = next(e["frame"] for e in tile if e["window"] == "panel")
+        x, y, width, height = self.brimshade.until("the tile", lambda s: next(
+            (e["frame"] for e in self.brimshade.do("find", text="More")["elements"] if e["window"] == "panel"), None))
         at = [x + width / 2, y + height / 2]
         self.brimshade.do("click", at=at, button="middle")
         self.brimshade.until("the middle click", lambda s: "SecondaryActivate" in [c[0] for c in item.calls])
@@ -115,6 +115,35 @@ class MockItems(unittest.TestCase):
         self.assertEqual(self.bar("Weather")[2], wide)
         item.change("XAyatanaNewLabel", XAyatanaLabel="")
         self.brimshade.until("no label", lambda s: self.bar("Weather")[2] == plain)
+
+    def test_an_open_panel_shows_what_becomes_of_the_items(self):
+        item = MockItem(self.session, properties={"Title": "First"})
+        self.middle_of("First")
+        self.open_panel()
+        self.brimshade.do("type", text="s")
+        details = lambda s: sorted(e["detail"] for e in s["model"]["extras"])  # noqa: E731
+        self.brimshade.until("the item", lambda s: details(s) == ["First"])
+        other = MockItem(self.session, properties={"Title": "Second"})
+        self.brimshade.until("a new item", lambda s: details(s) == ["First", "Second"])
+        item.change("NewTitle", Title="Last")
+        self.brimshade.until("another title", lambda s: details(s) == ["Last", "Second"])
+        other.end()
+        state = self.brimshade.until("an item less", lambda s: details(s) == ["Last"] and s)
+        self.assertEqual(state["model"]["query"], "s")
+        self.assertTrue(state["model"]["isOpen"])
+
+    def test_attention_is_marked_on_the_tile(self):
+        item = MockItem(self.session, properties={"Title": "Urgent"})
+        self.middle_of("Urgent")
+        self.open_panel()
+        marks = lambda: self.brimshade.do("find", text="Wants attention")["elements"]  # noqa: E731
+        self.brimshade.until("the tile", lambda s: len(s["model"]["extras"]) == 1)
+        self.assertEqual(marks(), [])
+        item.change("NewStatus", Status="NeedsAttention")
+        self.brimshade.until("a mark in the bar and one on the tile", lambda s: len(marks()) == 2
+                             and [m["window"] for m in marks()].count("panel") == 1)
+        item.change("NewStatus", Status="Active")
+        self.brimshade.until("no mark", lambda s: not marks())
 
     def test_forty_items_come_are_opened_and_go(self):
         items = [MockItem(self.session, path=f"/item/{i}", properties={"Id": f"mock{i}", "Title": f"Mock {i:02}"})

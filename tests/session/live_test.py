@@ -1,6 +1,7 @@
 #!/usr/bin/env python3
 """live_test.py PROGRAM: Brimshade as the menu bar of real sessions without a screen: a compositor or an X server, real tray
 programs, a real terminal, real pointer and keys."""
+import json
 import re
 import subprocess
 import sys
@@ -59,8 +60,8 @@ class Living:
             self.brimshade.do("advance", seconds=0.3)
         self.brimshade.until("the closed panel", lambda s: not s["panel"]["onScreen"] and not s["menu"])
 
-    def request(self, word):
-        return subprocess.run([PROGRAM, word], env=self.session.environment, capture_output=True, text=True,
+    def request(self, *words):
+        return subprocess.run([PROGRAM, *words], env=self.session.environment, capture_output=True, text=True,
                               timeout=PATIENCE)
 
     def open_panel(self):
@@ -110,6 +111,19 @@ class Living:
             self.hands.key("Return")
             self.brimshade.until(f"the icon {expected}", lambda s, icon=expected: icon in self.redshift_icon())
         self.assert_terminal_has_keys("afterkeys")
+
+    def test_2b_commands_list_the_items_and_open_the_menu_of_one(self):
+        listed = json.loads(self.request("--list", "--json").stdout)
+        self.assertLessEqual({("redshift-gtk", "Redshift", "visible"), ("KeePassXC", "KeePassXC", "visible")},
+                             {(item["name"], item["program"], item["side"]) for item in listed})
+        opened = self.request("--open", "keepassxc")
+        self.assertEqual((opened.returncode, opened.stderr), (0, ""))
+        self.brimshade.until("its menu", lambda s: "Toggle window" in (s["menu"] or []))
+        self.hands.key("Escape")
+        self.brimshade.until("no menu", lambda s: not s["menu"])
+        self.assert_terminal_has_keys("afteropen")
+        missed = self.request("--open", "nothing")
+        self.assertEqual((missed.returncode, missed.stderr), (1, 'brimshade: no item is named "nothing"\n'))
 
     def test_3_the_pointer_chooses_from_a_menu(self):
         shown = self.has_keepass_window()

@@ -126,8 +126,9 @@ public:
     platform::ItemOffer offer(const platform::AXUIElement &) const override { return offered; }
     void activate(const platform::AXUIElement &) override { m_journal << u"activate"_s; }
     void activateSecondary(const platform::AXUIElement &) override { m_journal << u"secondary"_s; }
-    void addObserver(platform::Work offersChanged) override { changed = std::move(offersChanged); }
-    platform::Work changed = [] {};
+    void observeOffers(platform::Work changed) override { offersChanged = std::move(changed); }
+    void observeItems(platform::Work) override { }
+    platform::Work offersChanged = [] {};
     void scroll(const platform::AXUIElement &, QPoint by) override
     {
         m_journal << u"scroll %1 %2"_s.arg(by.x()).arg(by.y());

@@ -84,7 +84,7 @@ TEST_F(TrayHostTest, WhatWantsAttentionIsMarkedAndWhatHidesItIsMarkedOnBrimshade
     const auto program = start(u"urgent"_s, u"Urgent"_s);
     waitForTitles({u"Urgent"_s});
     int told = 0;
-    m_desktop.platform().itemServices->addObserver([&] { ++told; });
+    m_desktop.platform().itemServices->observeOffers([&] { ++told; });
     const auto marked = [&] {
         QStringList names;
         for (const BarItem &item : m_desktop.menuBar().items()) {

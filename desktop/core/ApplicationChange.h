@@ -1,0 +1,11 @@
+#pragma once
+#include "ApplicationSpec.h"
+
+// What a change of an application changes for whoever shows it.
+namespace brimshade::desktop {
+
+bool offerTheSame(const ApplicationSpec &one, const ApplicationSpec &other);
+// The items, their names and where they stand; icons are the same while they are the same object.
+bool listTheSame(const ApplicationSpec &one, const ApplicationSpec &other);
+
+} // namespace brimshade::desktop
