@@ -1,0 +1,115 @@
+"""Nine tray programs of four makes in one session: each found, opened by name, chosen from, followed and gone."""
+import pathlib
+import sys
+import unittest
+
+sys.path.insert(0, str(pathlib.Path(__file__).resolve().parent.parent / "support"))
+from program import Session  # noqa: E402
+
+PROGRAM = sys.argv.pop(1)
+RETURN, ESCAPE = 36, 53
+PATIENCE = 600  # tenths of a second: so many programs start slowly on a busy machine
+DESKTOP = {
+    "screens": [{"name": "Built-in Display", "frame": [0, 0, 1512, 982], "menuBarHeight": 37, "notch": [663, 849]}],
+    "applications": [], "defaults": {"onboardingDone": True},
+}
+QT6_ITEM = """
+import sys
+from PyQt6.QtGui import QIcon, QPixmap
+from PyQt6.QtWidgets import QApplication, QMenu, QSystemTrayIcon
+application = QApplication(sys.argv)
+application.setApplicationName("Counter of Qt 6")
+application.setQuitOnLastWindowClosed(False)
+pixels = QPixmap(22, 22)
+pixels.fill()
+item, menu = QSystemTrayIcon(QIcon(pixels)), QMenu()
+counter = menu.addAction("Count: 0")
+counter.triggered.connect(lambda: counter.setText("Count: 1"))
+menu.addSeparator()
+menu.addAction("Quit").triggered.connect(application.quit)
+item.setContextMenu(menu)
+item.show()
+application.exec()
+"""
+# Tile, command, an entry and the window that it shows or hides or the entry that it becomes, the last entry.
+PROGRAMS = {
+    "Redshift": (["redshift-gtk", "-l", "50:10", "-m", "dummy"], "Info", "window:Info", "Quit"),
+    "KeePassXC": (["keepassxc"], "Toggle window", "no window:KeePassXC", "Quit"),
+    "Flameshot": (["flameshot"], "About", "window:About", "Quit"),
+    "CopyQ": (["copyq"], "Disable Clipboard Storing", "entry:Enable Clipboard Storing", "Exit"),
+    "Transmission": (["transmission-gtk", "-m"], "Show Transmission", "window:Transmission", "Quit"),
+    "Remmina": (["remmina", "-i"], "Open Main Window", "window:Remmina", "Quit"),
+    "PulseAudio System Tray": (["pasystray"], "About", "window:About", "Quit"),
+    "Psensor": (["psensor"], "About", "window:About Psensor", "Quit"),
+    "Counter of Qt 6": (["/usr/bin/python3", "-c", QT6_ITEM], "Count: 0", "entry:Count: 1", "Quit"),
+}
+
+
+class Crowd(unittest.TestCase):
+    @classmethod
+    def setUpClass(cls):
+        cls.session = Session()
+        cls.addClassCleanup(cls.session.close)
+        cls.session.write(".config/keepassxc/keepassxc.ini",
+                          "[General]\nUpdateCheckMessageShown=true\n[GUI]\nShowTrayIcon=true\nMinimizeToTray=true\n")
+        cls.session.write(".config/copyq/copyq.conf", "[Options]\nconfirm_exit=false\n")
+        cls.brimshade = cls.session.start_program(PROGRAM, DESKTOP, "--tray", "--real-time")
+        cls.brimshade.until("watcher", lambda s: "boolean true" in cls.session.output_of(
+            "dbus-send", "--session", "--print-reply", "--dest=org.freedesktop.DBus", "/",
+            "org.freedesktop.DBus.NameHasOwner", "string:org.kde.StatusNotifierWatcher"))
+        cls.processes = {name: cls.session.start(*command) for name, (command, *_) in PROGRAMS.items()}
+        cls.brimshade.until("all in the bar", lambda s: len(s["menuBar"]) == len(PROGRAMS) + 1, PATIENCE)
+        cls.brimshade.until("KeePassXC's window", lambda s: cls.has_window("KeePassXC"), PATIENCE)
+
+    def open_panel(self):
+        self.brimshade.do("click", at=self.brimshade.status_item())
+        return self.brimshade.until("open panel", lambda s: s["model"]["isOpen"] and s["panel"]["isKey"] and s)
+
+    def open_menu(self, name):
+        """Opens the panel, types the name, Return; answers with the titles of the menu that opens."""
+        self.open_panel()
+        self.brimshade.do("type", text=name)
+        self.brimshade.until(f"one match of {name}", lambda s: len(
+            s["model"]["hiddenMatches"] + s["model"]["visibleMatches"]) == 1, PATIENCE)
+        self.brimshade.do("key", code=RETURN)
+        return self.brimshade.until(f"menu of {name}", lambda s: s["menu"], PATIENCE)
+
+    @classmethod
+    def has_window(cls, name):
+        return bool(cls.session.output_of("xdotool", "search", "--onlyvisible", "--name", name).split())
+
+    def has_come(self, name, effect):
+        kind, what = effect.split(":", 1)
+        if kind != "entry":
+            return self.has_window(what) == (kind == "window")
+        titles = self.open_menu(name)
+        self.brimshade.do("key", code=ESCAPE)
+        return what in titles
+
+    def test_1_all_are_found_and_pictured(self):
+        self.open_panel()
+        self.brimshade.until("all names", lambda s: {e["name"] for e in s["model"]["extras"] if e["hasIcon"]}
+                             == set(PROGRAMS), PATIENCE)
+        self.brimshade.do("key", code=ESCAPE)
+        self.brimshade.until("closed panel", lambda s: not s["panel"]["onScreen"])
+
+    def test_2_each_does_what_is_chosen_in_its_menu(self):
+        for name, (_, entry, effect, _) in PROGRAMS.items():
+            with self.subTest(name):
+                self.assertIn(entry, self.open_menu(name))
+                self.brimshade.do("choose", title=entry)
+                self.brimshade.until(f"{effect} of {name}", lambda s: self.has_come(name, effect), PATIENCE)
+
+    def test_3_each_quits_by_its_menu_and_its_item_goes(self):
+        left = len(PROGRAMS)
+        for name, (*_, last) in PROGRAMS.items():
+            with self.subTest(name):
+                self.assertEqual(self.open_menu(name)[-1], last)
+                self.brimshade.do("choose", title=last)
+                self.brimshade.until(f"end of {name}", lambda s: self.processes[name].poll() is not None, PATIENCE)
+                left -= 1
+                self.brimshade.until(f"{left} items", lambda s: len(s["menuBar"]) == left + 1)
+
+
+if __name__ == "__main__":
+    unittest.main(verbosity=2)
