@@ -1,11 +1,13 @@
 #include "Refresh.h"
 
 #include <algorithm>
+#include <cmath>
 
 namespace brimshade::desktop::tray {
 
 namespace {
 constexpr double kDebounceSeconds = 0.010;
+constexpr double kBeat = 0.1, kQuiet = 1; // seconds
 constexpr double kFirstRetry = 1, kLongestRetry = 300; // seconds
 } // namespace
 
@@ -18,7 +20,15 @@ void Refresh::request()
     if (m_state == State::reading)
         m_state = State::readingStale;
     if (m_state == State::idle || m_state == State::pausing)
-        fetchAfter(kDebounceSeconds, State::waiting);
+        fetchAfter(delay(), State::waiting);
+}
+
+// What changes all the time is read with everything else that does: icons that move are then drawn in one frame, not
+// each in its own.
+double Refresh::delay() const
+{
+    const double now = m_dispatch.now();
+    return now - m_readAt > kQuiet ? kDebounceSeconds : std::ceil(now / kBeat) * kBeat - now;
 }
 
 void Refresh::requestNow()
@@ -41,6 +51,7 @@ void Refresh::fetchAfter(double seconds, State meanwhile)
 void Refresh::fetchNow()
 {
     ++m_turn;
+    m_readAt = m_dispatch.now();
     m_state = State::reading;
     m_fetch();
 }

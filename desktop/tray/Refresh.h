@@ -2,6 +2,8 @@
 #include "desktop/core/Lifetime.h"
 #include "platform/Dispatch.h"
 
+#include <limits>
+
 namespace brimshade::desktop::tray {
 
 // Reads something again after a burst of change signals: a moment after the first one, one read at a time, and once
@@ -11,7 +13,7 @@ public:
     // fetch starts a read that ends in finished() or failed(); nothing of it runs after the Refresh is gone.
     Refresh(platform::Dispatch &dispatch, platform::Work fetch);
 
-    void request(); // after 10 ms
+    void request(); // after 10 ms; less than a second after the last read with the next beat, ten a second
     void requestNow();
     void finished();
     void failed();
@@ -20,11 +22,13 @@ private:
     enum class State { idle, waiting, pausing, reading, readingStale };
     void fetchAfter(double seconds, State meanwhile);
     void fetchNow();
+    double delay() const;
 
     platform::Dispatch &m_dispatch;
     platform::Work m_fetch;
     State m_state = State::idle;
     int m_turn = 0; // of waiting; an older one is outdated
+    double m_readAt = -std::numeric_limits<double>::infinity(); // the last time; Dispatch seconds
     double m_pause = 0; // seconds; 0 after a read that succeeded
     Lifetime m_lifetime;
 };
