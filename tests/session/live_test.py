@@ -2,6 +2,7 @@
 """live_test.py PROGRAM: Brimshade as the menu bar of real sessions without a screen: a compositor or an X server, real tray
 programs, a real terminal, real pointer and keys."""
 import json
+import pathlib
 import re
 import subprocess
 import sys
@@ -15,6 +16,7 @@ from lib.x11 import X11
 PROGRAM = sys.argv.pop(1)
 BAR_HEIGHT = 37
 SCREEN_MIDDLE = 756
+MOCK_ITEM = pathlib.Path(__file__).resolve().parent.parent / "support/mock_item.py"
 BLACK = (0, 0, 0)
 
 
@@ -133,6 +135,21 @@ class Living:
             self.hands.click(*row)
             shown = not shown
             self.session.until(f"KeePassXC's window shown: {shown}", lambda now=shown: self.has_keepass_window() == now)
+
+    def test_3b_a_program_gets_a_token_for_its_windows_before_what_is_chosen(self):
+        calls = self.session.lines_of("/usr/bin/python3", MOCK_ITEM, json.dumps({"properties": {"Title": "Token"}}),
+                                      stdin=subprocess.PIPE)
+        self.brimshade.until("the item", lambda s: "mock" in bar_items(s))
+        self.assertEqual(self.request("--open", "Token").returncode, 0)
+        self.brimshade.until("its menu", lambda s: s["menu"] == ["Open"])
+        self.hands.key("Down")
+        self.hands.key("Return")
+        before = []
+        while (line := calls.next(f"the choice after {before}")) and "clicked" not in line:
+            before.append(line)
+        tokens = [json.loads(line)[1] for line in before if "ProvideXdgActivationToken" in line]
+        self.assertEqual(len(tokens), 1, before)
+        self.assertTrue(tokens[0])
 
     def test_4_a_click_elsewhere_and_escape_close(self):
         self.open_panel()
