@@ -489,7 +489,7 @@ Nichts verlässt deinen Mac.</translation>
     </message>
 </context>
 <context>
-    <name>TileFace</name>
+    <name>TileMarks</name>
     <message>
         <source>Wants attention</source>
         <translation>Möchte Aufmerksamkeit</translation>

@@ -52,7 +52,6 @@ Item {
         if (root.isNew && root.open)
             (root.isFirst ? entrance : arrival).run(0, 1);
     }
-
     Component.onDestruction: root.helpTip.hide(root)
     onOpenChanged: root.helpTip.hide(root)
 
@@ -105,24 +104,13 @@ Item {
             }
         }
     }
-    MouseArea {
+    TileButtons {
         id: area
         anchors.fill: parent
-        acceptedButtons: Qt.LeftButton | Qt.RightButton | Qt.MiddleButton
+        actions: root.actions
+        extraID: root.extraID
+        takesWheel: root.takesWheel
         onPressed: root.helpTip.hide(root)
-        onClicked: mouse => {
-            if (mouse.button === Qt.RightButton)
-                root.actions.showMenu(root.extraID);
-            else if (mouse.button === Qt.MiddleButton)
-                root.actions.activateSecondary(root.extraID);
-            else
-                root.actions.open(root.extraID);
-        }
-        onWheel: wheel => {
-            wheel.accepted = root.takesWheel;
-            if (root.takesWheel)
-                root.actions.scroll(root.extraID, wheel.angleDelta);
-        }
     }
     Item {
         anchors.fill: parent

@@ -117,43 +117,12 @@ Item {
         source: picture.isNull ? glyph : picture
         radius: 8
     }
-    ImageView {
-        objectName: "overlay"
-        smooth: root.resampled
-        anchors.right: picture.right
-        anchors.bottom: picture.bottom
-        width: 18
-        height: 18
-        visible: !isNull
-        opacity: root.sharpness
-        image: root.overlay
-    }
-    RoundedShape {
-        objectName: "attention"
-        Accessible.role: Accessible.Indicator
-        Accessible.name: qsTr("Wants attention")
-        smooth: root.resampled
+    TileMarks {
         anchors.centerIn: parent
-        anchors.horizontalCenterOffset: -19
-        anchors.verticalCenterOffset: -19
-        visible: root.wantsAttention
-        width: 7
-        height: 7
-        radius: 3.5
-        color: Theme.pink
-    }
-    RoundedShape {
-        objectName: "marker"
         smooth: root.resampled
-        anchors.centerIn: parent
-        anchors.horizontalCenterOffset: 19
-        anchors.verticalCenterOffset: -19
-        visible: root.isHidden
-        width: 5
-        height: 5
-        radius: 2.5
-        color: Qt.rgba(1, 0.62, 0.2, 1)
-        glowRadius: 3
-        glowColor: Theme.orange
+        overlay: root.overlay
+        overlaySharpness: root.sharpness
+        wantsAttention: root.wantsAttention
+        isHidden: root.isHidden
     }
 }
