@@ -138,7 +138,7 @@ class Script(Files):
             ({"do": "move", "to": [1]}, "to"),
             ({"do": "move", "to": [1, 2, 3]}, "to"),
             ({"do": "move", "to": [1, 1e300]}, "to"),
-            ({"do": "click", "at": [1, 1], "button": "middle"}, "button"),
+            ({"do": "click", "at": [1, 1], "button": "fourth"}, "button"),
             ({"do": "click", "at": [1, 1], "modifiers": ["hyper"]}, "modifiers"),
             ({"do": "key", "code": 70000}, "code"),
             ({"do": "choose", "title": "Open"}, "no menu"),
