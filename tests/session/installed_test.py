@@ -56,8 +56,7 @@ class Installed(unittest.TestCase):
         self.assertEqual(self.session.wait_for_end(brimshade, "the end of Brimshade"), 0)
 
     def test_whoever_activates_it_on_the_bus_starts_it_with_its_panel_open(self):
-        self.session.output_of("dbus-send", "--session", "--print-reply", "--dest=org.brimshade.Brimshade",
-                               "/org/brimshade/Brimshade", "org.freedesktop.Application.Activate", "dict:string:variant:")
+        self.session.output_of("gapplication", "launch", "org.brimshade.Brimshade")
         self.until_panel(True)
         self.tell("--quit")
 
