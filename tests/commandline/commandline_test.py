@@ -2,12 +2,14 @@
 import json
 import os
 import pathlib
+import re
 import subprocess
 import sys
 import tempfile
 import unittest
 
 PROGRAM = sys.argv.pop(1)
+DATA = pathlib.Path(__file__).resolve().parents[2] / "data"
 SCREEN = {"name": "Built-in Display", "frame": [0, 0, 1512, 982], "menuBarHeight": 37, "notch": [663, 849]}
 
 
@@ -69,6 +71,15 @@ class CommandLine(Files):
         lines = done.stderr.splitlines()
         self.assertRegex(lines[0], r"^brimshade: Brimshade \d+\.\d+\.\d+, Qt 6\.")
         self.assertTrue(any(line.startswith("brimshade: status item clicked") for line in lines), lines)
+
+    def test_the_manual_and_the_completions_say_every_option(self):
+        options = set(re.findall(r"--[a-z-]+", "".join(
+            line for line in brimshade("--help").stdout.splitlines(True) if line.lstrip().startswith("-"))))
+        options.discard("--help-all")
+        self.assertGreater(len(options), 10)
+        for file in ["brimshade.1.scd", "completions/brimshade.bash", "completions/_brimshade"]:
+            said = set(re.findall(r"--[a-z-]+", (DATA / file).read_text()))
+            self.assertEqual(options - said, set(), file)
 
     def test_help_and_version_need_no_display(self):
         self.assertIn("--desktop", brimshade("--help").stdout)
