@@ -11,12 +11,6 @@ bool isBlank(QChar c)
     return c == QChar::Tabulation || c.category() == QChar::Separator_Space;
 }
 
-// Returns the text itself, without a copy, when it is ASCII.
-QString canonical(const QString &text)
-{
-    return text.normalized(QString::NormalizationForm_C);
-}
-
 // Moves surrogates behind every other code unit, which makes the order of code units that of scalar values.
 unsigned scalarRank(QChar unit)
 {
@@ -37,15 +31,20 @@ QStringView trimmedBlanks(QStringView text)
     return text;
 }
 
+QString canonicalText(const QString &text)
+{
+    return text.normalized(QString::NormalizationForm_C);
+}
+
 bool isSameText(const QString &a, const QString &b)
 {
-    return a == b || canonical(a) == canonical(b);
+    return a == b || canonicalText(a) == canonicalText(b);
 }
 
 bool isOrderedBefore(const QString &a, const QString &b)
 {
-    const QString left = canonical(a);
-    const QString right = canonical(b);
+    const QString left = canonicalText(a);
+    const QString right = canonicalText(b);
     return std::lexicographical_compare(left.begin(), left.end(), right.begin(), right.end(),
                                         [](QChar x, QChar y) { return scalarRank(x) < scalarRank(y); });
 }

@@ -65,6 +65,9 @@ void NotchModel::setExtras(ExtraList extras)
     Q_EMIT objectWillChange();
     m_extras = std::move(extras);
     m_search = ItemSearch(m_extras);
+    m_places.clear();
+    for (std::size_t i = m_extras.size(); i-- > 0;)
+        m_places[menubar::canonicalText(m_extras[i].id)] = i;
     m_hiddenCount = static_cast<int>(std::ranges::count_if(m_extras, &MenuExtra::isHidden));
     m_derived.reset();
     Q_EMIT extrasChanged();
@@ -198,9 +201,8 @@ QSizeF NotchModel::panelSize() const
 
 const MenuExtra *NotchModel::extraWithID(const QString &id) const
 {
-    const auto found =
-        std::ranges::find_if(m_extras, [&](const MenuExtra &extra) { return menubar::isSameText(extra.id, id); });
-    return found == m_extras.end() ? nullptr : &*found;
+    const auto found = m_places.find(menubar::canonicalText(id));
+    return found == m_places.end() ? nullptr : &m_extras[*found];
 }
 
 int NotchModel::resultCount() const

@@ -4,6 +4,7 @@
 #include "Shortcut.h"
 #include "menubar/MenuExtra.h"
 
+#include <QHash>
 #include <QObject>
 #include <QSizeF>
 #include <functional>
@@ -180,6 +181,7 @@ private:
     bool m_launchAtLogin = false;
 
     ItemSearch m_search; // of m_extras
+    QHash<QString, std::size_t> m_places; // in m_extras, by canonical id; of several the first
     int m_hiddenCount = 0;
     mutable std::optional<Derived> m_derived; // what the last read made, until something changes
 };

@@ -73,8 +73,8 @@ void TileActions::showMenu(const QString &id)
 
 platform::ItemOffer TileActions::offer(const QString &id) const
 {
-    const MenuExtra *extra = m_model.extraWithID(id);
-    return extra && m_items ? m_items->offer(extra->element) : platform::ItemOffer();
+    const MenuExtra *extra = m_items ? m_model.extraWithID(id) : nullptr;
+    return extra ? m_items->offer(extra->element) : platform::ItemOffer();
 }
 
 void TileActions::activateSecondary(const QString &id)

@@ -26,7 +26,8 @@ void TileOffer::setExtraID(const QString &id)
 
 void TileOffer::update()
 {
-    const platform::ItemOffer offer = m_actions ? m_actions->offer(m_extraID) : platform::ItemOffer();
+    const platform::ItemOffer offer =
+        m_actions && !m_extraID.isEmpty() ? m_actions->offer(m_extraID) : platform::ItemOffer();
     if (m_offer == offer)
         return;
     m_offer = offer;

@@ -106,7 +106,7 @@ QImage Blurred::picture(double scale)
     }
     if (!m_pending.isFinished() && !cache->isAwaited())
         return {};
-    const QImage made = m_pending.result();
+    QImage made = m_pending.result();
     cache->insert(key, made, m_source->pictureOwner());
     return made;
 }

@@ -51,7 +51,7 @@ QImage NinePatchItem::picture(const QByteArray &key, double scale) const
 {
     if (const QImage *known = m_cache->find(key))
         return *known;
-    const QImage drawn = draw(2 * int(std::round(border() * scale)) + 2, scale);
+    QImage drawn = draw(2 * int(std::round(border() * scale)) + 2, scale);
     m_cache->insert(key, drawn);
     return drawn;
 }

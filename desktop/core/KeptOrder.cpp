@@ -57,7 +57,7 @@ void KeptOrder::enter(const KeptItem &item)
 
 KeptItem KeptOrder::arrive(const KeptItem &who)
 {
-    const KeptItem item = numbered(who);
+    KeptItem item = numbered(who);
     enter(item);
     forget();
     return item;
@@ -73,7 +73,7 @@ void KeptOrder::leave(const KeptItem &item)
 
 KeptItem KeptOrder::rename(const KeptItem &item, const KeptItem &who)
 {
-    const KeptItem renamed = numbered(who);
+    KeptItem renamed = numbered(who);
     if (item.isSame(renamed))
         return item;
     if (find(renamed) == m_records.end()) {
