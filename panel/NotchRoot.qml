@@ -103,13 +103,12 @@ Item {
     HelpTip {
         id: helpTip
     }
-    Loader {
-        active: root.rehearsing
-        sourceComponent: Tile {
+    Repeater {
+        model: root.rehearsing ? 1 : 0
+        delegate: Tile {
             actions: root.actions
             open: false
             highlighted: true
-            index: 0
             isNew: false
             isFirst: false
             isLeaving: false

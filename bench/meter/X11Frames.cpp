@@ -1,6 +1,8 @@
 #include "Frames.h"
 
+#include <algorithm>
 #include <chrono>
+#include <climits>
 #include <cstdlib>
 #include <poll.h>
 #include <xcb/damage.h>
@@ -12,6 +14,19 @@ namespace {
 
 using Clock = std::chrono::steady_clock;
 
+struct Box {
+    int left = INT_MAX, top = INT_MAX, right = 0, bottom = 0;
+
+    void add(const xcb_rectangle_t &r)
+    {
+        left = std::min<int>(left, r.x);
+        top = std::min<int>(top, r.y);
+        right = std::max<int>(right, r.x + r.width);
+        bottom = std::max<int>(bottom, r.y + r.height);
+    }
+    long area() const { return long(right - left) * (bottom - top); }
+};
+
 class X11Frames : public Frames {
 public:
     bool connect();
@@ -21,6 +36,7 @@ private:
     xcb_connection_t *m_connection = nullptr;
     xcb_damage_damage_t m_damage = 0;
     std::uint8_t m_notify = 0;
+    Box m_changed; // since the screen was still: one frame comes in several pieces
 };
 
 bool X11Frames::connect()
@@ -35,7 +51,7 @@ bool X11Frames::connect()
     std::free(xcb_damage_query_version_reply(m_connection, xcb_damage_query_version(m_connection, 1, 1), nullptr));
     m_damage = xcb_generate_id(m_connection);
     const xcb_window_t root = xcb_setup_roots_iterator(xcb_get_setup(m_connection)).data->root;
-    xcb_damage_create(m_connection, m_damage, root, XCB_DAMAGE_REPORT_LEVEL_BOUNDING_BOX);
+    xcb_damage_create(m_connection, m_damage, root, XCB_DAMAGE_REPORT_LEVEL_RAW_RECTANGLES);
     xcb_flush(m_connection);
     return true;
 }
@@ -47,18 +63,18 @@ long X11Frames::next(double seconds)
         while (xcb_generic_event_t *event = xcb_poll_for_event(m_connection)) {
             const auto *notify = reinterpret_cast<const xcb_damage_notify_event_t *>(event);
             const bool isDamage = (event->response_type & 0x7f) == m_notify;
-            const long area = isDamage ? long(notify->area.width) * notify->area.height : 0;
+            if (isDamage)
+                m_changed.add(notify->area);
             std::free(event);
-            if (!isDamage)
-                continue;
-            xcb_damage_subtract(m_connection, m_damage, XCB_NONE, XCB_NONE);
-            xcb_flush(m_connection);
-            return area;
+            if (isDamage)
+                return m_changed.area();
         }
         const auto left = std::chrono::duration_cast<std::chrono::milliseconds>(end - Clock::now()).count();
         pollfd watched{xcb_get_file_descriptor(m_connection), POLLIN, 0};
-        if (left < 0 || poll(&watched, 1, int(left) + 1) <= 0)
+        if (left < 0 || poll(&watched, 1, int(left) + 1) <= 0) {
+            m_changed = {};
             return 0;
+        }
     }
 }
 
