@@ -29,6 +29,7 @@ Item {
     // ahead of the first opening, has one of everything.
     property bool paced: false
     property bool rehearsing: false
+    readonly property HelpTip tip: helpTip
 
     implicitWidth: 1000
     implicitHeight: 720
@@ -107,6 +108,8 @@ Item {
         model: root.rehearsing ? 1 : 0
         delegate: Tile {
             actions: root.actions
+            helpTip: root.tip
+            takesWheel: false
             open: false
             highlighted: true
             isNew: false

@@ -96,6 +96,11 @@ class Lifetime:
         self.brimshade.until("the closed panel", lambda s: not s["panel"]["onScreen"])
         self.assert_terminal_has_keys()
 
+    def test_it_says_nothing_when_it_makes_its_panel_ahead(self):
+        self.brimshade.do("advance", seconds=1.2)  # of its own time: a second after its launch it does
+        self.request("--quit")
+        self.assert_ends(0)
+
     def test_it_ends_when_it_is_told_to_whatever_it_shows(self):
         self.open_panel()
         self.request("--quit")
