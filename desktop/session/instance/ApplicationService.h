@@ -4,6 +4,8 @@
 #include <QStringList>
 #include <QVariantMap>
 #include <functional>
+#include <optional>
+#include <vector>
 
 namespace brimshade::desktop::session {
 
@@ -15,7 +17,7 @@ public:
     struct Actions {
         std::function<void()> openPanel, togglePanel, openSettings, quit;
     };
-    void setActions(const Actions &actions) { m_actions = actions; } // before them everything is refused
+    void setActions(const Actions &actions); // what is asked for before waits for them
 
 public Q_SLOTS:
     Q_SCRIPTABLE void Activate(const QVariantMap &platformData);
@@ -24,9 +26,11 @@ public Q_SLOTS:
                                      const QVariantMap &platformData);
 
 private:
-    void run(const std::function<void()> &action);
+    using Action = std::function<void()> Actions::*;
+    void run(Action action);
 
-    Actions m_actions;
+    std::optional<Actions> m_actions;
+    std::vector<Action> m_waiting;
 };
 
 } // namespace brimshade::desktop::session

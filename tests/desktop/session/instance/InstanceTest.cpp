@@ -106,10 +106,22 @@ TEST_F(InstanceTest, DoesWhatIsAskedForInTurn)
     EXPECT_THAT(done, ElementsAre(u"open"_s, u"toggle"_s, u"settings"_s, u"quit"_s));
 }
 
-TEST_F(InstanceTest, RefusesWhatItCannotDo)
+// The bus starts the program for a call, and the name is there before all else.
+TEST_F(InstanceTest, DoesWhatWasAskedForWhileItStartedOnceItCan)
 {
     EXPECT_EQ(instance.claim(), Instance::Claim::ours);
+    for (int i = 0; i < 16; ++i)
+        EXPECT_EQ(activateAction(u"toggle"_s).type(), QDBusMessage::ReplyMessage);
     EXPECT_EQ(activateAction(u"toggle"_s).errorMessage(), u"Brimshade is starting"_s);
+    EXPECT_THAT(done, ElementsAre());
+    run();
+    EXPECT_EQ(activateAction(u"settings"_s).type(), QDBusMessage::ReplyMessage);
+    EXPECT_EQ(done.size(), 17u);
+    EXPECT_EQ(done.front(), u"toggle"_s);
+}
+
+TEST_F(InstanceTest, RefusesWhatItCannotDo)
+{
     run();
     EXPECT_EQ(call(kInterface, u"Open"_s, {QStringList{u"file:///x"_s}, QVariantMap()}).errorMessage(),
               u"Brimshade opens no files"_s);
