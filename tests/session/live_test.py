@@ -120,7 +120,7 @@ class Living:
                              {(item["name"], item["program"], item["side"]) for item in listed})
         opened = self.request("--open", "keepassxc")
         self.assertEqual((opened.returncode, opened.stderr), (0, ""))
-        self.brimshade.until("its menu", lambda s: "Toggle window" in (s["menu"] or []))
+        self.brimshade.until("its menu", lambda s: s["keys"] == "menu" and "Toggle window" in s["menu"])
         self.hands.key("Escape")
         self.brimshade.until("no menu", lambda s: not s["menu"])
         self.assert_terminal_has_keys("afteropen")
@@ -141,7 +141,7 @@ class Living:
                                       stdin=subprocess.PIPE)
         self.brimshade.until("the item", lambda s: "mock" in bar_items(s))
         self.assertEqual(self.request("--open", "Token").returncode, 0)
-        self.brimshade.until("its menu", lambda s: s["menu"] == ["Open"])
+        self.brimshade.until("its menu", lambda s: s["menu"] == ["Open"] and s["keys"] == "menu")
         self.hands.key("Down")
         self.hands.key("Return")
         before = []
