@@ -1,6 +1,7 @@
 pragma ComponentBehavior: Bound
 import QtQuick
 import Brimshade.Model
+import Brimshade.Notch
 import Brimshade.Panel
 import Brimshade.Ui
 

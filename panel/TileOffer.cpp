@@ -1,14 +1,12 @@
 #include "TileOffer.h"
+#include "ui/binding/Follow.h"
 
 namespace brimshade::panel {
 
 void TileOffer::setActions(model::TileActions *actions)
 {
-    if (m_actions == actions)
+    if (!ui::follow(*this, m_actions, actions))
         return;
-    if (m_actions)
-        disconnect(m_actions, nullptr, this, nullptr);
-    m_actions = actions;
     if (actions)
         connect(actions, &model::TileActions::offersChanged, this, &TileOffer::update);
     update();

@@ -19,7 +19,7 @@ Item {
     required property int count
     required property bool takesWheel
     required property bool presented // on screen: whatever moves may be seen to move
-    required property real gridLeft //, from the middle
+    required property real gridLeft // from the middle
     required property real sectionTop
     required property real viewTop // what is in view
     required property real viewBottom

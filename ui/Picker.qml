@@ -3,9 +3,9 @@ import QtQuick
 import QtQuick.Templates as T
 import Brimshade.Ui
 
-// A pop-up button as forms have it: one of its titles and grey arrows. It opens a list of the titles over itself. The list is an item of the view it
-// belongs to, not a popup of the toolkit, which would lie outside the view. Its text is its name to assistive programs;
-// it is not drawn.
+// A pop-up button as forms have it: one of its titles and grey arrows. It opens a list of the titles over itself. The
+// list is an item of the view it belongs to, not a popup of the toolkit, which would lie outside the view. Its text is
+// its name to assistive programs; it is not drawn.
 T.ComboBox {
     id: control
 

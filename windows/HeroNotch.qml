@@ -1,7 +1,7 @@
 pragma ComponentBehavior: Bound
 import QtQuick
 import Brimshade.Model
-import Brimshade.Panel
+import Brimshade.Notch
 import Brimshade.Ui
 
 // The illustration of the welcome step: a notch that opens and shows what was behind it, again and again while it can

@@ -11,8 +11,7 @@ struct IconThemePlaces {
 IconThemePlaces sessionThemePlaces(); // main thread; reads no folder
 
 // The folders in which icons are looked for, best first: of the user's theme, of those that it inherits from, then
-// where programs install their own. Not all need
-// to exist. Reads files.
+// where programs install their own. Not all need to exist. Reads files.
 QStringList iconFolders(const IconThemePlaces &places);
 
 } // namespace brimshade::desktop::tray

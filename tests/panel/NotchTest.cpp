@@ -1,9 +1,11 @@
 #include "OffscreenScene.h"
-#include "panel/NotchShape.h"
-#include "panel/NotchTab.h"
 #include "support/Test.h"
+#include "ui/notch/NotchShape.h"
+#include "ui/notch/NotchTab.h"
 
 namespace brimshade::panel {
+
+using namespace brimshade::ui;
 
 constexpr NotchShape kOpenShape{14, 32};
 constexpr NotchShape kClosedShape{6, 10};
@@ -54,7 +56,7 @@ protected:
     {
         scene.load(R"(
             import QtQuick
-            import Brimshade.Panel
+            import Brimshade.Notch
             Item { NotchTab { objectName: "tab"; closedSize: Qt.size(212, 32); openSize: Qt.size(488, 288) } })");
         tab = qobject_cast<NotchTab *>(scene.find(u"tab"_s));
     }

@@ -4,6 +4,7 @@
 
 Q_IMPORT_QML_PLUGIN(Brimshade_ModelPlugin)
 Q_IMPORT_QML_PLUGIN(Brimshade_UiPlugin)
+Q_IMPORT_QML_PLUGIN(Brimshade_NotchPlugin)
 Q_IMPORT_QML_PLUGIN(Brimshade_PanelPlugin)
 
 namespace brimshade::panel {

@@ -3,17 +3,10 @@
 #include "desktop/session/remote/Remote.h"
 
 #include <QDBusError>
-#include <utility>
 
 using namespace Qt::StringLiterals;
 
 namespace brimshade::desktop::session {
-
-namespace {
-
-constexpr std::size_t kMostWaiting = 16; // no more is asked for in earnest while it starts
-
-} // namespace
 
 void ApplicationService::Activate(const QVariantMap &)
 {
@@ -39,21 +32,11 @@ void ApplicationService::ActivateAction(const QString &name, const QVariantList 
         sendErrorReply(QDBusError::InvalidArgs, u"no such action; there are toggle, settings and quit"_s);
 }
 
-void ApplicationService::setActions(const Actions &actions)
-{
-    m_actions = actions;
-    for (const Action action : std::exchange(m_waiting, {}))
-        run(action);
-}
-
 // On a later turn: whoever asked has the answer by then, even if the program ends.
 void ApplicationService::run(Action action)
 {
-    if (m_actions)
-        QMetaObject::invokeMethod(this, *m_actions.*action, Qt::QueuedConnection);
-    else if (m_waiting.size() < kMostWaiting)
-        m_waiting.push_back(action);
-    else
+    const auto later = [this, action] { QMetaObject::invokeMethod(this, m_actions.*action, Qt::QueuedConnection); };
+    if (!m_waiting.run(later))
         sendErrorReply(QDBusError::LimitsExceeded, u"Brimshade is starting"_s);
 }
 

@@ -1,11 +1,11 @@
 #pragma once
+#include "Waiting.h"
+
 #include <QDBusContext>
 #include <QObject>
 #include <QStringList>
 #include <QVariantMap>
 #include <functional>
-#include <optional>
-#include <vector>
 
 namespace brimshade::desktop::session {
 
@@ -17,7 +17,9 @@ public:
     struct Actions {
         std::function<void()> openPanel, togglePanel, openSettings, quit;
     };
-    void setActions(const Actions &actions); // what is asked for before waits for them
+    explicit ApplicationService(Waiting &waiting) : m_waiting(waiting) { } // outlives it
+
+    void setActions(const Actions &actions) { m_actions = actions; } // before nothing waits any more
 
 public Q_SLOTS:
     Q_SCRIPTABLE void Activate(const QVariantMap &platformData);
@@ -29,8 +31,8 @@ private:
     using Action = std::function<void()> Actions::*;
     void run(Action action);
 
-    std::optional<Actions> m_actions;
-    std::vector<Action> m_waiting;
+    Waiting &m_waiting;
+    Actions m_actions;
 };
 
 } // namespace brimshade::desktop::session

@@ -6,7 +6,7 @@
 
 namespace brimshade::desktop::session {
 
-Instance::Instance(const QDBusConnection &bus) : m_bus(bus), m_items(new ItemsService(bus, &m_service)) { }
+Instance::Instance(const QDBusConnection &bus) : m_bus(bus), m_items(new ItemsService(bus, m_waiting, &m_service)) { }
 
 Instance::~Instance()
 {
@@ -33,6 +33,7 @@ void Instance::serve(const ApplicationService::Actions &actions, const ItemsServ
 {
     m_service.setActions(actions);
     m_items->setActions(items);
+    m_waiting.end();
 }
 
 } // namespace brimshade::desktop::session

@@ -20,12 +20,13 @@ public:
     };
     Claim claim();
 
-    // Before the event loop runs: what the session asks for waits for it.
+    // Once all can be done: what the session has asked for since the claim has waited for it.
     void serve(const ApplicationService::Actions &actions, const ItemsService::Actions &items);
 
 private:
     QDBusConnection m_bus;
-    ApplicationService m_service;
+    Waiting m_waiting;
+    ApplicationService m_service{m_waiting};
     ItemsService *const m_items; // the service's
 };
 

@@ -23,7 +23,8 @@ const QDBusArgument &operator>>(const QDBusArgument &from, ListedItem &item)
     return from;
 }
 
-ItemsService::ItemsService(const QDBusConnection &bus, QObject *of) : QDBusAbstractAdaptor(of), m_bus(bus)
+ItemsService::ItemsService(const QDBusConnection &bus, Waiting &waiting, QObject *of)
+    : QDBusAbstractAdaptor(of), m_bus(bus), m_waiting(waiting)
 {
     qDBusRegisterMetaType<ListedItem>();
     qDBusRegisterMetaType<QList<ListedItem>>();
@@ -31,30 +32,28 @@ ItemsService::ItemsService(const QDBusConnection &bus, QObject *of) : QDBusAbstr
 
 QList<ListedItem> ItemsService::List(const QDBusMessage &call)
 {
-    call.setDelayedReply(true);
-    if (isReady(call)) {
+    answer(call, [this, call] {
         m_actions.list([bus = m_bus, call](const QList<ListedItem> &items) {
             bus.send(call.createReply(QVariant::fromValue(items)));
         });
-    }
+    });
     return {}; // nobody sees it: the answer is on its way
 }
 
 void ItemsService::Open(const QString &name, const QDBusMessage &call)
 {
-    call.setDelayedReply(true);
-    if (isReady(call)) {
+    answer(call, [this, name, call] {
         m_actions.open(name, [bus = m_bus, call](const std::expected<void, QString> &opened) {
             bus.send(opened ? call.createReply() : call.createErrorReply(QDBusError::InvalidArgs, opened.error()));
         });
-    }
+    });
 }
 
-bool ItemsService::isReady(const QDBusMessage &call)
+void ItemsService::answer(const QDBusMessage &call, const Waiting::Work &work)
 {
-    if (!m_actions.list)
-        m_bus.send(call.createErrorReply(QDBusError::Failed, u"Brimshade is starting"_s));
-    return bool(m_actions.list);
+    call.setDelayedReply(true);
+    if (!m_waiting.run(work))
+        m_bus.send(call.createErrorReply(QDBusError::LimitsExceeded, u"Brimshade is starting"_s));
 }
 
 } // namespace brimshade::desktop::session

@@ -1,4 +1,6 @@
 #pragma once
+#include "Waiting.h"
+
 #include <QDBusAbstractAdaptor>
 #include <QDBusArgument>
 #include <QDBusConnection>
@@ -26,18 +28,19 @@ public:
         std::function<void(std::function<void(const QList<ListedItem> &)>)> list;
         std::function<void(const QString &name, std::function<void(const std::expected<void, QString> &)>)> open;
     };
-    ItemsService(const QDBusConnection &bus, QObject *of);
+    ItemsService(const QDBusConnection &bus, Waiting &waiting, QObject *of); // waiting outlives it
 
-    void setActions(const Actions &actions) { m_actions = actions; } // before them everything is refused
+    void setActions(const Actions &actions) { m_actions = actions; } // before nothing waits any more
 
 public Q_SLOTS:
     QList<brimshade::desktop::session::ListedItem> List(const QDBusMessage &call);
     void Open(const QString &name, const QDBusMessage &call);
 
 private:
-    bool isReady(const QDBusMessage &call);
+    void answer(const QDBusMessage &call, const Waiting::Work &work); // later
 
     QDBusConnection m_bus;
+    Waiting &m_waiting;
     Actions m_actions;
 };
 

@@ -50,7 +50,7 @@ bool isGone(int connection)
     return poll(&state, 1, 0) > 0;
 }
 
-// In front of Qt's exit() stand words of its own, and before it notices at all others of what does not work.
+// Qt complains before it ends the process, and of what no longer works before it notices why: none of that is said.
 void handleMessage(QtMsgType type, const QMessageLogContext &context, const QString &text)
 {
     if (isGone(watched().connection))

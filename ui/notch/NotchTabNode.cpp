@@ -5,7 +5,7 @@
 #include <QSGImageNode>
 #include <QSGRectangleNode>
 
-namespace brimshade::panel {
+namespace brimshade::ui {
 
 namespace {
 
@@ -122,4 +122,4 @@ void NotchTabNode::showPicture(std::size_t index, const QRectF &rect, const QIma
     node->setRect(rect);
 }
 
-} // namespace brimshade::panel
+} // namespace brimshade::ui

@@ -7,7 +7,7 @@
 #include <algorithm>
 #include <cmath>
 
-namespace brimshade::panel {
+namespace brimshade::ui {
 
 namespace {
 
@@ -100,4 +100,4 @@ void NotchTab::itemChange(ItemChange change, const ItemChangeData &data)
         place();
 }
 
-} // namespace brimshade::panel
+} // namespace brimshade::ui

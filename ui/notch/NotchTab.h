@@ -4,7 +4,7 @@
 #include <QQuickItem>
 #include <qqml.h>
 
-namespace brimshade::panel {
+namespace brimshade::ui {
 
 // A black tab with an outline, hanging from the top middle of its parent. It sizes and places itself, on whole
 // device pixels, between its closed and its open size, flares included. It takes the clicks that fall inside its
@@ -49,4 +49,4 @@ private:
     QMetaObject::Connection m_parentWidth;
 };
 
-} // namespace brimshade::panel
+} // namespace brimshade::ui

@@ -1,7 +1,7 @@
 #pragma once
 #include "ui/Shadow.h"
 
-namespace brimshade::panel {
+namespace brimshade::ui {
 
 // The shadow of the open panel, flares included.
 // The base is spelled in full: the registrar of QML types finds it by its spelling.
@@ -17,4 +17,4 @@ protected:
     QPainterPath outline(const QRectF &rect, double scale) const override;
 };
 
-} // namespace brimshade::panel
+} // namespace brimshade::ui

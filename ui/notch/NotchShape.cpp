@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-namespace brimshade::panel {
+namespace brimshade::ui {
 
 double NotchShape::effectiveBottom(QSizeF frame) const
 {
@@ -34,4 +34,4 @@ NotchShape NotchShape::between(const NotchShape &from, const NotchShape &to, dou
             std::max(0.0, from.bottom + (to.bottom - from.bottom) * progress)};
 }
 
-} // namespace brimshade::panel
+} // namespace brimshade::ui

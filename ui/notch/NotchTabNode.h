@@ -9,7 +9,7 @@ class QQuickWindow;
 class QSGImageNode;
 class QSGRectangleNode;
 
-namespace brimshade::panel {
+namespace brimshade::ui {
 
 // A thin white line along the tab: even and inside its edge, or on its edge and fading upwards.
 struct NotchOutline {
@@ -39,4 +39,4 @@ private:
     std::array<QSGRectangleNode *, kRectangles> m_rectangles{};
 };
 
-} // namespace brimshade::panel
+} // namespace brimshade::ui

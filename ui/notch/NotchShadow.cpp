@@ -2,7 +2,7 @@
 #include "NotchShape.h"
 #include "model/PanelMetrics.h"
 
-namespace brimshade::panel {
+namespace brimshade::ui {
 
 using Metrics = model::PanelMetrics;
 
@@ -16,4 +16,4 @@ QPainterPath NotchShadow::outline(const QRectF &rect, double scale) const
     return NotchShape{Metrics::openFlare * scale, Metrics::openCorner * scale}.path(rect);
 }
 
-} // namespace brimshade::panel
+} // namespace brimshade::ui

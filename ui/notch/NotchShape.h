@@ -2,7 +2,7 @@
 #include <QPainterPath>
 #include <QRectF>
 
-namespace brimshade::panel {
+namespace brimshade::ui {
 
 // The outline of the panel: a tab that hangs from the top edge of the screen. Its upper corners flare outward to meet
 // that edge; its body is as wide as the frame less a flare on either side. Points, y down.
@@ -17,4 +17,4 @@ struct NotchShape {
     static NotchShape between(const NotchShape &from, const NotchShape &to, double progress);
 };
 
-} // namespace brimshade::panel
+} // namespace brimshade::ui
