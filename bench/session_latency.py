@@ -5,6 +5,7 @@ tray items: under sway at 240 Hz beside fuzzel and tofi, under openbox beside ro
 All are measured in turns, the references from their start to the first frame that shows them, with 60 lines to choose from.
 The first opening after a launch is told apart."""
 import contextlib
+import json
 import os
 import pathlib
 import statistics
@@ -51,7 +52,8 @@ def living(session, build, count=ITEMS):
     """Brimshade with so many items in its bar, and its end."""
     brimshade = Brimshade(session, build / "bin" / "brimshade")
     brimshade.until("the bar", lambda state: state["statusItem"])
-    items, lines = start(session, "/usr/bin/python3", root / "bench" / "many_items.py", count)
+    items, lines = start(session, "/usr/bin/python3", root / "tests/support/mock_item.py", json.dumps({"count": count}),
+                         stdin=subprocess.PIPE)
     lines.next("the items")
     brimshade.until("all items", lambda state: len(state["menuBar"]) >= count + 1)
     brimshade.do("advance", seconds=2)  # a person does not open it sooner

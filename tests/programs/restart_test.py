@@ -50,7 +50,9 @@ class Restarts(unittest.TestCase):
 
     def start(self, names):
         for name in names:
-            self.programs[name] = self.session.start("/usr/bin/python3", SUPPORT / "tray_item.py", name)
+            item = {"properties": {"Id": name.lower(), "Title": name}}
+            self.programs[name] = self.session.start("/usr/bin/python3", SUPPORT / "mock_item.py", json.dumps(item),
+                                                     stdin=subprocess.PIPE)
 
     def end(self, names):
         for name in names:

@@ -2,8 +2,10 @@
 """mock_item.py JSON: a tray item of this process, with a menu, that is what the JSON object says.
 
 {"path": where the item is, "properties": of the item, over {"Id": "mock", …}, "menu": [[TITLE, ICON NAME], …],
-"icons": pictures a second, each another one, "unknown": [methods that it lacks]}. It prints "registered", then each call
-that it gets as a JSON array, one a line. A line on standard input, {"properties": {…}, "signal": NAME}, changes it."""
+"icons": pictures a second, each another one, "unknown": [methods that it lacks], "count": of such items, which are numbered
+when there are several}. It registers with whoever is the watcher, now and later, and prints "registered" each time, then
+each call that it gets as a JSON array, one a line. A line on standard input, {"properties": {…}, "signal": NAME}, changes
+the first one. It ends with its input or its bus."""
 import json
 import sys
 
@@ -12,7 +14,7 @@ import dbus.lowlevel
 import dbus.mainloop.glib
 from gi.repository import GLib
 
-ITEM, MENU, PROPERTIES = "org.kde.StatusNotifierItem", "com.canonical.dbusmenu", "org.freedesktop.DBus.Properties"
+ITEM, WATCHER = "org.kde.StatusNotifierItem", "org.kde.StatusNotifierWatcher"
 QUIET = ("GetAll", "GetLayout")  # asked for again and again
 SIDE = 22
 
@@ -35,10 +37,11 @@ def typed(properties):
 class Item:
     """Answers every message itself: so it can lack methods, and lie."""
 
-    def __init__(self, bus, wanted):
-        self.bus, self.path = bus, wanted.get("path", "/StatusNotifierItem")
-        self.properties = {"Id": "mock", "Title": "Mock", "Status": "Active", "Menu": dbus.ObjectPath("/Menu"),
-                           "IconPixmap": pixmap(0), **typed(wanted.get("properties", {}))}
+    def __init__(self, bus, wanted, number=""):
+        self.bus, self.path = bus, wanted.get("path", "/StatusNotifierItem") + str(number)
+        self.properties = {"Id": f"mock{number}", "Title": f"Mock {number}".strip(), "Status": "Active",
+                           "Menu": dbus.ObjectPath("/Menu"), "IconPixmap": pixmap(4 * int(number or 0) % 256),
+                           **typed(wanted.get("properties", {}))}
         self.menu = wanted.get("menu", [["Open", ""]])
         self.unknown = wanted.get("unknown", [])
         self.shade = 0
@@ -92,15 +95,23 @@ class Item:
 
 def main(wanted):
     dbus.mainloop.glib.DBusGMainLoop(set_as_default=True)
-    bus = dbus.SessionBus()
-    item = Item(bus, wanted)
-    watcher = bus.get_object("org.kde.StatusNotifierWatcher", "/StatusNotifierWatcher")
-    watcher.RegisterStatusNotifierItem(item.path, dbus_interface="org.kde.StatusNotifierWatcher")
-    print("registered", flush=True)
+    bus, loop = dbus.SessionBus(), GLib.MainLoop()
+    count = wanted.get("count", 1)
+    items = [Item(bus, wanted, number) for number in (range(count) if count > 1 else [""])]
+
+    def register(owner):
+        for item in items if owner else []:
+            said = (lambda: print("registered", flush=True)) if item is items[-1] else (lambda: None)
+            bus.call_async(WATCHER, "/StatusNotifierWatcher", WATCHER, "RegisterStatusNotifierItem", "s", (item.path,),
+                           said, lambda _: None)
+
+    watch = bus.watch_name_owner(WATCHER, register)
+    bus.call_on_disconnection(lambda _: loop.quit())
     if wanted.get("icons"):
-        GLib.timeout_add(int(1000 / wanted["icons"]), item.draw)
-    GLib.io_add_watch(sys.stdin, GLib.PRIORITY_DEFAULT, GLib.IO_IN | GLib.IO_HUP, item.command)
-    GLib.MainLoop().run()
+        GLib.timeout_add(int(1000 / wanted["icons"]), items[0].draw)
+    GLib.io_add_watch(sys.stdin, GLib.PRIORITY_DEFAULT, GLib.IO_IN | GLib.IO_HUP, items[0].command)
+    loop.run()
+    watch.cancel()
 
 
 if __name__ == "__main__":

@@ -152,29 +152,4 @@ TEST(BarOrder, WhatIsOffScreenTakesNoRoomAndKeepsItsPlace)
     EXPECT_TRUE(Bar(u"|ab"_s).drop(u'a', 2, 15)) << "no room for any";
 }
 
-TEST(BarOrder, AnItemThatTurnsOutToBeAnotherStaysUnlessThatOneHasAPlace)
-{
-    Bar bar(u"P|Aabc"_s);
-    bar.drop(u'b', 5); // "Pac|Ab"
-    EXPECT_TRUE(bar.order.rename(bar.entry(u'b'), {u"x"_s, {}, 0}));
-    EXPECT_EQ(bar.shown(), "Pac|Ab");
-    EXPECT_FALSE(bar.order.rename(bar.entry(u'b'), {u"x"_s, {}, 0}));
-    bar.remove(u'b');
-    bar.add(u'd');
-    EXPECT_EQ(bar.shown(), "Pacd|A");
-    bar.order.rename(bar.entry(u'd'), {u"x"_s, {}, 0});
-    EXPECT_EQ(bar.shown(), "Pac|dA");
-}
-
-TEST(BarOrder, TakesInAnOrderThatWasKept)
-{
-    Bar before(u"P|abc"_s);
-    before.drop(u'a', 4);
-    Bar bar(u"P|Adba"_s);
-    bar.order.restore(before.order.kept());
-    EXPECT_EQ(bar.shown(), "Pbd|aA");
-    bar.add(u'c');
-    EXPECT_EQ(bar.shown(), "Pbcd|aA");
-}
-
 } // namespace brimshade::desktop
