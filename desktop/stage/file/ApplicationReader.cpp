@@ -1,5 +1,5 @@
 #include "DesktopFile.h"
-#include "JsonReader.h"
+#include "desktop/json/JsonReader.h"
 
 #include <QFileInfo>
 #include <QImageReader>

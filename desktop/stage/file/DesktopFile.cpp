@@ -1,9 +1,8 @@
 #include "DesktopFile.h"
-#include "JsonReader.h"
+#include "desktop/json/JsonReader.h"
+#include "desktop/json/JsonText.h"
 
 #include <QFile>
-#include <QJsonDocument>
-#include <QJsonParseError>
 #include <array>
 
 using namespace Qt::StringLiterals;
@@ -116,26 +115,17 @@ const std::array kDesktopFields{
                  [](auto &value, auto &path, auto &into) { return readDefaults(value, path, into.defaults); }},
 };
 
-// Lines and columns count from 1, columns in characters. The parser's offset is that after the offending one.
-QString syntaxFault(const QByteArray &json, const QJsonParseError &error)
-{
-    const QByteArray before = json.first(std::clamp<qsizetype>(error.offset - 1, 0, json.size()));
-    const auto line = before.count('\n') + 1;
-    const auto column = QString::fromUtf8(before.sliced(before.lastIndexOf('\n') + 1)).size() + 1;
-    return u"line %1, column %2: %3"_s.arg(line).arg(column).arg(error.errorString());
-}
-
 } // namespace
 
 std::expected<DesktopDescription, QString> parseDesktop(const QByteArray &json)
 {
-    QJsonParseError error;
-    const QJsonDocument document = QJsonDocument::fromJson(json, &error);
-    if (error.error != QJsonParseError::NoError)
-        return std::unexpected(syntaxFault(json, error));
-    const QJsonValue root = document.isArray() ? QJsonValue(document.array()) : QJsonValue(document.object());
+    const auto root = parseJson(json);
+    if (!root) {
+        const auto &[line, column, reason] = root.error();
+        return std::unexpected(u"line %1, column %2: %3"_s.arg(line).arg(column).arg(reason));
+    }
     DesktopDescription desktop;
-    if (Fault found = readObject(root, {}, Fields<DesktopDescription>(kDesktopFields), desktop))
+    if (Fault found = readObject(*root, {}, Fields<DesktopDescription>(kDesktopFields), desktop))
         return std::unexpected(*found);
     if (desktop.screens.empty())
         return std::unexpected(u"screens: expected at least one"_s);
