@@ -14,6 +14,7 @@ from lib.sway import Sway
 
 ITEMS = 20
 OPENINGS = 100
+ESCAPE = 53  # as a virtual key code
 WAYBAR = '{"modules-right": ["tray", "clock"]}'
 
 
@@ -22,9 +23,9 @@ def memory(pid):
 
 
 def open_and_close(brimshade):
-    x, y = brimshade.icon()
-    for shown in (True, False):
-        brimshade.do("click", at=[x, y])
+    open_it, close_it = ("click", {"at": brimshade.icon()}), ("key", {"code": ESCAPE})  # the panel covers the icon
+    for shown, (command, arguments) in ((True, open_it), (False, close_it)):
+        brimshade.do(command, **arguments)
         brimshade.until(f"a panel shown: {shown}", lambda s, shown=shown: s["shown"] == shown)
         brimshade.do("advance", seconds=0.8)  # until it has come to rest
 

@@ -10,7 +10,7 @@ namespace brimshade::desktop {
 namespace {
 
 constexpr double kRightMargin = 8;
-constexpr double kApplicationMenusWidth = 420; // at most: what the active application's menus may fill
+constexpr double kWidestApplicationMenus = 420;
 
 bool hasNotch(const Screen &screen)
 {
@@ -48,13 +48,14 @@ QRectF barFrame(const Screen &screen, double primaryHeight)
     return {minX(screen.frame), primaryHeight - maxY(screen.frame), screen.frame.width(), height};
 }
 
-BarGeometry barGeometry(const Screen &screen, double primaryHeight)
+BarGeometry barGeometry(const Screen &screen, double primaryHeight, double applicationMenusWidth)
 {
     BarGeometry bar;
     bar.frame = barFrame(screen, primaryHeight);
     if (hasNotch(screen))
         bar.notch = {maxX(*screen.auxiliaryTopLeftArea), minX(*screen.auxiliaryTopRightArea)};
-    bar.applicationMenusEnd = minX(bar.frame) + std::min(kApplicationMenusWidth, bar.frame.width() / 2);
+    bar.applicationMenusEnd =
+        minX(bar.frame) + std::min({applicationMenusWidth, kWidestApplicationMenus, bar.frame.width() / 2});
     return bar;
 }
 

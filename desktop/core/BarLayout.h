@@ -24,8 +24,9 @@ struct BarGeometry {
 const platform::Screen *barScreen(const std::vector<platform::Screen> &screens);
 // Every screen has a bar, at its top.
 QRectF barFrame(const platform::Screen &screen, double primaryHeight);
-// Of the bar on that screen.
-BarGeometry barGeometry(const platform::Screen &screen, double primaryHeight);
+// Of the bar on that screen. The application menus fill so many points from its left edge: at most 420, and half of the
+// bar.
+BarGeometry barGeometry(const platform::Screen &screen, double primaryHeight, double applicationMenusWidth);
 
 // Items from right to left; the frames in the same order. The first that has no room and all after it stand
 // off-screen, leftwards from x = 0, or from the bar's left edge when that is further left.

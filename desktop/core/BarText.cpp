@@ -1,6 +1,7 @@
 #include "BarText.h"
 
 #include <QFontMetricsF>
+#include <cmath>
 
 namespace brimshade::desktop {
 
@@ -15,6 +16,13 @@ QFont barFont()
 double barTextWidth(const QString &text)
 {
     return QFontMetricsF(barFont()).horizontalAdvance(text);
+}
+
+double barNameWidth(const QString &name)
+{
+    QFont font = barFont();
+    font.setWeight(QFont::Bold);
+    return name.isEmpty() ? 0 : kNameMargin + std::ceil(QFontMetricsF(font).horizontalAdvance(name)) + kNameMargin;
 }
 
 } // namespace brimshade::desktop

@@ -46,6 +46,7 @@ struct MenuBar::Private {
     MenuHost &menus;
     BarOrder order = {};
     std::optional<BarGeometry> geometry = {}; // absent without a screen
+    double applicationMenusWidth = std::numeric_limits<double>::infinity();
     Layout latest = {}; // what shows once it has settled
     bool isCrowded = false; // in what shows
     int settled = 0; // times that everything showed at once: what waited to show then is outdated
@@ -170,14 +171,20 @@ void MenuBar::placeOwn(const EntryPointer &entry, double pointsFromRight)
 
 void MenuBar::setScreens()
 {
-    m_d->geometry = m_d->state.read([](const DisplayState &state) -> std::optional<BarGeometry> {
+    m_d->geometry = m_d->state.read([this](const DisplayState &state) -> std::optional<BarGeometry> {
         const Screen *screen = barScreen(state.screens);
         if (!screen)
             return std::nullopt;
-        return barGeometry(*screen, state.screens.front().frame.height());
+        return barGeometry(*screen, state.screens.front().frame.height(), m_d->applicationMenusWidth);
     });
     relayout();
     touch();
+}
+
+void MenuBar::setApplicationMenusWidth(double points)
+{
+    if (std::exchange(m_d->applicationMenusWidth, points) != points)
+        settleNow([this] { setScreens(); }); // the name takes its room at once
 }
 
 void MenuBar::setShowing(bool showing)

@@ -67,6 +67,7 @@ public:
     const KeptOrder &keptOrder() const;
     void restore(KeptOrder order); // one that was kept before; those that are here already take their places in it
     void setScreens(); // read them anew
+    void setApplicationMenusWidth(double points); // as much as may be, until it is said
     void setShowing(bool showing);
     void setMovesAccepted(bool accepted) { m_areMovesAccepted = accepted; }
     // Several changes laid out together, here or all at once: at start, when nothing was there before.

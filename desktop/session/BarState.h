@@ -1,4 +1,5 @@
 #pragma once
+#include "desktop/core/BarText.h"
 #include "desktop/views/BarModel.h"
 #include "desktop/views/WallClock.h"
 
@@ -11,6 +12,7 @@ class BarState : public QObject {
     QML_UNCREATABLE("belongs to a session")
     Q_PROPERTY(brimshade::desktop::BarModel *items READ items CONSTANT)
     Q_PROPERTY(QString applicationName READ applicationName NOTIFY changed)
+    Q_PROPERTY(double nameMargin READ nameMargin CONSTANT)
     Q_PROPERTY(bool isTranslucent READ isTranslucent NOTIFY changed)
 
 public:
@@ -18,6 +20,7 @@ public:
 
     BarModel *items() { return &m_items; }
     QString applicationName() const { return m_applicationName; } // of the one with the focus; empty for none
+    double nameMargin() const { return kNameMargin; }
     bool isTranslucent() const { return m_isTranslucent; } // what is behind it shows through
 
     void setApplicationName(const QString &name)

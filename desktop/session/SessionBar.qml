@@ -10,7 +10,7 @@ Item {
 
     required property BarState bar
     readonly property BarModel items: root.bar.items
-    readonly property real nameEnd: root.items.hasNotch ? root.items.notchLeft - root.items.frame.x : root.items.menusEnd
+    readonly property real nameEnd: root.items.hasNotch ? root.items.notchLeft - root.items.frame.x : root.items.menusEnd - root.items.frame.x
 
     Accessible.role: Accessible.MenuBar
     Accessible.name: qsTr("Menu bar")
@@ -21,8 +21,8 @@ Item {
     }
     StyledText {
         objectName: "applicationName"
-        x: 18
-        width: Math.max(0, root.nameEnd - x - 18)
+        x: root.bar.nameMargin
+        width: Math.max(0, root.nameEnd - x - root.bar.nameMargin)
         anchors.verticalCenter: parent.verticalCenter
         elide: Text.ElideRight
         text: root.bar.applicationName

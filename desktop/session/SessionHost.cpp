@@ -5,6 +5,7 @@
 #include "SessionScreens.h"
 #include "TipPane.h"
 #include "TitledPane.h"
+#include "desktop/core/BarText.h"
 #include "desktop/core/Desktop.h"
 #include "desktop/core/MenuBar.h"
 #include "desktop/core/MenuHost.h"
@@ -153,7 +154,9 @@ void SessionHost::followForeground()
     const QString id = foreground.applicationId();
     const bool isOwn = id == QGuiApplication::desktopFileName() || id == QCoreApplication::applicationName();
     // No desktop entry may be installed for it.
-    m_barState.setApplicationName(isOwn ? u"Brimshade"_s : m_applicationNames.nameOf(id));
+    const QString name = isOwn ? u"Brimshade"_s : m_applicationNames.nameOf(id);
+    m_barState.setApplicationName(name);
+    m_desktop.menuBar().setApplicationMenusWidth(barNameWidth(name));
     m_barState.setTranslucent(m_shell.isComposited());
     m_desktop.setMenuBarShowing(screen && !foreground.coversScreen(screen));
 }

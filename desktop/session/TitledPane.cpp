@@ -1,5 +1,7 @@
 #include "TitledPane.h"
 
+#include <QIcon>
+
 namespace brimshade::desktop::session {
 
 namespace {
@@ -16,6 +18,7 @@ TitledPane::TitledPane(DesktopWindow &window, const Parts &parts)
     const platform::WindowAttributes &attributes = window.attributes();
     shown.setFlags(Qt::Window | Qt::WindowTitleHint | Qt::WindowSystemMenuHint | Qt::WindowCloseButtonHint);
     shown.setTitle(attributes.title.isEmpty() ? QStringLiteral("Brimshade") : attributes.title);
+    shown.setIcon(QIcon(QStringLiteral(":/qt/qml/Brimshade/Session/icon.svg"))); // a compositor asks the desktop entry
     shown.setColor(QColor::fromRgba(attributes.darkAppearance ? kDarkPlate : kLightPlate));
     m_holder.setParentItem(shown.contentItem());
     m_holder.setFlag(QQuickItem::ItemIsFocusScope);

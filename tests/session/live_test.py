@@ -188,6 +188,7 @@ class Living:
     def test_8_it_ends_when_it_is_told_to(self):
         self.assertEqual(self.request("--settings").returncode, 0)
         self.brimshade.until("the settings", lambda s: any(w["name"] == "settings" and w["visible"] for w in s["windows"]))
+        self.session.until("the settings window with its icon", self.has_settings_with_icon)
         self.assertEqual(self.request("--quit").returncode, 0)
         self.assertEqual(self.session.wait_for_end(self.brimshade.process, "the end of Brimshade"), 0)
         gone = self.request("--toggle")
@@ -212,6 +213,10 @@ class OnSway(Living, unittest.TestCase):
         self.assertEqual(self.session.rect("terminal")[1], BAR_HEIGHT)
         self.assertEqual(self.session.output()["rect"]["height"] - self.session.rect("terminal")[3], BAR_HEIGHT)
 
+    def has_settings_with_icon(self):
+        """A compositor finds it in the desktop entry of that name."""
+        return any(window["app_id"] == "org.brimshade.Brimshade" for window in self.session.windows())
+
     def has_keepass_window(self):
         return any("keepassxc" in window["app_id"].lower() for window in self.session.windows())
 
@@ -225,6 +230,10 @@ class OnX11(Living, unittest.TestCase):
 
     def assert_below_the_bar(self):
         self.assertEqual(self.session.work_area(), [0, BAR_HEIGHT, 1512, 982 - BAR_HEIGHT])
+
+    def has_settings_with_icon(self):
+        window = self.session.window("brimshade")
+        return window and "Icon (" in self.session.output_of("xprop", "-id", str(window), "_NET_WM_ICON").decode()
 
     def has_keepass_window(self):
         return bool(self.session.window("keepassxc"))

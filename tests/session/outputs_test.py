@@ -1,6 +1,8 @@
 #!/usr/bin/env python3
 """outputs_test.py PROGRAM: Brimshade on outputs that come, go, and change their size and scale, and on a seat that has no
 pointer."""
+import json
+import pathlib
 import subprocess
 import sys
 import unittest
@@ -12,8 +14,11 @@ from lib.waiting import PATIENCE
 PROGRAM = sys.argv.pop(1)
 BAR_HEIGHT = 37
 NOTCH_WIDTH = 180  # drawn, in the middle of the bar
+ITEM_WIDTH = 34  # of one without a label
+NAME_MARGIN = 18  # at each side of the focused application's name
 CORNER = 20  # more than the notch's corners are wide
 BLACK = (0, 0, 0)
+MOCK_ITEM = pathlib.Path(__file__).resolve().parent.parent / "support/mock_item.py"
 
 
 class Outputs(unittest.TestCase):
@@ -88,6 +93,19 @@ class Outputs(unittest.TestCase):
         self.until_reserved("HEADLESS-2", BAR_HEIGHT)
         self.until_notch("HEADLESS-2", 1)
         self.assertEqual([screen["frame"][0] for screen in self.brimshade.do("state")["screens"]], [0, -1512])
+
+    def test_without_a_notch_items_stop_at_the_applications_name(self):
+        self.live_on(Sway(), "--notch", "none")
+        self.session.start("/usr/bin/python3", MOCK_ITEM, json.dumps({"count": 60}), stdin=subprocess.PIPE)
+
+        def leftmost(shown):
+            return min((item["frame"][0] for item in shown["menuBar"] if item["drawn"]), default=None)
+        self.brimshade.until("a bar full of items", lambda s: 0 <= leftmost(s) < ITEM_WIDTH)
+        self.session.terminal()
+        named = self.brimshade.until("room for a name", lambda s: leftmost(s) > ITEM_WIDTH and s)
+        [name] = [each for each in self.brimshade.do("find", text="terminal")["elements"] if each["name"] == "terminal"]
+        gap = leftmost(named) - name["frame"][0] - name["frame"][2]
+        self.assertTrue(NAME_MARGIN <= gap < NAME_MARGIN + ITEM_WIDTH, (gap, name))
 
     def test_outputs_are_unplugged_and_plugged_in(self):
         outer = Sway()

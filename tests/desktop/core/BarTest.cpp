@@ -48,6 +48,18 @@ TEST_F(BarTest, OrdersPinnedThenOwnThenOthersAndAddsLaterOnesAtTheLeftEnd)
     EXPECT_EQ(barFrame(u"b.two"_s).x(), 1314);
 }
 
+TEST_F(BarTest, WithoutANotchShowsItemsUpToTheActiveApplicationsMenus)
+{
+    desktop.setScreens({plainScreen({0, 0, 1512, 982})});
+    desktop.launch({.description = application(13, {extra(u"c.wide"_s, 900)})});
+    settle();
+    EXPECT_EQ(barFrame(u"c.wide"_s).x(), -900) << "they may fill 420 points";
+    for (const auto &[menus, left] : {std::pair(382., 382.), {383, -900}, {0, 382}, {100'000, -900}}) {
+        desktop.menuBar().setApplicationMenusWidth(menus);
+        EXPECT_EQ(barFrame(u"c.wide"_s).x(), left) << menus << ", at once";
+    }
+}
+
 TEST_F(BarTest, NeverPutsAnItemBackIntoALayoutThatItHasLeft)
 {
     const QRectF place(900, 0, 20, 37);
