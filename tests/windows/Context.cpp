@@ -36,9 +36,11 @@ ExtraList someExtras()
     return extras;
 }
 
-Language::Language(const QLocale &locale)
+Language::Language(const QLocale &locale, bool isSession)
 {
     i18n::installTranslation(*qApp, locale);
+    if (isSession)
+        i18n::installSessionTexts(*qApp, locale);
 }
 
 Language::~Language()

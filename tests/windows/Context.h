@@ -10,10 +10,10 @@
 
 namespace brimshade::windows {
 
-// The program's texts in a language, as long as it lives.
+// The program's texts in a language, as long as it lives; those of a session where asked for.
 class Language {
 public:
-    explicit Language(const QLocale &locale);
+    explicit Language(const QLocale &locale, bool isSession = false);
     ~Language();
 };
 

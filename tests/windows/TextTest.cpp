@@ -4,9 +4,9 @@ namespace brimshade::windows {
 
 // Every text that can be read in either window has room, in every language: it is not elided, does not reach out of
 // the window and does not lie over another one. Names of items may be elided.
-class Texts : public testing::TestWithParam<const char *> {
+class Texts : public testing::TestWithParam<std::tuple<const char *, bool>> {
 protected:
-    const Language language{QLocale(QString::fromLatin1(GetParam()))};
+    const Language language{QLocale(QString::fromLatin1(std::get<0>(GetParam()))), std::get<1>(GetParam())};
     Context context;
 
     struct Shown {
@@ -50,7 +50,7 @@ protected:
     }
 };
 
-INSTANTIATE_TEST_SUITE_P(Languages, Texts, testing::Values("en", "de"));
+INSTANTIATE_TEST_SUITE_P(Languages, Texts, testing::Combine(testing::Values("en", "de"), testing::Bool()));
 
 TEST_P(Texts, HaveRoomInTheSetup)
 {
