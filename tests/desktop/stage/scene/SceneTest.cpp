@@ -1,7 +1,11 @@
 #include "SceneContext.h"
+#include "desktop/core/Permission.h"
 #include "desktop/stage/builtin/BuiltInDesktop.h"
+#include "i18n/Translation.h"
 
+#include <QGuiApplication>
 #include <QImageReader>
+#include <QTranslator>
 
 namespace brimshade::desktop {
 
@@ -246,6 +250,37 @@ TEST(BuiltInDesktop, HasReadablePicturesAndMenusThatSayWhatWasChosen)
     const auto banners = context.findAll(u"banner"_s);
     ASSERT_EQ(banners.size(), 1);
     EXPECT_TRUE(banners.first()->property("what").toString().contains(u"Show Calendar"_s));
+}
+
+void expectRoomForTexts(const QQuickItem &item, int &texts)
+{
+    if (!item.isVisible())
+        return;
+    const QString text = item.inherits("QQuickText") ? item.property("text").toString() : QString();
+    if (!text.isEmpty()) {
+        ++texts;
+        EXPECT_FALSE(item.property("truncated").toBool()) << qPrintable(text);
+        EXPECT_LE(item.property("contentWidth").toDouble(), item.width() + 0.5) << qPrintable(text);
+        EXPECT_LE(item.property("contentHeight").toDouble(), item.height() + 0.5) << qPrintable(text);
+    }
+    for (const QQuickItem *child : item.childItems())
+        expectRoomForTexts(*child, texts);
+}
+
+TEST(Texts, OfTheDesktopItselfHaveRoomInEveryLanguage)
+{
+    for (const char *name : {"en", "de"}) {
+        SCOPED_TRACE(name);
+        i18n::installTranslation(*qApp, QLocale(QString::fromLatin1(name)));
+        SceneContext context(builtInDesktop());
+        context.desktop().permission().openPrompt();
+        context.desktop().permission().openPage();
+        context.settle();
+        int texts = 0;
+        expectRoomForTexts(*context.scene().quickWindow()->contentItem(), texts);
+        EXPECT_GT(texts, 12);
+        qDeleteAll(qApp->findChildren<QTranslator *>());
+    }
 }
 
 } // namespace brimshade::desktop
