@@ -282,6 +282,17 @@ class TheSetup(LookCase):
         return next(e["frame"] for e in self.look.do("find", text="")["elements"]
                     if e["window"] == "setup" and e["role"] == "Button" and e["frame"][2] > 40)
 
+    def test_every_step_comes_as_the_one_before_goes(self):
+        self.look.do("trust", granted=True)
+        for step in range(4):
+            self.look.wait(2)
+            self.look.do("key", code=RETURN, characters="\r")
+            self.look.wait(0.1)
+            shares = {round(e["opacity"], 2) for e in self.look.do("find", text="")["elements"]
+                      if e["window"] == "setup" and e["role"] == "StaticText"}
+            self.assertEqual(len(shares), 2, f"step {step}: {shares}")
+            self.assertAlmostEqual(sum(shares), 1, delta=0.02)
+
     def test_a_button_fades_as_one(self):
         self.look.wait(1)
         left, top, width, height = self.button()
