@@ -8,7 +8,6 @@
 #include <algorithm>
 #include <chrono>
 #include <cstdio>
-#include <cstdlib>
 #include <ctime>
 #include <vector>
 
@@ -19,6 +18,15 @@ namespace {
 constexpr int kFrames = 72; // of a 60th of a second: every spring of the opening has ended by then
 constexpr int kClosingFrames = 24; // the same
 constexpr int kRounds = 12;
+
+struct Canvas {
+    const char *name; // as an argument
+    QSize size; // points
+    double scale;
+};
+
+// The panel's own window at both scales, and one as large as a screen of 3840 by 2160 pixels.
+constexpr Canvas kCanvases[] = {{"1", {1000, 720}, 1}, {"2", {1000, 720}, 2}, {"4k", {1920, 1080}, 2}};
 
 // Milliseconds of each frame: on the clock, and of this process's processor time, which a busy machine hardly changes.
 struct Times {
@@ -64,9 +72,9 @@ struct Motions {
     Times opening, closing;
 };
 
-Motions motions(double scale)
+Motions motions(const Canvas &canvas)
 {
-    panel::PanelScene panel(18, 9, scale);
+    panel::PanelScene panel(18, 9, canvas.scale, canvas.size);
     Motions motions;
     for (int round = 0; round < kRounds; ++round) {
         panel.scene.picture();
@@ -85,9 +93,9 @@ Motions motions(double scale)
     return motions;
 }
 
-Times reference(double scale)
+Times reference(const Canvas &canvas)
 {
-    ui::OffscreenScene scene({1000, 720}, scale);
+    ui::OffscreenScene scene(canvas.size, canvas.scale);
     scene.load(R"(
         import QtQuick
         Item {
@@ -127,10 +135,11 @@ Times reference(double scale)
     return times;
 }
 
-void print(const char *name, double scale, const Times &times)
+void print(const char *name, const Canvas &canvas, const Times &times)
 {
-    std::printf("%-28s scale %.0f  median %6.2f ms  95th percentile %6.2f ms  processor %6.2f and %6.2f ms\n", name,
-                scale, percentile(times.clock, 0.5), percentile(times.clock, 0.95), percentile(times.processor, 0.5),
+    std::printf("%-28s %4dx%d  median %6.2f ms  95th percentile %6.2f ms  processor %6.2f and %6.2f ms\n", name,
+                int(canvas.size.width() * canvas.scale), int(canvas.size.height() * canvas.scale),
+                percentile(times.clock, 0.5), percentile(times.clock, 0.95), percentile(times.processor, 0.5),
                 percentile(times.processor, 0.95));
 }
 
@@ -142,15 +151,13 @@ int main(int argc, char **argv)
     qputenv("QT_QUICK_BACKEND", "software");
     QLoggingCategory::setFilterRules(QStringLiteral("qt.rhi.*=false\nqt.scenegraph.*=false"));
     QGuiApplication application(argc, argv);
-    std::vector<double> scales; // of the arguments
-    for (int i = 1; i < argc; ++i)
-        scales.push_back(std::atof(argv[i]));
-    if (scales.empty())
-        scales = {1, 2};
-    for (const double scale : scales) {
-        print("plain rectangles (reference)", scale, reference(scale));
-        const Motions panel = motions(scale);
-        print("panel opening, 27 tiles", scale, panel.opening);
-        print("panel closing, 27 tiles", scale, panel.closing);
+    const QStringList wanted = QGuiApplication::arguments().mid(1); // none: all
+    for (const Canvas &canvas : kCanvases) {
+        if (!wanted.isEmpty() && !wanted.contains(QLatin1String(canvas.name)))
+            continue;
+        print("plain rectangles (reference)", canvas, reference(canvas));
+        const Motions panel = motions(canvas);
+        print("panel opening, 27 tiles", canvas, panel.opening);
+        print("panel closing, 27 tiles", canvas, panel.closing);
     }
 }

@@ -606,7 +606,11 @@ Brimshade öffnet die Notch und zeigt sie alle.</translation>
     </message>
     <message>
         <source>Type to search  ·  ↩ to open  ·  right-click to hide or show  ·  esc to close</source>
-        <translation>Tippen zum Suchen  ·  ↩ öffnet  ·  Rechtsklick blendet aus oder ein  ·  esc schließt</translation>
+        <translation>Tippen sucht  ·  ↩ öffnet  ·  Rechtsklick blendet aus oder ein  ·  esc schließt</translation>
+    </message>
+    <message>
+        <source>Type to search  ·  ↩ to open  ·  esc to close</source>
+        <translation>Tippen sucht  ·  ↩ öffnet  ·  esc schließt</translation>
     </message>
 </context>
 <context>

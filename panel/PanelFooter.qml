@@ -12,8 +12,10 @@ Item {
     required property bool animated
 
     component Line: StyledText {
+        required property string line
         required property bool isHint
 
+        text: isHint && root.width < wholeHint.implicitWidth ? root.panelState.briefHint : line
         width: root.width
         height: root.height
         size: 11
@@ -31,6 +33,12 @@ Item {
         state: root.panelState
         onReplaced: root.animated ? change.run(0, 1) : change.jumpTo(1)
     }
+    StyledText {
+        id: wholeHint
+        visible: false
+        text: root.panelState.hint
+        font: current.font
+    }
     SpringValue {
         id: change
         target: 1
@@ -38,17 +46,18 @@ Item {
         duration: 0.15
     }
     Line {
+        id: current
         objectName: "footer"
         y: 3 * (1 - change.value)
         opacity: change.value
-        text: lines.text
+        line: lines.text
         isHint: lines.isHint
     }
     Line {
         y: 3 * change.value
         visible: change.running
         opacity: 1 - change.value
-        text: lines.leavingText
+        line: lines.leavingText
         isHint: lines.leavingIsHint
         Accessible.ignored: true
     }

@@ -84,7 +84,17 @@ QString PanelState::focusText() const
 {
     if (const model::MenuExtra *extra = focused())
         return extra->detail;
+    return hint();
+}
+
+QString PanelState::hint() const
+{
     return tr("Type to search  ·  ↩ to open  ·  right-click to hide or show  ·  esc to close");
+}
+
+QString PanelState::briefHint() const
+{
+    return tr("Type to search  ·  ↩ to open  ·  esc to close");
 }
 
 void PanelState::dismiss()

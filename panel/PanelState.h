@@ -19,6 +19,8 @@ class PanelState : public QObject {
     Q_PROPERTY(QString highlightedID READ highlightedID NOTIFY focusChanged) // empty: no tile
     Q_PROPERTY(QString focusID READ focusID NOTIFY focusChanged) // of the footer's item; empty: the hint
     Q_PROPERTY(QString focusText READ focusText NOTIFY focusChanged)
+    Q_PROPERTY(QString hint READ hint CONSTANT)
+    Q_PROPERTY(QString briefHint READ briefHint CONSTANT) // where the other has no room
 
 public:
     enum Body { Permission, Waiting, NoItems, Tiles };
@@ -36,6 +38,8 @@ public:
     QString highlightedID() const;
     QString focusID() const;
     QString focusText() const;
+    QString hint() const;
+    QString briefHint() const;
 
     Q_INVOKABLE void dismiss();
     Q_INVOKABLE void openSettings();

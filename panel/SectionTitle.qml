@@ -15,13 +15,16 @@ StyledText {
 
     x: root.parent.width / 2 + across.value
     y: down.value
-    height: PanelMetrics.sectionTitleHeight
+    // Of 9.5 points: the toolkit rounds the sizes of fonts.
+    scale: 0.5
+    transformOrigin: Item.TopLeft
+    size: 19
+    height: 2 * PanelMetrics.sectionTitleHeight
     visible: root.shown || presence.running
     opacity: presence.value
     text: root.title.toUpperCase()
-    size: 9.5
     font.weight: Font.Bold
-    font.letterSpacing: 1.2
+    font.letterSpacing: 2.4
     color: Qt.rgba(1, 1, 1, 0.32)
     Accessible.description: root.title
     Accessible.ignored: !root.shown

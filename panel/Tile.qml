@@ -5,7 +5,7 @@ import Brimshade.Panel
 import Brimshade.Ui
 
 // One menu bar item: its face, its name, what a click, a right click and the pointer do.
-Item {
+FadingGroup {
     id: root
 
     required property TileActions actions
@@ -31,7 +31,8 @@ Item {
     z: root.isLeaving ? -1 : 0
     width: PanelMetrics.tileWidth
     height: PanelMetrics.tileHeight
-    opacity: entrance.clamped * arrival.value * departure.value
+    shown: entrance.clamped * arrival.value * departure.value
+    asOne: root.highlighted // at other times hardly anything in it overlaps
     transform: [
         Scale {
             origin.x: root.width / 2

@@ -4,13 +4,10 @@
 #include <QDataStream>
 #include <QIODevice>
 #include <QPainter>
-#include <QPromise>
 #include <QQuickWindow>
 #include <QSGImageNode>
-#include <QThreadPool>
 #include <algorithm>
 #include <cmath>
-#include <memory>
 
 namespace brimshade::ui {
 
@@ -34,24 +31,13 @@ QImage blurredPicture(const QImage &picture, double reach, double deviation)
     return blurred(small, deviation * share);
 }
 
-QFuture<QImage> inBackground(std::function<QImage()> make)
-{
-    auto promise = std::make_shared<QPromise<QImage>>();
-    promise->start();
-    QThreadPool::globalInstance()->start([promise, make = std::move(make)] {
-        promise->addResult(make());
-        promise->finish();
-    });
-    return promise->future();
-}
-
 } // namespace
 
 Blurred::Blurred(QQuickItem *parent) : QQuickItem(parent)
 {
     setFlag(ItemHasContents);
     connect(this, &Blurred::changed, this, &QQuickItem::update);
-    connect(&m_pending, &QFutureWatcherBase::finished, this, &QQuickItem::update);
+    connect(&m_pending, &PendingPicture::made, this, &QQuickItem::update);
 }
 
 void Blurred::setSource(DrawnItem *source)
@@ -86,29 +72,20 @@ QSGNode *Blurred::updatePaintNode(QSGNode *node, UpdatePaintNodeData *)
     return image;
 }
 
-// Null until it is there; whoever draws pictures for others to look at waits for it.
 QImage Blurred::picture(double scale)
 {
-    PictureCache *cache = PictureCache::of(window());
     const QByteArray sourceKey = m_source->pictureName();
     if (sourceKey.isEmpty())
         return {};
     QByteArray key("blurred" + sourceKey);
     QDataStream(&key, QIODevice::Append) << m_radius;
+    PictureCache *cache = PictureCache::of(window());
     if (const QImage *known = cache->find(key))
         return *known;
-    if (key != m_pendingKey) {
-        m_pendingKey = key;
-        m_pending.setFuture(
-            inBackground([picture = m_source->picture(sourceKey), reach = reach() * scale, radius = m_radius * scale] {
-                return blurredPicture(picture, reach, radius);
-            }));
-    }
-    if (!m_pending.isFinished() && !cache->isAwaited())
-        return {};
-    QImage made = m_pending.result();
-    cache->insert(key, made, m_source->pictureOwner());
-    return made;
+    const auto make = [picture = m_source->picture(sourceKey), reach = reach() * scale, radius = m_radius * scale] {
+        return blurredPicture(picture, reach, radius);
+    };
+    return m_pending.picture(*cache, key, make, m_source->pictureOwner());
 }
 
 void Blurred::itemChange(ItemChange change, const ItemChangeData &data)

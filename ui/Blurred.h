@@ -1,8 +1,6 @@
 #pragma once
 #include "DrawnItem.h"
-
-#include <QFutureWatcher>
-#include <QImage>
+#include "PendingPicture.h"
 
 namespace brimshade::ui {
 
@@ -29,13 +27,12 @@ protected:
     void itemChange(ItemChange change, const ItemChangeData &data) override;
 
 private:
-    QImage picture(double scale);
+    QImage picture(double scale); // null until it is there
     double reach() const; // beyond the source
 
     QPointer<DrawnItem> m_source;
     double m_radius = 0;
-    QByteArray m_pendingKey; // of what is being made
-    QFutureWatcher<QImage> m_pending;
+    PendingPicture m_pending;
 };
 
 } // namespace brimshade::ui

@@ -33,7 +33,7 @@ T.ComboBox {
 
     implicitWidth: 150
     implicitHeight: 24
-    opacity: control.enabled ? 1 : 0.4
+    opacity: Theme.presence(control)
     popup: null
     onVisibleChanged: control.opened = false
     Keys.forwardTo: [control.surface] // first: Return may be meant for the view, and the toolkit's combo box keeps it

@@ -22,7 +22,7 @@ T.Button {
     rightPadding: leftPadding
     topPadding: 0
     bottomPadding: 0
-    opacity: control.enabled ? 1 : 0.4
+    opacity: Theme.presence(control)
 
     Accessible.role: Accessible.Button
     Accessible.name: control.text

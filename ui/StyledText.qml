@@ -2,7 +2,7 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import Brimshade.Ui
 
-// Plain text that a person can read, in the system's font. size is in points of the scene and may be fractional.
+// Plain text that a person can read, in the system's font. size is in whole points of the scene.
 Text {
     id: root
 

@@ -44,7 +44,7 @@ T.Switch {
         // Alone is dimmed: it would show through the knob.
         Item {
             anchors.fill: parent
-            opacity: control.enabled ? 1 : 0.4
+            opacity: Theme.presence(control)
 
             RoundedShape {
                 anchors.fill: parent

@@ -54,7 +54,7 @@ Item {
     }
     PushButton {
         objectName: "backButton"
-        anchors.right: root.skips ? skip.left : primary.left
+        anchors.right: root.skips ? skip.left : action.left
         anchors.rightMargin: 14
         anchors.verticalCenter: parent.verticalCenter
         visible: opacity > 0
@@ -80,16 +80,28 @@ Item {
         text: root.title(OnboardingFlow.Skip)
         onClicked: root.flow.act()
     }
-    PrimaryButton {
-        id: primary
-        objectName: "primaryButton"
+    FadingGroup {
+        id: action
         anchors.right: parent.right
         anchors.verticalCenter: parent.verticalCenter
-        visible: opacity > 0
-        opacity: acting.opacity
-        enabled: !root.skips
-        Accessible.ignored: root.skips
-        text: root.title(root.flow.action)
-        onClicked: root.flow.act()
+        width: primary.width
+        height: primary.height
+        visible: shown > 0
+        shown: acting.opacity
+
+        PrimaryButton {
+            id: primary
+            objectName: "primaryButton"
+            enabled: !root.skips
+            Accessible.ignored: root.skips
+            onClicked: root.flow.act()
+
+            // Going, it keeps its title.
+            Binding on text {
+                value: root.title(root.flow.action)
+                when: !root.skips
+                restoreMode: Binding.RestoreNone
+            }
+        }
     }
 }

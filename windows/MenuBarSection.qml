@@ -19,6 +19,7 @@ SettingsSection {
 
         Picker {
             objectName: "screenPicker"
+            width: 200
             text: qsTr("Screen")
             titles: root.choices.screens
             index: root.choices.screen
@@ -31,6 +32,7 @@ SettingsSection {
 
         Picker {
             objectName: "notchPicker"
+            width: 200
             text: qsTr("Notch")
             titles: root.choices.notches
             index: root.choices.notch

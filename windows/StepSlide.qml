@@ -4,7 +4,7 @@ import Brimshade.Ui
 
 // Holds one step of the flow while it is the current one or on its way out: it comes in from the right and leaves to
 // the left, fading. Turned round half way, it goes back the way it came.
-Item {
+FadingGroup {
     id: root
 
     required property bool current
@@ -14,9 +14,10 @@ Item {
     anchors.fill: parent
     enabled: root.current
     visible: root.current || presence.running
-    opacity: presence.clamped
+    shown: presence.clamped
     transform: Translate {
-        x: root.side * 30 * (1 - presence.value)
+        // On whole pixels, where the pieces of a picture meet.
+        x: Math.round(root.side * 30 * (1 - presence.value) * Screen.devicePixelRatio) / Screen.devicePixelRatio
     }
     onCurrentChanged: {
         if (root.current && presence.value < 0.01)

@@ -29,7 +29,8 @@ struct BarEntry {
     platform::Image image;
     bool wantsAttention = false;
     bool isPressed = false;
-    double dragOffset = 0; // points to the right of its frame, while a hand has it and until the bar settles after that
+    double dragOffset = 0; // points to the right of its frame, while a hand has it
+    double shift = 0; // points to the right of its frame, where another one shall have room, until the bar settles
 };
 using BarEntryPointer = std::shared_ptr<BarEntry>;
 

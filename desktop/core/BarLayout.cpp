@@ -17,11 +17,6 @@ bool hasNotch(const Screen &screen)
     return screen.auxiliaryTopLeftArea && screen.auxiliaryTopRightArea;
 }
 
-double drawnFrom(const BarGeometry &bar)
-{
-    return bar.notch ? bar.notch->second : bar.applicationMenusEnd;
-}
-
 bool hasRoom(double left, double right, const BarGeometry &bar)
 {
     return bar.notch ? right > bar.notch->first : left >= bar.applicationMenusEnd;
@@ -57,6 +52,11 @@ BarGeometry barGeometry(const Screen &screen, double primaryHeight, double appli
     bar.applicationMenusEnd =
         minX(bar.frame) + std::min({applicationMenusWidth, kWidestApplicationMenus, bar.frame.width() / 2});
     return bar;
+}
+
+double drawnFrom(const BarGeometry &bar)
+{
+    return bar.notch ? bar.notch->second : bar.applicationMenusEnd;
 }
 
 std::vector<QRectF> layOut(const std::vector<double> &widths, const BarGeometry &bar)

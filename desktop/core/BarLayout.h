@@ -28,6 +28,8 @@ QRectF barFrame(const platform::Screen &screen, double primaryHeight);
 // bar.
 BarGeometry barGeometry(const platform::Screen &screen, double primaryHeight, double applicationMenusWidth);
 
+double drawnFrom(const BarGeometry &bar); // x
+
 // Items from right to left; the frames in the same order. The first that has no room and all after it stand
 // off-screen, leftwards from x = 0, or from the bar's left edge when that is further left.
 std::vector<QRectF> layOut(const std::vector<double> &widths, const BarGeometry &bar);

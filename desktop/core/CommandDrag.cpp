@@ -7,11 +7,12 @@ namespace brimshade::desktop {
 bool CommandDrag::begin(QPointF at, std::uint64_t modifierFlags)
 {
     m_entry = nullptr;
-    m_from = at;
     m_wasDragged = false;
     const bool isOnBar = m_bar.isShowing() && platform::containsPoint(m_bar.frame(), at);
     if (isOnBar && (modifierFlags & platform::kCommandFlag))
         m_entry = m_bar.entryAt(at);
+    if (m_entry)
+        m_grip = at.x() - platform::minX(*m_entry->frame);
     return isActive();
 }
 
@@ -20,19 +21,16 @@ void CommandDrag::dragged(QPointF to)
     m_wasDragged = true;
     if (m_entry->place != BarEntry::Place::movable && m_entry->place != BarEntry::Place::own)
         return;
-    m_entry->dragOffset = to.x() - m_from.x();
-    m_bar.lookChanged();
+    m_bar.hold(m_entry, to, to.x() - m_grip);
 }
 
 bool CommandDrag::end(QPointF at, std::uint64_t modifierFlags)
 {
     const auto entry = std::exchange(m_entry, nullptr);
     const bool isMeant = entry && m_wasDragged && (modifierFlags & platform::kCommandFlag);
-    if (isMeant && m_bar.containsRow(at) && m_bar.move(entry, at.x()))
-        return true;
-    if (entry && std::exchange(entry->dragOffset, 0) != 0)
-        m_bar.lookChanged(); // back in its place
-    return false;
+    const bool hasMoved = isMeant && m_bar.containsRow(at) && m_bar.move(entry, at.x());
+    m_bar.letGo();
+    return hasMoved;
 }
 
 } // namespace brimshade::desktop

@@ -23,7 +23,7 @@ public:
 private:
     MenuBar &m_bar;
     BarEntryPointer m_entry;
-    QPointF m_from;
+    double m_grip = 0; // points from the item's left edge to where it was taken hold of
     bool m_wasDragged = false;
 };
 

@@ -40,6 +40,13 @@ struct MenuBar::Layout {
     bool operator==(const Layout &) const = default;
 };
 
+// An item that a hand has, and where.
+struct Held {
+    MenuBar::EntryPointer entry;
+    QPointF at;
+    double left; // of the item
+};
+
 struct MenuBar::Private {
     Dispatch &dispatch;
     SharedState &state;
@@ -48,6 +55,8 @@ struct MenuBar::Private {
     std::optional<BarGeometry> geometry = {}; // absent without a screen
     double applicationMenusWidth = std::numeric_limits<double>::infinity();
     Layout latest = {}; // what shows once it has settled
+    std::optional<Held> held = {};
+    bool isRearranging = false;
     bool isCrowded = false; // in what shows
     int settled = 0; // times that everything showed at once: what waited to show then is outdated
     int updates = 0; // nesting of update(): what is due waits for its end
@@ -96,7 +105,7 @@ std::vector<BarItem> MenuBar::items() const
                 continue;
             const BarEntry &e = *entry;
             items.push_back({e.pid, e.identifier, e.title, e.description, e.symbol, e.image, e.label, e.toolTip,
-                             *e.frame, isDrawn(e), e.place == BarEntry::Place::own,
+                             *e.frame, minX(*e.frame) + e.shift, isDrawn(e), e.place == BarEntry::Place::own,
                              e.isPressed || (isMenuOpen && m_d->menus.anchor() == *e.frame),
                              e.place == BarEntry::Place::own ? hiddenWantsAttention() : e.wantsAttention,
                              e.dragOffset});
@@ -211,7 +220,7 @@ void MenuBar::settleNow(const std::function<void()> &changes)
     changes();
     --m_d->updates;
     m_d->needsLayout = m_d->needsSignal = false;
-    m_d->latest = layout();
+    m_d->latest = layout(m_d->order);
     ++m_d->settled;
     apply(m_d->latest);
 }
@@ -221,12 +230,12 @@ double MenuBar::room() const
     return m_d->geometry ? roomFor(*m_d->geometry) : std::numeric_limits<double>::infinity();
 }
 
-MenuBar::Layout MenuBar::layout() const
+MenuBar::Layout MenuBar::layout(const BarOrder &order) const
 {
     Layout layout;
     if (!m_d->geometry)
         return layout;
-    const auto shown = m_d->order.shown(room());
+    const auto shown = order.shown(room());
     const auto inBar = entriesThatAre(false, shown), away = entriesThatAre(true, shown);
     const auto frames = layOut(widthsOf(inBar), *m_d->geometry);
     const auto awayFrames = layOutAway(widthsOf(away), frames, *m_d->geometry);
@@ -234,7 +243,7 @@ MenuBar::Layout MenuBar::layout() const
         layout.frames.emplace_back(inBar[i], frames[i]);
     for (std::size_t i = 0; i < away.size(); ++i)
         layout.frames.emplace_back(away[i], awayFrames[i]);
-    layout.isCrowded = shown != m_d->order.laidOut();
+    layout.isCrowded = shown != order.laidOut();
     return layout;
 }
 
@@ -245,7 +254,7 @@ void MenuBar::relayout()
         m_d->needsLayout = true;
         return;
     }
-    Layout next = layout();
+    Layout next = layout(m_d->order);
     if (next == m_d->latest)
         return;
     m_d->latest = next;
@@ -269,12 +278,14 @@ void MenuBar::apply(const Layout &layout)
     m_d->state.write([&](DisplayState &) {
         for (const auto &[entry, frame] : layout.frames) {
             entry->frame = frame;
-            entry->dragOffset = 0;
+            entry->shift = 0;
             if (entry->element)
                 entry->element->frame = frame;
         }
     });
     m_d->isCrowded = layout.isCrowded;
+    if (m_d->held)
+        makeWay();
     Q_EMIT settled();
     Q_EMIT changed();
 }
@@ -306,20 +317,75 @@ bool MenuBar::containsRow(QPointF point) const
     return point.y() >= minY(frame()) && point.y() < maxY(frame());
 }
 
-bool MenuBar::move(const EntryPointer &entry, double x)
+bool MenuBar::drop(BarOrder &order, const EntryPointer &entry, double x) const
 {
     if (!m_areMovesAccepted)
         return false;
     std::vector<QRectF> others;
-    for (const auto &other : m_d->order.shown(room())) {
+    for (const auto &other : order.shown(room())) {
         if (other != entry)
             others.push_back(other->frame.value_or(kNotYet));
     }
-    if (!m_d->order.drop(entry, dropIndex(others, x), room()))
+    return order.drop(entry, dropIndex(others, x), room());
+}
+
+bool MenuBar::move(const EntryPointer &entry, double x)
+{
+    if (!drop(m_d->order, entry, x))
         return false;
     relayout();
     Q_EMIT keptOrderChanged();
     return true;
+}
+
+void MenuBar::hold(const EntryPointer &entry, QPointF at, double left)
+{
+    m_d->held = Held{.entry = entry, .at = at, .left = left};
+    m_d->isRearranging = true;
+    makeWay();
+    touch();
+}
+
+// The drag's own rule, by the frames that have settled: so an item does not come back because it has made way.
+void MenuBar::makeWay()
+{
+    const auto &[entry, at, left] = *m_d->held;
+    BarOrder order = m_d->order;
+    if (containsRow(at))
+        drop(order, entry, at.x());
+    showAt(layout(order));
+    entry->shift = 0;
+    entry->dragOffset = left - minX(*entry->frame);
+}
+
+void MenuBar::letGo()
+{
+    if (!m_d->held)
+        return;
+    m_d->held->entry->dragOffset = 0;
+    showAt(m_d->latest);
+    m_d->held.reset();
+    touch();
+    const auto settle = [this] {
+        m_d->isRearranging = m_d->held.has_value();
+        touch();
+    };
+    m_d->dispatch.mainAfter(kSettleDelay, m_d->lifetime.guard(settle));
+}
+
+bool MenuBar::isRearranging() const
+{
+    return m_d->isRearranging;
+}
+
+// Those that are drawn, before that has settled. One that is not going to be goes just out of sight.
+void MenuBar::showAt(const Layout &layout)
+{
+    for (const auto &[entry, frame] : layout.frames) {
+        const bool isSeen = isDrawn(*entry) || (m_d->held && m_d->held->entry == entry);
+        if (entry->frame && isSeen)
+            entry->shift = std::max(minX(frame), drawnFrom(*m_d->geometry) - frame.width()) - minX(*entry->frame);
+    }
 }
 
 double MenuBar::pointsFromRight(const BarEntry &entry) const

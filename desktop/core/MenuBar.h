@@ -16,6 +16,7 @@ class Dispatch;
 
 namespace brimshade::desktop {
 
+class BarOrder;
 class MenuHost;
 class SharedState;
 class KeptOrder;
@@ -32,11 +33,12 @@ struct BarItem {
     QString label; // beside the image
     QString toolTip; // plain text
     QRectF frame; // display space; the settled one
+    double place = 0; // its left edge where it shows itself: elsewhere while it makes way for one that a hand has
     bool drawn = false; // also: takes clicks
     bool isOwn = false; // this program's own status item
     bool isHighlighted = false; // its menu is open or it is pressed
     bool wantsAttention = false; // the own item: one that is not drawn does
-    double dragOffset = 0; // points to the right of its frame, where a hand holds it
+    double dragOffset = 0; // points to the right of its place, where a hand holds it
 };
 
 // The bar with status items. Main thread; display space. A change of an item, of a width or of the order is laid out
@@ -78,6 +80,11 @@ public:
     EntryPointer drawnEntryAt(QPointF point) const; // the one that takes clicks there
     bool isDrawn(const BarEntry &entry) const;
     bool containsRow(QPointF point) const; // in the bar's row, whatever its x
+    // A hand has the item over that point, its left edge there. Until it lets go the others show themselves where they
+    // would stand after a drop; what the hand let go of and all others then show themselves where they are going to be.
+    void hold(const EntryPointer &entry, QPointF at, double left);
+    void letGo();
+    bool isRearranging() const; // held, or about to settle after that
     // A drop at x. False when the order stays: moves are refused, or it is there already.
     bool move(const EntryPointer &entry, double x);
     // Of the layout that shows next; items that come and go do not count.
@@ -93,7 +100,10 @@ private:
     struct Private;
     struct Layout;
     double room() const; // points for what is drawn
-    Layout layout() const;
+    Layout layout(const BarOrder &order) const;
+    bool drop(BarOrder &order, const EntryPointer &entry, double x) const;
+    void makeWay();
+    void showAt(const Layout &layout);
     bool hiddenWantsAttention() const;
     void relayout();
     void touch();

@@ -28,6 +28,8 @@ Exposure exposureOf(const QQuickItem &item, const QRectF &viewport)
     exposure.frame = item.mapRectToScene(QRectF(0, 0, item.width(), item.height()));
     for (const QQuickItem *each = &item; each; each = each->parentItem()) {
         exposure.opacity *= each->opacity();
+        if (const QVariant group = each->property("groupOpacity"); group.isValid())
+            exposure.opacity *= group.toDouble();
         if (each != &item && each->clip())
             exposure.frame &= each->mapRectToScene(each->clipRect());
         const QVariant window = each->property("brimshadeWindow");

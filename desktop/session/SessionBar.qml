@@ -35,6 +35,7 @@ Item {
 
         BarItemView {
             origin: root.items.frame.x
+            glides: root.items.isRearranging
         }
     }
     RoundedShape {

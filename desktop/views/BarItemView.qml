@@ -7,7 +7,9 @@ Item {
     id: root
 
     required property real origin // of the bar, in display space
+    required property bool glides // where it stands, rather than being there at once
     required property rect frame
+    required property real place
     required property string name
     required property string description
     required property string text
@@ -22,16 +24,37 @@ Item {
     required property real dragOffset
 
     objectName: "barItem"
-    x: root.frame.x - root.origin + root.dragOffset
-    z: root.dragOffset !== 0 ? 1 : 0
+    x: standing.value + hand.value
+    z: hand.value !== 0 ? 1 : 0
     opacity: root.dragOffset !== 0 ? 0.75 : 1
     width: root.frame.width
     height: root.frame.height
+
+    // It follows the hand; let go, it glides from there.
+    onDragOffsetChanged: {
+        if (root.dragOffset !== 0)
+            hand.jumpTo(root.dragOffset);
+        else
+            hand.target = 0;
+    }
 
     Accessible.role: Accessible.ButtonMenu
     Accessible.name: root.name
     Accessible.description: root.text !== "" ? root.text : root.description
 
+    component Glide: SpringValue {
+        response: 0.32
+        damping: 0.86
+    }
+
+    Glide {
+        id: standing
+        target: root.place - root.origin
+        animated: root.glides
+    }
+    Glide {
+        id: hand
+    }
     RoundedShape {
         visible: root.isHighlighted
         anchors.centerIn: parent

@@ -40,6 +40,8 @@ QList<int> changes(const BarItem &before, const BarItem &after)
     QList<int> roles;
     if (before.frame != after.frame)
         roles << BarModel::FrameRole << BarModel::TextRole;
+    if (before.place != after.place)
+        roles << BarModel::PlaceRole;
     if (imageLeft(before) != imageLeft(after))
         roles << BarModel::ImageLeftRole << BarModel::LabelLeftRole;
     if (before.label != after.label)
@@ -75,7 +77,8 @@ BarModel::BarModel(const MenuBar &bar, const WallClock &clock) : m_bar(bar), m_c
 void BarModel::refresh()
 {
     std::vector<BarItem> items = m_bar.items();
-    std::erase_if(items, [](const BarItem &item) { return !item.drawn && item.dragOffset == 0; });
+    std::erase_if(
+        items, [](const BarItem &item) { return !item.drawn && item.dragOffset == 0 && item.place == item.frame.x(); });
     setRows(m_items, items, keyOf, [](BarItem &shown, const BarItem &wanted) {
         QList<int> roles = changes(shown, wanted);
         shown = wanted;
@@ -95,6 +98,8 @@ QVariant BarModel::value(int row, int role) const
     switch (role) {
     case FrameRole:
         return item.frame;
+    case PlaceRole:
+        return item.place;
     case NameRole:
         return barItemName(item);
     case DescriptionRole:
@@ -129,6 +134,7 @@ QVariant BarModel::value(int row, int role) const
 QHash<int, QByteArray> BarModel::roleNames() const
 {
     return {{FrameRole, "frame"},
+            {PlaceRole, "place"},
             {NameRole, "name"},
             {DescriptionRole, "description"},
             {TextRole, "text"},

@@ -18,6 +18,7 @@ class BarModel : public brimshade::ui::ListModel {
     QML_UNCREATABLE("belongs to a scene")
     Q_PROPERTY(QRectF frame READ frame NOTIFY changed)
     Q_PROPERTY(bool isShowing READ isShowing NOTIFY changed)
+    Q_PROPERTY(bool isRearranging READ isRearranging NOTIFY changed) // changes of a place are to be seen
     Q_PROPERTY(bool hasNotch READ hasNotch NOTIFY changed)
     Q_PROPERTY(double notchLeft READ notchLeft NOTIFY changed)
     Q_PROPERTY(double notchRight READ notchRight NOTIFY changed)
@@ -27,6 +28,7 @@ public:
     // Text is what is drawn as such, of the clock; name is what the item is called.
     enum Role {
         FrameRole = Qt::UserRole + 1,
+        PlaceRole,
         NameRole,
         DescriptionRole,
         TextRole,
@@ -46,6 +48,7 @@ public:
 
     QRectF frame() const { return m_bar.frame(); }
     bool isShowing() const { return m_bar.isShowing(); }
+    bool isRearranging() const { return m_bar.isRearranging(); }
     bool hasNotch() const { return m_bar.notch().has_value(); }
     double notchLeft() const { return m_bar.notch().value_or(std::pair(0.0, 0.0)).first; }
     double notchRight() const { return m_bar.notch().value_or(std::pair(0.0, 0.0)).second; }

@@ -51,7 +51,7 @@ ModelFixture::ModelFixture() : model(defaults, loginItems)
     model.onOpenSettings = [this] { journal << u"settings"_s; };
 }
 
-PanelScene::PanelScene(int hidden, int visible, double scale) : scene({1000, 720}, scale)
+PanelScene::PanelScene(int hidden, int visible, double scale, QSize window) : scene(window, scale)
 {
     model.setExtras(makeExtras(hidden, visible));
     model.setScanned(true);

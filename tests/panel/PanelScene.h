@@ -22,7 +22,7 @@ struct ModelFixture : FakeSystem {
 // The panel as the window shows it, on a closed model that a scan has filled.
 class PanelScene : public ModelFixture {
 public:
-    explicit PanelScene(int hidden = 3, int visible = 2, double scale = 1);
+    explicit PanelScene(int hidden = 3, int visible = 2, double scale = 1, QSize window = {1000, 720});
 
     void open(); // and lets every motion end
     void finishMotion() { scene.advance(3000); }

@@ -136,4 +136,50 @@ TEST(Items, AnImageIsKeptWhileItIsShownAndNeverTakenForAnother)
     EXPECT_EQ(shown(imageAt(red)), Qt::green);
 }
 
+// Two groups that change places over a picture, as the steps of the setup do: what lies in them over something else, an
+// opaque rectangle for which the renderer leaves out what is under it, hides that at every moment.
+TEST(Items, AFadingGroupLetsNothingOfItsOwnShowThrough)
+{
+    for (const double scale : {1.0, 1.5, 2.0}) {
+        OffscreenScene scene({100, 60}, scale);
+        QQuickItem *root = scene.load(R"(
+            import QtQuick
+            import Brimshade.Ui
+            Rectangle {
+                id: root
+                property real shown: 0
+                property color spot: "black"
+                color: "#402080"
+                component Card: FadingGroup {
+                    id: card
+                    property color face
+                    x: 10; width: 80; height: 60
+                    Rectangle { anchors.fill: parent; color: "white"; radius: 4 }
+                    Rectangle { x: 10; y: 10; width: 60; height: 40; color: card.face }
+                    Rectangle { x: 60; y: 20; width: 5; height: 5; color: root.spot }
+                }
+                Card { shown: 1 - root.shown; face: "#ff0000"; transform: Translate { x: -5 * root.shown } }
+                Card { shown: root.shown; face: "#00ff00"; transform: Translate { x: 5 * (1 - root.shown) } }
+            })");
+        ASSERT_TRUE(root);
+        const auto expect = [&](double shown, const char *when) {
+            const QColor seen = scene.picture().pixelColor(int(40 * scale), int(40 * scale));
+            // The second over the first over what is behind both.
+            const auto mixed = [shown](double behind, double first, double second) {
+                return second * shown + (1 - shown) * (first * (1 - shown) + behind * shown);
+            };
+            const double rounding = 3; // of two groups
+            EXPECT_NEAR(seen.red(), mixed(0x40, 255, 0), rounding) << when << ", " << shown << ", scale " << scale;
+            EXPECT_NEAR(seen.green(), mixed(0x20, 0, 255), rounding) << when << ", " << shown << ", scale " << scale;
+            EXPECT_NEAR(seen.blue(), mixed(0x80, 0, 0), rounding) << when << ", " << shown << ", scale " << scale;
+        };
+        for (const double shown : {0.0, 0.02, 0.3, 0.5, 0.77, 1.0}) {
+            root->setProperty("shown", shown);
+            expect(shown, "as it changes");
+            root->setProperty("spot", QColor::fromRgbF(float(shown), 0, 1));
+            expect(shown, "when something in it changes");
+        }
+    }
+}
+
 } // namespace brimshade::ui

@@ -29,7 +29,8 @@ TEST(Symbols, NoNameInUseIsMissing)
                           u"cloud.sun.fill accessibility circle.grid.2x2.fill circle rectangle.topthird.inset.filled "
                           u"eye.slash.fill gearshape.fill lock.open.fill checkmark.seal.fill cursorarrow.motionlines "
                           u"command power square.grid.2x2 hand.raised.fill exclamationmark.triangle.fill lock.fill "
-                          u"checkmark.circle.fill"_s;
+                          u"checkmark.circle.fill bubble.left.and.bubble.right.fill calendar cloud.fill "
+                          u"hourglass shippingbox.fill bolt.fill pencil paintpalette.fill"_s;
     const QStringList known = symbolNames();
     for (const QString &name : names.split(u' '))
         EXPECT_TRUE(known.contains(name)) << qPrintable(name);

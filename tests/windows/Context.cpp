@@ -36,9 +36,11 @@ ExtraList someExtras()
     return extras;
 }
 
-Language::Language(const QLocale &locale)
+Language::Language(const QLocale &locale, bool isSession)
 {
     i18n::installTranslation(*qApp, locale);
+    if (isSession)
+        i18n::installSessionTexts(*qApp, locale);
 }
 
 Language::~Language()
@@ -86,23 +88,22 @@ bool Context::isLooking()
     return accessibility.questions > before;
 }
 
-ui::OffscreenScene &Context::showSettings(double scale)
+ui::OffscreenScene &Context::showSettings(double scale, MenuBarChoices *menuBar)
 {
-    return show("SettingsView {}", {480, 640}, scale);
+    return show("SettingsView {}", {480, 640}, scale, {{u"menuBar"_s, QVariant::fromValue(menuBar)}});
 }
 
 ui::OffscreenScene &Context::showSetup(double scale)
 {
-    return show("OnboardingView {}", {640, 580}, scale);
+    return show("OnboardingView {}", {640, 580}, scale, {{u"flow"_s, QVariant::fromValue(&flow)}});
 }
 
-ui::OffscreenScene &Context::show(const QByteArray &view, QSize size, double scale)
+ui::OffscreenScene &Context::show(const QByteArray &view, QSize size, double scale, const QVariantMap &more)
 {
     m_scene.reset();
     m_scene = std::make_unique<ui::OffscreenScene>(size, scale);
-    QVariantMap properties{{u"model"_s, QVariant::fromValue(&model)}};
-    if (view.startsWith("Onboarding"))
-        properties.insert(u"flow"_s, QVariant::fromValue(&flow));
+    QVariantMap properties = more;
+    properties.insert(u"model"_s, QVariant::fromValue(&model));
     m_scene->load("import Brimshade.Windows\n" + view, properties);
     m_scene->root()->forceActiveFocus();
     m_scene->advance(100);

@@ -4,16 +4,17 @@
 #include "model/NotchModel.h"
 #include "model/PermissionRequest.h"
 #include "support/FakeSystem.h"
+#include "windows/flow/MenuBarChoices.h"
 #include "windows/flow/OnboardingFlow.h"
 
 #include <QLocale>
 
 namespace brimshade::windows {
 
-// The program's texts in a language, as long as it lives.
+// The program's texts in a language, as long as it lives; those of a session where asked for.
 class Language {
 public:
-    explicit Language(const QLocale &locale);
+    explicit Language(const QLocale &locale, bool isSession = false);
     ~Language();
 };
 
@@ -36,7 +37,7 @@ public:
     void setExtras(const menubar::ExtraList &extras);
     void goTo(int step);
     bool isLooking(); // for the permission, on the second step
-    ui::OffscreenScene &showSettings(double scale = 1);
+    ui::OffscreenScene &showSettings(double scale = 1, MenuBarChoices *menuBar = nullptr);
     ui::OffscreenScene &showSetup(double scale = 1);
     ui::OffscreenScene &scene() { return *m_scene; }
 
@@ -48,7 +49,7 @@ public:
     QString focused() const; // the object name of the item with the keyboard
 
 private:
-    ui::OffscreenScene &show(const QByteArray &view, QSize size, double scale);
+    ui::OffscreenScene &show(const QByteArray &view, QSize size, double scale, const QVariantMap &more);
 
     std::unique_ptr<ui::OffscreenScene> m_scene;
 };

@@ -2,11 +2,27 @@
 
 namespace brimshade::windows {
 
+class MenuBar : public platform::MenuBarPreferences {
+public:
+    platform::NotchStyle style = platform::NotchStyle::machine;
+
+    QStringList screenNames() const override { return {u"eDP-1"_s, u"HEADLESS-1"_s}; }
+    QString screenName() const override { return u"HEADLESS-1"_s; }
+    void setScreenName(const QString &) override { }
+    bool isMachineKnown() const override { return true; }
+    platform::NotchStyle notchStyle() const override { return style; }
+    double notchWidth() const override { return 180; }
+    void setNotch(platform::NotchStyle, double) override { }
+    QString advice() const override { return {}; }
+    QString shortcutAdvice() const override { return u"bindsym Mod4+n exec brimshade --toggle"_s; }
+    void setOnChange(std::function<void()>) override { }
+};
+
 // Every text that can be read in either window has room, in every language: it is not elided, does not reach out of
 // the window and does not lie over another one. Names of items may be elided.
-class Texts : public testing::TestWithParam<const char *> {
+class Texts : public testing::TestWithParam<std::tuple<const char *, bool>> {
 protected:
-    const Language language{QLocale(QString::fromLatin1(GetParam()))};
+    const Language language{QLocale(QString::fromLatin1(std::get<0>(GetParam()))), std::get<1>(GetParam())};
     Context context;
 
     struct Shown {
@@ -50,7 +66,7 @@ protected:
     }
 };
 
-INSTANTIATE_TEST_SUITE_P(Languages, Texts, testing::Values("en", "de"));
+INSTANTIATE_TEST_SUITE_P(Languages, Texts, testing::Combine(testing::Values("en", "de"), testing::Bool()));
 
 TEST_P(Texts, HaveRoomInTheSetup)
 {
@@ -87,6 +103,20 @@ TEST_P(Texts, HaveRoomInTheSettings)
     context.model.setMovingID({});
     context.click(u"shortcutPicker"_s);
     ASSERT_TRUE(context.item(u"shortcutPickerList"_s));
+}
+
+TEST_P(Texts, HaveRoomInTheSettingsOfASessionsMenuBar)
+{
+    using platform::NotchStyle;
+    for (const NotchStyle style : {NotchStyle::machine, NotchStyle::drawn, NotchStyle::none, NotchStyle::given}) {
+        MenuBar menuBar;
+        menuBar.style = style;
+        MenuBarChoices choices(menuBar);
+        context.showSettings(1, &choices);
+        ASSERT_TRUE(context.item(u"notchPicker"_s));
+        expectRoom(u"notch %1"_s.arg(int(style)));
+        context.showSettings(); // lets go of the choices
+    }
 }
 
 TEST(PendingLabel, CountsInTheLanguageOfTheUser)

@@ -14,8 +14,14 @@ constexpr double kLineOpacity = 0.12; // of the white at the lower end
 constexpr double kMiterLimit = 10;
 constexpr double kEdge = 1; // points on either side of an edge that its line may touch
 
+// Of the upper edge between the flares: only a border runs along it.
+double upperEdge(const NotchOutline &outline)
+{
+    return outline.isBorder ? kEdge : 0;
+}
+
 // The pieces that hold a part of the outline.
-std::array<QRectF, 7> outlinePieces(const NotchShape &shape, QSizeF size)
+std::array<QRectF, 8> outlinePieces(const NotchShape &shape, QSizeF size, const NotchOutline &outline)
 {
     const double left = shape.top;
     const double right = size.width() - shape.top;
@@ -29,16 +35,17 @@ std::array<QRectF, 7> outlinePieces(const NotchShape &shape, QSizeF size)
             QRectF(right - kEdge, shape.top, 2 * kEdge, low - shape.top),
             QRectF(left - kEdge, low, r + kEdge, r + kEdge),
             QRectF(right - r, low, r + kEdge, r + kEdge),
-            QRectF(left + r, bottom - kEdge, right - left - 2 * r, 2 * kEdge)};
+            QRectF(left + r, bottom - kEdge, right - left - 2 * r, 2 * kEdge),
+            QRectF(flare, 0, size.width() - 2 * flare, upperEdge(outline))};
 }
 
 // What is inside all of them.
-std::array<QRectF, 2> innerPieces(const NotchShape &shape, QSizeF size)
+std::array<QRectF, 2> innerPieces(const NotchShape &shape, QSizeF size, const NotchOutline &outline)
 {
     const double left = shape.top;
     const double right = size.width() - shape.top;
     const double low = size.height() - shape.bottom;
-    return {QRectF(QPointF(left + kEdge, 0), QPointF(right - kEdge, low)),
+    return {QRectF(QPointF(left + kEdge, upperEdge(outline)), QPointF(right - kEdge, low)),
             QRectF(QPointF(left + shape.bottom, low), QPointF(right - shape.bottom, size.height() - kEdge))};
 }
 
@@ -76,12 +83,12 @@ NotchTabNode::NotchTabNode(QQuickWindow &window) : m_window(window) { }
 
 void NotchTabNode::show(const NotchShape &shape, QSizeF size, const NotchOutline &outline, double scale)
 {
-    const auto inner = innerPieces(shape, size);
+    const auto inner = innerPieces(shape, size, outline);
     for (std::size_t i = 0; i < kRectangles; ++i)
         showRectangle(i, inner[i]);
     const QPainterPath path = shape.path(QRectF(QPointF(), size));
     const QPen pen = outlinePen(size, outline);
-    const auto pieces = outlinePieces(shape, size);
+    const auto pieces = outlinePieces(shape, size, outline);
     for (std::size_t i = 0; i < kPictures; ++i)
         showPicture(i, pieces[i],
                     pieces[i].isValid() ? paintedPiece(pieces[i], path, pen, outline.isBorder, scale) : QImage());

@@ -28,7 +28,7 @@ public:
     void show(const NotchShape &shape, QSizeF size, const NotchOutline &outline, double scale);
 
 private:
-    static constexpr std::size_t kPictures = 7;
+    static constexpr std::size_t kPictures = 8;
     static constexpr std::size_t kRectangles = 2;
 
     void showRectangle(std::size_t index, const QRectF &rect);

@@ -6,7 +6,8 @@ namespace brimshade::desktop {
 AnimationClock::AnimationClock(VirtualDispatch &clock) : m_clock(clock)
 {
     install();
-    m_clock.setFrames([this] { return isRunning(); }, [this] { advance(); });
+    // By the time of a frame all may have ended, and to advance then would start the toolkit's clock for nothing.
+    m_clock.setFrames([this] { return isRunning(); }, [this] { catchUp(); });
 }
 
 AnimationClock::~AnimationClock()

@@ -7,12 +7,19 @@ Item {
     id: root
 
     required property bool isPrimary
+    required property real barHeight // 0 where there is none
     required property var images // of the dock
 
     clip: true
 
     Wallpaper {
         anchors.fill: parent
+    }
+    FrostedWallpaper {
+        visible: root.barHeight > 0
+        width: root.width
+        height: root.barHeight
+        whole: Qt.size(root.width, root.height)
     }
     DocumentWindow {
         visible: root.isPrimary && root.width >= 1000
@@ -21,6 +28,7 @@ Item {
     }
     DockView {
         visible: root.isPrimary
+        whole: Qt.size(root.width, root.height)
         images: root.images
         anchors.horizontalCenter: parent.horizontalCenter
         anchors.bottom: parent.bottom

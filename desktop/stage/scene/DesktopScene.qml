@@ -27,6 +27,7 @@ FocusScope {
             Backdrop {
                 required property rect modelData
                 required property int index
+                readonly property BarModel bar: root.desktop.bar
 
                 x: modelData.x
                 y: modelData.y
@@ -34,6 +35,7 @@ FocusScope {
                 width: modelData.width
                 height: modelData.height
                 isPrimary: index === 0
+                barHeight: bar.isShowing && bar.frame.x === modelData.x && bar.frame.y === modelData.y ? bar.frame.height : 0
                 images: root.desktop.dockImages
             }
         }

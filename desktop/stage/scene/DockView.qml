@@ -1,5 +1,6 @@
 pragma ComponentBehavior: Bound
 import QtQuick
+import Brimshade.Stage
 import Brimshade.Ui
 
 // The running applications' icons at the foot of the screen. A decoration: applications are opened elsewhere.
@@ -7,6 +8,7 @@ Item {
     id: root
 
     required property var images
+    required property size whole // of the screen
 
     width: row.width + 20
     height: 66
@@ -18,6 +20,12 @@ Item {
         radius: 20
         blur: 12
         color: Qt.rgba(0, 0, 0, 0.3)
+    }
+    FrostedWallpaper {
+        anchors.fill: parent
+        whole: root.whole
+        origin: Qt.point(root.x, root.y)
+        radius: 20
     }
     RoundedShape {
         anchors.fill: parent

@@ -33,6 +33,7 @@ Item {
 
         BarItemView {
             origin: root.bar.frame.x
+            glides: root.bar.isRearranging
             visible: root.bar.isShowing
         }
     }

@@ -210,17 +210,21 @@ void paintShore(QPainter &painter, const QSizeF &size)
 
 } // namespace
 
+void paintWallpaper(QPainter &painter, const QSizeF &size)
+{
+    painter.setPen(Qt::NoPen);
+    paintSky(painter, size);
+    paintStars(painter, size);
+    paintClouds(painter, size);
+    paintHills(painter, size);
+    paintLake(painter, size);
+    paintRipples(painter, size);
+    paintShore(painter, size);
+}
+
 void Wallpaper::draw(QPainter &painter, double) const
 {
-    const QSizeF dimensions(width(), height());
-    painter.setPen(Qt::NoPen);
-    paintSky(painter, dimensions);
-    paintStars(painter, dimensions);
-    paintClouds(painter, dimensions);
-    paintHills(painter, dimensions);
-    paintLake(painter, dimensions);
-    paintRipples(painter, dimensions);
-    paintShore(painter, dimensions);
+    paintWallpaper(painter, size());
 }
 
 } // namespace brimshade::desktop

@@ -3,6 +3,9 @@
 
 namespace brimshade::desktop {
 
+// For a screen of that size in points. Any thread.
+void paintWallpaper(QPainter &painter, const QSizeF &size);
+
 // The picture behind everything: dusk over a lake between hills. Drawn by code for the item's size.
 class Wallpaper : public brimshade::ui::DrawnItem {
     Q_OBJECT

@@ -133,6 +133,50 @@ TEST_F(BarTest, RearrangesByCommandDragsAndByNothingElse)
     }
 }
 
+// What shows meanwhile is no more than that: frames change once the bar has settled after the drop.
+TEST_F(BarTest, MakesWayForAnItemThatAHandHas)
+{
+    const auto places = [this] {
+        QStringList places;
+        for (const BarItem &item : desktop.menuBar().items()) {
+            places << u"%1 %2"_s.arg(item.identifier.section(u'.', 1)).arg(item.place);
+            if (item.dragOffset != 0)
+                places.last() += u" %1"_s.arg(item.dragOffset);
+        }
+        return places.join(u", "_s);
+    };
+    const QString before = u"three 1282, two 1312, one 1342, example.clock 1372"_s;
+    ASSERT_EQ(places(), before);
+    press({1350, 18}, MouseButton::left, kCommandFlag);
+    const std::tuple<const char *, QPointF, QString> cases[]{
+        {"not yet past the middle of another", {1330, 18}, u"three 1282, two 1312, one 1342 -20, example.clock 1372"_s},
+        {"past it", {1320, 18}, u"three 1282, two 1342, one 1342 -30, example.clock 1372"_s},
+        {"past the next", {1290, 18}, u"three 1312, two 1342, one 1342 -60, example.clock 1372"_s},
+        {"back again", {1320, 18}, u"three 1282, two 1342, one 1342 -30, example.clock 1372"_s},
+        {"out of the row", {1290, 200}, u"three 1282, two 1312, one 1342 -60, example.clock 1372"_s},
+        {"and in it", {1290, 18}, u"three 1312, two 1342, one 1342 -60, example.clock 1372"_s},
+    };
+    for (const auto &[what, at, shown] : cases) {
+        moveTo(at, kCommandFlag);
+        EXPECT_EQ(places(), shown) << what;
+        EXPECT_TRUE(desktop.menuBar().isRearranging());
+        EXPECT_EQ(barFrame(u"b.three"_s).x(), 1282) << what;
+    }
+    desktop.quit(12);
+    EXPECT_EQ(places(), u"one 1342 -60, example.clock 1372"_s);
+    desktop.launch({.description = application(13, {extra(u"c.four"_s)})});
+    settle();
+    EXPECT_EQ(places(), u"four 1342, one 1342 -60, example.clock 1372"_s) << "an item that came meanwhile";
+
+    desktop.input().released(MouseButton::left, kCommandFlag);
+    EXPECT_EQ(places(), u"four 1342, one 1312, example.clock 1372"_s) << "at once";
+    EXPECT_EQ(barFrame(u"a.one"_s).x(), 1342);
+    settle();
+    EXPECT_EQ(places(), u"one 1312, four 1342, example.clock 1372"_s);
+    EXPECT_EQ(barFrame(u"a.one"_s).x(), 1312);
+    EXPECT_FALSE(desktop.menuBar().isRearranging());
+}
+
 TEST_F(BarTest, TellsAnItemWhatThePersonAsksOfIt)
 {
     std::vector<ItemGesture> asked;

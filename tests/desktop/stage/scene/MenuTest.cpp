@@ -160,4 +160,33 @@ TEST_F(MenuTest, MakesOnlyTheRowsOfALongListThatShow)
     EXPECT_TRUE(kScreen.contains(rowFrame(u"Entry 285"_s))) << "a hundred steps of three rows further up";
 }
 
+TEST_F(MenuTest, HasRoomForEveryTitle)
+{
+    MenuEntry keyed = entry(1, u"Zwischenablage öffnen und schließen"_s);
+    keyed.shortcut = u"Strg+Umschalt+V"_s;
+    MenuEntry nested = entry(2, u"Weitere Möglichkeiten …"_s);
+    nested.hasSubmenu = true;
+    const std::vector<std::vector<MenuEntry>> menus{
+        {entry(1, u"i"_s)},
+        {entry(1, u"Hide from Menu Bar"_s), entry(2, u"Aus der Menüleiste ausblenden"_s)},
+        {keyed, entry(2, u"WWW"_s)},
+        {nested, entry(3, u"Xg"_s)},
+    };
+    for (const auto &entries : menus) {
+        context.desktop().menus().open(std::make_shared<ScriptedMenu>(entries), QRectF(300, 0, 30, 30));
+        context.settle();
+        int texts = 0;
+        for (const QQuickItem *row : context.findAll(u"menuRow"_s)) {
+            for (const QQuickItem *text : row->childItems()) {
+                if (!text->inherits("QQuickText") || !text->isVisible())
+                    continue;
+                ++texts;
+                EXPECT_FALSE(text->property("truncated").toBool()) << qPrintable(text->property("text").toString());
+            }
+        }
+        EXPECT_GE(texts, int(entries.size()));
+        context.desktop().menus().dismiss();
+    }
+}
+
 } // namespace brimshade::desktop

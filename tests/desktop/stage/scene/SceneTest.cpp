@@ -1,7 +1,11 @@
 #include "SceneContext.h"
+#include "desktop/core/Permission.h"
 #include "desktop/stage/builtin/BuiltInDesktop.h"
+#include "i18n/Translation.h"
 
+#include <QGuiApplication>
 #include <QImageReader>
+#include <QTranslator>
 
 namespace brimshade::desktop {
 
@@ -184,6 +188,43 @@ TEST(Bar, KeepsTheViewsOfTheItemsThatStay)
     EXPECT_EQ(ledger->width(), 40);
 }
 
+TEST(Bar, FollowsTheHandWithAnItemAndGlidesWithTheOthers)
+{
+    SceneContext context;
+    context.desktop().launch({.description = application(900, u"Ledger"_s, {extra(u"ledger.main"_s, 40)})});
+    context.advance(0.2);
+    const QQuickItem *ledger = context.findAll(u"barItem"_s).first();
+    const QQuickItem *relay = context.findAll(u"barItem"_s).last();
+    const double left = ledger->x(), right = relay->x(), width = relay->width();
+    const QPointF grip(left + 10, 10);
+    context.move(grip);
+    context.scene().press(MouseButton::left, platform::kCommandFlag);
+    const auto drag = [&](double by) { context.scene().movePointer(grip + QPointF(by, 0), platform::kCommandFlag); };
+    const auto isBetween = [](double x, double one, double other) {
+        return x > std::min(one, other) + 0.5 && x < std::max(one, other) - 0.5;
+    };
+    drag(3);
+    EXPECT_EQ(ledger->x(), left + 3);
+    context.advance(0.05);
+    drag(width + 25); // past its middle
+    EXPECT_EQ(ledger->x(), left + width + 25) << "at once";
+    EXPECT_EQ(relay->x(), right);
+    context.advance(0.1);
+    EXPECT_TRUE(isBetween(relay->x(), right, left)) << relay->x();
+    context.advance(1);
+    EXPECT_NEAR(relay->x(), left, 0.1);
+
+    context.scene().release(MouseButton::left, platform::kCommandFlag);
+    context.advance(0.05);
+    EXPECT_TRUE(isBetween(ledger->x(), left + width + 25, left + width)) << ledger->x();
+    context.advance(1);
+    EXPECT_NEAR(ledger->x(), left + width, 0.1);
+    EXPECT_NEAR(relay->x(), left, 0.1);
+    context.desktop().quit(812);
+    context.advance(0.11);
+    EXPECT_NEAR(ledger->x(), left + width, 0.1) << "no hand has anything: it is there";
+}
+
 TEST(BuiltInDesktop, HasReadablePicturesAndMenusThatSayWhatWasChosen)
 {
     QStringList icons;
@@ -209,6 +250,37 @@ TEST(BuiltInDesktop, HasReadablePicturesAndMenusThatSayWhatWasChosen)
     const auto banners = context.findAll(u"banner"_s);
     ASSERT_EQ(banners.size(), 1);
     EXPECT_TRUE(banners.first()->property("what").toString().contains(u"Show Calendar"_s));
+}
+
+void expectRoomForTexts(const QQuickItem &item, int &texts)
+{
+    if (!item.isVisible())
+        return;
+    const QString text = item.inherits("QQuickText") ? item.property("text").toString() : QString();
+    if (!text.isEmpty()) {
+        ++texts;
+        EXPECT_FALSE(item.property("truncated").toBool()) << qPrintable(text);
+        EXPECT_LE(item.property("contentWidth").toDouble(), item.width() + 0.5) << qPrintable(text);
+        EXPECT_LE(item.property("contentHeight").toDouble(), item.height() + 0.5) << qPrintable(text);
+    }
+    for (const QQuickItem *child : item.childItems())
+        expectRoomForTexts(*child, texts);
+}
+
+TEST(Texts, OfTheDesktopItselfHaveRoomInEveryLanguage)
+{
+    for (const char *name : {"en", "de"}) {
+        SCOPED_TRACE(name);
+        i18n::installTranslation(*qApp, QLocale(QString::fromLatin1(name)));
+        SceneContext context(builtInDesktop());
+        context.desktop().permission().openPrompt();
+        context.desktop().permission().openPage();
+        context.settle();
+        int texts = 0;
+        expectRoomForTexts(*context.scene().quickWindow()->contentItem(), texts);
+        EXPECT_GT(texts, 12);
+        qDeleteAll(qApp->findChildren<QTranslator *>());
+    }
 }
 
 } // namespace brimshade::desktop

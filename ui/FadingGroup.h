@@ -1,0 +1,49 @@
+#pragma once
+#include "FadeGround.h"
+
+#include <memory>
+#include <qqml.h>
+
+namespace brimshade::ui {
+
+// Fades what it holds as one: what overlaps in it does not show through, as it would with an opacity of the item's own.
+// The software renderer has no layer to be drawn as one. There the group is drawn opaque, and what was there before is
+// laid over it again, which comes to the same; it must be opaque itself. Another renderer gives the group an opacity.
+class FadingGroup : public QQuickItem {
+    Q_OBJECT
+    QML_ELEMENT
+    Q_PROPERTY(double shown READ shown WRITE setShown NOTIFY shownChanged) // 0 to 1, instead of an opacity
+    Q_PROPERTY(double reach MEMBER m_reach NOTIFY changed) // points beyond the item in which it is drawn, too
+    Q_PROPERTY(bool asOne MEMBER m_isAsOne NOTIFY changed) // false where nothing overlaps: that is cheaper
+    // For who asks what can be seen: what the opacities of the item and its ancestors do not say.
+    Q_PROPERTY(double groupOpacity READ groupOpacity NOTIFY shownChanged)
+
+public:
+    explicit FadingGroup(QQuickItem *parent = nullptr);
+    ~FadingGroup() override;
+
+    double shown() const { return m_shown; }
+    void setShown(double shown);
+    double groupOpacity() const { return m_veil ? m_shown : 1; }
+
+Q_SIGNALS:
+    void shownChanged();
+    void changed();
+
+protected:
+    void itemChange(ItemChange change, const ItemChangeData &data) override;
+    void geometryChange(const QRectF &newGeometry, const QRectF &oldGeometry) override;
+
+private:
+    bool isVeiled() const;
+    void fade();
+    void layOut();
+
+    double m_shown = 1;
+    double m_reach = 4;
+    bool m_isAsOne = true;
+    std::unique_ptr<FadeGround> m_ground; // both while it is veiled
+    std::unique_ptr<FadeVeil> m_veil;
+};
+
+} // namespace brimshade::ui
