@@ -20,6 +20,7 @@ void say(const QString &text)
 HostedTray::HostedTray(desktop::Desktop &desktop, platform::Dispatch &dispatch,
                        desktop::tray::Surroundings surroundings, desktop::tray::ItemPlaces places,
                        const std::optional<QString> &stateFile)
+    : m_desktop(desktop)
 {
     if (stateFile)
         m_order = std::make_unique<desktop::KeptOrderFile>(*stateFile, desktop.menuBar(), dispatch, say);
@@ -29,5 +30,12 @@ HostedTray::HostedTray(desktop::Desktop &desktop, platform::Dispatch &dispatch,
 }
 
 HostedTray::~HostedTray() = default;
+
+void HostedTray::dockIcons(desktop::session::XEmbedItems::ToScreen toScreen, double pixelsPerPoint)
+{
+    m_docked = std::make_unique<desktop::session::XEmbedItems>(m_desktop, m_host->programs(), std::move(toScreen),
+                                                               pixelsPerPoint);
+    QObject::connect(m_docked.get(), &desktop::session::XEmbedItems::message, m_docked.get(), say);
+}
 
 } // namespace brimshade::composition

@@ -1,4 +1,5 @@
 #pragma once
+#include "desktop/session/xembed/XEmbedItems.h"
 #include "desktop/tray/Surroundings.h"
 
 #include <QString>
@@ -30,9 +31,14 @@ public:
     ~HostedTray();
     Q_DISABLE_COPY_MOVE(HostedTray)
 
+    // Shows what programs dock into the tray of the X server, too.
+    void dockIcons(desktop::session::XEmbedItems::ToScreen toScreen, double pixelsPerPoint);
+
 private:
+    desktop::Desktop &m_desktop;
     std::unique_ptr<desktop::KeptOrderFile> m_order;
     std::unique_ptr<desktop::TrayHost> m_host;
+    std::unique_ptr<desktop::session::XEmbedItems> m_docked;
 };
 
 } // namespace brimshade::composition

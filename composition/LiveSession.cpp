@@ -44,6 +44,11 @@ QList<QByteArray> deviceTreeNames()
     return file.open(QIODevice::ReadOnly) ? file.read(most).split('\0') : QList<QByteArray>();
 }
 
+bool isX11()
+{
+    return QGuiApplication::platformName() == "xcb"_L1;
+}
+
 } // namespace
 
 // In the order in which they come to life; taken down in the opposite one.
@@ -113,6 +118,8 @@ LiveSession::Parts::Parts(LiveSessionOptions options, std::unique_ptr<ShellBacke
         tray = std::make_unique<HostedTray>(
             desktop, dispatch, surroundings([this](QPointF point) { return host.toScreen(point); }, tokens.get()),
             desktop::tray::ItemPlaces::kept, options.stateFile);
+        if (isX11())
+            tray->dockIcons([this](QPointF point) { return host.toScreen(point); }, qGuiApp->devicePixelRatio());
     }
     refuseInvented();
     desktop::session::addStickCommand(script);
@@ -143,7 +150,7 @@ void LiveSession::Parts::refuseInvented()
 
 void LiveSession::Parts::grabKeys()
 {
-    if (QGuiApplication::platformName() == "xcb"_L1) {
+    if (isX11()) {
         desktop.hotkeys().setGrabber(desktop::X11KeyGrabber::create(0)); // the panel takes the keys by itself
         return;
     }

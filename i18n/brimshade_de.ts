@@ -577,7 +577,7 @@ Brimshade öffnet die Notch und zeigt sie alle.</translation>
     </message>
 </context>
 <context>
-    <name>brimshade::desktop::tray::TrayPrograms</name>
+    <name>brimshade::desktop::tray::BusItems</name>
     <message>
         <source>The program does not answer.</source>
         <translation>Das Programm antwortet nicht.</translation>

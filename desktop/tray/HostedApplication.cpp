@@ -60,7 +60,7 @@ ItemSpec specOf(const HostedItem &hosted, const QString &program)
             .offer = {hosted.canBeActivated, hosted.item.status == TrayItem::Status::needsAttention,
                       toolTipOf(hosted.item), hosted.pictures.overlay},
             .isAway = hosted.item.status == TrayItem::Status::passive,
-            .origin = ItemOrigin{hosted.key.text(), program, hosted.item.id}};
+            .origin = ItemOrigin{hosted.instance, program, hosted.item.id}};
 }
 
 } // namespace
@@ -89,9 +89,9 @@ ApplicationSpec describeApplication(int pid, const HostedProgram &program, const
     for (const auto &hosted : items) {
         auto identifier = hosted.item.id;
         if (identifier.isEmpty() || given.items.contains(identifier))
-            identifier = hosted.key.path;
+            identifier = hosted.path;
         if (given.items.contains(identifier)) // the same path on another connection of the program
-            identifier = hosted.key.text();
+            identifier = hosted.instance;
         extras.push_back(describeExtra(hosted.item, identifier));
         given.items.emplace(identifier, specOf(hosted, program.found.name));
     }

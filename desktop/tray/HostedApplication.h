@@ -8,7 +8,8 @@ namespace brimshade::desktop::tray {
 
 // One item of a program as its application shows it.
 struct HostedItem {
-    ItemKey key;
+    QString instance; // this very item among all, as long as it is there
+    QString path; // it among those of one connection of its program
     TrayItem item;
     ItemPictures pictures;
     ItemHandler handler;
@@ -27,7 +28,7 @@ QString applicationName(const HostedProgram &program, const std::vector<HostedIt
 
 // The application that a process with these items, in the order in which they came, is on the desktop. Its icon is the
 // desktop entry's, else that of the first item that has one. An extra is identified by the item's id, or where that is
-// missing or taken by the object path; its place is kept by the program and the item's id.
+// missing or taken by the path; its place is kept by the program and the item's id.
 ApplicationSpec describeApplication(int pid, const HostedProgram &program, const std::vector<HostedItem> &items);
 
 } // namespace brimshade::desktop::tray

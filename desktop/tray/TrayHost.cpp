@@ -1,5 +1,6 @@
 #include "TrayHost.h"
 
+#include "BusItems.h"
 #include "TrayPrograms.h"
 #include "desktop/core/Desktop.h"
 
@@ -8,28 +9,30 @@ namespace brimshade::desktop {
 using namespace tray;
 
 struct TrayHost::Parts {
-    Parts(ConnectToBus connect, platform::Dispatch &dispatch, Surroundings given)
-        : surroundings(std::move(given)), workshop(dispatch), bus(std::move(connect), dispatch)
+    Parts(Desktop &desktop, ConnectToBus connect, platform::Dispatch &dispatch, ItemPlaces places, Surroundings given)
+        : surroundings(std::move(given)), workshop(dispatch), programs(desktop, workshop, places),
+          bus(std::move(connect), dispatch)
     {
     }
 
     const Surroundings surroundings;
     Workshop workshop;
+    TrayPrograms programs;
     BusLink bus;
-    std::unique_ptr<TrayPrograms> programs; // while there is a bus
+    std::unique_ptr<BusItems> items; // while there is a bus
 };
 
 TrayHost::TrayHost(Desktop &desktop, ConnectToBus connect, platform::Dispatch &dispatch, ItemPlaces places,
                    Surroundings surroundings)
-    : m_parts(std::make_unique<Parts>(std::move(connect), dispatch, std::move(surroundings)))
+    : m_parts(std::make_unique<Parts>(desktop, std::move(connect), dispatch, places, std::move(surroundings)))
 {
-    QObject::connect(&m_parts->bus, &BusLink::connected, this, [this, &desktop, places](const QDBusConnection &bus) {
-        m_parts->programs =
-            std::make_unique<TrayPrograms>(desktop, bus, m_parts->workshop, m_parts->surroundings, places);
-        QObject::connect(m_parts->programs.get(), &TrayPrograms::message, this, &TrayHost::message);
+    QObject::connect(&m_parts->bus, &BusLink::connected, this, [this, &desktop](const QDBusConnection &bus) {
+        m_parts->items =
+            std::make_unique<BusItems>(desktop, bus, m_parts->programs, m_parts->workshop, m_parts->surroundings);
+        QObject::connect(m_parts->items.get(), &BusItems::message, this, &TrayHost::message);
     });
     QObject::connect(&m_parts->bus, &BusLink::lost, this, [this, &desktop] {
-        m_parts->programs.reset();
+        m_parts->items.reset();
         const QString text = tr("The session's message bus is gone, and the tray's items with it.");
         desktop.notify(QStringLiteral("Brimshade"), text);
         Q_EMIT message(text);
@@ -40,6 +43,11 @@ TrayHost::TrayHost(Desktop &desktop, ConnectToBus connect, platform::Dispatch &d
 }
 
 TrayHost::~TrayHost() = default;
+
+TrayPrograms &TrayHost::programs()
+{
+    return m_parts->programs;
+}
 
 QDBusConnection connectToSessionBus(const QString &name)
 {

@@ -7,6 +7,10 @@ namespace brimshade::desktop {
 
 class Desktop;
 
+namespace tray {
+class TrayPrograms;
+}
+
 // The tray items of the Linux session as applications of the desktop. A process that owns items is launched when
 // its first item has been read, changed whenever one of them changes, and quit with its last one. Where the bus goes
 // the items go, and come with the next one.
@@ -19,6 +23,9 @@ public:
     TrayHost(Desktop &desktop, tray::ConnectToBus connect, platform::Dispatch &dispatch, tray::ItemPlaces places,
              tray::Surroundings surroundings = {});
     ~TrayHost() override;
+
+    // For items that come another way than over the bus; they go before it does.
+    tray::TrayPrograms &programs();
 
 Q_SIGNALS:
     // One line, without a line break, about an item or a menu that could not be shown as its program asked.

@@ -1,9 +1,10 @@
 #pragma once
 #include "HostedApplication.h"
 #include "ItemPlaces.h"
-#include "ItemRegistry.h"
+#include "Workshop.h"
 
 #include <map>
+#include <vector>
 
 namespace brimshade::desktop {
 class Desktop;
@@ -11,46 +12,37 @@ class Desktop;
 
 namespace brimshade::desktop::tray {
 
-// The programs that have tray items on one bus, as applications of the desktop. They quit with it. Main thread; the
-// Desktop, the workshop and the surroundings outlive it.
-class TrayPrograms : public QObject {
-    Q_OBJECT
+// The programs that have tray items, as applications of the desktop: launched with their first item, changed with each
+// of them, quit with the last one. A process is one application, whichever way its items come. Main thread; the Desktop
+// and the workshop outlive it.
+class TrayPrograms {
 public:
-    TrayPrograms(Desktop &desktop, const QDBusConnection &bus, const Workshop &workshop,
-                 const Surroundings &surroundings, ItemPlaces places);
-    ~TrayPrograms() override;
+    TrayPrograms(Desktop &desktop, const Workshop &workshop, ItemPlaces places);
+    ~TrayPrograms();
+    Q_DISABLE_COPY_MOVE(TrayPrograms)
 
-Q_SIGNALS:
-    void message(const QString &text);
+    // A new item of that process, or what the one of that instance has become. A process that is not known has a number
+    // below 0 of its own.
+    void show(int pid, const HostedItem &item);
+    void remove(int pid, const QString &instance); // or nothing, where it was never shown
+    QString nameOf(int pid) const;
 
 private:
     struct Program {
         int hostedId = 0; // 0: not launched
         bool isLookedUp = false;
         HostedProgram known;
-        std::vector<std::unique_ptr<ItemClient>> items; // as they came
+        std::vector<HostedItem> items; // as they came
     };
 
-    void add(const ItemKey &key);
-    void remove(const ItemKey &key);
-    void place(const ItemKey &key, int pid);
-    bool isPlaced(const ItemKey &key) const;
     void lookUp(int pid);
     void lookedUp(int pid, const HostedProgram &known);
-    void update(int pid);
-    ApplicationSpec describe(const Program &program, const std::vector<HostedItem> &items) const;
-    void show(int pid, Program &program, const std::vector<HostedItem> &items);
-    void openMenu(MenuClient *menu, const QRectF &frame);
-    void lapsePresses();
-    void tellUnanswered(int pid);
-    static std::vector<HostedItem> hosted(const Program &program);
+    void update(int pid, Program &program);
+    ApplicationSpec describe(const Program &program) const;
 
     Desktop &m_desktop;
-    QDBusConnection m_bus;
     const Workshop &m_workshop;
-    const Surroundings &m_surroundings;
     const ItemPlaces m_places;
-    ItemRegistry m_registry;
     std::map<int, Program> m_programs; // by process id
     Lifetime m_lifetime;
 };

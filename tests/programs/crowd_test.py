@@ -1,18 +1,17 @@
-"""Nine tray programs of four makes in one session: each found, opened by name, chosen from, followed and gone."""
+"""Eleven tray programs of five makes in one X11 session whose bar is Brimshade: each found, opened by name, chosen from,
+followed and gone."""
+import json
 import pathlib
+import subprocess
 import sys
 import unittest
 
 sys.path.insert(0, str(pathlib.Path(__file__).resolve().parent.parent / "support"))
-from program import Session  # noqa: E402
+from program import Program, Session  # noqa: E402
 
 PROGRAM = sys.argv.pop(1)
 RETURN, ESCAPE = 36, 53
 PATIENCE = 600  # tenths of a second: so many programs start slowly on a busy machine
-DESKTOP = {
-    "screens": [{"name": "Built-in Display", "frame": [0, 0, 1512, 982], "menuBarHeight": 37, "notch": [663, 849]}],
-    "applications": [], "defaults": {"onboardingDone": True},
-}
 QT6_ITEM = """
 import sys
 from PyQt6.QtGui import QIcon, QPixmap
@@ -43,6 +42,12 @@ PROGRAMS = {
     "Psensor": (["psensor"], "About", "window:About Psensor", "Quit"),
     "Counter of Qt 6": (["/usr/bin/python3", "-c", QT6_ITEM], "Count: 0", "entry:Count: 1", "Quit"),
 }
+# They dock a window and open menus of their own, past Brimshade: tile, command and class, the keys that choose an entry,
+# the window that it shows, the keys that choose the last entry.
+DOCKED = {
+    "Parcellite": ("parcellite", ["Down", "Return"], "About Parcellite", ["Up", "Return"]),
+    "volumeicon": ("volumeicon", ["Down", "Down", "Return"], "Preferences", ["Up", "Return"]),
+}
 
 
 class Crowd(unittest.TestCase):
@@ -53,26 +58,51 @@ class Crowd(unittest.TestCase):
         cls.session.write(".config/keepassxc/keepassxc.ini",
                           "[General]\nUpdateCheckMessageShown=true\n[GUI]\nShowTrayIcon=true\nMinimizeToTray=true\n")
         cls.session.write(".config/copyq/copyq.conf", "[Options]\nconfirm_exit=false\n")
-        cls.brimshade = cls.session.start_program(PROGRAM, DESKTOP, "--tray", "--real-time")
+        cls.session.write("settings.json", json.dumps({"onboardingDone": True}))
+        cls.session.start_window_manager()
+        cls.brimshade = Program(cls.session.start(
+            PROGRAM, "--session", "--script", "-", "--real-time", "--defaults", str(cls.session.home / "settings.json"),
+            stdin=subprocess.PIPE, stdout=subprocess.PIPE, text=True))
         cls.brimshade.until("watcher", lambda s: "boolean true" in cls.session.output_of(
             "dbus-send", "--session", "--print-reply", "--dest=org.freedesktop.DBus", "/",
             "org.freedesktop.DBus.NameHasOwner", "string:org.kde.StatusNotifierWatcher"))
         cls.processes = {name: cls.session.start(*command) for name, (command, *_) in PROGRAMS.items()}
-        cls.brimshade.until("all in the bar", lambda s: len(s["menuBar"]) == len(PROGRAMS) + 1, PATIENCE)
+        cls.processes |= {name: cls.session.start(command) for name, (command, *_) in DOCKED.items()}
+        cls.brimshade.until("all in the bar", lambda s: cls.items(s) == len(cls.processes), PATIENCE)
         cls.brimshade.until("KeePassXC's window", lambda s: cls.has_window("KeePassXC"), PATIENCE)
 
+    @staticmethod
+    def items(state):
+        """Without Brimshade's and the clock's."""
+        return len(state["menuBar"]) - 2
+
     def open_panel(self):
-        self.brimshade.do("click", at=self.brimshade.status_item())
+        self.brimshade.until("nothing open", lambda s: not s["panel"]["onScreen"] and not s["menu"])
+        self.session.output_of(PROGRAM, "--toggle")
         return self.brimshade.until("open panel", lambda s: s["model"]["isOpen"] and s["panel"]["isKey"] and s)
 
-    def open_menu(self, name):
-        """Opens the panel, types the name, Return; answers with the titles of the menu that opens."""
+    def choose_tile(self, name):
+        """Opens the panel, types the name, Return."""
         self.open_panel()
         self.brimshade.do("type", text=name)
         self.brimshade.until(f"one match of {name}", lambda s: len(
-            s["model"]["hiddenMatches"] + s["model"]["visibleMatches"]) == 1, PATIENCE)
+            s["model"]["hiddenMatches"] + s["model"]["visibleMatches"]) == 1 and s["model"]["selectedID"], PATIENCE)
         self.brimshade.do("key", code=RETURN)
+
+    def open_menu(self, name):
+        """Answers with the titles of the menu that opens."""
+        self.choose_tile(name)
         return self.brimshade.until(f"menu of {name}", lambda s: s["menu"], PATIENCE)
+
+    def choose_from_own_menu(self, name, class_name, keys):
+        self.choose_tile(name)
+        before = self.windows_of(class_name)
+        self.brimshade.until(f"menu of {name}", lambda s: self.windows_of(class_name) - before, PATIENCE)
+        for key in keys:
+            self.session.xdotool("key", key)
+
+    def windows_of(self, class_name):
+        return set(self.session.output_of("xdotool", "search", "--onlyvisible", "--class", class_name).split())
 
     @classmethod
     def has_window(cls, name):
@@ -89,7 +119,7 @@ class Crowd(unittest.TestCase):
     def test_1_all_are_found_and_pictured(self):
         self.open_panel()
         self.brimshade.until("all names", lambda s: {e["name"] for e in s["model"]["extras"] if e["hasIcon"]}
-                             == set(PROGRAMS), PATIENCE)
+                             == set(self.processes), PATIENCE)
         self.brimshade.do("key", code=ESCAPE)
         self.brimshade.until("closed panel", lambda s: not s["panel"]["onScreen"])
 
@@ -100,15 +130,28 @@ class Crowd(unittest.TestCase):
                 self.brimshade.do("choose", title=entry)
                 self.brimshade.until(f"{effect} of {name}", lambda s: self.has_come(name, effect), PATIENCE)
 
-    def test_3_each_quits_by_its_menu_and_its_item_goes(self):
-        left = len(PROGRAMS)
-        for name, (*_, last) in PROGRAMS.items():
+    def test_2b_each_that_draws_its_own_menu_does_what_is_chosen_in_it(self):
+        for name, (class_name, keys, window, _) in DOCKED.items():
             with self.subTest(name):
-                self.assertEqual(self.open_menu(name)[-1], last)
-                self.brimshade.do("choose", title=last)
+                self.choose_from_own_menu(name, class_name, keys)
+                self.brimshade.until(f"{window} of {name}", lambda s: self.has_window(window), PATIENCE)
+                self.session.xdotool("key", "alt+F4")
+                self.brimshade.until(f"no {window} of {name}", lambda s: not self.has_window(window), PATIENCE)
+
+    def test_3_each_quits_by_its_menu_and_its_item_goes(self):
+        left = len(self.processes)
+        for name in self.processes:
+            with self.subTest(name):
+                if name in DOCKED:
+                    class_name, *_, keys = DOCKED[name]
+                    self.choose_from_own_menu(name, class_name, keys)
+                else:
+                    last = PROGRAMS[name][-1]
+                    self.assertEqual(self.open_menu(name)[-1], last)
+                    self.brimshade.do("choose", title=last)
                 self.brimshade.until(f"end of {name}", lambda s: self.processes[name].poll() is not None, PATIENCE)
                 left -= 1
-                self.brimshade.until(f"{left} items", lambda s: len(s["menuBar"]) == left + 1)
+                self.brimshade.until(f"{left} items", lambda s: self.items(s) == left)
 
 
 if __name__ == "__main__":

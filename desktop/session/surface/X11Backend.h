@@ -1,10 +1,10 @@
 #pragma once
 #include "ConnectionWatch.h"
 #include "ShellBackend.h"
-#include "X11Connection.h"
 #include "X11Focus.h"
 #include "X11Foreground.h"
 #include "X11Outside.h"
+#include "desktop/session/x11/X11Connection.h"
 
 namespace brimshade::desktop::session {
 

@@ -1,6 +1,6 @@
 #include "X11Focus.h"
 
-#include "X11Connection.h"
+#include "desktop/session/x11/X11Connection.h"
 
 #include <algorithm>
 

@@ -14,7 +14,6 @@ namespace {
 
 constexpr std::uint32_t kAllDesktops = 0xffffffff;
 constexpr std::size_t kMostClients = 1024;
-constexpr std::uint32_t kLongestClass = 64; // words of four bytes
 
 bool contains(const std::vector<std::uint32_t> &values, std::uint32_t value)
 {
@@ -169,13 +168,7 @@ bool X11Foreground::covers(const QScreen *screen, const std::vector<Client> &cli
 // WM_CLASS is two strings: this instance, and the class.
 QString X11Foreground::className(xcb_window_t window) const
 {
-    const auto cookie =
-        xcb_get_property(m_connection.xcb(), 0, window, XCB_ATOM_WM_CLASS, XCB_ATOM_STRING, 0, kLongestClass);
-    const X11Reply<xcb_get_property_reply_t> reply(xcb_get_property_reply(m_connection.xcb(), cookie, nullptr));
-    if (!reply)
-        return {};
-    const QByteArray value(static_cast<const char *>(xcb_get_property_value(reply.get())),
-                           xcb_get_property_value_length(reply.get()));
+    const auto value = m_connection.bytes(m_connection.requestText(window, XCB_ATOM_WM_CLASS));
     const auto names = value.split('\0');
     return QString::fromLocal8Bit(names.value(1, names.value(0)));
 }

@@ -1,6 +1,6 @@
 #pragma once
 #include "Foreground.h"
-#include "X11Connection.h"
+#include "desktop/session/x11/X11Connection.h"
 
 #include <QRect>
 #include <QSet>

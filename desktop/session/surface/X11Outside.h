@@ -1,5 +1,5 @@
 #pragma once
-#include "X11Connection.h"
+#include "desktop/session/x11/X11Connection.h"
 
 namespace brimshade::desktop::session {
 

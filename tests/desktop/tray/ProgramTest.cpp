@@ -12,7 +12,7 @@ HostedItem item(const QString &id, const QString &title, const QString &path, co
     TrayItem result;
     result.id = id;
     result.title = title;
-    return {{owner, path}, result, {}, [](ItemGesture, const QRectF &) {}};
+    return {owner + path, path, result, {}, [](ItemGesture, const QRectF &) {}};
 }
 
 TEST(Programs, AreMatchedToTheirEntry)

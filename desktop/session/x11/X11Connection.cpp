@@ -8,13 +8,20 @@ namespace brimshade::desktop::session {
 namespace {
 
 constexpr std::uint32_t kMostNumbers = 4096; // of one property
+constexpr std::uint32_t kLongestText = 64; // words of four bytes
 
 std::array<std::string, std::size_t(X11Atom::Count)> atomNames(int screenNumber)
 {
-    return {"_NET_ACTIVE_WINDOW",
+    const std::string number = std::to_string(screenNumber);
+    return {"MANAGER",
+            "_NET_ACTIVE_WINDOW",
             "_NET_CLIENT_LIST_STACKING",
             "_NET_CURRENT_DESKTOP",
+            "_NET_SYSTEM_TRAY_OPCODE",
+            "_NET_SYSTEM_TRAY_ORIENTATION",
+            "_NET_SYSTEM_TRAY_VISUAL",
             "_NET_WM_DESKTOP",
+            "_NET_WM_NAME",
             "_NET_WM_STATE",
             "_NET_WM_STATE_FULLSCREEN",
             "_NET_WM_STATE_HIDDEN",
@@ -23,15 +30,18 @@ std::array<std::string, std::size_t(X11Atom::Count)> atomNames(int screenNumber)
             "_NET_WM_WINDOW_TYPE",
             "_NET_WM_WINDOW_TYPE_DESKTOP",
             "_NET_WM_WINDOW_TYPE_DOCK",
-            "_NET_WM_CM_S" + std::to_string(screenNumber)};
+            "_XEMBED",
+            "_XEMBED_INFO",
+            "_NET_WM_CM_S" + number,
+            "_NET_SYSTEM_TRAY_S" + number};
 }
 
-xcb_window_t rootOf(xcb_connection_t *connection, int screenNumber)
+const xcb_screen_t *screenOf(xcb_connection_t *connection, int screenNumber)
 {
     xcb_screen_iterator_t screens = xcb_setup_roots_iterator(xcb_get_setup(connection));
     while (screens.rem > 1 && screenNumber-- > 0)
         xcb_screen_next(&screens);
-    return screens.data->root;
+    return screens.data;
 }
 
 } // namespace
@@ -47,7 +57,7 @@ std::unique_ptr<X11Connection> X11Connection::open()
 }
 
 X11Connection::X11Connection(xcb_connection_t *connection, int screenNumber)
-    : m_connection(connection), m_root(rootOf(connection, screenNumber)),
+    : m_connection(connection), m_screen(screenOf(connection, screenNumber)),
       m_notifier(xcb_get_file_descriptor(connection), QSocketNotifier::Read)
 {
     const auto names = atomNames(screenNumber);
@@ -80,9 +90,22 @@ std::vector<std::uint32_t> X11Connection::numbers(xcb_get_property_cookie_t cook
     return {values, values + xcb_get_property_value_length(reply.get()) / sizeof(std::uint32_t)};
 }
 
+QByteArray X11Connection::bytes(xcb_get_property_cookie_t cookie) const
+{
+    const X11Reply<xcb_get_property_reply_t> reply(xcb_get_property_reply(m_connection, cookie, nullptr));
+    if (!reply || reply->format != 8)
+        return {};
+    return {static_cast<const char *>(xcb_get_property_value(reply.get())), xcb_get_property_value_length(reply.get())};
+}
+
 xcb_get_property_cookie_t X11Connection::requestNumbers(xcb_window_t window, X11Atom property) const
 {
     return xcb_get_property(m_connection, 0, window, atom(property), XCB_GET_PROPERTY_TYPE_ANY, 0, kMostNumbers);
+}
+
+xcb_get_property_cookie_t X11Connection::requestText(xcb_window_t window, xcb_atom_t property) const
+{
+    return xcb_get_property(m_connection, 0, window, property, XCB_GET_PROPERTY_TYPE_ANY, 0, kLongestText);
 }
 
 bool X11Connection::isEventOf(const xcb_generic_event_t &event, const xcb_extension_t &extension, int number) const

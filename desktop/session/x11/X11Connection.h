@@ -1,4 +1,5 @@
 #pragma once
+#include <QByteArray>
 #include <QObject>
 #include <QSocketNotifier>
 #include <array>
@@ -13,10 +14,15 @@ namespace brimshade::desktop::session {
 template <class T> using X11Reply = std::unique_ptr<T, decltype([](void *reply) { std::free(reply); })>;
 
 enum class X11Atom {
+    Manager,
     NetActiveWindow,
     NetClientListStacking,
     NetCurrentDesktop,
+    NetSystemTrayOpcode,
+    NetSystemTrayOrientation,
+    NetSystemTrayVisual,
     NetWmDesktop,
+    NetWmName,
     NetWmState,
     NetWmStateFullscreen,
     NetWmStateHidden,
@@ -25,13 +31,16 @@ enum class X11Atom {
     NetWmWindowType,
     NetWmWindowTypeDesktop,
     NetWmWindowTypeDock,
+    XEmbed,
+    XEmbedInfo,
     CompositingManager, // the selection that the compositing manager of the screen owns
+    SystemTray, // the one that whoever shows the icons owns that programs dock there
     Count,
 };
 
 // A connection to the X server of Qt's own, to watch what other programs do without Qt's event queue: Qt selects events
-// on the root window, too, and the masks of two clients do not meet. Main thread. Reads wait for one answer of the
-// server.
+// on the root window, too, and the masks of two clients do not meet. On the thread that it was opened on, which has an
+// event loop. Reads wait for one answer of the server.
 class X11Connection : public QObject {
     Q_OBJECT
 public:
@@ -39,12 +48,15 @@ public:
     ~X11Connection() override;
 
     xcb_connection_t *xcb() const { return m_connection; }
-    xcb_window_t root() const { return m_root; }
+    const xcb_screen_t &screen() const { return *m_screen; } // the one that DISPLAY names
+    xcb_window_t root() const { return m_screen->root; }
     xcb_atom_t atom(X11Atom atom) const { return m_atoms[std::size_t(atom)]; }
 
-    // Of an open property read: its 32-bit numbers; none when the window or the property is gone.
+    // Of an open property read: its 32-bit numbers, or its bytes; none when the window or the property is gone.
     std::vector<std::uint32_t> numbers(xcb_get_property_cookie_t cookie) const;
+    QByteArray bytes(xcb_get_property_cookie_t cookie) const;
     xcb_get_property_cookie_t requestNumbers(xcb_window_t window, X11Atom property) const;
+    xcb_get_property_cookie_t requestText(xcb_window_t window, xcb_atom_t property) const;
     bool isEventOf(const xcb_generic_event_t &event, const xcb_extension_t &extension, int number) const;
 
 Q_SIGNALS:
@@ -55,7 +67,7 @@ private:
     void readEvents();
 
     xcb_connection_t *const m_connection;
-    xcb_window_t m_root = XCB_WINDOW_NONE;
+    const xcb_screen_t *const m_screen;
     std::array<xcb_atom_t, std::size_t(X11Atom::Count)> m_atoms{};
     QSocketNotifier m_notifier;
 };

@@ -1,0 +1,60 @@
+#pragma once
+#include "DockedClicks.h"
+#include "DockedWindow.h"
+#include "TraySelection.h"
+
+#include <QSet>
+#include <QTimer>
+#include <map>
+
+namespace brimshade::desktop::session {
+
+// The tray of an X server's screen, as programs know it that dock a window there: it owns the selection while nobody
+// else does, has their windows, and tells what each of them shows. On a thread of its own with an event loop, since it
+// waits for the server.
+class TrayManager : public QObject {
+    Q_OBJECT
+public:
+    explicit TrayManager(int side); // of each window, in pixels
+    ~TrayManager() override;
+
+    void begin();
+    void click(const DockedClick &click);
+    void lapseClicks();
+
+Q_SIGNALS:
+    void changed(const DockedItem &item); // a new one too
+    void gone(std::uint32_t window);
+    void message(const QString &text);
+
+private:
+    struct Docked {
+        std::unique_ptr<DockedWindow> window;
+        DockedItem told; // of which changed() was last said; of no window when it was not
+        int emptyLooks = 0;
+    };
+    using Windows = std::map<xcb_window_t, Docked>;
+
+    void handle(const xcb_generic_event_t &event);
+    void handleWish(const xcb_client_message_event_t &message);
+    void handleProperty(const xcb_property_notify_event_t &change);
+    void dock(xcb_window_t window);
+    void mapped(xcb_window_t window, bool isMapped);
+    void leave(xcb_window_t window);
+    void leaveAll();
+    void look(xcb_window_t window);
+    void lookAtAll();
+    void tell(xcb_window_t window, Docked &docked);
+    void forget(Docked &docked);
+
+    const int m_side;
+    std::unique_ptr<X11Connection> m_x11;
+    Windows m_windows;
+    std::unique_ptr<TraySelection> m_selection;
+    std::unique_ptr<DockedClicks> m_clicks;
+    QSet<xcb_window_t> m_unseen; // what they have drawn
+    std::unique_ptr<QTimer> m_look;
+    bool m_saidFull = false;
+};
+
+} // namespace brimshade::desktop::session
