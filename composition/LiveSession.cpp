@@ -145,6 +145,7 @@ void LiveSession::Parts::grabKeys()
 {
     if (QGuiApplication::platformName() == "xcb"_L1) {
         desktop.hotkeys().setGrabber(desktop::X11KeyGrabber::create(0)); // the panel takes the keys by itself
+        desktop.hotkeys().setModeObserver([this](bool areOff) { host.takeEveryKey(areOff); });
         return;
     }
     auto portal = std::make_unique<desktop::PortalKeyGrabber>(QDBusConnection::sessionBus());

@@ -21,7 +21,7 @@ class PanelState : public QObject {
     Q_PROPERTY(QString focusText READ focusText NOTIFY focusChanged)
 
 public:
-    enum Body { Permission, Waiting, NoItems, Tiles };
+    enum Body { Permission, Recorder, Waiting, NoItems, Tiles };
     Q_ENUM(Body)
 
     using QObject::QObject;
