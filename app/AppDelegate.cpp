@@ -1,5 +1,6 @@
 #include "AppDelegate.h"
 
+#include "ItemHotkeys.h"
 #include "ItemMoves.h"
 #include "ItemName.h"
 #include "PanelPlacement.h"
@@ -8,11 +9,12 @@
 #include "SecondaryWindows.h"
 #include "StatusMenu.h"
 #include "controls/Divider.h"
-#include "controls/Hotkey.h"
+#include "controls/Hotkeys.h"
 #include "controls/HoverZone.h"
 #include "menubar/MenuBarAccess.h"
 #include "menubar/NotchGeometry.h"
 #include "model/NotchModel.h"
+#include "model/ShortcutRecorder.h"
 #include "platform/Accessibility.h"
 #include "platform/Dispatch.h"
 #include "platform/ItemServices.h"
@@ -22,6 +24,8 @@
 #include "platform/UserDefaults.h"
 #include "platform/Weakly.h"
 
+#include <QCoreApplication>
+
 using namespace Qt::StringLiterals;
 
 namespace brimshade::app {
@@ -30,6 +34,7 @@ using platform::weakly;
 
 namespace {
 
+constexpr std::uint32_t kPanelHotkey = 1;
 constexpr qlonglong kFirstPosition = 5; // right of every other item that can move
 constexpr double kSettled = 1; // seconds after the launch: what it shows has come to rest
 
@@ -41,7 +46,8 @@ AppDelegate::AppDelegate(const platform::Platform &platform)
       m_scanQueue(std::make_shared<ScanQueue>(
           platform.dispatch.makeSerialQueue(u"brimshade.scan"_s, platform::QualityOfService::userInitiated))),
       m_placement(std::make_shared<PanelPlacement>(platform.screens, platform.application)),
-      m_hoverZone(std::make_shared<controls::HoverZone>(platform))
+      m_hoverZone(std::make_shared<controls::HoverZone>(platform)),
+      m_hotkeys(std::make_shared<controls::Hotkeys>(platform.hotkeyCenter))
 {
 }
 
@@ -90,6 +96,7 @@ void AppDelegate::createParts()
     const auto finish = [](AppDelegate &self, const Choices &choices) { self.m_moves->finishOnboarding(choices); };
     m_windows =
         std::make_shared<SecondaryWindows>(m_platform, m_model, m_panel, m_scans, weakly(weak_from_this(), finish));
+    m_itemHotkeys = std::make_shared<ItemHotkeys>(m_platform, ItemHotkeys::Parts{m_model, m_hotkeys, m_scans, m_panel});
     m_moves = std::make_shared<ItemMoves>(m_platform, parts, m_scans, m_panel, m_windows);
     m_statusMenu =
         std::make_shared<StatusMenu>(m_platform, StatusMenu::Parts{m_model, m_statusItem, m_panel, m_windows, m_scans});
@@ -120,17 +127,43 @@ void AppDelegate::installCallbacks()
     if (m_platform.itemServices)
         m_platform.itemServices->observeItems(weakly(panel, &PanelPresenter::itemsChanged));
     m_hoverZone->setOnHover(weakly(panel, &PanelPresenter::hovered));
+    installShortcutCallbacks();
+}
+
+void AppDelegate::installShortcutCallbacks()
+{
+    const std::weak_ptr hotkeys = m_itemHotkeys;
+    m_model->onRecordShortcut = weakly(std::weak_ptr(m_panel), &PanelPresenter::record);
+    m_model->onRemoveShortcut = weakly(hotkeys, &ItemHotkeys::removeOf);
+    m_panel->recorder().onAssign = [hotkeys](const model::ItemShortcut &shortcut) {
+        const auto self = hotkeys.lock();
+        return self ? self->assign(shortcut) : model::ShortcutRecorder::Assigned();
+    };
+    m_panel->recorder().onRemove = weakly(hotkeys, &ItemHotkeys::remove);
 }
 
 void AppDelegate::applySettings()
 {
     if (m_divider->isEnabled() != m_model->dividerEnabled())
         m_divider->setEnabled(m_model->dividerEnabled());
-    if (!m_hotkey)
-        m_hotkey = std::make_unique<controls::Hotkey>(m_platform.hotkeyCenter,
-                                                      weakly(std::weak_ptr(m_panel), &PanelPresenter::toggle));
-    m_hotkey->set(m_model->shortcut());
+    applyShortcut();
+    m_itemHotkeys->registerKept();
     m_hoverZone->update(m_model->hoverToOpen(), menubar::notchedScreen(m_platform.screens.screens()));
+}
+
+// First of all: what an item's would take is this one's.
+void AppDelegate::applyShortcut()
+{
+    const auto keys = keyCombination(m_model->shortcut());
+    const bool works = keys
+        && m_hotkeys->set(kPanelHotkey, *keys, QCoreApplication::translate("AppDelegate", "Open or close Brimshade"),
+                          weakly(std::weak_ptr(m_panel), &PanelPresenter::toggle));
+    if (!works)
+        m_hotkeys->clear(kPanelHotkey);
+    if (keys && !works && std::exchange(m_refused, keys) != keys)
+        m_model->setMessage(m_itemHotkeys->whoHas(*keys, {}));
+    if (works)
+        m_refused.reset();
 }
 
 void AppDelegate::screensChanged()

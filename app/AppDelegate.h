@@ -1,5 +1,6 @@
 #pragma once
 #include "menubar/MenuExtra.h"
+#include "model/KeyCombination.h"
 #include "platform/Platform.h"
 
 #include <expected>
@@ -20,12 +21,13 @@ class NotchModel;
 
 namespace brimshade::controls {
 class Divider;
-class Hotkey;
+class Hotkeys;
 class HoverZone;
 } // namespace brimshade::controls
 
 namespace brimshade::app {
 
+class ItemHotkeys;
 class ItemMoves;
 class PanelPlacement;
 class PanelPresenter;
@@ -47,7 +49,7 @@ public:
     // Once, before anything else; the first scan comes with the first opening of the panel.
     void applicationDidFinishLaunching();
 
-    void applySettings(); // brings the divider, the hotkey and the hover zone in line with the model
+    void applySettings(); // brings the divider, the hotkeys and the hover zone in line with the model
 
     // What other programs may ask for; from the launch on.
     void openPanel(); // with the keys
@@ -67,6 +69,8 @@ private:
     void createParts();
     void configureButton();
     void installCallbacks();
+    void installShortcutCallbacks();
+    void applyShortcut();
     void screensChanged();
     void welcome(); // the setup flow on a first run, else the permission prompt where it is needed
 
@@ -76,12 +80,14 @@ private:
     std::shared_ptr<ScanQueue> m_scanQueue;
     std::shared_ptr<PanelPlacement> m_placement;
     std::shared_ptr<controls::HoverZone> m_hoverZone;
-    std::unique_ptr<controls::Hotkey> m_hotkey; // from the first applySettings() on
+    const std::shared_ptr<controls::Hotkeys> m_hotkeys;
+    std::optional<model::KeyCombination> m_refused; // the panel's shortcut, and the person was told of it
     std::shared_ptr<platform::StatusItem> m_statusItem; // this and all below: from the launch on
     std::shared_ptr<controls::Divider> m_divider;
     std::shared_ptr<ScanScheduler> m_scans;
     std::shared_ptr<PanelPresenter> m_panel;
     std::shared_ptr<SecondaryWindows> m_windows;
+    std::shared_ptr<ItemHotkeys> m_itemHotkeys;
     std::shared_ptr<ItemMoves> m_moves;
     std::shared_ptr<StatusMenu> m_statusMenu;
 };

@@ -47,4 +47,10 @@ std::expected<const Extra *, QString> itemNamed(const QString &name, const menub
     return std::unexpected(u"no item is named \"%1\""_s.arg(name));
 }
 
+QString nameToAskWith(const menubar::MenuExtra &item, const menubar::ExtraList &extras)
+{
+    const auto found = itemNamed(item.name, extras);
+    return found && (*found)->id == item.id ? item.name : item.detail;
+}
+
 } // namespace brimshade::app

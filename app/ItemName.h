@@ -10,4 +10,7 @@ namespace brimshade::app {
 // letters. It points into extras. The error says what is wrong with the name.
 std::expected<const menubar::MenuExtra *, QString> itemNamed(const QString &name, const menubar::ExtraList &extras);
 
+// What to call an item so that it is the one that is meant: by its program's name, which changes least, or by its own.
+QString nameToAskWith(const menubar::MenuExtra &item, const menubar::ExtraList &extras);
+
 } // namespace brimshade::app

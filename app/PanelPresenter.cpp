@@ -1,15 +1,18 @@
 #include "PanelPresenter.h"
 
+#include "ItemName.h"
 #include "NotchPanel.h"
 #include "PanelPlacement.h"
 #include "menubar/MenuBarAccess.h"
 #include "model/NotchModel.h"
 #include "model/PermissionRequest.h"
+#include "model/ShortcutRecorder.h"
 #include "model/TileActions.h"
 #include "platform/Accessibility.h"
 #include "platform/Dispatch.h"
 #include "platform/ItemServices.h"
 #include "platform/Log.h"
+#include "platform/MenuBarPreferences.h"
 #include "platform/Platform.h"
 #include "platform/StatusBar.h"
 #include "platform/Weakly.h"
@@ -47,11 +50,19 @@ PanelPresenter::PanelPresenter(const platform::Platform &platform, const ScanSch
       m_scans(std::move(scans)), m_statusItem(std::move(statusItem)),
       m_tileActions(std::make_unique<model::TileActions>(*m_model, platform.menus, platform.itemServices)),
       m_permission(std::make_unique<model::PermissionRequest>(platform.accessibility, platform.workspace)),
+      m_recorder(std::make_unique<model::ShortcutRecorder>(*m_model, platform.hotkeyCenter, platform.dispatch)),
       m_keys(*m_model, [this] { close(); }), m_monitors(platform.application)
 {
+    m_tileActions->toScreen = [this](QPointF inPanel) { return toScreen(inPanel); };
 }
 
 PanelPresenter::~PanelPresenter() = default;
+
+QPointF PanelPresenter::toScreen(QPointF inPanel) const
+{
+    const QRectF frame = m_panel ? m_panel->frame() : QRectF();
+    return {frame.x() + inPanel.x(), platform::maxY(frame) - inPanel.y()};
+}
 
 void PanelPresenter::prepare()
 {
@@ -122,6 +133,7 @@ void PanelPresenter::close()
         return;
     m_platform.log.write(LogLevel::info, "close", {});
     m_shown = false;
+    m_recorder->end();
     m_model->setIsOpen(false);
     m_model->setHoveredID({});
     m_monitors.removeAll();
@@ -156,6 +168,19 @@ void PanelPresenter::activate(const menubar::MenuExtra &extra)
         if (items)
             items->activate(element);
     });
+}
+
+void PanelPresenter::record(const menubar::MenuExtra &extra)
+{
+    const QString identity = m_platform.itemServices ? m_platform.itemServices->identity(extra.element) : QString();
+    if (identity.isEmpty()) // it has gone
+        return;
+    present();
+    if (!m_shown)
+        return;
+    const QString name = nameToAskWith(extra, m_model->extras());
+    const platform::MenuBarPreferences *bar = m_platform.menuBarPreferences;
+    m_recorder->begin(identity, name, bar ? bar->itemShortcutAdvice(name) : QString());
 }
 
 void PanelPresenter::itemsChanged()
@@ -205,7 +230,10 @@ std::optional<platform::Event> PanelPresenter::handleKey(const platform::Event &
     if (!m_shown)
         return event;
     m_platform.log.write(LogLevel::info, "key %hu query '%{public}s'", {int(event.keyCode), m_model->query()});
-    return m_keys.handle(event);
+    if (!m_model->isRecording())
+        return m_keys.handle(event);
+    m_recorder->handle(event);
+    return {};
 }
 
 void PanelPresenter::startPointerWatch()
@@ -253,7 +281,8 @@ platform::Window &PanelPresenter::panel()
                                  u"NotchRoot"_s,
                                  {{u"model"_s, QVariant::fromValue(m_model.get())},
                                   {u"actions"_s, QVariant::fromValue(m_tileActions.get())},
-                                  {u"permission"_s, QVariant::fromValue(m_permission.get())}}});
+                                  {u"permission"_s, QVariant::fromValue(m_permission.get())},
+                                  {u"recorder"_s, QVariant::fromValue(m_recorder.get())}}});
     }
     return *m_panel;
 }

@@ -17,6 +17,7 @@ class Window;
 
 namespace brimshade::model {
 class PermissionRequest;
+class ShortcutRecorder;
 class TileActions;
 } // namespace brimshade::model
 
@@ -29,6 +30,8 @@ public:
                    std::shared_ptr<ScanScheduler> scans, std::shared_ptr<platform::StatusItem> statusItem);
     ~PanelPresenter();
 
+    model::ShortcutRecorder &recorder() { return *m_recorder; }
+
     bool shown() const { return m_shown; }
     void prepare(); // makes the panel ahead of its first opening, which takes as long as any then
     // Refused while an item is being moved. By hover the panel leaves the keys where they are.
@@ -38,6 +41,7 @@ public:
     void toggle();
     void select(const menubar::MenuExtra &extra); // closes, then presses the item
     void activate(const menubar::MenuExtra &extra); // closes, then has it do what it does besides showing its menu
+    void record(const menubar::MenuExtra &extra); // its shortcut, in the panel, until that closes or has it
     void itemsChanged(); // of those that change while a person looks at them
     void hovered(); // the pointer has rested on the notch
 
@@ -54,6 +58,7 @@ private:
     void stopPointerWatch();
     void watchPointer();
     bool isPointerInside() const;
+    QPointF toScreen(QPointF inPanel) const;
     platform::Window &panel();
 
     const platform::Platform m_platform;
@@ -64,6 +69,7 @@ private:
     const std::shared_ptr<platform::StatusItem> m_statusItem;
     const std::unique_ptr<model::TileActions> m_tileActions;
     const std::unique_ptr<model::PermissionRequest> m_permission;
+    const std::unique_ptr<model::ShortcutRecorder> m_recorder;
     const KeyHandler m_keys;
     std::unique_ptr<platform::Window> m_panel; // from prepare() or the first opening on
     std::shared_ptr<platform::DispatchWorkItem> m_orderOut; // of the last closing; an opening cancels it

@@ -152,6 +152,7 @@ void LiveSession::Parts::grabKeys()
 {
     if (isX11()) {
         desktop.hotkeys().setGrabber(desktop::X11KeyGrabber::create(0)); // the panel takes the keys by itself
+        desktop.hotkeys().setModeObserver([this](bool areOff) { host.takeEveryKey(areOff); });
         return;
     }
     auto portal = std::make_unique<desktop::PortalKeyGrabber>(QDBusConnection::sessionBus());

@@ -119,6 +119,8 @@ void Session::Parts::buildScene(const SessionOptions &options)
         // The shortcut works while another program of the session has the keys.
         const auto window = static_cast<std::uint32_t>(scene->quickWindow()->winId());
         desktop->hotkeys().setGrabber(desktop::X11KeyGrabber::create(window));
+        desktop->hotkeys().setModeObserver(
+            [window = scene->quickWindow()](bool areOff) { window->setKeyboardGrabEnabled(areOff); });
     }
 }
 

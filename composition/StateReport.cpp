@@ -38,6 +38,15 @@ QJsonArray idsOf(const model::NotchModel &model, const model::NotchModel::Matche
     return ids;
 }
 
+QJsonArray shortcutsReport(const model::ItemShortcuts &shortcuts)
+{
+    QJsonArray report;
+    for (const model::ItemShortcut &each : shortcuts.all())
+        report.append(
+            QJsonObject{{u"item"_s, each.item}, {u"name"_s, each.name}, {u"keys"_s, displayTitle(each.keys)}});
+    return report;
+}
+
 QJsonObject modelReport(const model::NotchModel &model)
 {
     QJsonArray extras;
@@ -53,10 +62,12 @@ QJsonObject modelReport(const model::NotchModel &model)
             {u"selectedID"_s, textOrNull(model.selectedID())},
             {u"notch"_s, QJsonArray{model.notch().width(), model.notch().height()}},
             {u"movingID"_s, textOrNull(model.movingID())},
+            {u"isRecording"_s, model.isRecording()},
             {u"message"_s, textOrNull(model.message())},
             {u"showVisible"_s, model.showVisible()},
             {u"hoverToOpen"_s, model.hoverToOpen()},
             {u"shortcut"_s, rawValue(model.shortcut())},
+            {u"itemShortcuts"_s, shortcutsReport(model.itemShortcuts())},
             {u"dividerEnabled"_s, model.dividerEnabled()},
             {u"launchAtLogin"_s, model.launchAtLogin()},
             {u"hiddenMatches"_s, idsOf(model, model.hiddenMatches())},

@@ -17,6 +17,13 @@
     </message>
 </context>
 <context>
+    <name>AppDelegate</name>
+    <message>
+        <source>Open or close Brimshade</source>
+        <translation>Brimshade öffnen oder schließen</translation>
+    </message>
+</context>
+<context>
     <name>ApplicationMenus</name>
     <message>
         <source>File</source>
@@ -123,6 +130,29 @@
     <message>
         <source>Settings</source>
         <translation>Einstellungen</translation>
+    </message>
+</context>
+<context>
+    <name>ItemHotkeys</name>
+    <message>
+        <source>%1 already opens the menu of %2.</source>
+        <translation>%1 öffnet schon das Menü von %2.</translation>
+    </message>
+    <message>
+        <source>%1 already opens Brimshade.</source>
+        <translation>%1 öffnet schon Brimshade.</translation>
+    </message>
+    <message>
+        <source>%1 already belongs to another program.</source>
+        <translation>%1 gehört schon einem anderen Programm.</translation>
+    </message>
+    <message>
+        <source>Open the menu of %1</source>
+        <translation>Menü von %1 öffnen</translation>
+    </message>
+    <message>
+        <source>It is not running.</source>
+        <translation>Das Programm läuft nicht.</translation>
     </message>
 </context>
 <context>
@@ -420,20 +450,55 @@ Nichts verlässt deinen Mac.</translation>
 <context>
     <name>Shortcut</name>
     <message>
-        <source>⌥⌘N</source>
-        <translation>⌥⌘N</translation>
-    </message>
-    <message>
-        <source>⌃⌥Space</source>
-        <translation>⌃⌥Space</translation>
-    </message>
-    <message>
-        <source>⌃⌥⌘M</source>
-        <translation>⌃⌥⌘M</translation>
-    </message>
-    <message>
         <source>⌘%1</source>
         <translation>⌘%1</translation>
+    </message>
+    <message>
+        <source>Space</source>
+        <translation>Leertaste</translation>
+    </message>
+    <message>
+        <source>⌃</source>
+        <translation>⌃</translation>
+    </message>
+    <message>
+        <source>⌥</source>
+        <translation>⌥</translation>
+    </message>
+    <message>
+        <source>⇧</source>
+        <translation>⇧</translation>
+    </message>
+    <message>
+        <source>⌘</source>
+        <translation>⌘</translation>
+    </message>
+</context>
+<context>
+    <name>ShortcutCard</name>
+    <message>
+        <source>Shortcut for %1</source>
+        <translation>Kurzbefehl für %1</translation>
+    </message>
+    <message>
+        <source>Press the keys</source>
+        <translation>Tasten drücken</translation>
+    </message>
+    <message>
+        <source>Remove  ⌫</source>
+        <translation>Entfernen  ⌫</translation>
+    </message>
+    <message>
+        <source>Remove Shortcut</source>
+        <translation>Kurzbefehl entfernen</translation>
+    </message>
+    <message>
+        <source>Done  esc</source>
+        <translation>Fertig  esc</translation>
+    </message>
+    <message>
+        <source>Cancel  esc</source>
+        <translation>Abbrechen  esc</translation>
     </message>
 </context>
 <context>
@@ -487,6 +552,18 @@ Nichts verlässt deinen Mac.</translation>
         <source>Activate</source>
         <translation>Aktivieren</translation>
     </message>
+    <message>
+        <source>Change Shortcut…</source>
+        <translation>Kurzbefehl ändern …</translation>
+    </message>
+    <message>
+        <source>Set Shortcut…</source>
+        <translation>Kurzbefehl festlegen …</translation>
+    </message>
+    <message>
+        <source>Remove Shortcut</source>
+        <translation>Kurzbefehl entfernen</translation>
+    </message>
 </context>
 <context>
     <name>TileMarks</name>
@@ -520,13 +597,6 @@ Brimshade öffnet die Notch und zeigt sie alle.</translation>
     <message>
         <source>It is no longer there.</source>
         <translation>Es ist nicht mehr da.</translation>
-    </message>
-</context>
-<context>
-    <name>brimshade::desktop::PortalKeyGrabber</name>
-    <message>
-        <source>Open or close Brimshade</source>
-        <translation>Brimshade öffnen oder schließen</translation>
     </message>
 </context>
 <context>
@@ -570,10 +640,10 @@ Brimshade öffnet die Notch und zeigt sie alle.</translation>
         <translation>Ein anderes Programm (%1) zeigt dieselben Symbole. Schalte sie dort aus, damit sie nur hier stehen.</translation>
     </message>
     <message>
-        <source>Here no program may take a shortcut by itself. Bind a key to “brimshade --toggle”; in sway:
-%1</source>
-        <translation>Hier darf kein Programm selbst einen Kurzbefehl belegen. Lege „brimshade --toggle“ auf eine Taste, in sway:
-%1</translation>
+        <source>Here no program may take a shortcut by itself. Bind a key to “%1”; in sway:
+bindsym Mod4+%2 exec %1</source>
+        <translation>Hier darf kein Programm selbst einen Kurzbefehl belegen. Lege „%1“ auf eine Taste, in sway:
+bindsym Mod4+%2 exec %1</translation>
     </message>
 </context>
 <context>
@@ -588,6 +658,21 @@ Brimshade öffnet die Notch und zeigt sie alle.</translation>
     <message>
         <source>Couldn&apos;t change Launch at Login: </source>
         <translation>„Bei der Anmeldung starten“ konnte nicht geändert werden: </translation>
+    </message>
+</context>
+<context>
+    <name>brimshade::model::ShortcutRecorder</name>
+    <message>
+        <source>Hold ⌃, ⌥ or ⌘ and press a key.</source>
+        <translation>Halte ⌃, ⌥ oder ⌘ gedrückt und drücke eine weitere Taste.</translation>
+    </message>
+    <message>
+        <source>That can&apos;t be a shortcut. Hold ⌃, ⌥ or ⌘ and press a key.</source>
+        <translation>Das geht nicht als Kurzbefehl. Halte ⌃, ⌥ oder ⌘ gedrückt und drücke eine weitere Taste.</translation>
+    </message>
+    <message>
+        <source>Opens its menu from anywhere.</source>
+        <translation>Öffnet das Menü jetzt von überall.</translation>
     </message>
 </context>
 <context>

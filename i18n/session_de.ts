@@ -46,20 +46,35 @@
 <context>
     <name>Shortcut</name>
     <message>
-        <source>⌥⌘N</source>
-        <translation>Alt+Super+N</translation>
+        <source>⌃</source>
+        <translation>Strg+</translation>
     </message>
     <message>
-        <source>⌃⌥Space</source>
-        <translation>Strg+Alt+Leertaste</translation>
+        <source>⌥</source>
+        <translation>Alt+</translation>
     </message>
     <message>
-        <source>⌃⌥⌘M</source>
-        <translation>Strg+Alt+Super+M</translation>
+        <source>⇧</source>
+        <translation>Umschalt+</translation>
+    </message>
+    <message>
+        <source>⌘</source>
+        <translation>Super+</translation>
     </message>
     <message>
         <source>⌘%1</source>
         <translation>Super+%1</translation>
+    </message>
+</context>
+<context>
+    <name>brimshade::model::ShortcutRecorder</name>
+    <message>
+        <source>Hold ⌃, ⌥ or ⌘ and press a key.</source>
+        <translation>Halte Strg, Alt oder Super gedrückt und drücke eine weitere Taste.</translation>
+    </message>
+    <message>
+        <source>That can&apos;t be a shortcut. Hold ⌃, ⌥ or ⌘ and press a key.</source>
+        <translation>Das geht nicht als Kurzbefehl. Halte Strg, Alt oder Super gedrückt und drücke eine weitere Taste.</translation>
     </message>
 </context>
 </TS>

@@ -46,20 +46,35 @@
 <context>
     <name>Shortcut</name>
     <message>
-        <source>⌥⌘N</source>
-        <translation>Alt+Super+N</translation>
+        <source>⌃</source>
+        <translation>Ctrl+</translation>
     </message>
     <message>
-        <source>⌃⌥Space</source>
-        <translation>Ctrl+Alt+Space</translation>
+        <source>⌥</source>
+        <translation>Alt+</translation>
     </message>
     <message>
-        <source>⌃⌥⌘M</source>
-        <translation>Ctrl+Alt+Super+M</translation>
+        <source>⇧</source>
+        <translation>Shift+</translation>
+    </message>
+    <message>
+        <source>⌘</source>
+        <translation>Super+</translation>
     </message>
     <message>
         <source>⌘%1</source>
         <translation>Super+%1</translation>
+    </message>
+</context>
+<context>
+    <name>brimshade::model::ShortcutRecorder</name>
+    <message>
+        <source>Hold ⌃, ⌥ or ⌘ and press a key.</source>
+        <translation>Hold Ctrl, Alt or Super and press a key.</translation>
+    </message>
+    <message>
+        <source>That can&apos;t be a shortcut. Hold ⌃, ⌥ or ⌘ and press a key.</source>
+        <translation>That can&apos;t be a shortcut. Hold Ctrl, Alt or Super and press a key.</translation>
     </message>
 </context>
 </TS>

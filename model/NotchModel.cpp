@@ -50,6 +50,11 @@ QString NotchModel::movingID() const
     return m_movingID;
 }
 
+bool NotchModel::isRecording() const
+{
+    return m_isRecording;
+}
+
 QString NotchModel::message() const
 {
     return m_message;
@@ -109,6 +114,12 @@ void NotchModel::setNotch(QSizeF size)
 void NotchModel::setMovingID(const QString &id)
 {
     assign(m_movingID, id, &NotchModel::movingIDChanged);
+}
+
+void NotchModel::setIsRecording(bool isRecording)
+{
+    if (assign(m_isRecording, isRecording, &NotchModel::isRecordingChanged))
+        Q_EMIT panelSizeChanged();
 }
 
 void NotchModel::setMessage(const QString &message)
@@ -181,7 +192,7 @@ int NotchModel::visibleMatchCount() const
 
 PanelContent NotchModel::content() const
 {
-    return {m_trusted, !m_extras.empty(), hiddenMatchCount(), visibleMatchCount()};
+    return {m_trusted, !m_extras.empty(), hiddenMatchCount(), visibleMatchCount(), m_isRecording};
 }
 
 int NotchModel::columns() const

@@ -1,5 +1,6 @@
 #pragma once
 #include "ItemSearch.h"
+#include "ItemShortcuts.h"
 #include "PanelLayout.h"
 #include "Shortcut.h"
 #include "menubar/MenuExtra.h"
@@ -34,6 +35,7 @@ class NotchModel : public QObject {
     Q_PROPERTY(QString selectedID READ selectedID WRITE setSelectedID NOTIFY selectedIDChanged)
     Q_PROPERTY(QSizeF notch READ notch NOTIFY notchChanged)
     Q_PROPERTY(QString movingID READ movingID NOTIFY movingIDChanged)
+    Q_PROPERTY(bool isRecording READ isRecording NOTIFY isRecordingChanged)
     Q_PROPERTY(QString message READ message WRITE setMessage NOTIFY messageChanged)
     Q_PROPERTY(bool showVisible READ showVisible WRITE setShowVisible NOTIFY showVisibleChanged)
     Q_PROPERTY(bool hoverToOpen READ hoverToOpen WRITE setHoverToOpen NOTIFY hoverToOpenChanged)
@@ -64,6 +66,7 @@ public:
     QString selectedID() const;
     QSizeF notch() const; // points
     QString movingID() const;
+    bool isRecording() const; // the shortcut of an item, in the panel
     QString message() const;
     bool showVisible() const;
     bool hoverToOpen() const;
@@ -79,6 +82,7 @@ public:
     void setSelectedID(const QString &id);
     void setNotch(QSizeF size); // not a published field: no objectWillChange
     void setMovingID(const QString &id);
+    void setIsRecording(bool isRecording);
     void setMessage(const QString &message);
     // Written through to the store on every assignment, also of an unchanged value.
     void setShowVisible(bool on);
@@ -86,6 +90,9 @@ public:
     void setShortcut(Shortcut shortcut);
     void setDividerEnabled(bool on);
     void setLaunchAtLogin(bool on); // snaps back to the system's answer when that refuses
+
+    ItemShortcuts &itemShortcuts() { return m_itemShortcuts; }
+    const ItemShortcuts &itemShortcuts() const { return m_itemShortcuts; }
 
     const Matches &matches() const;
     const Matches &hiddenMatches() const;
@@ -109,6 +116,8 @@ public:
     std::function<void(const MenuExtra &)> onActivate = [](const MenuExtra &) {};
     std::function<void()> onDismiss = [] {};
     std::function<void(const MenuExtra &, bool hidden)> onSetHidden = [](const MenuExtra &, bool) {};
+    std::function<void(const MenuExtra &)> onRecordShortcut = [](const MenuExtra &) {};
+    std::function<void(const MenuExtra &)> onRemoveShortcut = [](const MenuExtra &) {};
     std::function<void()> onOpenSettings = [] {};
     std::function<void()> onSettingsChanged = [] {};
     std::function<void()> onRefresh = [] {};
@@ -125,6 +134,7 @@ Q_SIGNALS:
     void selectedIDChanged();
     void notchChanged();
     void movingIDChanged();
+    void isRecordingChanged();
     void messageChanged();
     void showVisibleChanged();
     void hoverToOpenChanged();
@@ -132,7 +142,7 @@ Q_SIGNALS:
     void dividerEnabledChanged();
     void launchAtLoginChanged();
     void matchesChanged(); // extras, query or showVisible changed: the derived lists may differ
-    void panelSizeChanged(); // once for each change of the above, of trusted or of notch
+    void panelSizeChanged(); // once for each change of the above, of trusted, isRecording or notch
 
 private:
     struct Derived {
@@ -173,12 +183,14 @@ private:
     bool m_wantsSelection = false; // there was one since resetSearch()
     QSizeF m_notch{200, 32};
     QString m_movingID;
+    bool m_isRecording = false;
     QString m_message;
     bool m_showVisible = true;
     bool m_hoverToOpen = false;
     Shortcut m_shortcut = Shortcut::none;
     bool m_dividerEnabled = false;
     bool m_launchAtLogin = false;
+    ItemShortcuts m_itemShortcuts;
 
     ItemSearch m_search; // of m_extras
     QHash<QString, std::size_t> m_places; // in m_extras, by canonical id; of several the first

@@ -13,6 +13,7 @@ constexpr int kFewestColumns = 4;
 constexpr int kMostColumns = 9;
 constexpr double kNotchSides = 260; // both sides of the notch together, for the header row
 constexpr double kPermissionCard = 168;
+constexpr double kRecorder = 150;
 constexpr double kWithoutItems = 72;
 constexpr double kSentence = Metrics::sentenceHeight + Metrics::spacing; // in place of the tiles when none matches
 constexpr double kFooter = Metrics::spacing + Metrics::footerHeight + Metrics::bottomMargin;
@@ -21,6 +22,8 @@ double heightBelowNotch(const PanelContent &content)
 {
     if (!content.trusted)
         return kPermissionCard;
+    if (content.isRecording)
+        return kRecorder;
     if (!content.hasItems)
         return kWithoutItems;
     const int columns = columnCount(content);

@@ -33,7 +33,8 @@ NotchModel::NotchModel(platform::UserDefaults &defaults, platform::LoginItems &l
     : QObject(parent), m_defaults(defaults), m_loginItems(loginItems), m_showVisible(readShowVisible(defaults)),
       m_hoverToOpen(defaults.boolForKey(kHoverToOpenKey)),
       m_shortcut(shortcutFromRawValue(defaults.stringForKey(kShortcutKey)).value_or(Shortcut::none)),
-      m_dividerEnabled(defaults.boolForKey(kDividerEnabledKey)), m_launchAtLogin(isEnabled(loginItems))
+      m_dividerEnabled(defaults.boolForKey(kDividerEnabledKey)), m_launchAtLogin(isEnabled(loginItems)),
+      m_itemShortcuts(defaults)
 {
 }
 

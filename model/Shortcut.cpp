@@ -2,7 +2,6 @@
 #include "platform/HotkeyCenter.h"
 #include "platform/KeyCodes.h"
 
-#include <QCoreApplication>
 #include <algorithm>
 
 namespace brimshade::model {
@@ -33,17 +32,8 @@ QString rawValue(Shortcut shortcut)
 
 QString displayTitle(Shortcut shortcut)
 {
-    switch (shortcut) {
-    case Shortcut::none:
-        break;
-    case Shortcut::optionCommandN:
-        return QCoreApplication::translate("Shortcut", "⌥⌘N");
-    case Shortcut::controlOptionSpace:
-        return QCoreApplication::translate("Shortcut", "⌃⌥Space");
-    case Shortcut::controlOptionCommandM:
-        return QCoreApplication::translate("Shortcut", "⌃⌥⌘M");
-    }
-    return u"None"_s;
+    const auto keys = keyCombination(shortcut);
+    return keys ? displayTitle(*keys) : u"None"_s;
 }
 
 std::optional<KeyCombination> keyCombination(Shortcut shortcut)

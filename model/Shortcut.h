@@ -1,8 +1,9 @@
 #pragma once
+#include "KeyCombination.h"
+
 #include <QObject>
 #include <QString>
 #include <array>
-#include <cstdint>
 #include <optional>
 
 namespace brimshade::model {
@@ -14,12 +15,6 @@ Q_ENUM_NS(Shortcut)
 
 inline constexpr std::array allShortcuts{Shortcut::none, Shortcut::optionCommandN, Shortcut::controlOptionSpace,
                                          Shortcut::controlOptionCommandM};
-
-// A virtual key code (platform/KeyCodes.h) and Carbon modifier bits.
-struct KeyCombination {
-    std::uint32_t keyCode = 0;
-    std::uint32_t modifiers = 0;
-};
 
 QString rawValue(Shortcut shortcut);
 QString displayTitle(Shortcut shortcut); // "⌃⌥Space"

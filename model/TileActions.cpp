@@ -14,10 +14,12 @@ namespace {
 // The model may be gone before a menu is.
 using Model = QPointer<NotchModel>;
 
-platform::MenuItem openEntry(const Model &model, const MenuExtra &extra)
+platform::MenuItem openEntry(const Model &model, const MenuExtra &extra, const ItemShortcut *shortcut)
 {
     platform::MenuItem entry;
     entry.title = QCoreApplication::translate("Tile", "Open");
+    if (shortcut)
+        entry.shortcut = displayTitle(shortcut->keys);
     entry.action = platform::weakly(
         model, [](NotchModel &self, const MenuExtra &chosen) { self.onSelect(chosen); }, extra);
     return entry;
@@ -43,6 +45,25 @@ platform::MenuItem moveEntry(const Model &model, const MenuExtra &extra)
     return entry;
 }
 
+platform::MenuItem recordEntry(const Model &model, const MenuExtra &extra, const ItemShortcut *shortcut)
+{
+    platform::MenuItem entry;
+    entry.title = shortcut ? QCoreApplication::translate("Tile", "Change Shortcut…")
+                           : QCoreApplication::translate("Tile", "Set Shortcut…");
+    entry.action = platform::weakly(
+        model, [](NotchModel &self, const MenuExtra &chosen) { self.onRecordShortcut(chosen); }, extra);
+    return entry;
+}
+
+platform::MenuItem removeEntry(const Model &model, const MenuExtra &extra)
+{
+    platform::MenuItem entry;
+    entry.title = QCoreApplication::translate("Tile", "Remove Shortcut");
+    entry.action = platform::weakly(
+        model, [](NotchModel &self, const MenuExtra &chosen) { self.onRemoveShortcut(chosen); }, extra);
+    return entry;
+}
+
 } // namespace
 
 TileActions::TileActions(NotchModel &model, platform::Menus &menus, platform::ItemServices *items)
@@ -60,15 +81,28 @@ void TileActions::open(const QString &id)
     }
 }
 
-void TileActions::showMenu(const QString &id)
+void TileActions::popUp(const QString &id, std::optional<QPointF> at)
 {
-    const MenuExtra *extra = m_model.extraWithID(id);
-    if (!extra)
-        return;
-    platform::Menu menu{{openEntry(&m_model, *extra), moveEntry(&m_model, *extra)}};
-    if (offer(id).canBeActivated)
-        menu.items.insert(menu.items.begin(), activateEntry(&m_model, *extra));
-    m_menus.popUpContextMenu(menu, [] {});
+    if (const MenuExtra *extra = m_model.extraWithID(id))
+        m_menus.popUpContextMenu(menuOf(*extra), at, [] {});
+}
+
+platform::Menu TileActions::menuOf(const MenuExtra &extra) const
+{
+    const QString identity = m_items ? m_items->identity(extra.element) : QString();
+    const ItemShortcut *shortcut = m_model.itemShortcuts().of(identity);
+    platform::Menu menu;
+    if (m_items && m_items->offer(extra.element).canBeActivated)
+        menu.items.push_back(activateEntry(&m_model, extra));
+    menu.items.push_back(openEntry(&m_model, extra, shortcut));
+    menu.items.push_back(moveEntry(&m_model, extra));
+    if (!identity.isEmpty()) {
+        menu.items.push_back(platform::MenuItem::separator());
+        menu.items.push_back(recordEntry(&m_model, extra, shortcut));
+    }
+    if (shortcut)
+        menu.items.push_back(removeEntry(&m_model, extra));
+    return menu;
 }
 
 platform::ItemOffer TileActions::offer(const QString &id) const

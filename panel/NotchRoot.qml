@@ -13,6 +13,7 @@ Item {
     required property NotchModel model
     required property TileActions actions
     required property PermissionRequest permission
+    required property ShortcutRecorder recorder
 
     readonly property bool open: root.model.isOpen
     // From the beginning of the opening to the end of the closing. At other times nothing moves or is read out.
@@ -35,9 +36,11 @@ Item {
     implicitWidth: 1000
     implicitHeight: 720
     focus: true
-    Keys.onMenuPressed: {
-        if (panelState.highlightedID !== "")
-            root.actions.showMenu(panelState.highlightedID);
+    Keys.onMenuPressed: content.showMenu()
+    Keys.onPressed: event => {
+        event.accepted = event.key === Qt.Key_F10 && event.modifiers === Qt.ShiftModifier;
+        if (event.accepted)
+            content.showMenu();
     }
 
     PanelState {
@@ -91,10 +94,12 @@ Item {
         openness: openness.value
     }
     PanelContent {
+        id: content
         anchors.fill: parent
         model: root.model
         actions: root.actions
         permission: root.permission
+        recorder: root.recorder
         panelState: panelState
         geometry: geometry
         tab: tab

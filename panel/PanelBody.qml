@@ -4,7 +4,7 @@ import Brimshade.Model
 import Brimshade.Panel
 import Brimshade.Ui
 
-// Under the header: the permission card, a spinner, a sentence, or the sections.
+// Under the header: the permission card, the recorder of a shortcut, a spinner, a sentence, or the sections.
 Item {
     id: root
 
@@ -12,6 +12,7 @@ Item {
     required property TileActions actions
     required property HelpTip helpTip
     required property PermissionRequest permission
+    required property ShortcutRecorder recorder
     required property PanelState panelState
     required property PanelGeometry geometry
     required property bool presented
@@ -23,6 +24,15 @@ Item {
         visible: root.panelState.body === PanelState.Permission
         width: parent.width
         permission: root.permission
+    }
+    Repeater {
+        model: root.panelState.body === PanelState.Recorder ? 1 : 0
+
+        ShortcutCard {
+            objectName: "shortcutCard"
+            width: root.width
+            recorder: root.recorder
+        }
     }
     Spinner {
         objectName: "spinner"

@@ -12,6 +12,7 @@ Item {
     required property NotchModel model
     required property TileActions actions
     required property PermissionRequest permission
+    required property ShortcutRecorder recorder
     required property PanelState panelState
     required property PanelGeometry geometry
     required property NotchTab tab
@@ -20,6 +21,15 @@ Item {
     required property real shown // from 0, closed, to 1, open
     readonly property real bodyTop: root.model.notch.height
     readonly property real contentLeft: (root.width - contentWidth.value) / 2
+
+    // Of the highlighted tile, there: the pointer may be anywhere.
+    function showMenu() {
+        const id = root.panelState.highlightedID;
+        if (id === "" || root.panelState.body !== PanelState.Tiles)
+            return;
+        const face = root.geometry.faceCentre(id);
+        root.actions.showMenuAt(id, Qt.point(root.width / 2 + face.x, root.bodyTop + face.y - body.scrollPosition));
+    }
 
     // Items that come into an empty panel find it as wide as it is going to be.
     Glide {
@@ -57,6 +67,7 @@ Item {
                 actions: root.actions
                 helpTip: root.helpTip
                 permission: root.permission
+                recorder: root.recorder
                 panelState: root.panelState
                 geometry: root.geometry
                 presented: root.presented

@@ -95,8 +95,31 @@ double PanelGeometry::clampedScroll(double scroll) const
 
 double PanelGeometry::scrollShowing(const QString &id, double scroll) const
 {
-    if (!m_source || id.isEmpty())
+    const auto cell = cellOf(id);
+    if (!cell)
         return clampedScroll(scroll);
+    const double top = cell->row == 0 ? cell->sectionY - Metrics::topPadding : cell->y() - Metrics::tileSpacing;
+    const double bottom = cell->y() + Metrics::tileHeight + Metrics::tileSpacing;
+    return clampedScroll(std::min(top, std::max(scroll, bottom - viewportHeight())));
+}
+
+QPointF PanelGeometry::faceCentre(const QString &id) const
+{
+    const auto cell = cellOf(id);
+    return cell ? QPointF(gridLeft() + cell->column * Metrics::columnPitch + Metrics::tileWidth / 2,
+                          cell->y() + Metrics::faceSide / 2)
+                : QPointF();
+}
+
+double PanelGeometry::Cell::y() const
+{
+    return sectionY + Metrics::sectionTitleHeight + row * Metrics::rowPitch;
+}
+
+std::optional<PanelGeometry::Cell> PanelGeometry::cellOf(const QString &id) const
+{
+    if (!m_source || id.isEmpty())
+        return {};
     double sectionY = hiddenSectionY();
     std::optional<int> place = placeOf(id, *m_source, m_source->hiddenMatches());
     if (!place) {
@@ -104,12 +127,8 @@ double PanelGeometry::scrollShowing(const QString &id, double scroll) const
         place = placeOf(id, *m_source, m_source->visibleMatches());
     }
     if (!place)
-        return clampedScroll(scroll);
-    const int row = *place / m_source->columns();
-    const double tileY = sectionY + Metrics::sectionTitleHeight + row * Metrics::rowPitch;
-    const double top = row == 0 ? sectionY - Metrics::topPadding : tileY - Metrics::tileSpacing;
-    const double bottom = tileY + Metrics::tileHeight + Metrics::tileSpacing;
-    return clampedScroll(std::min(top, std::max(scroll, bottom - viewportHeight())));
+        return {};
+    return Cell{*place % m_source->columns(), *place / m_source->columns(), sectionY};
 }
 
 } // namespace brimshade::panel

@@ -2,8 +2,10 @@
 #include "model/NotchModel.h"
 
 #include <QObject>
+#include <QPointF>
 #include <QPointer>
 #include <QSizeF>
+#include <optional>
 #include <qqml.h>
 
 namespace brimshade::panel {
@@ -42,12 +44,21 @@ public:
     Q_INVOKABLE double clampedScroll(double scroll) const;
     // The nearest scroll position at which the whole tile is in view; with it, the title above a first row.
     Q_INVOKABLE double scrollShowing(const QString &id, double scroll) const;
+    // Of the tile's face, unscrolled, from the middle of the panel; the origin when there is no such tile.
+    Q_INVOKABLE QPointF faceCentre(const QString &id) const;
 
 Q_SIGNALS:
     void sourceChanged();
     void changed();
 
 private:
+    struct Cell {
+        int column = 0, row = 0;
+        double sectionY = 0;
+        double y() const; // of its upper edge
+    };
+    std::optional<Cell> cellOf(const QString &id) const;
+
     QPointer<model::NotchModel> m_source;
     double m_limit = 1e6;
 };

@@ -10,8 +10,9 @@ void PanelState::setSource(NotchModel *source)
     if (!ui::follow(*this, m_source, source))
         return;
     if (source) {
-        for (const auto signal : {&NotchModel::trustedChanged, &NotchModel::scannedChanged, &NotchModel::extrasChanged,
-                                  &NotchModel::matchesChanged, &NotchModel::queryChanged, &NotchModel::isOpenChanged})
+        for (const auto signal : {&NotchModel::trustedChanged, &NotchModel::isRecordingChanged,
+                                  &NotchModel::scannedChanged, &NotchModel::extrasChanged, &NotchModel::matchesChanged,
+                                  &NotchModel::queryChanged, &NotchModel::isOpenChanged})
             connect(source, signal, this, &PanelState::bodyChanged);
         for (const auto signal :
              {&NotchModel::hoveredIDChanged, &NotchModel::selectedIDChanged, &NotchModel::extrasChanged})
@@ -28,6 +29,8 @@ PanelState::Body PanelState::body() const
         return Waiting;
     if (!m_source->trusted())
         return Permission;
+    if (m_source->isRecording())
+        return Recorder;
     if (m_source->itemCount() == 0)
         return m_source->scanned() ? NoItems : Waiting;
     return Tiles;
@@ -47,6 +50,7 @@ QString PanelState::sentenceNaming(const QString &query) const
 {
     switch (body()) {
     case Permission:
+    case Recorder:
     case Waiting:
         return {};
     case NoItems:

@@ -23,7 +23,7 @@ class PanelState : public QObject {
     Q_PROPERTY(QString briefHint READ briefHint CONSTANT) // where the other has no room
 
 public:
-    enum Body { Permission, Waiting, NoItems, Tiles };
+    enum Body { Permission, Recorder, Waiting, NoItems, Tiles };
     Q_ENUM(Body)
 
     using QObject::QObject;

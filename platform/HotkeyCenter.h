@@ -1,8 +1,10 @@
 #pragma once
-#include "Dispatch.h"
+#include "Application.h"
 
+#include <QString>
 #include <cstdint>
 #include <expected>
+#include <functional>
 
 namespace brimshade::platform {
 
@@ -12,22 +14,41 @@ inline constexpr std::uint32_t kCarbonShift = 0x0200;
 inline constexpr std::uint32_t kCarbonOption = 0x0800;
 inline constexpr std::uint32_t kCarbonControl = 0x1000;
 
+// A key event's modifiers as hotkeys are registered with them.
+inline std::uint32_t carbonModifiers(std::uint64_t modifierFlags)
+{
+    return (modifierFlags & kCommandFlag ? kCarbonCommand : 0) | (modifierFlags & kShiftFlag ? kCarbonShift : 0)
+        | (modifierFlags & kOptionFlag ? kCarbonOption : 0) | (modifierFlags & kControlFlag ? kCarbonControl : 0);
+}
+
+// Of several hotkeys, which one. The same at every launch for what does the same: a system in which the user has a say
+// in the keys keeps what was said by this.
 struct EventHotKeyID {
     std::uint32_t signature = 0; // a four-character code, big-endian
     std::uint32_t number = 0;
+    bool operator==(const EventHotKeyID &) const = default;
 };
 using EventHotKeyRef = std::uint64_t; // never 0
 
 // System-wide hotkeys. Main thread.
 class HotkeyCenter {
 public:
+    using Handler = std::function<void(EventHotKeyID)>;
+
     virtual ~HotkeyCenter() = default;
-    // The handler runs on the main thread for each press of any registered combination, until replaced.
-    virtual void installEventHandler(Work handler) = 0;
-    // The error is the system's OSStatus; a combination that is taken is refused.
+    // The handler runs on the main thread for each press of any registered combination, with the id that it was
+    // registered with, until replaced.
+    virtual void installEventHandler(Handler handler) = 0;
+    // The error is the system's OSStatus; a combination that is taken, here or by another program, is refused.
+    // purpose: what a press does, in the user's language, for systems that show it.
     virtual std::expected<EventHotKeyRef, int> registerEventHotKey(std::uint32_t keyCode, std::uint32_t modifiers,
-                                                                   EventHotKeyID id) = 0;
+                                                                   EventHotKeyID id, const QString &purpose) = 0;
     virtual void unregisterEventHotKey(EventHotKeyRef ref) = 0;
+
+    // kHIHotKeyModeAllDisabled: until popped as often, no hotkey presses, of this program or, where the system can do
+    // that, of another. Their keys go to the key window.
+    virtual void pushSymbolicHotKeyMode() = 0;
+    virtual void popSymbolicHotKeyMode() = 0;
 };
 
 } // namespace brimshade::platform

@@ -29,6 +29,9 @@ public:
     virtual ~ItemServices() = default;
 
     virtual ItemOffer offer(const AXUIElement &item) const = 0;
+    // What it is, whenever its program runs, in some text; the same for no two items of a program. Empty for one that
+    // is gone.
+    virtual QString identity(const AXUIElement &item) const = 0;
     virtual void activate(const AXUIElement &item) = 0;
     virtual void activateSecondary(const AXUIElement &item) = 0; // what the middle button does
     virtual void scroll(const AXUIElement &item, QPoint by) = 0; // 120 is a notch of the wheel, up and left

@@ -82,6 +82,7 @@ enum VirtualKey : std::uint16_t {
     kVK_F9 = 101,
     kVK_F11 = 103,
     kVK_F10 = 109,
+    kVK_ContextualMenu = 110,
     kVK_F12 = 111,
     kVK_Home = 115,
     kVK_PageUp = 116,

@@ -2,7 +2,9 @@
 #include "Dispatch.h"
 #include "Geometry.h"
 
+#include <QPointF>
 #include <QString>
+#include <optional>
 #include <vector>
 
 namespace brimshade::platform {
@@ -10,6 +12,7 @@ namespace brimshade::platform {
 struct MenuItem {
     QString title;
     QString keyEquivalent; // with Command; empty for none
+    QString shortcut = {}; // shown in its place: keys that do the same without the menu, as a person reads them
     bool isEnabled = true;
     bool isSeparator = false;
     Work action;
@@ -31,9 +34,10 @@ struct Menu {
 class Menus {
 public:
     virtual ~Menus() = default;
-    // Opens a context menu with its corner at the pointer. Returns at once; dismissed runs when the menu is gone,
-    // after the action of the entry that was chosen. An open menu of this program is dismissed first.
-    virtual void popUpContextMenu(const Menu &menu, Work dismissed) = 0;
+    // Opens a context menu with its corner at a point of screen space, or at the pointer. Returns at once; dismissed
+    // runs when the menu is gone, after the action of the entry that was chosen. An open menu of this program is
+    // dismissed first.
+    virtual void popUpContextMenu(const Menu &menu, std::optional<QPointF> at, Work dismissed) = 0;
 };
 
 } // namespace brimshade::platform

@@ -28,6 +28,8 @@ public:
     // What to bind to a key where no global shortcut can be had: a line for the compositor's configuration. Empty where
     // the shortcut works.
     virtual QString shortcutAdvice() const = 0;
+    // The same for the menu of an item, by the name that programs may ask for it with.
+    virtual QString itemShortcutAdvice(const QString &item) const = 0;
 
     virtual void setOnChange(std::function<void()> changed) = 0; // any of these; one at a time, empty for none
 };

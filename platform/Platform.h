@@ -17,6 +17,7 @@ class Screens;
 class StatusBar;
 class Symbols;
 class UserDefaults;
+class UserNotifications;
 class Windows;
 class WindowServer;
 class Workspace;
@@ -36,6 +37,7 @@ struct Platform {
     StatusBar &statusBar;
     Symbols &symbols;
     UserDefaults &userDefaults;
+    UserNotifications &userNotifications;
     Windows &windows;
     WindowServer &windowServer;
     Workspace &workspace;

@@ -1,10 +1,12 @@
 #pragma once
 #include <QString>
 #include <QVariant>
+#include <QVariantList>
 
 namespace brimshade::platform {
 
-// The per-user store of flat key-value pairs. Main thread. Values are bool, qlonglong, double or QString.
+// The per-user store of flat key-value pairs. Main thread. Values are bool, qlonglong, double or QString,
+// or a list of maps of these.
 // A write is visible to reads at once and to the next launch; it is not checked and never fails loudly.
 class UserDefaults {
 public:
@@ -15,6 +17,7 @@ public:
     virtual void setBool(bool value, const QString &key) = 0;
     virtual void setInteger(qlonglong value, const QString &key) = 0;
     virtual void setObject(const QString &value, const QString &key) = 0;
+    virtual void setArray(const QVariantList &value, const QString &key) = 0;
 };
 
 } // namespace brimshade::platform

@@ -35,6 +35,20 @@ BarEntry::Place placeOf(const ApplicationSpec &application, const ExtraDescripti
     return isListed && isPinned(application.description, extra) ? BarEntry::Place::pinned : BarEntry::Place::movable;
 }
 
+// A line each; no program's begins with another's.
+QString identityOf(const KeptItem &kept)
+{
+    const QString item = kept.program + u'\n' + kept.id;
+    return kept.ordinal == 0 ? item : item + u'\n' + QString::number(kept.ordinal);
+}
+
+KeptItem itemOf(const ApplicationDescription &application, const ExtraDescription &extra)
+{
+    const QString name = application.name.value_or(QString());
+    return {.program = application.bundleIdentifier.value_or(name),
+            .id = extra.identifier.value_or(extra.title.value_or(extra.description.value_or(QString())))};
+}
+
 RunningApplication running(const ApplicationDescription &application, const Image &icon)
 {
     return {application.pid, application.bundleIdentifier, application.bundlePath, application.name, icon};
@@ -261,6 +275,20 @@ ItemSpec Applications::itemSpec(const ElementPointer &element) const
         return {};
     const auto [hosted, item] = find(element->pid, element.get());
     return item ? specOf(hosted->given, item->extra.description) : ItemSpec();
+}
+
+QString Applications::identity(const ElementPointer &element) const
+{
+    const auto [hosted, item] = element ? find(element->pid, element.get()) : decltype(find(0, nullptr))();
+    if (!item)
+        return {};
+    if (item->entry && item->entry->kept)
+        return identityOf(*item->entry->kept);
+    const ApplicationDescription &application = hosted->given.description;
+    KeptItem listed = itemOf(application, item->extra.description);
+    for (const Item *other = hosted->items.data(); other != item; ++other)
+        listed.ordinal += itemOf(application, other->extra.description).isSame(listed);
+    return identityOf(listed);
 }
 
 std::pair<const Applications::Hosted *, const Applications::Item *> Applications::find(int pid,

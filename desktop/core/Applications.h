@@ -28,6 +28,7 @@ public:
     void asked(ItemGesture gesture, const ElementPointer &element); // not by a click on it
     void askedInVain(const ElementPointer &element); // it is gone
     ItemSpec itemSpec(const ElementPointer &element) const; // empty when it is gone
+    QString identity(const ElementPointer &element) const; // as ItemServices says
 
 Q_SIGNALS:
     void offersChanged();

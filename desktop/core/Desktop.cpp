@@ -13,6 +13,7 @@
 #include "ScreensService.h"
 #include "StatusBarService.h"
 #include "SyntheticEvents.h"
+#include "UserNotificationService.h"
 #include "WindowInfo.h"
 #include "WindowStack.h"
 #include "WorkspaceService.h"
@@ -61,6 +62,7 @@ struct Desktop::Parts {
     ProgramApplication application{state, windows};
     Applications applications{state, menuBar, menus};
     ItemService items{applications};
+    UserNotificationService userNotifications;
     WorkspaceService workspace;
     AccessibilityService accessibility{
         services.dispatch,
@@ -153,6 +155,7 @@ Desktop::Desktop(Services services, const DesktopDescription &description)
 
     connect(&m_parts->permission, &Permission::changed, this, &Desktop::changed);
     connect(&m_parts->applications, &Applications::notified, this, &Desktop::notify);
+    connect(&m_parts->userNotifications, &UserNotificationService::added, this, &Desktop::notify);
     connect(&m_parts->applications, &Applications::acted, this, &Desktop::acted);
     connect(&m_parts->applications, &Applications::offersChanged, this, [this] { m_parts->items.tellOfOffers(); });
     connect(&m_parts->applications, &Applications::itemsChanged, this, [this] { m_parts->items.tellOfItems(); });
@@ -183,6 +186,7 @@ Platform Desktop::platform()
             p.statusBar,
             p.services.symbols,
             *p.services.defaults,
+            p.userNotifications,
             p.windows,
             p.windowInfo,
             p.workspace,

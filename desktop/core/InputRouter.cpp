@@ -1,6 +1,5 @@
 #include "InputRouter.h"
 #include "CommandDrag.h"
-#include "HotkeyModifiers.h"
 #include "MenuBar.h"
 #include "MenuHost.h"
 #include "OwnStatusItem.h"
@@ -212,8 +211,7 @@ bool InputRouter::takeHotkey(const Event &event)
     if (!event.isARepeat)
         Q_EMIT acted();
     const KeyCombination pressed{event.keyCode, carbonModifiers(event.modifierFlags)};
-    return event.isARepeat ? m_d->hotkeys.isRegistered(pressed)
-                           : m_d->hotkeys.press(pressed.keyCode, pressed.modifiers);
+    return event.isARepeat ? m_d->hotkeys.takes(pressed) : m_d->hotkeys.press(pressed.keyCode, pressed.modifiers);
 }
 
 std::optional<Event> InputRouter::keyDown(const Event &event)

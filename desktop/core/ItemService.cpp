@@ -19,6 +19,11 @@ ItemOffer ItemService::offer(const AXUIElement &item) const
     return m_applications.itemSpec(elementOf(item)).offer;
 }
 
+QString ItemService::identity(const AXUIElement &item) const
+{
+    return m_applications.identity(elementOf(item));
+}
+
 void ItemService::activate(const AXUIElement &item)
 {
     m_applications.asked(ItemGesture::activate, elementOf(item));

@@ -12,6 +12,7 @@ public:
     explicit ItemService(Applications &applications) : m_applications(applications) { }
 
     platform::ItemOffer offer(const platform::AXUIElement &item) const override;
+    QString identity(const platform::AXUIElement &item) const override;
     void activate(const platform::AXUIElement &item) override;
     void activateSecondary(const platform::AXUIElement &item) override;
     void scroll(const platform::AXUIElement &item, QPoint by) override;

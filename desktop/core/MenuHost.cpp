@@ -41,9 +41,10 @@ void MenuHost::open(std::shared_ptr<MenuSource> source, const QRectF &anchor, pl
     Q_EMIT changed();
 }
 
-void MenuHost::popUpContextMenu(const platform::Menu &menu, platform::Work dismissed)
+void MenuHost::popUpContextMenu(const platform::Menu &menu, std::optional<QPointF> at, platform::Work dismissed)
 {
-    open(makeMenuSource(menu), QRectF(m_state.pointer(), QSizeF(0, 0)), std::move(dismissed));
+    const QPointF corner = at ? platform::flipped(*at, m_state.primaryHeight()) : m_state.pointer();
+    open(makeMenuSource(menu), QRectF(corner, QSizeF(0, 0)), std::move(dismissed));
 }
 
 void MenuHost::dismiss()

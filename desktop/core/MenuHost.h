@@ -22,7 +22,7 @@ public:
     // corner for an empty rectangle; an open menu is dismissed first. dismissed runs when the menu is gone, after the
     // entry's own effect. A menu without entries closes at once.
     void open(std::shared_ptr<MenuSource> source, const QRectF &anchor, platform::Work dismissed = {});
-    void popUpContextMenu(const platform::Menu &menu, platform::Work dismissed) override;
+    void popUpContextMenu(const platform::Menu &menu, std::optional<QPointF> at, platform::Work dismissed) override;
     void dismiss();
 
     MenuSource *openMenu() const; // null when none is

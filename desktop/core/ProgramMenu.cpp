@@ -17,6 +17,7 @@ public:
             entry.title = item.title;
             entry.isSeparator = item.isSeparator;
             entry.isEnabled = item.isEnabled;
+            entry.shortcut = item.shortcut;
             if (!item.keyEquivalent.isEmpty())
                 entry.shortcut = QCoreApplication::translate("Shortcut", "⌘%1").arg(item.keyEquivalent.toUpper());
             m_entries.push_back(std::move(entry));

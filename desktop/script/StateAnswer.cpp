@@ -122,13 +122,29 @@ QJsonArray logAnswer(const std::vector<LogEntry> &entries)
     return answer;
 }
 
-QJsonValue hotkeyAnswer(const HotkeyRegistry &hotkeys)
+QJsonObject hotkeyAnswer(const HotkeyRegistry::Registered &hotkey)
 {
-    const auto current = hotkeys.current();
-    if (!current)
-        return {};
-    return QJsonObject{{u"keyCode"_s, static_cast<qint64>(current->keyCode)},
-                       {u"modifiers"_s, static_cast<qint64>(current->modifiers)}};
+    return {{u"keyCode"_s, static_cast<qint64>(hotkey.combination.keyCode)},
+            {u"modifiers"_s, static_cast<qint64>(hotkey.combination.modifiers)}};
+}
+
+// The panel's, which is the program's first.
+QJsonValue panelHotkeyAnswer(const HotkeyRegistry &hotkeys)
+{
+    const auto registered = hotkeys.registered();
+    const bool isThere = !registered.empty() && registered.front().id.number == 1;
+    return isThere ? QJsonValue(hotkeyAnswer(registered.front())) : QJsonValue();
+}
+
+QJsonArray hotkeysAnswer(const HotkeyRegistry &hotkeys)
+{
+    QJsonArray answer;
+    for (const HotkeyRegistry::Registered &each : hotkeys.registered()) {
+        QJsonObject hotkey = hotkeyAnswer(each);
+        hotkey.insert(u"purpose"_s, each.purpose);
+        answer.append(hotkey);
+    }
+    return answer;
 }
 
 QJsonValue loginItemAnswer(const ScriptedLoginItem *item)
@@ -151,7 +167,8 @@ QJsonObject stateAnswer(Desktop &desktop)
             {u"panel"_s, panelAnswer(windows)},
             {u"strip"_s, stripAnswer(windows)},
             {u"statusItem"_s, statusItemAnswer(bar)},
-            {u"hotkey"_s, hotkeyAnswer(desktop.hotkeys())},
+            {u"hotkey"_s, panelHotkeyAnswer(desktop.hotkeys())},
+            {u"hotkeys"_s, hotkeysAnswer(desktop.hotkeys())},
             {u"menuBar"_s, menuBarAnswer(bar)},
             {u"windows"_s, windowsAnswer(windows)},
             {u"menu"_s, menuOpen ? QJsonValue(QJsonArray::fromStringList(desktop.menus().titles())) : QJsonValue()},

@@ -1,4 +1,5 @@
 #pragma once
+#include <QString>
 #include <compare>
 #include <cstdint>
 #include <functional>
@@ -11,12 +12,19 @@ struct KeyCombination {
     auto operator<=>(const KeyCombination &) const = default;
 };
 
+// What a grabbed combination is for, where the session asks the user.
+struct KeyUse {
+    std::uint32_t number = 0; // the same at every launch for the same use
+    QString purpose = {}; // in the user's language
+};
+
 // Takes key combinations from the whole session. Main thread.
 class GlobalKeyGrabber {
 public:
     virtual ~GlobalKeyGrabber() = default;
     virtual void setPressed(std::function<void(KeyCombination)> pressed) = 0; // called on the main thread
-    virtual bool grab(KeyCombination combination) = 0; // false: refused, or no such key
+    // False: another program has it, or no keyboard has such a key. One that the present keyboard lacks is waited for.
+    virtual bool grab(KeyCombination combination, const KeyUse &use) = 0;
     virtual void release(KeyCombination combination) = 0;
 };
 

@@ -1,6 +1,7 @@
 #include "HotkeyRegistry.h"
 
 #include <algorithm>
+#include <ranges>
 
 namespace brimshade::desktop {
 
@@ -10,20 +11,20 @@ constexpr int kEventHotKeyExistsErr = -9878; // CarbonEvents.h
 
 } // namespace
 
-void HotkeyRegistry::installEventHandler(platform::Work handler)
+void HotkeyRegistry::installEventHandler(Handler handler)
 {
     m_handler = std::move(handler);
 }
 
-std::expected<platform::EventHotKeyRef, int>
-HotkeyRegistry::registerEventHotKey(std::uint32_t keyCode, std::uint32_t modifiers, platform::EventHotKeyID)
+std::expected<platform::EventHotKeyRef, int> HotkeyRegistry::registerEventHotKey(std::uint32_t keyCode,
+                                                                                 std::uint32_t modifiers,
+                                                                                 platform::EventHotKeyID id,
+                                                                                 const QString &purpose)
 {
-    const KeyCombination combination{keyCode, modifiers};
-    if (isRegistered(combination))
+    const Registered hotkey{{keyCode, modifiers}, id, purpose};
+    if (find(hotkey.combination) || !grab(hotkey))
         return std::unexpected(kEventHotKeyExistsErr);
-    m_registered.emplace(++m_lastRef, combination);
-    if (m_grabber)
-        m_grabber->grab(combination);
+    m_registered.emplace(++m_lastRef, hotkey);
     return m_lastRef;
 }
 
@@ -31,18 +32,32 @@ void HotkeyRegistry::unregisterEventHotKey(platform::EventHotKeyRef ref)
 {
     const auto found = m_registered.extract(ref);
     if (found && m_grabber)
-        m_grabber->release(found.mapped());
+        m_grabber->release(found.mapped().combination);
+}
+
+void HotkeyRegistry::pushSymbolicHotKeyMode()
+{
+    if (m_timesOff++ == 0 && m_modeObserver)
+        m_modeObserver(true);
+}
+
+void HotkeyRegistry::popSymbolicHotKeyMode()
+{
+    if (--m_timesOff == 0 && m_modeObserver)
+        m_modeObserver(false);
 }
 
 bool HotkeyRegistry::press(std::uint32_t keyCode, std::uint32_t carbonModifiers)
 {
-    if (!isRegistered({keyCode, carbonModifiers}))
+    const KeyCombination combination{keyCode, carbonModifiers};
+    if (!takes(combination))
         return false;
+    const platform::EventHotKeyID id = find(combination)->id;
     if (m_observer)
         m_observer();
     // A copy: the handler may install another one.
-    if (const platform::Work handler = m_handler)
-        handler();
+    if (const Handler handler = m_handler)
+        handler(id);
     return true;
 }
 
@@ -51,9 +66,17 @@ void HotkeyRegistry::setObserver(platform::Work observer)
     m_observer = std::move(observer);
 }
 
-std::optional<KeyCombination> HotkeyRegistry::current() const
+void HotkeyRegistry::setModeObserver(std::function<void(bool)> observer)
 {
-    return m_registered.empty() ? std::nullopt : std::optional(m_registered.rbegin()->second);
+    m_modeObserver = std::move(observer);
+}
+
+std::vector<HotkeyRegistry::Registered> HotkeyRegistry::registered() const
+{
+    const auto all = m_registered | std::views::values;
+    std::vector<Registered> sorted(all.begin(), all.end());
+    std::ranges::sort(sorted, {}, [](const Registered &each) { return each.id.number; });
+    return sorted;
 }
 
 void HotkeyRegistry::setGrabber(std::unique_ptr<GlobalKeyGrabber> grabber)
@@ -62,13 +85,25 @@ void HotkeyRegistry::setGrabber(std::unique_ptr<GlobalKeyGrabber> grabber)
     if (!m_grabber)
         return;
     m_grabber->setPressed([this](KeyCombination pressed) { press(pressed.keyCode, pressed.modifiers); });
-    for (const auto &[ref, combination] : m_registered)
-        m_grabber->grab(combination);
+    for (const auto &[ref, hotkey] : m_registered)
+        grab(hotkey);
 }
 
-bool HotkeyRegistry::isRegistered(KeyCombination combination) const
+bool HotkeyRegistry::takes(KeyCombination combination) const
 {
-    return std::ranges::any_of(m_registered, [&](const auto &each) { return each.second == combination; });
+    return m_timesOff == 0 && find(combination);
+}
+
+const HotkeyRegistry::Registered *HotkeyRegistry::find(KeyCombination combination) const
+{
+    const auto found =
+        std::ranges::find_if(m_registered, [&](const auto &each) { return each.second.combination == combination; });
+    return found == m_registered.end() ? nullptr : &found->second;
+}
+
+bool HotkeyRegistry::grab(const Registered &hotkey)
+{
+    return !m_grabber || m_grabber->grab(hotkey.combination, {hotkey.id.number, hotkey.purpose});
 }
 
 } // namespace brimshade::desktop

@@ -1,10 +1,11 @@
 #pragma once
 #include "GlobalKeyGrabber.h"
+#include "platform/Dispatch.h"
 #include "platform/HotkeyCenter.h"
 
 #include <map>
 #include <memory>
-#include <optional>
+#include <vector>
 
 namespace brimshade::desktop {
 
@@ -12,27 +13,43 @@ namespace brimshade::desktop {
 // around it. Main thread.
 class HotkeyRegistry : public platform::HotkeyCenter {
 public:
-    void installEventHandler(platform::Work handler) override;
-    std::expected<platform::EventHotKeyRef, int> registerEventHotKey(std::uint32_t keyCode, std::uint32_t modifiers,
-                                                                     platform::EventHotKeyID id) override;
-    void unregisterEventHotKey(platform::EventHotKeyRef ref) override;
+    struct Registered {
+        KeyCombination combination;
+        platform::EventHotKeyID id;
+        QString purpose;
+    };
 
-    // True when the combination is registered; the handler has run then.
+    void installEventHandler(Handler handler) override;
+    std::expected<platform::EventHotKeyRef, int> registerEventHotKey(std::uint32_t keyCode, std::uint32_t modifiers,
+                                                                     platform::EventHotKeyID id,
+                                                                     const QString &purpose) override;
+    void unregisterEventHotKey(platform::EventHotKeyRef ref) override;
+    void pushSymbolicHotKeyMode() override;
+    void popSymbolicHotKeyMode() override;
+
+    // True when the combination is registered and hotkeys are on; the handler has run then.
     bool press(std::uint32_t keyCode, std::uint32_t carbonModifiers);
     void setObserver(platform::Work observer); // runs before the handler, at each press
-    std::optional<KeyCombination> current() const; // the latest of those registered
+    // Runs as hotkeys go off and on; whoever can sees to it that the key window gets all keys meanwhile.
+    void setModeObserver(std::function<void(bool areOff)> observer);
+    std::vector<Registered> registered() const; // by their numbers
 
-    // Grabs what is registered now and later; null lets go. A combination that the session refuses keeps working
-    // inside the desktop.
+    // Grabs what is registered now and later; null lets go. A combination that the session refuses later on keeps
+    // working inside the desktop.
     void setGrabber(std::unique_ptr<GlobalKeyGrabber> grabber);
 
-    bool isRegistered(KeyCombination combination) const;
+    bool takes(KeyCombination combination) const; // a press of it would be one of a hotkey
 
 private:
-    std::map<platform::EventHotKeyRef, KeyCombination> m_registered;
+    const Registered *find(KeyCombination combination) const; // null for none
+    bool grab(const Registered &hotkey);
+
+    std::map<platform::EventHotKeyRef, Registered> m_registered;
     platform::EventHotKeyRef m_lastRef = 0;
-    platform::Work m_handler;
+    int m_timesOff = 0; // pushed and not popped yet
+    Handler m_handler;
     platform::Work m_observer;
+    std::function<void(bool)> m_modeObserver;
     std::unique_ptr<GlobalKeyGrabber> m_grabber;
 };
 

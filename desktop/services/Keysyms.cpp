@@ -90,6 +90,7 @@ constexpr std::array kKeysyms = std::to_array<std::pair<VirtualKey, std::uint32_
     {kVK_F9, 0xffc6},
     {kVK_F11, 0xffc8},
     {kVK_F10, 0xffc7},
+    {kVK_ContextualMenu, 0xff67},
     {kVK_F12, 0xffc9},
     {kVK_Home, 0xff50},
     {kVK_PageUp, 0xff55},

@@ -69,6 +69,11 @@ void MemoryDefaults::setObject(const QString &value, const QString &key)
     set(value, key);
 }
 
+void MemoryDefaults::setArray(const QVariantList &value, const QString &key)
+{
+    set(value, key);
+}
+
 void MemoryDefaults::set(const QVariant &value, const QString &key)
 {
     QVariant &stored = m_values[key];

@@ -15,6 +15,7 @@ public:
     void setBool(bool value, const QString &key) override;
     void setInteger(qlonglong value, const QString &key) override;
     void setObject(const QString &value, const QString &key) override;
+    void setArray(const QVariantList &value, const QString &key) override;
 
     void fill(const QVariantMap &values); // keys that are absent
     QVariantMap all() const; // every stored key

@@ -97,8 +97,9 @@ X11KeyGrabber::Private::Private(xcb_connection_t *connection, xcb_window_t windo
 bool X11KeyGrabber::Private::grab(KeyCombination combination)
 {
     const Key key = keyOf(combination);
-    const bool granted = grabKey(key);
-    if (granted || !key.code)
+    const bool isKey = keysymOf(combination.keyCode) != 0 && !xcb_connection_has_error(m_connection);
+    const bool granted = isKey && (!key.code || grabKey(key));
+    if (granted)
         m_grabbed.emplace(combination, key);
     // What came while we waited for the answer is in the connection's queue; its descriptor does not tell.
     QMetaObject::invokeMethod(
@@ -252,7 +253,7 @@ void X11KeyGrabber::setPressed(std::function<void(KeyCombination)> pressed)
     m_d->pressed = std::move(pressed);
 }
 
-bool X11KeyGrabber::grab(KeyCombination combination)
+bool X11KeyGrabber::grab(KeyCombination combination, const KeyUse &)
 {
     return m_d->grab(combination);
 }

@@ -17,7 +17,7 @@ public:
     ~X11KeyGrabber() override;
 
     void setPressed(std::function<void(KeyCombination)> pressed) override;
-    bool grab(KeyCombination combination) override;
+    bool grab(KeyCombination combination, const KeyUse &use) override;
     void release(KeyCombination combination) override;
 
 private:

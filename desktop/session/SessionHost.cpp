@@ -131,6 +131,16 @@ bool SessionHost::takesKeyboard() const
         || std::ranges::any_of(m_windows, [](const auto &each) { return each.second->takesKeyboard(); });
 }
 
+void SessionHost::takeEveryKey(bool take)
+{
+    if (m_keyTaker)
+        m_keyTaker->setKeyboardGrabEnabled(false);
+    const auto key = m_windows.find(m_desktop.windows().keyWindow());
+    m_keyTaker = take && key != m_windows.end() ? &key->second->pane().window() : nullptr;
+    if (m_keyTaker)
+        m_keyTaker->setKeyboardGrabEnabled(true);
+}
+
 QString SessionHost::windowWithKeys() const
 {
     const auto all = panes();

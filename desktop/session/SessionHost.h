@@ -7,6 +7,7 @@
 #include "desktop/views/BarTip.h"
 #include "desktop/views/MenuController.h"
 
+#include <QPointer>
 #include <map>
 #include <memory>
 
@@ -36,6 +37,8 @@ public:
 
     QPoint toScreen(QPointF display) const; // as other programs count
     bool takesKeyboard() const; // all keys of the session come to this program: panel or menu are open
+    // On X11: those that other programs have grabbed come, too, to the window that has the keys now.
+    void takeEveryKey(bool take);
     QString windowWithKeys() const; // the session's keys come to it by now; empty while another program has them
 
     void settle() override;
@@ -81,6 +84,7 @@ private:
     std::unique_ptr<TipPane> m_tip;
     std::map<DesktopWindow *, std::unique_ptr<WindowPane>> m_windows;
     std::unique_ptr<ScriptHands> m_hands;
+    QPointer<QWindow> m_keyTaker; // takes every key
     QObject *m_hovered = nullptr; // the window that the pointer is in; only compared
     bool m_tookKeyboard = false;
 };

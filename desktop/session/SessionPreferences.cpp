@@ -1,5 +1,7 @@
 #include "SessionPreferences.h"
 
+#include <algorithm>
+
 using namespace Qt::StringLiterals;
 
 namespace brimshade::desktop::session {
@@ -24,6 +26,22 @@ NotchChoice choiceOf(NotchStyle style, double width)
         break;
     }
     return {};
+}
+
+QString adviceToBind(const QString &command, QChar key)
+{
+    return SessionPreferences::tr(
+               "Here no program may take a shortcut by itself. Bind a key to “%1”; in sway:\nbindsym Mod4+%2 exec %1")
+        .arg(command, key);
+}
+
+// One word of a command line.
+QString forShell(QString word)
+{
+    const auto isPlain = [](QChar c) { return c.isLetterOrNumber() || u"-_."_s.contains(c); };
+    if (!word.isEmpty() && std::ranges::all_of(word, isPlain))
+        return word;
+    return u'\'' + word.replace(u'\'', "'\\''"_L1) + u'\'';
 }
 
 } // namespace
@@ -142,8 +160,12 @@ QString SessionPreferences::shortcutAdvice() const
 {
     if (m_shortcutsWork)
         return {};
-    return tr("Here no program may take a shortcut by itself. Bind a key to “brimshade --toggle”; in sway:\n%1")
-        .arg(u"bindsym Mod4+n exec brimshade --toggle"_s);
+    return adviceToBind(u"brimshade --toggle"_s, u'n');
+}
+
+QString SessionPreferences::itemShortcutAdvice(const QString &item) const
+{
+    return m_shortcutsWork ? QString() : adviceToBind(u"brimshade --open "_s + forShell(item), u'm');
 }
 
 } // namespace brimshade::desktop::session

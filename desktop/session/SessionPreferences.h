@@ -30,6 +30,7 @@ public:
     void setNotch(platform::NotchStyle style, double width) override;
     QString advice() const override;
     QString shortcutAdvice() const override;
+    QString itemShortcutAdvice(const QString &item) const override;
     void setOnChange(std::function<void()> changed) override { m_onChange = std::move(changed); }
 
 private:

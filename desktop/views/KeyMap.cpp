@@ -78,6 +78,7 @@ constexpr std::array kKeys = std::to_array<KeyCode>({
     {Qt::Key_F9, kVK_F9},
     {Qt::Key_F11, kVK_F11},
     {Qt::Key_F10, kVK_F10},
+    {Qt::Key_Menu, kVK_ContextualMenu},
     {Qt::Key_F12, kVK_F12},
     {Qt::Key_Home, kVK_Home},
     {Qt::Key_PageUp, kVK_PageUp},

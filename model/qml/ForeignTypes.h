@@ -3,6 +3,7 @@
 #include "model/NotchModel.h"
 #include "model/PanelMetrics.h"
 #include "model/PermissionRequest.h"
+#include "model/ShortcutRecorder.h"
 #include "model/TileActions.h"
 
 #include <qqml.h>
@@ -27,6 +28,13 @@ struct PermissionRequestForeign {
     Q_GADGET
     QML_FOREIGN(brimshade::model::PermissionRequest)
     QML_NAMED_ELEMENT(PermissionRequest)
+    QML_UNCREATABLE("The program has one and hands it to its views.")
+};
+
+struct ShortcutRecorderForeign {
+    Q_GADGET
+    QML_FOREIGN(brimshade::model::ShortcutRecorder)
+    QML_NAMED_ELEMENT(ShortcutRecorder)
     QML_UNCREATABLE("The program has one and hands it to its views.")
 };
 

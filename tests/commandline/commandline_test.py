@@ -180,11 +180,12 @@ class Script(Files):
         first, opened = answers[0], answers[3]
         for state in (first, opened):
             self.assertEqual(set(state), set(
-                "ok time model shown screens panel strip statusItem divider hotkey menuBar windows menu defaults loginItem "
-                "pointer openedURLs messages prompts events actions requests log".split()))
+                "ok time model shown screens panel strip statusItem divider hotkey hotkeys menuBar windows menu defaults "
+                "loginItem pointer openedURLs messages prompts events actions requests log".split()))
             self.assertEqual(set(state["model"]), set(
-                "isOpen extras scanned trusted hoveredID query selectedID notch movingID message showVisible hoverToOpen "
-                "shortcut dividerEnabled launchAtLogin hiddenMatches visibleMatches hiddenCount columns panelSize".split()))
+                "isOpen extras scanned trusted hoveredID query selectedID notch movingID isRecording message showVisible "
+                "hoverToOpen shortcut itemShortcuts dividerEnabled launchAtLogin hiddenMatches visibleMatches hiddenCount "
+                "columns panelSize".split()))
             self.assertEqual(set(state["panel"]), {"frame", "onScreen", "isKey"})
             self.assertEqual(set(state["statusItem"]), {"length", "frame", "drawn"})
             self.assertEqual(set(state["divider"]), {"isExpanded", "isEnabled", "anchor", "slack"})

@@ -28,6 +28,18 @@ TEST_F(DefaultsContract, TellsTypesApartAndWritesAreVisibleAtOnce)
     EXPECT_EQ(defaults.objectForKey(u"flag"_s).typeId(), QMetaType::QString) << "the latest value's type";
 }
 
+TEST_F(DefaultsContract, KeepsListsOfMapsAsTheyWere)
+{
+    const QVariantList list{QVariantMap{{u"item"_s, u"clip"_s}, {u"keyCode"_s, qlonglong(40)}},
+                            QVariantMap{{u"item"_s, u"line\nbreak"_s}}};
+    platform.userDefaults.setArray(list, u"list"_s);
+    EXPECT_EQ(platform.userDefaults.objectForKey(u"list"_s).toList(), list);
+    EXPECT_EQ(platform.userDefaults.stringForKey(u"list"_s), QString());
+    EXPECT_FALSE(platform.userDefaults.boolForKey(u"list"_s));
+    platform.userDefaults.setArray({}, u"list"_s);
+    EXPECT_EQ(platform.userDefaults.objectForKey(u"list"_s).toList(), QVariantList());
+}
+
 TEST_F(DefaultsContract, ObserversHearOnlyWhatTheyAskedForInOrder)
 {
     // Posted by nobody but the system: the order shows with an arrangement of screens.

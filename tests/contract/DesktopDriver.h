@@ -20,6 +20,7 @@ public:
     void drag(QPointF from, QPointF to) override { m_on.drag(from, to); }
     void key(std::uint16_t code, std::uint64_t modifierFlags) override { m_on.key(code, {}, modifierFlags); }
     QStringList openMenu() override { return m_on.desktop.menus().titles(); }
+    QPointF menuCorner() override { return m_on.desktop.menus().anchor().topLeft(); }
     void choose(const QString &title) override { m_on.desktop.menus().choose(title); }
     void dismissMenu() override { m_on.desktop.menus().dismiss(); }
 
@@ -28,6 +29,7 @@ public:
     void hang(int pid) override;
     void setTrusted(bool trusted) override { m_on.desktop.setTrusted(trusted); }
     void changeScreens() override;
+    QStringList told() override { return m_on.desktop.inspection().takeMessages(); }
 
     explicit DesktopDriver(const desktop::DesktopDescription &description) : m_on(description) { }
 

@@ -26,6 +26,7 @@ public:
     virtual void drag(QPointF from, QPointF to) = 0;
     virtual void key(std::uint16_t code, std::uint64_t modifierFlags) = 0;
     virtual QStringList openMenu() = 0; // titles; empty when none is open
+    virtual QPointF menuCorner() = 0; // the point that the open one was asked for at; display space
     virtual void choose(const QString &title) = 0;
     virtual void dismissMenu() = 0;
 
@@ -34,6 +35,7 @@ public:
     virtual void hang(int pid) = 0; // it answers nothing from now on
     virtual void setTrusted(bool trusted) = 0;
     virtual void changeScreens() = 0; // some other arrangement
+    virtual QStringList told() = 0; // to the person, since last asked: "Title: Body"
 };
 
 // Of the implementation that the suite is linked with.

@@ -87,13 +87,13 @@ TEST_F(StatusItemContract, AContextMenuDismissesTheOneBefore)
         return Menu{
             {{.title = QChar::fromLatin1(name), .keyEquivalent = {}, .action = [&order, name] { order += name; }}}};
     };
-    platform.menus.popUpContextMenu(menu('a'), [&] { order += '1'; });
-    platform.menus.popUpContextMenu(menu('b'), [&] { order += '2'; });
+    platform.menus.popUpContextMenu(menu('a'), {}, [&] { order += '1'; });
+    platform.menus.popUpContextMenu(menu('b'), {}, [&] { order += '2'; });
     EXPECT_EQ(order, "1");
     EXPECT_EQ(driver->openMenu(), QStringList(u"b"_s));
     driver->choose(u"b"_s);
     EXPECT_EQ(order, "1b2");
-    platform.menus.popUpContextMenu(menu('c'), [&] { order += '3'; });
+    platform.menus.popUpContextMenu(menu('c'), {}, [&] { order += '3'; });
     driver->dismissMenu();
     EXPECT_EQ(order, "1b23");
 }

@@ -80,29 +80,6 @@ TEST_F(WindowContract, MonitorsSeeOtherApplicationsEventsOrThisOnesByKind)
     EXPECT_FALSE(platform.application.currentEventType());
 }
 
-TEST_F(WindowContract, HotkeysComeBeforeWindowsAndMayBeTakenOnce)
-{
-    int presses = 0, keys = 0;
-    platform.hotkeyCenter.installEventHandler([&] { ++presses; });
-    platform.application.addLocalMonitor(kKeyDownMask, [&](const Event &event) {
-        ++keys;
-        return std::optional(event);
-    });
-    const auto window = makeWindow(QRectF(50, 60, 300, 200));
-    window->makeKeyAndOrderFront();
-    const auto ref = platform.hotkeyCenter.registerEventHotKey(45, kCarbonOption | kCarbonCommand, {0x42524d53, 1});
-    ASSERT_TRUE(ref);
-    EXPECT_NE(*ref, 0u);
-    EXPECT_FALSE(platform.hotkeyCenter.registerEventHotKey(45, kCarbonOption | kCarbonCommand, {0x42524d53, 2}));
-    driver->key(45, kOptionFlag | kCommandFlag);
-    EXPECT_EQ(presses, 1);
-    EXPECT_EQ(keys, 0);
-    platform.hotkeyCenter.unregisterEventHotKey(*ref);
-    driver->key(45, kOptionFlag | kCommandFlag);
-    EXPECT_EQ(presses, 1);
-    EXPECT_EQ(keys, 1);
-}
-
 TEST_F(WindowContract, DescribesScreensConsistentlyAndAnnouncesAnotherArrangement)
 {
     const auto screens = platform.screens.screens();

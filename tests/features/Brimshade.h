@@ -2,6 +2,7 @@
 #include "app/AppDelegate.h"
 #include "controls/Divider.h"
 #include "model/NotchModel.h"
+#include "model/ShortcutRecorder.h"
 #include "support/TestDesktop.h"
 
 inline void PrintTo(const QString &text, std::ostream *out)

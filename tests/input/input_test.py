@@ -165,7 +165,7 @@ class RealInput(unittest.TestCase):
         extra = next(e for e in self.program.state()["model"]["extras"] if e["name"] == "Relay")
         self.assertFalse(extra["isHidden"])
         self.click(self.tile("Relay")["frame"], button=3)
-        self.until("the tile's menu is open", lambda s: s["menu"] == ["Open", "Hide from Menu Bar"])
+        self.until("the tile's menu is open", lambda s: s["menu"] == ["Open", "Hide from Menu Bar", "-", "Set Shortcut…"])
         self.press_key("Down", "Down", "Return")
         self.until("the move begins", lambda s: s["model"]["movingID"] == extra["id"])
         state = self.until("and ends with the item hidden",

@@ -11,7 +11,7 @@ TEST(Settings, AreReadOnceInTheirOrder)
     context.model();
     EXPECT_EQ(context.journal,
               (QStringList{u"read showVisibleItems"_s, u"read hoverToOpen"_s, u"read shortcut"_s,
-                           u"read dividerEnabled"_s, u"status"_s}));
+                           u"read dividerEnabled"_s, u"status"_s, u"read itemShortcuts"_s}));
     const NotchModel &model = context.model();
     EXPECT_TRUE(model.showVisible() && model.trusted());
     EXPECT_FALSE(model.hoverToOpen() || model.dividerEnabled() || model.launchAtLogin());

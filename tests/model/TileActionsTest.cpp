@@ -1,5 +1,7 @@
 #include "model/TileActions.h"
 #include "ModelContext.h"
+#include "platform/HotkeyCenter.h"
+#include "platform/KeyCodes.h"
 
 namespace brimshade::model::tests {
 
@@ -44,6 +46,36 @@ TEST_F(Tile, OffersWhatItsItemDoesBesidesShowingItsMenu)
     EXPECT_EQ(journal,
               (QStringList{u"menu Activate,Open,Hide from Menu Bar"_s, u"activate v0"_s, u"secondary"_s,
                            u"scroll 0 -120"_s}));
+}
+
+TEST_F(Tile, ShowsAndChangesTheShortcutOfAnItemThatIsKnownByWhatItIs)
+{
+    model().onRecordShortcut = [this](const MenuExtra &extra) { journal << u"record "_s + extra.id; };
+    model().onRemoveShortcut = [this](const MenuExtra &extra) { journal << u"remove "_s + extra.id; };
+    itemServices.known = u"clip"_s;
+    actions.showMenu(u"v0"_s);
+    EXPECT_EQ(menus.menu.items.at(0).shortcut, QString());
+    menus.menu.items.at(3).action();
+    model().itemShortcuts().set({u"clip"_s, u"Clip"_s, {platform::kVK_ANSI_K, platform::kCarbonControl}});
+    journal.removeLast();
+    EXPECT_EQ(journal, (QStringList{u"menu Open,Hide from Menu Bar,,Set Shortcut…"_s, u"record v0"_s}));
+    journal.clear();
+    actions.showMenu(u"v0"_s);
+    EXPECT_EQ(menus.menu.items.at(0).shortcut, u"⌃K"_s);
+    menus.menu.items.at(3).action();
+    menus.menu.items.at(4).action();
+    EXPECT_EQ(journal,
+              (QStringList{u"menu Open,Hide from Menu Bar,,Change Shortcut…,Remove Shortcut"_s, u"record v0"_s,
+                           u"remove v0"_s}));
+}
+
+TEST_F(Tile, OpensItsMenuWhereTheViewHasIt)
+{
+    actions.toScreen = [](QPointF inView) { return inView + QPointF(100, 200); };
+    actions.showMenuAt(u"v0"_s, {3, 4});
+    EXPECT_EQ(menus.corner, QPointF(103, 204));
+    actions.showMenu(u"v0"_s);
+    EXPECT_EQ(menus.corner, std::nullopt);
 }
 
 TEST_F(Tile, AnOpenMenuOutlivesItsItemAndTheModel)

@@ -50,6 +50,19 @@ TEST_F(PanelStateTest, ShowsTheFirstCaseThatApplies)
     }
 }
 
+TEST_F(PanelStateTest, ARecorderComesBeforeAllButThePermission)
+{
+    model.setExtras(makeExtras(3, 2));
+    model.setScanned(true);
+    model.setIsRecording(true);
+    EXPECT_EQ(state.body(), PanelState::Recorder);
+    EXPECT_EQ(state.sentence(), QString());
+    model.setIsOpen(true);
+    EXPECT_FALSE(state.hasHeader());
+    model.setTrusted(false);
+    EXPECT_EQ(state.body(), PanelState::Permission);
+}
+
 TEST_F(PanelStateTest, OnlyAnotherItemIsAnotherLine)
 {
     QSignalSpy replaced(&footer, &FooterText::replaced);

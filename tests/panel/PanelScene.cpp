@@ -64,17 +64,20 @@ PanelScene::PanelScene(int hidden, int visible, double scale, QSize window) : sc
             required property NotchModel model
             required property TileActions actions
             required property PermissionRequest permission
+            required property ShortcutRecorder recorder
             NotchRoot {
                 objectName: "panel"
                 anchors.fill: parent
                 model: root.model
                 actions: root.actions
                 permission: root.permission
+                recorder: root.recorder
             }
         })",
                {{u"model"_s, QVariant::fromValue(&model)},
                 {u"actions"_s, QVariant::fromValue(&actions)},
-                {u"permission"_s, QVariant::fromValue(&permission)}});
+                {u"permission"_s, QVariant::fromValue(&permission)},
+                {u"recorder"_s, QVariant::fromValue(&recorder)}});
 }
 
 void PanelScene::open()

@@ -1,7 +1,9 @@
 #pragma once
 #include "OffscreenScene.h"
+#include "desktop/time/VirtualDispatch.h"
 #include "model/NotchModel.h"
 #include "model/PermissionRequest.h"
+#include "model/ShortcutRecorder.h"
 #include "model/TileActions.h"
 #include "support/FakeSystem.h"
 
@@ -33,6 +35,8 @@ public:
 
     model::TileActions actions{model, menus, &itemServices};
     model::PermissionRequest permission{accessibility, workspace};
+    desktop::VirtualDispatch dispatch;
+    model::ShortcutRecorder recorder{model, hotkeys, dispatch};
     ui::OffscreenScene scene;
 };
 

@@ -1,6 +1,8 @@
 #pragma once
 #include "Platform.h"
 
+#include <set>
+
 namespace brimshade {
 
 class Picture : public platform::ImageSource {
@@ -50,6 +52,7 @@ public:
     void setBool(bool value, const QString &key) override { write(key, value); }
     void setInteger(qlonglong value, const QString &key) override { write(key, value); }
     void setObject(const QString &value, const QString &key) override { write(key, value); }
+    void setArray(const QVariantList &value, const QString &key) override { write(key, value); }
 
 private:
     QVariant read(const QString &key) const
@@ -103,10 +106,12 @@ class FakeMenus : public platform::Menus {
 public:
     explicit FakeMenus(QStringList &journal) : m_journal(journal) { }
     platform::Menu menu; // the latest
+    std::optional<QPointF> corner; // of that; absent: at the pointer
 
-    void popUpContextMenu(const platform::Menu &opened, platform::Work dismissed) override
+    void popUpContextMenu(const platform::Menu &opened, std::optional<QPointF> at, platform::Work dismissed) override
     {
         menu = opened;
+        corner = at;
         QStringList titles;
         for (const platform::MenuItem &item : menu.items)
             titles << (item.isEnabled ? item.title : u'-' + item.title);
@@ -118,10 +123,38 @@ private:
     QStringList &m_journal;
 };
 
+// Refuses the combinations that another has.
+class FakeHotkeys : public platform::HotkeyCenter {
+public:
+    explicit FakeHotkeys(QStringList &journal) : m_journal(journal) { }
+    Handler handler;
+    std::set<std::uint32_t> refusedKeyCodes;
+
+    void installEventHandler(Handler installed) override { handler = std::move(installed); }
+    std::expected<platform::EventHotKeyRef, int>
+    registerEventHotKey(std::uint32_t keyCode, std::uint32_t, platform::EventHotKeyID id, const QString &) override
+    {
+        m_journal << u"register %1 of %2"_s.arg(keyCode).arg(id.number);
+        if (refusedKeyCodes.contains(keyCode))
+            return std::unexpected(-9878);
+        return ++m_latest;
+    }
+    void unregisterEventHotKey(platform::EventHotKeyRef) override { m_journal << u"unregister"_s; }
+    void pushSymbolicHotKeyMode() override { m_journal << u"hotkeys off"_s; }
+    void popSymbolicHotKeyMode() override { m_journal << u"hotkeys on"_s; }
+
+private:
+    QStringList &m_journal;
+    platform::EventHotKeyRef m_latest = 0;
+};
+
 class FakeItemServices : public platform::ItemServices {
 public:
     explicit FakeItemServices(QStringList &journal) : m_journal(journal) { }
     platform::ItemOffer offered; // by every item
+    QString known; // what every item is
+
+    QString identity(const platform::AXUIElement &) const override { return known; }
 
     platform::ItemOffer offer(const platform::AXUIElement &) const override { return offered; }
     void activate(const platform::AXUIElement &) override { m_journal << u"activate"_s; }
@@ -200,6 +233,7 @@ struct FakeSystem {
     FakeLoginItems loginItems{journal};
     FakeMenus menus{journal};
     FakeItemServices itemServices{journal};
+    FakeHotkeys hotkeys{journal};
     FakeAccessibility accessibility{journal};
     FakeWorkspace workspace{journal};
 };

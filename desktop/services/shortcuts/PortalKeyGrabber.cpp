@@ -20,10 +20,9 @@ constexpr uint kBindsAnew = 2; // from this version on shortcuts of an earlier r
 
 const QString kSession = u"org.freedesktop.portal.Session"_s;
 
-QString idOf(KeyCombination combination)
+QString idOf(std::uint32_t number, const QString &trigger)
 {
-    const QString trigger = portalTrigger(combination);
-    return trigger.isEmpty() ? QString() : u"panel-"_s + trigger.toLower().replace(u'+', u'-');
+    return u"hotkey-%1-%2"_s.arg(number).arg(trigger.toLower().replace(u'+', u'-'));
 }
 
 } // namespace
@@ -52,19 +51,19 @@ bool PortalKeyGrabber::isPlasma5()
     return qgetenv("KDE_SESSION_VERSION") == "5";
 }
 
-bool PortalKeyGrabber::grab(KeyCombination combination)
+bool PortalKeyGrabber::grab(KeyCombination combination, const KeyUse &use)
 {
-    const QString id = idOf(combination);
-    if (id.isEmpty())
+    const QString trigger = portalTrigger(combination);
+    if (trigger.isEmpty())
         return false;
-    m_grabbed.insert_or_assign(id, combination);
+    m_grabbed.insert_or_assign(idOf(use.number, trigger), Grabbed{combination, use.purpose});
     renewSoon();
     return true;
 }
 
 void PortalKeyGrabber::release(KeyCombination combination)
 {
-    if (m_grabbed.erase(idOf(combination)) > 0)
+    if (std::erase_if(m_grabbed, [&](const auto &each) { return each.second.combination == combination; }) > 0)
         renewSoon();
 }
 
@@ -162,10 +161,9 @@ void PortalKeyGrabber::listShortcuts()
 void PortalKeyGrabber::bindShortcuts()
 {
     QList<PortalShortcut> shortcuts;
-    for (const auto &[id, combination] : m_grabbed)
-        shortcuts.append({id,
-                          {{u"description"_s, tr("Open or close Brimshade")},
-                           {u"preferred_trigger"_s, portalTrigger(combination)}}});
+    for (const auto &[id, grabbed] : m_grabbed)
+        shortcuts.append(
+            {id, {{u"description"_s, grabbed.purpose}, {u"preferred_trigger"_s, portalTrigger(grabbed.combination)}}});
     const QString parentWindow;
     request(u"BindShortcuts"_s,
             {QVariant::fromValue(QDBusObjectPath(m_session)), QVariant::fromValue(shortcuts), parentWindow}, {}, {},
@@ -204,7 +202,7 @@ void PortalKeyGrabber::activated(const QDBusObjectPath &session, const QString &
     const auto found = m_grabbed.find(id);
     if (session.path() != m_session || found == m_grabbed.end() || !m_pressed)
         return;
-    const KeyCombination combination = found->second; // the map may change by it
+    const KeyCombination combination = found->second.combination; // the map may change by it
     m_pressed(combination);
 }
 

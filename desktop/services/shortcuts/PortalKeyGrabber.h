@@ -26,7 +26,7 @@ public:
     bool isAvailable() const { return m_isAvailable; }
 
     void setPressed(std::function<void(KeyCombination)> pressed) override { m_pressed = std::move(pressed); }
-    bool grab(KeyCombination combination) override;
+    bool grab(KeyCombination combination, const KeyUse &use) override;
     void release(KeyCombination combination) override;
 
 Q_SIGNALS:
@@ -38,6 +38,10 @@ private Q_SLOTS:
 
 private:
     using Results = std::optional<QVariantMap>;
+    struct Grabbed {
+        KeyCombination combination;
+        QString purpose;
+    };
     void inquire();
     void setAvailable(uint version);
     void ownerChanged(const QString &newOwner);
@@ -57,7 +61,7 @@ private:
 
     QDBusConnection m_bus;
     std::function<void(KeyCombination)> m_pressed;
-    std::map<QString, KeyCombination> m_grabbed; // by their ids at the portal
+    std::map<QString, Grabbed> m_grabbed; // by their ids at the portal
     uint m_version = 0; // of the portal's interface
     bool m_isAvailable = false;
     bool m_isInquiring = false;

@@ -67,8 +67,8 @@ protected:
 TEST_F(X11KeyGrabberTest, TellsWhichCombinationWasPressed)
 {
     for (const KeyCombination &each : {kOptionCommandN, kControlOptionSpace, kControlOptionCommandM})
-        EXPECT_TRUE(grabber->grab(each));
-    EXPECT_FALSE(grabber->grab({1000, platform::kCarbonCommand})); // no key at all
+        EXPECT_TRUE(grabber->grab(each, {}));
+    EXPECT_FALSE(grabber->grab({1000, platform::kCarbonCommand}, {})); // no key at all
 
     EXPECT_THAT(press({u"super+alt+n"_s, u"super+alt+ctrl+m"_s}), ElementsAre(kOptionCommandN, kControlOptionCommandM));
     EXPECT_THAT(press({u"n"_s, u"super+n"_s, u"super+alt+m"_s, u"super+alt+shift+n"_s}), ElementsAre());
@@ -85,44 +85,44 @@ TEST_F(X11KeyGrabberTest, GrabsEveryShortcutThatCanBeChosen)
 {
     for (const model::Shortcut shortcut : model::allShortcuts) {
         if (const auto keys = model::keyCombination(shortcut)) {
-            EXPECT_TRUE(grabber->grab({keys->keyCode, keys->modifiers})) << qPrintable(displayTitle(shortcut));
+            EXPECT_TRUE(grabber->grab({keys->keyCode, keys->modifiers}, {})) << qPrintable(displayTitle(shortcut));
         }
     }
     constexpr KeyCombination shiftCommandSlash{platform::kVK_ANSI_Slash,
                                                platform::kCarbonShift | platform::kCarbonCommand};
-    EXPECT_TRUE(grabber->grab(shiftCommandSlash));
+    EXPECT_TRUE(grabber->grab(shiftCommandSlash, {}));
     EXPECT_THAT(press({u"super+slash"_s, u"super+shift+slash"_s}), ElementsAre(shiftCommandSlash));
 }
 
 TEST_F(X11KeyGrabberTest, ATakenCombinationIsRefusedAndFreedWithItsOwner)
 {
     auto other = X11KeyGrabber::create(0, display);
-    EXPECT_TRUE(other->grab(kOptionCommandN));
-    EXPECT_FALSE(grabber->grab(kOptionCommandN));
+    EXPECT_TRUE(other->grab(kOptionCommandN, {}));
+    EXPECT_FALSE(grabber->grab(kOptionCommandN, {}));
     other->release(kOptionCommandN);
-    EXPECT_TRUE(grabber->grab(kOptionCommandN));
-    EXPECT_FALSE(other->grab(kOptionCommandN));
+    EXPECT_TRUE(grabber->grab(kOptionCommandN, {}));
+    EXPECT_FALSE(other->grab(kOptionCommandN, {}));
 }
 
 TEST_F(X11KeyGrabberTest, FollowsTheKeyboardMapping)
 {
-    EXPECT_TRUE(grabber->grab(kOptionCommandN));
-    EXPECT_TRUE(grabber->grab(kControlOptionSpace));
+    EXPECT_TRUE(grabber->grab(kOptionCommandN, {}));
+    EXPECT_TRUE(grabber->grab(kControlOptionSpace, {}));
     run(u"setxkbmap"_s, {u"us"_s, u"dvorak"_s});
     press({}); // the notice has come
     EXPECT_THAT(press({u"super+alt+n"_s}), ElementsAre(kOptionCommandN));
     EXPECT_THAT(press({u"super+alt+b"_s}), ElementsAre()) << "the key that was N before";
-    EXPECT_TRUE(grabber->grab(kControlOptionCommandM));
+    EXPECT_TRUE(grabber->grab(kControlOptionCommandM, {}));
     EXPECT_THAT(press({u"super+alt+ctrl+m"_s}), ElementsAre(kControlOptionCommandM));
 }
 
 TEST_F(X11KeyGrabberTest, AServerThatEndsIsBorne)
 {
-    EXPECT_TRUE(grabber->grab(kOptionCommandN));
+    EXPECT_TRUE(grabber->grab(kOptionCommandN, {}));
     server.kill();
     ASSERT_TRUE(server.waitForFinished());
     QCoreApplication::processEvents();
-    EXPECT_FALSE(grabber->grab(kControlOptionSpace));
+    EXPECT_FALSE(grabber->grab(kControlOptionSpace, {}));
     grabber->release(kOptionCommandN);
     EXPECT_FALSE(X11KeyGrabber::create(0, display));
 }

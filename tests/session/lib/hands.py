@@ -8,7 +8,7 @@ BUTTONS = {"left": (0x110, 1), "middle": (0x112, 2), "right": (0x111, 3)}  # on 
 ROWS = {2: "1234567890-=", 16: "qwertyuiop[]", 30: "asdfghjkl;'`", 44: "zxcvbnm,./"}
 CODES = {letter: first + i for first, row in ROWS.items() for i, letter in enumerate(row)} | {
     "`": 41, " ": 57, "\n": 28, "Return": 28, "Escape": 1, "Tab": 15, "BackSpace": 14, "Up": 103, "Left": 105,
-    "Right": 106, "Down": 108, "Shift": 42, "Control": 29, "Alt": 56, "Super": 125, "F9": 67}
+    "Right": 106, "Down": 108, "Shift": 42, "Control": 29, "Alt": 56, "Super": 125, "F9": 67, "F10": 68}
 XDOTOOL_NAMES = {"\n": "Return", " ": "space", "Shift": "shift", "Control": "ctrl", "Alt": "alt", "Super": "super"}
 
 

@@ -19,8 +19,10 @@ using testing::IsEmpty;
 constexpr KeyCombination kSpace{kVK_Space, kCarbonControl | kCarbonOption};
 constexpr KeyCombination kN{kVK_ANSI_N, kCarbonOption | kCarbonCommand};
 constexpr KeyCombination kNoKey{0x7f, kCarbonCommand};
-const QString kSpaceId = u"panel-ctrl-alt-space"_s;
-const QString kNId = u"panel-alt-logo-n"_s;
+const KeyUse kPanel{1, u"Open or close Brimshade"_s};
+const KeyUse kItem{22, u"Open the menu of Clip"_s};
+const QString kSpaceId = u"hotkey-1-ctrl-alt-space"_s;
+const QString kNId = u"hotkey-22-alt-logo-n"_s;
 
 TEST(PortalTriggerTest, NamesTheKey)
 {
@@ -44,7 +46,7 @@ protected:
     void startBound(const KeyCombination &combination)
     {
         start();
-        EXPECT_TRUE(grabber->grab(combination));
+        EXPECT_TRUE(grabber->grab(combination, kPanel));
         waitForCall(u"BindShortcuts %1=%2"_s.arg(idOf(combination), portalTrigger(combination)));
         settleAll();
         portal->takeCalls();
@@ -91,11 +93,11 @@ protected:
 TEST_F(PortalKeyGrabberTest, BindsWhatIsGrabbedAndTellsItsPresses)
 {
     start();
-    EXPECT_TRUE(grabber->grab(kSpace));
-    EXPECT_TRUE(grabber->grab(kN));
-    EXPECT_FALSE(grabber->grab(kNoKey));
+    EXPECT_TRUE(grabber->grab(kSpace, kPanel));
+    EXPECT_TRUE(grabber->grab(kN, kItem));
+    EXPECT_FALSE(grabber->grab(kNoKey, kPanel));
     EXPECT_FALSE(grabber->isAvailable()) << "nobody has answered yet";
-    const QString both = u"BindShortcuts panel-alt-logo-n=ALT+LOGO+n panel-ctrl-alt-space=CTRL+ALT+space"_s;
+    const QString both = u"BindShortcuts hotkey-1-ctrl-alt-space=CTRL+ALT+space hotkey-22-alt-logo-n=ALT+LOGO+n"_s;
     waitForCall(both);
     EXPECT_TRUE(grabber->isAvailable());
     EXPECT_THAT(
@@ -113,11 +115,11 @@ TEST_F(PortalKeyGrabberTest, AChangeIsANewSessionAndTheEndOfTheOld)
 {
     startBound(kSpace);
     grabber->release(kSpace);
-    EXPECT_TRUE(grabber->grab(kN));
-    waitForCall(u"BindShortcuts panel-alt-logo-n=ALT+LOGO+n"_s);
+    EXPECT_TRUE(grabber->grab(kN, kItem));
+    waitForCall(u"BindShortcuts hotkey-22-alt-logo-n=ALT+LOGO+n"_s);
     EXPECT_THAT(portal->takeCalls(),
                 ElementsAre(u"Close session"_s, u"CreateSession brimshade"_s, u"ListShortcuts"_s,
-                            u"BindShortcuts panel-alt-logo-n=ALT+LOGO+n"_s));
+                            u"BindShortcuts hotkey-22-alt-logo-n=ALT+LOGO+n"_s));
     portal->press(kSpaceId);
     portal->press(kNId);
     settleAll();
@@ -126,7 +128,7 @@ TEST_F(PortalKeyGrabberTest, AChangeIsANewSessionAndTheEndOfTheOld)
     grabber->release(kN);
     settleAll();
     EXPECT_THAT(portal->takeCalls(), ElementsAre(u"Close session"_s));
-    EXPECT_TRUE(grabber->grab(kN));
+    EXPECT_TRUE(grabber->grab(kN, kItem));
     settleAll();
     portal->takeCalls();
     grabber.reset();
@@ -139,11 +141,11 @@ TEST_F(PortalKeyGrabberTest, AChangeWhileTheUserIsAskedTakesTheQuestionBack)
     startBound(kSpace);
     portal->isSilent = true;
     grabber->release(kSpace);
-    EXPECT_TRUE(grabber->grab(kN));
+    EXPECT_TRUE(grabber->grab(kN, kItem));
     settleAll(); // it waits for its session
     grabber->release(kN);
     portal->isSilent = false;
-    EXPECT_TRUE(grabber->grab(kSpace));
+    EXPECT_TRUE(grabber->grab(kSpace, kPanel));
     settleAll();
     EXPECT_THAT(portal->takeCalls(), ElementsAre(u"Close session"_s, u"CreateSession brimshade"_s));
 }
@@ -152,12 +154,12 @@ TEST_F(PortalKeyGrabberTest, WhatAnOlderPortalKnowsIsNotBoundAgain)
 {
     portal->known = {kSpaceId, u"another"_s};
     start();
-    EXPECT_TRUE(grabber->grab(kSpace));
+    EXPECT_TRUE(grabber->grab(kSpace, kPanel));
     waitForCall(u"ListShortcuts"_s);
     settleAll();
     portal->press(kSpaceId);
     settleAll();
-    EXPECT_FALSE(portal->has(u"BindShortcuts panel-ctrl-alt-space=CTRL+ALT+space"_s));
+    EXPECT_FALSE(portal->has(u"BindShortcuts hotkey-1-ctrl-alt-space=CTRL+ALT+space"_s));
     EXPECT_THAT(pressed, ElementsAre(kSpace));
 }
 
@@ -172,14 +174,14 @@ TEST_F(PortalKeyGrabberTest, ARefusalIsBorneAndTheNextChangeAsksAgain)
 {
     portal->response = 1;
     start();
-    EXPECT_TRUE(grabber->grab(kSpace));
+    EXPECT_TRUE(grabber->grab(kSpace, kPanel));
     waitForCall(u"CreateSession brimshade"_s);
     settleAll();
     portal->takeCalls();
     portal->response = 0;
-    EXPECT_TRUE(grabber->grab(kN));
+    EXPECT_TRUE(grabber->grab(kN, kItem));
     settleAll();
-    EXPECT_TRUE(portal->has(u"BindShortcuts panel-alt-logo-n=ALT+LOGO+n panel-ctrl-alt-space=CTRL+ALT+space"_s));
+    EXPECT_TRUE(portal->has(u"BindShortcuts hotkey-1-ctrl-alt-space=CTRL+ALT+space hotkey-22-alt-logo-n=ALT+LOGO+n"_s));
 }
 
 TEST_F(PortalKeyGrabberTest, OnlyThePortalIsBelieved)
@@ -205,12 +207,12 @@ TEST_F(PortalKeyGrabberTest, FollowsThePortalsComingAndGoing)
     portal.reset();
     start();
     QObject::connect(grabber.get(), &PortalKeyGrabber::availabilityChanged, grabber.get(), [&] { ++changes; });
-    EXPECT_TRUE(grabber->grab(kSpace));
+    EXPECT_TRUE(grabber->grab(kSpace, kPanel));
     settleAll();
     EXPECT_FALSE(grabber->isAvailable());
     for (int i = 0; i < 2; ++i) { // the second time it is another process's
         portal = std::make_unique<FakePortal>(portalConnection);
-        waitForCall(u"BindShortcuts panel-ctrl-alt-space=CTRL+ALT+space"_s);
+        waitForCall(u"BindShortcuts hotkey-1-ctrl-alt-space=CTRL+ALT+space"_s);
         EXPECT_TRUE(grabber->isAvailable());
         portal->press(kSpaceId);
         settleAll();
@@ -225,13 +227,13 @@ TEST_F(PortalKeyGrabberTest, APortalWithoutShortcutsIsAskedForNone)
 {
     portal->version = 0;
     start();
-    EXPECT_TRUE(grabber->grab(kSpace));
+    EXPECT_TRUE(grabber->grab(kSpace, kPanel));
     settleAll();
     EXPECT_FALSE(grabber->isAvailable());
     EXPECT_THAT(portal->takeCalls(), ElementsAre(u"Register org.brimshade.Brimshade"_s));
 
     start(true); // it does as if, so it is left alone
-    EXPECT_TRUE(grabber->grab(kSpace));
+    EXPECT_TRUE(grabber->grab(kSpace, kPanel));
     settleAll();
     EXPECT_FALSE(grabber->isAvailable());
     EXPECT_THAT(portal->takeCalls(), IsEmpty());
