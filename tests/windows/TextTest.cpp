@@ -15,6 +15,7 @@ public:
     void setNotch(platform::NotchStyle, double) override { }
     QString advice() const override { return {}; }
     QString shortcutAdvice() const override { return u"bindsym Mod4+n exec brimshade --toggle"_s; }
+    QString itemShortcutAdvice(const QString &) const override { return {}; }
     void setOnChange(std::function<void()>) override { }
 };
 
