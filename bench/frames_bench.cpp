@@ -12,6 +12,7 @@
 #include <ctime>
 #include <vector>
 
+using namespace Qt::StringLiterals;
 using namespace brimshade;
 
 namespace {
@@ -140,7 +141,7 @@ int main(int argc, char **argv)
 {
     qputenv("QT_QPA_PLATFORM", "offscreen");
     qputenv("QT_QUICK_BACKEND", "software");
-    QLoggingCategory::setFilterRules(QStringLiteral("qt.rhi.*=false\nqt.scenegraph.*=false"));
+    QLoggingCategory::setFilterRules(u"qt.rhi.*=false\nqt.scenegraph.*=false"_s);
     QGuiApplication application(argc, argv);
     std::vector<double> scales; // of the arguments
     for (int i = 1; i < argc; ++i)

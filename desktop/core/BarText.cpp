@@ -2,11 +2,13 @@
 
 #include <QFontMetricsF>
 
+using namespace Qt::StringLiterals;
+
 namespace brimshade::desktop {
 
 QFont barFont()
 {
-    QFont font(QStringLiteral("Inter"));
+    QFont font(u"Inter"_s);
     font.setPixelSize(13);
     font.setWeight(QFont::Medium);
     return font;

@@ -1,5 +1,7 @@
 #include "TitledPane.h"
 
+using namespace Qt::StringLiterals;
+
 namespace brimshade::desktop::session {
 
 namespace {
@@ -15,7 +17,7 @@ TitledPane::TitledPane(DesktopWindow &window, const Parts &parts)
     QQuickWindow &shown = m_pane.window();
     const platform::WindowAttributes &attributes = window.attributes();
     shown.setFlags(Qt::Window | Qt::WindowTitleHint | Qt::WindowSystemMenuHint | Qt::WindowCloseButtonHint);
-    shown.setTitle(attributes.title.isEmpty() ? QStringLiteral("Brimshade") : attributes.title);
+    shown.setTitle(attributes.title.isEmpty() ? u"Brimshade"_s : attributes.title);
     shown.setColor(QColor::fromRgba(attributes.darkAppearance ? kDarkPlate : kLightPlate));
     m_holder.setParentItem(shown.contentItem());
     m_holder.setFlag(QQuickItem::ItemIsFocusScope);
