@@ -93,7 +93,7 @@ void AppDelegate::createParts()
     const ScanScheduler::Parts parts{m_model, m_access, m_scanQueue, m_placement, m_divider};
     m_scans = std::make_shared<ScanScheduler>(m_platform, parts);
     m_panel = std::make_shared<PanelPresenter>(m_platform, parts, m_scans, m_statusItem);
-    const auto finish = [](AppDelegate &self, const Choices &choices) { self.m_moves->finishOnboarding(choices); };
+    const auto finish = [](AppDelegate &self, const ItemChoices &choices) { self.m_moves->finishOnboarding(choices); };
     m_windows =
         std::make_shared<SecondaryWindows>(m_platform, m_model, m_panel, m_scans, weakly(weak_from_this(), finish));
     m_itemHotkeys = std::make_shared<ItemHotkeys>(m_platform, ItemHotkeys::Parts{m_model, m_hotkeys, m_scans, m_panel});

@@ -13,7 +13,7 @@ constexpr double kPause = 0.8; // after each move, for the divider to be back wh
 
 }
 
-bool isPending(const menubar::MenuExtra &extra, const Choices &choices)
+bool isPending(const menubar::MenuExtra &extra, const ItemChoices &choices)
 {
     const auto choice = choices.constFind(extra.id);
     return extra.canMove && choice != choices.constEnd() && *choice != extra.isHidden;

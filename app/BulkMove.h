@@ -1,22 +1,21 @@
 #pragma once
 #include "MoveMessages.h"
 #include "ScanScheduler.h"
-
-#include <QHash>
+#include "windows/flow/ItemChoices.h"
 
 namespace brimshade::app {
 
-using Choices = QHash<QString, bool>; // extra id → true: tucked away, false: in the menu bar
+using windows::ItemChoices;
 
 // Whether the item can move and is not where it was chosen to be.
-bool isPending(const menubar::MenuExtra &extra, const Choices &choices);
+bool isPending(const menubar::MenuExtra &extra, const ItemChoices &choices);
 
 // Brings one item after the other where it was chosen to be, each on fresh positions. Made on the main thread from
 // what holds then; runs on the scan queue.
 class BulkMove {
 public:
     struct Job {
-        Choices choices;
+        ItemChoices choices;
         int passLimit = 0; // ends a bar that takes every move and does none
     };
     BulkMove(const platform::Platform &platform, std::shared_ptr<menubar::MenuBarAccess> access,

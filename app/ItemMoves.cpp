@@ -79,7 +79,7 @@ void ItemMoves::moveFinished(const menubar::MenuExtra &extra, Mark mark, const m
     m_scans->scan();
 }
 
-void ItemMoves::finishOnboarding(const Choices &choices)
+void ItemMoves::finishOnboarding(const ItemChoices &choices)
 {
     m_platform.userDefaults.setBool(true, u"onboardingDone"_s);
     m_windows->closeOnboarding();
@@ -96,7 +96,7 @@ void ItemMoves::finishOnboarding(const Choices &choices)
                                   weakly(weak_from_this(), &ItemMoves::applyChoices, choices, mark(u"onboarding"_s)));
 }
 
-void ItemMoves::applyChoices(const Choices &choices, Mark mark)
+void ItemMoves::applyChoices(const ItemChoices &choices, Mark mark)
 {
     m_parts.queue->move([applied = weakly(weak_from_this(), &ItemMoves::choicesApplied, mark),
                          &dispatch = m_platform.dispatch,

@@ -18,7 +18,7 @@ public:
     // Turns the divider on first. Ignored while anything moves. A failure ends in the model's message.
     void setHidden(const menubar::MenuExtra &extra, bool hidden);
     // The setup flow is done: remembers that, and brings every item where it was chosen to be.
-    void finishOnboarding(const Choices &choices);
+    void finishOnboarding(const ItemChoices &choices);
 
 private:
     // What stands in the model's movingID from a move's request to its end. A later move's takes its place, and is then
@@ -29,7 +29,7 @@ private:
 
     void queueMove(const menubar::MenuExtra &extra, bool hidden, Mark mark);
     void moveFinished(const menubar::MenuExtra &extra, Mark mark, const menubar::MenuBarMover::Result &result);
-    void applyChoices(const Choices &choices, Mark mark);
+    void applyChoices(const ItemChoices &choices, Mark mark);
     void choicesApplied(Mark mark, const MoveMessages &messages);
 
     const platform::Platform m_platform;

@@ -3,13 +3,15 @@
 
 namespace brimshade::app {
 
+using namespace Qt::StringLiterals;
+
 inline constexpr QSizeF kPanelSize(1000, 720); // room for the largest grid; most of it stays transparent
 
 // The window that the notch opens in: above the menu bar, on every space, and taking keys although it has no title.
 inline platform::WindowAttributes notchPanelAttributes()
 {
     platform::WindowAttributes panel;
-    panel.name = QStringLiteral("panel");
+    panel.name = u"panel"_s;
     panel.styleMask = platform::kStyleNonactivatingPanel;
     panel.level = platform::kStatusWindowLevel;
     panel.collectionBehavior =

@@ -1,5 +1,5 @@
 #pragma once
-#include "EventMonitors.h"
+#include "EventMonitorSet.h"
 #include "KeyHandler.h"
 #include "ScanScheduler.h"
 #include "menubar/MenuExtra.h"
@@ -73,7 +73,7 @@ private:
     const KeyHandler m_keys;
     std::unique_ptr<platform::Window> m_panel; // from prepare() or the first opening on
     std::shared_ptr<platform::DispatchWorkItem> m_orderOut; // of the last closing; an opening cancels it
-    EventMonitors m_monitors;
+    EventMonitorSet m_monitors;
     std::unique_ptr<platform::Timer> m_pointerWatch; // only while a panel opened by hover is shown
     std::optional<double> m_awaySince; // Dispatch seconds; absent while the pointer is inside
     bool m_shown = false;

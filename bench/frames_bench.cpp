@@ -11,6 +11,7 @@
 #include <ctime>
 #include <vector>
 
+using namespace Qt::StringLiterals;
 using namespace brimshade;
 
 namespace {
@@ -149,7 +150,7 @@ int main(int argc, char **argv)
 {
     qputenv("QT_QPA_PLATFORM", "offscreen");
     qputenv("QT_QUICK_BACKEND", "software");
-    QLoggingCategory::setFilterRules(QStringLiteral("qt.rhi.*=false\nqt.scenegraph.*=false"));
+    QLoggingCategory::setFilterRules(u"qt.rhi.*=false\nqt.scenegraph.*=false"_s);
     QGuiApplication application(argc, argv);
     const QStringList wanted = QGuiApplication::arguments().mid(1); // none: all
     for (const Canvas &canvas : kCanvases) {

@@ -3,14 +3,12 @@
 
 The item names a folder as large as /usr for its icon, or /usr/share for 200 icons of its menu that are nowhere. The
 reference is the same wait before the item comes."""
-import json
 import pathlib
 import subprocess
 import sys
 import time
 
-SUPPORT = pathlib.Path(__file__).resolve().parent.parent / "tests" / "support"
-sys.path.insert(0, str(SUPPORT))
+sys.path.insert(0, str(pathlib.Path(__file__).resolve().parent.parent / "tests" / "support"))
 from program import Session  # noqa: E402
 
 CASES = {
@@ -19,8 +17,6 @@ CASES = {
         "properties": {"IconThemePath": "/usr/share", "IconName": "no-theme-has-this-icon"},
         "menu": [[f"Entry {i}", f"nowhere{i}"] for i in range(200)]},
 }
-DESKTOP = {"screens": [{"name": "Display", "frame": [0, 0, 1512, 982], "menuBarHeight": 37, "notch": [663, 849]}],
-           "applications": [], "defaults": {"onboardingDone": True}}
 
 
 def longest_answer(brimshade, seconds):
@@ -36,13 +32,9 @@ def longest_answer(brimshade, seconds):
 def measure(program, wanted):
     session = Session()
     try:
-        brimshade = session.start_program(program, DESKTOP, "--tray", "--real-time")
-        brimshade.until("watcher", lambda s: "boolean true" in session.output_of(
-            "dbus-send", "--session", "--print-reply", "--dest=org.freedesktop.DBus", "/",
-            "org.freedesktop.DBus.NameHasOwner", "string:org.kde.StatusNotifierWatcher"))
+        brimshade = session.start_host(program)
         before = longest_answer(brimshade, 2)
-        item = session.start("/usr/bin/python3", str(SUPPORT / "mock_item.py"), json.dumps(wanted),
-                             stdin=subprocess.PIPE, stdout=subprocess.PIPE, text=True)
+        item = session.start_item(wanted, stdout=subprocess.PIPE)
         item.stdout.readline()
         registered = time.monotonic()
         during, shown = 0.0, None

@@ -4,33 +4,27 @@ tray item's menu leave in memory.
 
 Ten items of our own draw a new icon ten times a second each. The reference is the same program with ten items that rest,
 and for the memory the process after its twentieth opening."""
-import json
 import pathlib
-import subprocess
 import sys
 import time
 
-SUPPORT = pathlib.Path(__file__).resolve().parent.parent / "tests" / "support"
-sys.path.insert(0, str(SUPPORT))
-from program import Program, Session  # noqa: E402
+sys.path.insert(0, str(pathlib.Path(__file__).resolve().parent.parent / "tests" / "support"))
+from program import ESCAPE, Session  # noqa: E402
+from lib.brimshade import Brimshade  # noqa: E402
 from usage import cpu_seconds, resident_kib  # noqa: E402
 
 ITEMS, ICONS_A_SECOND, SECONDS, OPENINGS, FIRST = 10, 10, 20, 200, 20
 
 
 def start(session, program):
-    settings = session.home / "settings.json"
-    settings.write_text(json.dumps({"onboardingDone": True}))
-    brimshade = Program(session.start(program, "--session", "--script", "-", "--real-time", "--defaults", str(settings),
-                                      stdin=subprocess.PIPE, stdout=subprocess.PIPE, text=True))
+    brimshade = Brimshade(session, program)
     brimshade.until("the bar", lambda s: s["statusItem"])
     return brimshade
 
 
 def add_items(session, brimshade, icons_a_second):
     for number in range(ITEMS):
-        wanted = {"properties": {"Id": f"mock{number}", "Title": f"Mock {number}"}, "icons": icons_a_second}
-        session.start("/usr/bin/python3", str(SUPPORT / "mock_item.py"), json.dumps(wanted), stdin=subprocess.PIPE)
+        session.start_item({"properties": {"Id": f"mock{number}", "Title": f"Mock {number}"}, "icons": icons_a_second})
     brimshade.until("all items", lambda s: sum("mock" in (i["identifier"] or "") for i in s["menuBar"]) == ITEMS)
 
 
@@ -56,7 +50,7 @@ def memory_after_openings(program):
         for _ in range(OPENINGS):
             brimshade.do("click", at=[x + width / 2, y + height / 2])
             brimshade.until("the menu", lambda s: s["menu"])
-            brimshade.do("key", code=53)
+            brimshade.do("key", code=ESCAPE)
             brimshade.until("no menu", lambda s: not s["menu"])
             resident.append(resident_kib(brimshade.pid))
         return resident

@@ -87,7 +87,7 @@ function(brimshade_program name source)
   _brimshade_note_links(${source} ${name} "" "" "${arg_LINK}")
 endfunction()
 
-# Every test has the build folder's home instead of the user's.
+# Every test has the build folder's home instead of the user's, and none of the session in which it is started.
 set(BRIMSHADE_TEST_HOME ${CMAKE_BINARY_DIR}/tests/home)
 file(MAKE_DIRECTORY ${BRIMSHADE_TEST_HOME}/runtime)
 file(CHMOD ${BRIMSHADE_TEST_HOME}/runtime PERMISSIONS OWNER_READ OWNER_WRITE OWNER_EXECUTE)
@@ -96,7 +96,7 @@ function(_brimshade_test_properties name)
   set_tests_properties(${name} PROPERTIES TIMEOUT 300
     ENVIRONMENT "LC_ALL=C.UTF-8;HOME=${BRIMSHADE_TEST_HOME};XDG_RUNTIME_DIR=${BRIMSHADE_TEST_HOME}/runtime"
     ENVIRONMENT_MODIFICATION
-      "XDG_CACHE_HOME=unset:;XDG_CONFIG_HOME=unset:;XDG_DATA_HOME=unset:;XDG_STATE_HOME=unset:")
+      "XDG_CACHE_HOME=unset:;XDG_CONFIG_HOME=unset:;XDG_DATA_HOME=unset:;XDG_STATE_HOME=unset:;DISPLAY=unset:;WAYLAND_DISPLAY=unset:;DBUS_SESSION_BUS_ADDRESS=unset:")
 endfunction()
 
 # brimshade_test(model MOC SOURCES … LINK …): a GoogleTest program "model_test", which is one ctest entry.

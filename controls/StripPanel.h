@@ -3,11 +3,13 @@
 
 namespace brimshade::controls {
 
+using namespace Qt::StringLiterals;
+
 // The panel that holds the hover view: over the menu bar on every space, and never in anybody's way.
 inline platform::WindowAttributes stripPanelAttributes(const QRectF &frame)
 {
     platform::WindowAttributes strip;
-    strip.name = QStringLiteral("strip");
+    strip.name = u"strip"_s;
     strip.contentRect = frame;
     strip.styleMask = platform::kStyleNonactivatingPanel;
     strip.level = platform::kStatusWindowLevel;

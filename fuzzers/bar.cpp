@@ -2,6 +2,7 @@
 #include "Expect.h"
 #include "desktop/core/KeptOrderFormat.h"
 
+using namespace Qt::StringLiterals;
 using namespace brimshade;
 using desktop::KeptOrder;
 
@@ -30,7 +31,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size
     expectToComeBack(*order);
 
     KeptOrder bar(today);
-    const auto here = bar.arrive({QStringLiteral("org.example"), QStringLiteral("a"), 0});
+    const auto here = bar.arrive({u"org.example"_s, u"a"_s, 0});
     bar.restore(*std::move(order));
     bar.arrive(here);
     bar.leave(here);

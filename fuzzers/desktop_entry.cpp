@@ -4,6 +4,7 @@
 #include "desktop/services/KeyFile.h"
 #include "desktop/tray/DesktopEntry.h"
 
+using namespace Qt::StringLiterals;
 using namespace brimshade;
 
 namespace {
@@ -12,7 +13,7 @@ namespace {
 bool comesBack(const QString &text)
 {
     const QByteArray content = "[Desktop Entry]\nName=" + desktop::escaped(text).toUtf8();
-    return desktop::readDesktopEntry(content).value(QStringLiteral("Name")) == text;
+    return desktop::readDesktopEntry(content).value(u"Name"_s) == text;
 }
 
 } // namespace
@@ -20,8 +21,7 @@ bool comesBack(const QString &text)
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)
 {
     const QByteArray content(reinterpret_cast<const char *>(data), static_cast<qsizetype>(size));
-    const auto entry =
-        desktop::tray::parseDesktopEntry(QStringLiteral("org.example"), content, QStringLiteral("de_DE"));
+    const auto entry = desktop::tray::parseDesktopEntry(u"org.example"_s, content, u"de_DE"_s);
     fuzz::expect(!entry || entry->name.size() <= 256, "a name that can be shown");
     fuzz::expect(!entry || !entry->executable.contains(u'/'), "the name of a file");
     desktop::readAutostartEntry(content);

@@ -13,6 +13,7 @@
 
 #include <QGuiApplication>
 
+using namespace Qt::StringLiterals;
 using namespace brimshade;
 
 namespace {
@@ -63,7 +64,7 @@ void run(const QByteArray &script)
     addWorldCommands(runner, desktop);
     for (const QByteArray &line : script.split('\n')) {
         if (const auto command = desktop::parseScriptLine(line))
-            fuzz::expect(runner.run(*command).contains(QStringLiteral("ok")), "an answer");
+            fuzz::expect(runner.run(*command).contains(u"ok"_s), "an answer");
     }
 }
 

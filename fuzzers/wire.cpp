@@ -17,6 +17,7 @@
 #include <dbus/dbus.h>
 #include <functional>
 
+using namespace Qt::StringLiterals;
 using namespace brimshade;
 
 namespace {
@@ -58,7 +59,7 @@ public:
     {
         QEventLoop untilConnected;
         QObject::connect(&m_server, &QDBusServer::newConnection, &untilConnected, [&](QDBusConnection connection) {
-            connection.registerVirtualObject(QStringLiteral("/"), &m_receiver, QDBusConnection::SubPath);
+            connection.registerVirtualObject(u"/"_s, &m_receiver, QDBusConnection::SubPath);
             untilConnected.quit();
         });
         m_sender = dbus_connection_open_private(m_server.address().toUtf8().constData(), nullptr);

@@ -1,5 +1,5 @@
-#include "MenuBarAccess.h"
-#include "platform/Dispatch.h"
+#include "Activation.h"
+#include "MenuExtra.h"
 #include "platform/Log.h"
 
 namespace brimshade::menubar {
@@ -18,29 +18,14 @@ platform::AXError pressOrShowMenu(platform::Accessibility &accessibility, const 
     return error == platform::kAXErrorActionUnsupported ? accessibility.performAction(element, u"AXShowMenu"_s) : error;
 }
 
-void pressAndLog(platform::Accessibility &accessibility, platform::Log &log, const platform::AXUIElement &element,
-                 const QString &name)
-{
-    const platform::AXError error = pressOrShowMenu(accessibility, element);
-    // An application that is busy with the menu it opened does not answer in time: no failure.
-    if (error != platform::kAXErrorSuccess && error != platform::kAXErrorCannotComplete)
-        log.write(platform::LogLevel::error, "press failed for %{public}s: AXError %d", {name, int(error)});
-}
-
 } // namespace
 
-void MenuBarAccess::activate(const MenuExtra &extra) const
+void pressItem(platform::Accessibility &accessibility, platform::Log &log, const MenuExtra &extra)
 {
-    // Holds the services, not this object, which may be gone by then.
-    m_dispatch.globalAsync(platform::QualityOfService::userInitiated,
-                           [&accessibility = m_accessibility, &log = m_log, extra] {
-                               pressAndLog(accessibility, log, extra.element, extra.name);
-                           });
-}
-
-void MenuBarAccess::press(const platform::AXUIElement &element, const MenuExtra &extra) const
-{
-    pressAndLog(m_accessibility, m_log, element, extra.name);
+    const platform::AXError error = pressOrShowMenu(accessibility, extra.element);
+    // An application that is busy with the menu it opened does not answer in time: no failure.
+    if (error != platform::kAXErrorSuccess && error != platform::kAXErrorCannotComplete)
+        log.write(platform::LogLevel::error, "press failed for %{public}s: AXError %d", {extra.name, int(error)});
 }
 
 } // namespace brimshade::menubar

@@ -1,12 +1,13 @@
 #include "MenuBarAccess.h"
+#include "Activation.h"
 #include "BarReading.h"
 #include "ElementReader.h"
 #include "Labels.h"
 #include "NotchGeometry.h"
-#include "Owner.h"
 #include "Text.h"
 #include "platform/Dispatch.h"
 #include "platform/Platform.h"
+#include "platform/Workspace.h"
 
 #include <QStringBuilder>
 #include <algorithm>
@@ -48,9 +49,17 @@ ExtraList leftToRight(ExtraList extras)
 
 } // namespace
 
+// The application that a scan reads.
+struct MenuBarAccess::Owner {
+    const platform::RunningApplication &application;
+    bool isSystemAgent;
+    QString idPrefix; // of its items: "812-"
+    std::optional<QString> outerBundle; // of an application that lies in another one's bundle
+};
+
 MenuBarAccess::MenuBarAccess(const platform::Platform &platform)
     : m_accessibility(platform.accessibility), m_dispatch(platform.dispatch), m_log(platform.log),
-      m_workspace(platform.workspace)
+      m_workspace(platform.workspace), m_icons(platform.workspace)
 {
 }
 
@@ -93,7 +102,7 @@ void MenuBarAccess::addItems(const platform::RunningApplication &application, Ba
     const auto &path = application.bundlePath;
     const Owner owner{application, isSystemAgent(application), QString::number(application.processIdentifier) + u'-',
                       path ? outerBundle(*path) : std::nullopt};
-    const Icon icon = appIcon(owner);
+    const TintedIcon icon = appIcon(owner);
     for (int position = 0; ItemReading & item : bar.items) {
         MenuExtra &extra = extras.emplace_back();
         extra.icon = icon.image;
@@ -116,6 +125,22 @@ void MenuBarAccess::describe(const Owner &owner, ItemReading item, int position,
     extra.element = std::move(item.element);
 }
 
+QString MenuBarAccess::appName(const Owner &owner) const
+{
+    if (owner.outerBundle)
+        return withoutBundleSuffix(m_workspace.displayNameAtPath(*owner.outerBundle));
+    return owner.application.localizedName.value_or(u"App"_s);
+}
+
+TintedIcon MenuBarAccess::appIcon(const Owner &owner)
+{
+    if (owner.isSystemAgent)
+        return {{}, tintWithoutIcon()};
+    if (const auto &path = owner.application.bundlePath)
+        return m_icons.find(owner.outerBundle.value_or(*path));
+    return tinted(owner.application.icon);
+}
+
 std::optional<QRectF> MenuBarAccess::frame(const AXUIElement &element) const
 {
     if (!element)
@@ -133,6 +158,14 @@ std::optional<QRectF> MenuBarAccess::firstSystemButtonFrame() const
     if (agent == applications.end())
         return std::nullopt;
     return readFirstButton(m_accessibility, agent->processIdentifier);
+}
+
+void MenuBarAccess::activate(const MenuExtra &extra) const
+{
+    // Holds the services, not this object, which may be gone by then.
+    m_dispatch.globalAsync(
+        platform::QualityOfService::userInitiated,
+        [&accessibility = m_accessibility, &log = m_log, extra] { pressItem(accessibility, log, extra); });
 }
 
 } // namespace brimshade::menubar

@@ -1,9 +1,9 @@
 #pragma once
+#include "BundleIcons.h"
 #include "MenuExtra.h"
 #include "platform/Accessibility.h"
 #include "platform/Screens.h"
 
-#include <QHash>
 #include <optional>
 
 namespace brimshade::platform {
@@ -11,7 +11,6 @@ class Dispatch;
 class Log;
 struct Platform;
 struct RunningApplication;
-class Workspace;
 } // namespace brimshade::platform
 
 namespace brimshade::menubar {
@@ -41,28 +40,21 @@ public:
 
     // Presses the item on a global queue and returns at once. A failure is logged.
     void activate(const MenuExtra &extra) const;
-    void press(const platform::AXUIElement &element, const MenuExtra &extra) const;
 
 private:
-    struct Icon {
-        platform::Image image;
-        QColor tint; // of the image
-    };
-
     struct Owner;
 
     std::vector<platform::RunningApplication> otherApplications() const;
     void addItems(const platform::RunningApplication &application, BarReading bar, ExtraList &extras);
     void describe(const Owner &owner, ItemReading item, int position, MenuExtra &extra) const;
     QString appName(const Owner &owner) const;
-    Icon appIcon(const Owner &owner);
-    const Icon &cachedIcon(const QString &bundlePath);
+    TintedIcon appIcon(const Owner &owner);
 
     platform::Accessibility &m_accessibility;
     platform::Dispatch &m_dispatch;
     platform::Log &m_log;
     platform::Workspace &m_workspace;
-    QHash<QString, Icon> m_icons; // by outer bundle path; never emptied
+    BundleIcons m_icons;
 };
 
 } // namespace brimshade::menubar

@@ -17,11 +17,6 @@ QByteArray bytesOf(const QRectF &rect, double scale)
 
 } // namespace
 
-DrawnItem::DrawnItem(QQuickItem *parent) : QQuickItem(parent)
-{
-    setFlag(ItemHasContents);
-}
-
 QRectF DrawnItem::pictureRect() const
 {
     return boundingRect();
@@ -54,13 +49,13 @@ QSGNode *DrawnItem::updatePaintNode(QSGNode *node, UpdatePaintNodeData *)
 QByteArray DrawnItem::pictureName() const
 {
     const QRectF rect = pictureRect();
-    const QByteArray key = rect.isEmpty() || !m_cache ? QByteArray() : pictureKey();
+    const QByteArray key = rect.isEmpty() || !cache() ? QByteArray() : pictureKey();
     return key.isEmpty() ? key : key + bytesOf(rect, window()->effectiveDevicePixelRatio());
 }
 
 QImage DrawnItem::picture(const QByteArray &name) const
 {
-    if (const QImage *known = m_cache->find(name))
+    if (const QImage *known = cache()->find(name))
         return *known;
     const QRectF rect = pictureRect();
     constexpr int largest = 8192; // pixels a side
@@ -74,24 +69,8 @@ QImage DrawnItem::picture(const QByteArray &name) const
     painter.translate(-rect.topLeft());
     draw(painter, scale);
     painter.end();
-    m_cache->insert(name, drawn, pictureOwner());
+    cache()->insert(name, drawn, pictureOwner());
     return drawn;
-}
-
-void DrawnItem::itemChange(ItemChange change, const ItemChangeData &data)
-{
-    if (change == ItemSceneChange)
-        m_cache = data.window ? PictureCache::of(data.window) : nullptr;
-    if (change == ItemDevicePixelRatioHasChanged || change == ItemSceneChange)
-        update();
-    QQuickItem::itemChange(change, data);
-}
-
-void DrawnItem::geometryChange(const QRectF &newGeometry, const QRectF &oldGeometry)
-{
-    QQuickItem::geometryChange(newGeometry, oldGeometry);
-    if (newGeometry.size() != oldGeometry.size())
-        update();
 }
 
 } // namespace brimshade::ui

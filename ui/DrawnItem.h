@@ -1,23 +1,20 @@
 #pragma once
-#include "PictureCache.h"
+#include "CachedItem.h"
 
 #include <QByteArray>
 #include <QPainter>
-#include <QPointer>
-#include <QQuickItem>
-#include <qqml.h>
 
 namespace brimshade::ui {
 
 // An item that shows one picture, drawn once for its content, size and device pixel ratio and shared with every equal
 // item of the window. Moving, scaling and fading it never draws again. What is never shown scaled says `smooth: false`:
 // it is then copied and not resampled.
-class DrawnItem : public QQuickItem {
+class DrawnItem : public brimshade::ui::CachedItem {
     Q_OBJECT
     QML_ANONYMOUS
 
 public:
-    explicit DrawnItem(QQuickItem *parent = nullptr);
+    using CachedItem::CachedItem;
 
     // For who shows the picture in another way, too; while the scene graph synchronises.
     QByteArray pictureName() const; // its key with size and scale; empty: there is none
@@ -34,11 +31,8 @@ protected:
     virtual void draw(QPainter &painter, double scale) const = 0;
 
     QSGNode *updatePaintNode(QSGNode *node, UpdatePaintNodeData *) override;
-    void itemChange(ItemChange change, const ItemChangeData &data) override;
-    void geometryChange(const QRectF &newGeometry, const QRectF &oldGeometry) override;
 
 private:
-    QPointer<PictureCache> m_cache;
     QByteArray m_shownKey; // of the node's texture
     std::shared_ptr<const void> m_shownOwner; // so that nothing else gets its address
 };

@@ -8,16 +8,11 @@
 
 namespace brimshade::ui {
 
-NinePatchItem::NinePatchItem(QQuickItem *parent) : QQuickItem(parent)
-{
-    setFlag(ItemHasContents);
-}
-
 QSGNode *NinePatchItem::updatePaintNode(QSGNode *node, UpdatePaintNodeData *)
 {
     auto *patch = static_cast<NinePatchNode *>(node);
     QByteArray key = pictureKey();
-    if (!m_cache || key.isEmpty() || width() <= 0 || height() <= 0) {
+    if (!cache() || key.isEmpty() || width() <= 0 || height() <= 0) {
         delete patch;
         m_shownKey.clear();
         return nullptr;
@@ -49,27 +44,11 @@ QRectF NinePatchItem::target(double scale) const
 
 QImage NinePatchItem::picture(const QByteArray &key, double scale) const
 {
-    if (const QImage *known = m_cache->find(key))
+    if (const QImage *known = cache()->find(key))
         return *known;
     QImage drawn = draw(2 * int(std::round(border() * scale)) + 2, scale);
-    m_cache->insert(key, drawn);
+    cache()->insert(key, drawn);
     return drawn;
-}
-
-void NinePatchItem::itemChange(ItemChange change, const ItemChangeData &data)
-{
-    if (change == ItemSceneChange)
-        m_cache = data.window ? PictureCache::of(data.window) : nullptr;
-    if (change == ItemDevicePixelRatioHasChanged || change == ItemSceneChange)
-        update();
-    QQuickItem::itemChange(change, data);
-}
-
-void NinePatchItem::geometryChange(const QRectF &newGeometry, const QRectF &oldGeometry)
-{
-    QQuickItem::geometryChange(newGeometry, oldGeometry);
-    if (newGeometry.size() != oldGeometry.size())
-        update();
 }
 
 } // namespace brimshade::ui

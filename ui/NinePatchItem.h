@@ -1,21 +1,18 @@
 #pragma once
-#include "PictureCache.h"
+#include "CachedItem.h"
 
 #include <QMarginsF>
-#include <QPointer>
-#include <QQuickItem>
-#include <qqml.h>
 
 namespace brimshade::ui {
 
 // An item that shows one picture whose corners keep their size while the sides between them stretch and the middle is
 // left out. Drawn once for its look and device pixel ratio: resizing is cheap.
-class NinePatchItem : public QQuickItem {
+class NinePatchItem : public brimshade::ui::CachedItem {
     Q_OBJECT
     QML_ANONYMOUS
 
 public:
-    explicit NinePatchItem(QQuickItem *parent = nullptr);
+    using CachedItem::CachedItem;
 
 protected:
     // Names everything that draw() reads but scale. Empty: there is nothing to draw.
@@ -26,14 +23,11 @@ protected:
     virtual QImage draw(int side, double scale) const = 0;
 
     QSGNode *updatePaintNode(QSGNode *node, UpdatePaintNodeData *) override;
-    void itemChange(ItemChange change, const ItemChangeData &data) override;
-    void geometryChange(const QRectF &newGeometry, const QRectF &oldGeometry) override;
 
 private:
     QRectF target(double scale) const;
     QImage picture(const QByteArray &key, double scale) const;
 
-    QPointer<PictureCache> m_cache;
     QByteArray m_shownKey;
 };
 

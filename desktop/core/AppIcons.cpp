@@ -1,9 +1,11 @@
 #include "AppIcons.h"
+#include "PixelImage.h"
 
 #include <QColor>
 #include <QFont>
 #include <QIcon>
 #include <QImageReader>
+#include <QPainter>
 #include <QPainterPath>
 
 using namespace Qt::StringLiterals;
@@ -14,20 +16,6 @@ namespace {
 
 constexpr int kSize = 128; // points, and pixels: tiles show it smaller
 constexpr QSizeF kPoints{kSize, kSize};
-
-class Picture : public platform::ImageSource {
-public:
-    explicit Picture(QImage picture) : m_picture(std::move(picture)) { }
-    void draw(QPainter &painter, const QRectF &rect) const override
-    {
-        painter.setRenderHint(QPainter::SmoothPixmapTransform);
-        painter.drawImage(rect, m_picture);
-    }
-    QImage bitmap() const override { return m_picture; }
-
-private:
-    const QImage m_picture;
-};
 
 QImage roundedSquare(const QColor &color, const QString &text)
 {
@@ -52,7 +40,7 @@ QImage roundedSquare(const QColor &color, const QString &text)
 }
 
 // A vector picture is drawn at our size, a larger bitmap brought down to it.
-QImage readPicture(const QString &path)
+QImage readSquare(const QString &path)
 {
     QImageReader reader(path);
     const QSize size = reader.size();
@@ -79,27 +67,22 @@ QImage pictureOf(const QString &icon, const ApplicationDescription &application)
     if (icon.startsWith(u'#'))
         return QColor::isValidColor(icon) ? roundedSquare(QColor(icon), initialOf(application)) : QImage();
     if (icon.contains(u'/'))
-        return readPicture(icon);
+        return readSquare(icon);
     return QIcon::fromTheme(icon).pixmap(kSize, kSize).toImage();
 }
 
 } // namespace
 
-platform::Image imageOf(const QImage &picture)
-{
-    return picture.isNull() ? platform::Image() : platform::Image(std::make_shared<Picture>(picture), kPoints);
-}
-
 platform::Image genericIcon()
 {
-    return imageOf(roundedSquare(QColor(0xb4, 0xb9, 0xc2), {}));
+    return imageOf(roundedSquare(QColor(0xb4, 0xb9, 0xc2), {}), kPoints);
 }
 
 platform::Image makeIcon(const ApplicationDescription &application)
 {
     if (!application.icon)
         return {};
-    auto image = imageOf(pictureOf(*application.icon, application));
+    auto image = imageOf(pictureOf(*application.icon, application), kPoints);
     if (!image.isNull())
         return image;
     qWarning().noquote() << u"application %1: no picture is to be had from \"%2\""_s.arg(application.pid)

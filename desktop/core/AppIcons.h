@@ -11,6 +11,5 @@ namespace brimshade::desktop {
 // error.
 platform::Image makeIcon(const ApplicationDescription &application);
 platform::Image genericIcon();
-platform::Image imageOf(const QImage &picture);
 
 } // namespace brimshade::desktop

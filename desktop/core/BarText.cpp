@@ -3,11 +3,13 @@
 #include <QFontMetricsF>
 #include <cmath>
 
+using namespace Qt::StringLiterals;
+
 namespace brimshade::desktop {
 
 QFont barFont()
 {
-    QFont font(QStringLiteral("Inter"));
+    QFont font(u"Inter"_s);
     font.setPixelSize(13);
     font.setWeight(QFont::Medium);
     return font;

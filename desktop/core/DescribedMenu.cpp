@@ -1,5 +1,7 @@
 #include "DescribedMenu.h"
 
+using namespace Qt::StringLiterals;
+
 namespace brimshade::desktop {
 
 DescribedMenu::DescribedMenu(ElementPointer element, const QStringList &titles, Chosen chosen)
@@ -9,7 +11,7 @@ DescribedMenu::DescribedMenu(ElementPointer element, const QStringList &titles, 
         MenuEntry entry;
         entry.id = static_cast<int>(m_entries.size()) + 1;
         entry.title = title;
-        entry.isSeparator = title == QLatin1StringView("-");
+        entry.isSeparator = title == "-"_L1;
         m_entries.push_back(std::move(entry));
     }
 }

@@ -2,6 +2,8 @@
 
 #include <QHash>
 
+using namespace Qt::StringLiterals;
+
 namespace brimshade::desktop {
 
 namespace {
@@ -80,7 +82,7 @@ std::vector<DescribedExtra> describeChildren(Element &parent, const std::vector<
         fill(*element, extra);
         parent.children.push_back(element);
         auto below = describeChildren(*element, extra.children);
-        if (extra.role == QLatin1StringView("AXGroup")) // only a group's children stand in the bar
+        if (extra.role == "AXGroup"_L1) // only a group's children stand in the bar
             std::ranges::move(below, std::back_inserter(all));
         else
             all.push_back({extra, element});

@@ -97,22 +97,43 @@ double MenuBar::ownItemLength() const
 
 std::vector<BarItem> MenuBar::items() const
 {
-    const bool isMenuOpen = m_d->menus.openMenu();
     std::vector<BarItem> items;
     for (const auto *entries : {&m_d->order.laidOut(), &m_d->order.fixed()}) {
         for (const auto &entry : *entries) {
-            if (!entry->frame)
-                continue;
-            const BarEntry &e = *entry;
-            items.push_back({e.pid, e.identifier, e.title, e.description, e.symbol, e.image, e.label, e.toolTip,
-                             *e.frame, minX(*e.frame) + e.shift, isDrawn(e), e.place == BarEntry::Place::own,
-                             e.isPressed || (isMenuOpen && m_d->menus.anchor() == *e.frame),
-                             e.place == BarEntry::Place::own ? hiddenWantsAttention() : e.wantsAttention,
-                             e.dragOffset});
+            if (entry->frame)
+                items.push_back(shown(*entry));
         }
     }
     std::ranges::stable_sort(items, {}, [](const BarItem &item) { return minX(item.frame); });
     return items;
+}
+
+std::optional<BarItem> MenuBar::itemOf(const EntryPointer &entry) const
+{
+    const auto has = [&entry](const BarEntries &entries) { return std::ranges::find(entries, entry) != entries.end(); };
+    const bool isHere = has(m_d->order.laidOut()) || has(m_d->order.fixed());
+    return isHere && entry->frame ? std::optional(shown(*entry)) : std::nullopt;
+}
+
+BarItem MenuBar::shown(const BarEntry &e) const
+{
+    const bool isOwn = e.place == BarEntry::Place::own;
+    const bool isMenuOpen = m_d->menus.openMenu() && m_d->menus.anchor() == *e.frame;
+    return {e.pid,
+            e.identifier,
+            e.title,
+            e.description,
+            e.symbol,
+            e.image,
+            e.label,
+            e.toolTip,
+            *e.frame,
+            minX(*e.frame) + e.shift,
+            isDrawn(e),
+            isOwn,
+            e.isPressed || isMenuOpen,
+            isOwn ? hiddenWantsAttention() : e.wantsAttention,
+            e.dragOffset};
 }
 
 bool MenuBar::hiddenWantsAttention() const

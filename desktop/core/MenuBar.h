@@ -59,7 +59,7 @@ public:
 
     // For the desktop's other parts.
     using EntryPointer = std::shared_ptr<BarEntry>;
-    // The next layout has exactly these items, as rightToLeft says. Nothing happens when nothing differs.
+    // Each takes part in the next layout. Nothing happens when nothing differs.
     void add(const EntryPointer &entry);
     void remove(const EntryPointer &entry);
     void rename(const EntryPointer &entry, const KeptItem &who); // one that comes and goes is another than it seemed
@@ -77,6 +77,7 @@ public:
     void settleNow(const std::function<void()> &changes);
 
     EntryPointer entryAt(QPointF point) const; // whose frame holds the point, drawn or not; null for none
+    std::optional<BarItem> itemOf(const EntryPointer &entry) const; // absent when it has gone, or has no place yet
     EntryPointer drawnEntryAt(QPointF point) const; // the one that takes clicks there
     bool isDrawn(const BarEntry &entry) const;
     bool containsRow(QPointF point) const; // in the bar's row, whatever its x
@@ -99,6 +100,7 @@ Q_SIGNALS:
 private:
     struct Private;
     struct Layout;
+    BarItem shown(const BarEntry &entry) const; // one that has a frame
     double room() const; // points for what is drawn
     Layout layout(const BarOrder &order) const;
     bool drop(BarOrder &order, const EntryPointer &entry, double x) const;

@@ -14,6 +14,8 @@
 // place of the fault. Sizes are bounded: what is read comes from anywhere.
 namespace brimshade::desktop {
 
+using namespace Qt::StringLiterals;
+
 using Fault = std::optional<QString>;
 
 QString place(const QString &path, QStringView key); // "applications[2].pid"
@@ -39,10 +41,10 @@ template <class T, class Read>
 Fault readList(const QJsonValue &value, const QString &path, qsizetype most, T &into, Read read)
 {
     if (!value.isArray())
-        return fault(path, QStringLiteral("expected an array"));
+        return fault(path, u"expected an array"_s);
     const QJsonArray array = value.toArray();
     if (array.size() > most)
-        return fault(path, QStringLiteral("expected at most %1 elements").arg(most));
+        return fault(path, u"expected at most %1 elements"_s.arg(most));
     into.clear();
     into.reserve(array.size());
     for (qsizetype i = 0; i < array.size(); ++i) {
@@ -77,20 +79,20 @@ template <class T> using Fields = std::span<const Field<T>>;
 template <class T> Fault readObject(const QJsonValue &value, const QString &path, Fields<T> fields, T &into)
 {
     if (!value.isObject())
-        return fault(path, QStringLiteral("expected an object"));
+        return fault(path, u"expected an object"_s);
     QJsonObject rest = value.toObject();
     for (const Field<T> &field : fields) {
         const auto found = rest.constFind(field.key);
         if (found == rest.constEnd()) {
             if (field.presence == Presence::required)
-                return fault(place(path, field.key), QStringLiteral("missing"));
+                return fault(place(path, field.key), u"missing"_s);
             continue;
         }
         if (Fault wrong = field.read(*found, place(path, field.key), into))
             return wrong;
         rest.remove(field.key);
     }
-    return rest.isEmpty() ? Fault() : fault(place(path, rest.constBegin().key()), QStringLiteral("unknown key"));
+    return rest.isEmpty() ? Fault() : fault(place(path, rest.constBegin().key()), u"unknown key"_s);
 }
 
 } // namespace brimshade::desktop

@@ -11,11 +11,13 @@
 
 namespace brimshade::desktop {
 
+using namespace Qt::StringLiterals;
+
 // Typed access to one script command. Readers keep the first fault and answer a default; finish() tells it, or names
 // a field that no reader asked for. A command acts only after finish() said nothing.
 class Arguments {
 public:
-    explicit Arguments(const QJsonObject &command) : m_command(command) { m_asked.insert(QStringLiteral("do")); }
+    explicit Arguments(const QJsonObject &command) : m_command(command) { m_asked.insert(u"do"_s); }
 
     bool has(const QString &name) const { return m_command.contains(name); }
     double number(const QString &name, std::optional<double> fallback = {});

@@ -6,6 +6,8 @@
 #include <QFile>
 #include <QSet>
 
+using namespace Qt::StringLiterals;
+
 namespace brimshade::desktop {
 
 namespace {
@@ -17,7 +19,7 @@ QString localized(const KeyGroup &values, const QString &key, const QString &loc
 {
     const auto language = locale.section(u'_', 0, 0);
     for (const auto &suffix : {locale, language}) {
-        auto value = values.value(QStringLiteral("%1[%2]").arg(key, suffix));
+        auto value = values.value(u"%1[%2]"_s.arg(key, suffix));
         if (!value.isEmpty())
             return value;
     }
@@ -58,15 +60,15 @@ std::optional<DesktopEntry> parseDesktopEntry(const QString &id, const QByteArra
 {
     const auto values = readDesktopEntry(content);
     const auto isTrue = [&](const QString &key) { return values.value(key) == u"true"; };
-    if (values.value(QStringLiteral("Type")) != u"Application" || isTrue(QStringLiteral("Hidden")))
+    if (values.value(u"Type"_s) != u"Application" || isTrue(u"Hidden"_s))
         return {};
     DesktopEntry entry;
     entry.id = id;
-    entry.name = localized(values, QStringLiteral("Name"), locale).simplified().left(256);
-    entry.icon = localized(values, QStringLiteral("Icon"), locale);
-    entry.executable = executableOf(values.value(QStringLiteral("Exec")));
-    entry.windowClass = values.value(QStringLiteral("StartupWMClass"));
-    entry.isShown = !isTrue(QStringLiteral("NoDisplay"));
+    entry.name = localized(values, u"Name"_s, locale).simplified().left(256);
+    entry.icon = localized(values, u"Icon"_s, locale);
+    entry.executable = executableOf(values.value(u"Exec"_s));
+    entry.windowClass = values.value(u"StartupWMClass"_s);
+    entry.isShown = !isTrue(u"NoDisplay"_s);
     return entry;
 }
 
@@ -75,7 +77,7 @@ std::vector<DesktopEntry> readDesktopEntries(const QStringList &folders, const Q
     std::vector<DesktopEntry> entries;
     QSet<QString> ids;
     for (const auto &folder : folders) {
-        QDirIterator files(folder, {QStringLiteral("*.desktop")}, QDir::Files, QDirIterator::Subdirectories);
+        QDirIterator files(folder, {u"*.desktop"_s}, QDir::Files, QDirIterator::Subdirectories);
         while (files.hasNext() && ids.size() < kMostFiles) {
             QFile file(files.next());
             const auto id = file.fileName().mid(folder.size() + 1).chopped(8).replace(u'/', u'-');

@@ -2,6 +2,8 @@
 
 #include <QIcon>
 
+using namespace Qt::StringLiterals;
+
 namespace brimshade::desktop::session {
 
 namespace {
@@ -17,8 +19,8 @@ TitledPane::TitledPane(DesktopWindow &window, const Parts &parts)
     QQuickWindow &shown = m_pane.window();
     const platform::WindowAttributes &attributes = window.attributes();
     shown.setFlags(Qt::Window | Qt::WindowTitleHint | Qt::WindowSystemMenuHint | Qt::WindowCloseButtonHint);
-    shown.setTitle(attributes.title.isEmpty() ? QStringLiteral("Brimshade") : attributes.title);
-    shown.setIcon(QIcon(QStringLiteral(":/qt/qml/Brimshade/Session/icon.svg"))); // a compositor asks the desktop entry
+    shown.setTitle(attributes.title.isEmpty() ? u"Brimshade"_s : attributes.title);
+    shown.setIcon(QIcon(u":/qt/qml/Brimshade/Session/icon.svg"_s)); // a compositor asks the desktop entry
     shown.setColor(QColor::fromRgba(attributes.darkAppearance ? kDarkPlate : kLightPlate));
     m_holder.setParentItem(shown.contentItem());
     m_holder.setFlag(QQuickItem::ItemIsFocusScope);

@@ -1,5 +1,7 @@
 #include "Activation.h"
 
+using namespace Qt::StringLiterals;
+
 namespace brimshade::desktop::tray {
 
 namespace {
@@ -25,7 +27,7 @@ void Activation::provide(platform::Work ask)
         if (std::exchange(*isDone, true))
             return;
         if (!token.isEmpty())
-            notify(m_bus, m_item, QStringLiteral("ProvideXdgActivationToken"), {token});
+            notify(m_bus, m_item, u"ProvideXdgActivationToken"_s, {token});
         ask();
     });
     m_dispatch.mainAfter(kTokenSeconds, [go] { go(QString()); });

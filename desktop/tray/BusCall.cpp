@@ -6,6 +6,8 @@
 #include <QDBusPendingCallWatcher>
 #include <limits>
 
+using namespace Qt::StringLiterals;
+
 namespace brimshade::desktop::tray {
 
 namespace {
@@ -72,8 +74,7 @@ void notify(const QDBusConnection &bus, const BusAddress &to, const QString &met
 
 BusAddress busDaemon()
 {
-    return {QStringLiteral("org.freedesktop.DBus"), QStringLiteral("/org/freedesktop/DBus"),
-            QStringLiteral("org.freedesktop.DBus")};
+    return {u"org.freedesktop.DBus"_s, u"/org/freedesktop/DBus"_s, u"org.freedesktop.DBus"_s};
 }
 
 } // namespace brimshade::desktop::tray

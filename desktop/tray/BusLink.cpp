@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+using namespace Qt::StringLiterals;
+
 namespace brimshade::desktop::tray {
 
 namespace {
@@ -11,7 +13,7 @@ constexpr double kFirstPause = 1, kLongestPause = 10; // seconds
 QString nextName()
 {
     static std::atomic<int> number = 0; // names are the process's
-    return QStringLiteral("brimshade.tray.%1").arg(++number);
+    return u"brimshade.tray.%1"_s.arg(++number);
 }
 
 std::shared_ptr<const QDBusConnection> owned(const QDBusConnection &connection)
@@ -50,8 +52,8 @@ void BusLink::opened(const Connection &connection)
     m_pause = 0;
     m_connection = connection;
     QDBusConnection bus(*connection);
-    bus.connect({}, QStringLiteral("/org/freedesktop/DBus/Local"), QStringLiteral("org.freedesktop.DBus.Local"),
-                QStringLiteral("Disconnected"), this, SLOT(disconnected()));
+    bus.connect({}, u"/org/freedesktop/DBus/Local"_s, u"org.freedesktop.DBus.Local"_s, u"Disconnected"_s, this,
+                SLOT(disconnected()));
     Q_EMIT connected(bus);
 }
 

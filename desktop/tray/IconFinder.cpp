@@ -1,5 +1,7 @@
 #include "IconFinder.h"
 
+#include "desktop/core/PixelImage.h"
+
 #include <QFile>
 #include <QPainter>
 
@@ -12,23 +14,6 @@ constexpr int kMostKnown = 4096;
 constexpr double kOldIndex = 2, kOldThemes = 60; // seconds: a name that is missing then may have come
 constexpr double kTrustMissing = 10; // seconds in which a name that was nowhere is not looked for again
 constexpr QSizeF kItemSize{22, 22};
-
-class PixelSource : public platform::ImageSource {
-public:
-    explicit PixelSource(QImage pixels) : m_pixels(std::move(pixels)) { }
-
-    void draw(QPainter &painter, const QRectF &rect) const override
-    {
-        painter.save();
-        painter.setRenderHint(QPainter::SmoothPixmapTransform);
-        painter.drawImage(rect, m_pixels);
-        painter.restore();
-    }
-    QImage bitmap() const override { return m_pixels; }
-
-private:
-    QImage m_pixels;
-};
 
 bool isSymbolic(const QString &name)
 {
@@ -47,13 +32,6 @@ void addOverlay(QImage &picture, const QImage &overlay)
 }
 
 } // namespace
-
-platform::Image imageOf(const QImage &pixels, QSizeF size, bool isTemplate)
-{
-    if (pixels.isNull())
-        return {};
-    return {std::make_shared<PixelSource>(pixels), size, isTemplate};
-}
 
 IconFinder::IconFinder(IconThemePlaces places, Clock now)
     : m_places(std::move(places)), m_now(std::move(now)), m_indices(kMostIndices)

@@ -51,6 +51,4 @@ private:
     std::optional<PictureIndex> m_themes;
 };
 
-platform::Image imageOf(const QImage &pixels, QSizeF size, bool isTemplate = false);
-
 } // namespace brimshade::desktop::tray

@@ -9,6 +9,8 @@
 #include <QStandardPaths>
 #include <algorithm>
 
+using namespace Qt::StringLiterals;
+
 namespace brimshade::desktop::tray {
 
 namespace {
@@ -17,7 +19,7 @@ constexpr qint64 kMostIndexBytes = 1 << 20;
 constexpr int kMostThemes = 16;
 constexpr int kMostFolders = 1000; // of one theme
 constexpr int kWantedPixels = 128;
-const auto kSharedTheme = QStringLiteral("hicolor"); // every theme's last resort
+const auto kSharedTheme = u"hicolor"_s; // every theme's last resort
 
 struct Theme {
     QStringList parents;
@@ -31,16 +33,15 @@ QStringList namesIn(const QString &value)
 
 int pixelsOf(const QString &folder, const KeyGroup &about)
 {
-    static const QRegularExpression number(QStringLiteral("(?:^|/)(\\d{1,4})"));
-    const int size = about.value(QStringLiteral("Size")).toInt();
-    return size > 0 ? size * std::max(1, about.value(QStringLiteral("Scale")).toInt())
-                    : number.match(folder).captured(1).toInt();
+    static const QRegularExpression number(u"(?:^|/)(\\d{1,4})"_s);
+    const int size = about.value(u"Size"_s).toInt();
+    return size > 0 ? size * std::max(1, about.value(u"Scale"_s).toInt()) : number.match(folder).captured(1).toInt();
 }
 
 // Small is good: drawn ones, then those that need not be enlarged, the smallest first, then the largest of the rest.
 int rank(const QString &folder, const KeyGroup &about)
 {
-    if (about.value(QStringLiteral("Type")) == u"Scalable" || folder.contains(u"scalable"))
+    if (about.value(u"Type"_s) == u"Scalable" || folder.contains(u"scalable"))
         return 0;
     const int pixels = pixelsOf(folder, about);
     return pixels >= kWantedPixels ? pixels : 100'000 - pixels;
@@ -64,14 +65,13 @@ Theme readTheme(const QString &name, const QStringList &bases)
     Theme theme;
     QMap<QString, KeyGroup> groups;
     for (const auto &base : bases) {
-        QFile index(base + u'/' + name + QStringLiteral("/index.theme"));
+        QFile index(base + u'/' + name + u"/index.theme"_s);
         if (groups.isEmpty() && index.open(QIODevice::ReadOnly))
             groups = readKeyFile(index.read(kMostIndexBytes));
     }
-    const auto about = groups.value(QStringLiteral("Icon Theme"));
-    theme.parents = namesIn(about.value(QStringLiteral("Inherits")));
-    theme.folders =
-        namesIn(about.value(QStringLiteral("Directories"))) + namesIn(about.value(QStringLiteral("ScaledDirectories")));
+    const auto about = groups.value(u"Icon Theme"_s);
+    theme.parents = namesIn(about.value(u"Inherits"_s));
+    theme.folders = namesIn(about.value(u"Directories"_s)) + namesIn(about.value(u"ScaledDirectories"_s));
     for (auto base = bases.begin(); theme.folders.isEmpty() && base != bases.end(); ++base)
         theme.folders = listedFolders(*base + u'/' + name);
     std::stable_sort(theme.folders.begin(), theme.folders.end(), [&](const QString &a, const QString &b) {
@@ -86,7 +86,7 @@ IconThemePlaces sessionThemePlaces()
 {
     auto bases = QIcon::themeSearchPaths();
     for (const auto &folder : QStandardPaths::standardLocations(QStandardPaths::GenericDataLocation))
-        bases.append(folder + QStringLiteral("/icons"));
+        bases.append(folder + u"/icons"_s);
     bases.removeIf([](const QString &base) { return !base.startsWith(u'/'); });
     bases.removeDuplicates();
     return {QIcon::themeName(), bases};
@@ -115,7 +115,7 @@ QStringList iconFolders(const IconThemePlaces &places)
     }
     add(kSharedTheme, readTheme(kSharedTheme, places.bases).folders);
     for (const auto &base : places.bases)
-        folders.append(QDir::cleanPath(base + QStringLiteral("/../pixmaps")));
+        folders.append(QDir::cleanPath(base + u"/../pixmaps"_s));
     return folders;
 }
 

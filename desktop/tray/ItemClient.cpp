@@ -2,6 +2,8 @@
 
 #include "MenuClient.h"
 
+using namespace Qt::StringLiterals;
+
 namespace brimshade::desktop::tray {
 
 namespace {
@@ -40,7 +42,7 @@ void ItemClient::signalled()
 void ItemClient::fetch()
 {
     const BusAddress properties{m_key.owner, m_key.path, QString::fromLatin1(kProperties)};
-    callAsync(m_bus, properties, QStringLiteral("GetAll"), {m_address.interface}, this,
+    callAsync(m_bus, properties, u"GetAll"_s, {m_address.interface}, this,
               [this](const BusReply &reply) { receive(reply); });
 }
 
@@ -51,7 +53,7 @@ void ItemClient::receive(const BusReply &reply)
             Q_EMIT gone();
             return;
         }
-        say(QStringLiteral("it does not tell its properties: %1").arg(reply.error().text));
+        say(u"it does not tell its properties: %1"_s.arg(reply.error().text));
         m_refresh.failed();
         return;
     }
@@ -123,9 +125,9 @@ void ItemClient::sendScroll()
         return;
     const auto by = takeScroll(*m_item, m_scrolled);
     if (by.y() != 0)
-        notify(m_bus, m_address, QStringLiteral("Scroll"), {by.y(), QStringLiteral("vertical")});
+        notify(m_bus, m_address, u"Scroll"_s, {by.y(), u"vertical"_s});
     if (by.x() != 0)
-        notify(m_bus, m_address, QStringLiteral("Scroll"), {by.x(), QStringLiteral("horizontal")});
+        notify(m_bus, m_address, u"Scroll"_s, {by.x(), u"horizontal"_s});
 }
 
 bool ItemClient::canBeActivated() const
@@ -138,7 +140,7 @@ void ItemClient::say(const QString &text)
     if (text == std::exchange(m_lastMessage, text))
         return;
     const auto name = m_item && !m_item->nameForPeople().isEmpty() ? m_item->nameForPeople() : m_key.text();
-    Q_EMIT message(QStringLiteral("Tray item %1: %2").arg(name, text).simplified().left(500));
+    Q_EMIT message(u"Tray item %1: %2"_s.arg(name, text).simplified().left(500));
 }
 
 } // namespace brimshade::desktop::tray

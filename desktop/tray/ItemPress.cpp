@@ -2,6 +2,8 @@
 
 #include "MenuClient.h"
 
+using namespace Qt::StringLiterals;
+
 namespace brimshade::desktop::tray {
 
 namespace {
@@ -9,8 +11,8 @@ namespace {
 QString methodOf(Press press)
 {
     if (press == Press::secondaryActivate)
-        return QStringLiteral("SecondaryActivate");
-    return press == Press::activate ? QStringLiteral("Activate") : QStringLiteral("ContextMenu");
+        return u"SecondaryActivate"_s;
+    return press == Press::activate ? u"Activate"_s : u"ContextMenu"_s;
 }
 
 } // namespace
@@ -53,7 +55,7 @@ void ItemPress::timeOut()
     const bool isWaiting = m_isUnderWay;
     lapse();
     if (isWaiting && m_life.isHeard() && !isProgramBusy())
-        Q_EMIT message(QStringLiteral("its menu does not come"));
+        Q_EMIT message(u"its menu does not come"_s);
 }
 
 void ItemPress::menuIsReady()
@@ -69,7 +71,7 @@ void ItemPress::tryNext()
     if (m_untried.empty()) {
         lapse();
         if (m_tried != Press::secondaryActivate) // which few programs have
-            Q_EMIT message(QStringLiteral("it has no menu and cannot be activated"));
+            Q_EMIT message(u"it has no menu and cannot be activated"_s);
         return;
     }
     m_tried = m_untried.front();
@@ -114,7 +116,7 @@ void ItemPress::answered(const QString &method, const BusReply &reply)
     }
     lapse();
     if (!reply)
-        Q_EMIT message(QStringLiteral("%1 failed: %2").arg(method, reply.error().text));
+        Q_EMIT message(u"%1 failed: %2"_s.arg(method, reply.error().text));
 }
 
 } // namespace brimshade::desktop::tray

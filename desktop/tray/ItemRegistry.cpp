@@ -4,6 +4,8 @@
 #include <QDBusMessage>
 #include <algorithm>
 
+using namespace Qt::StringLiterals;
+
 namespace brimshade::desktop::tray {
 
 namespace {
@@ -41,21 +43,20 @@ ItemRegistry::ItemRegistry(const QDBusConnection &bus) : m_bus(bus)
 
 ItemRegistry::~ItemRegistry()
 {
-    notify(m_bus, busDaemon(), QStringLiteral("ReleaseName"), {watcherName()});
+    notify(m_bus, busDaemon(), u"ReleaseName"_s, {watcherName()});
     m_bus.unregisterObject(QString::fromLatin1(kWatcherPath));
 }
 
 // Without flags the bus keeps us in line for the name, and tells everybody when it passes to us.
 void ItemRegistry::findWatcher()
 {
-    callAsync(m_bus, busDaemon(), QStringLiteral("RequestName"), {watcherName(), 0U}, this, [this](const BusReply &) {
-        callAsync(m_bus, busDaemon(), QStringLiteral("GetNameOwner"), {watcherName()}, this,
-                  [this](const BusReply &reply) {
-                      if (reply)
-                          watcherChanged(reply->value(0).toString());
-                      else
-                          Q_EMIT message(QStringLiteral("Tray: the bus gives nobody the watcher's name"));
-                  });
+    callAsync(m_bus, busDaemon(), u"RequestName"_s, {watcherName(), 0U}, this, [this](const BusReply &) {
+        callAsync(m_bus, busDaemon(), u"GetNameOwner"_s, {watcherName()}, this, [this](const BusReply &reply) {
+            if (reply)
+                watcherChanged(reply->value(0).toString());
+            else
+                Q_EMIT message(u"Tray: the bus gives nobody the watcher's name"_s);
+        });
     });
 }
 
@@ -69,13 +70,13 @@ void ItemRegistry::watcherChanged(const QString &owner)
 void ItemRegistry::joinForeignWatcher()
 {
     const auto address = watcherAddress(m_watcher);
-    m_bus.connect(m_watcher, address.path, address.interface, QStringLiteral("StatusNotifierItemRegistered"), this,
+    m_bus.connect(m_watcher, address.path, address.interface, u"StatusNotifierItemRegistered"_s, this,
                   SLOT(foreignRegistered(QDBusMessage)));
-    m_bus.connect(m_watcher, address.path, address.interface, QStringLiteral("StatusNotifierItemUnregistered"), this,
+    m_bus.connect(m_watcher, address.path, address.interface, u"StatusNotifierItemUnregistered"_s, this,
                   SLOT(foreignUnregistered(QDBusMessage)));
-    const auto host = QStringLiteral("org.kde.StatusNotifierHost-%1").arg(QCoreApplication::applicationPid());
-    callAsync(m_bus, busDaemon(), QStringLiteral("RequestName"), {host, 0U}, this, [this, host](const BusReply &) {
-        callAsync(m_bus, watcherAddress(m_watcher), QStringLiteral("RegisterStatusNotifierHost"), {host}, this,
+    const auto host = u"org.kde.StatusNotifierHost-%1"_s.arg(QCoreApplication::applicationPid());
+    callAsync(m_bus, busDaemon(), u"RequestName"_s, {host, 0U}, this, [this, host](const BusReply &) {
+        callAsync(m_bus, watcherAddress(m_watcher), u"RegisterStatusNotifierHost"_s, {host}, this,
                   [this](const BusReply &) { readForeignItems(); });
     });
 }
@@ -83,11 +84,11 @@ void ItemRegistry::joinForeignWatcher()
 void ItemRegistry::readForeignItems()
 {
     auto properties = watcherAddress(m_watcher);
-    properties.interface = QStringLiteral("org.freedesktop.DBus.Properties");
-    callAsync(m_bus, properties, QStringLiteral("Get"),
-              {watcherName(), QStringLiteral("RegisteredStatusNotifierItems")}, this, [this](const BusReply &reply) {
+    properties.interface = u"org.freedesktop.DBus.Properties"_s;
+    callAsync(m_bus, properties, u"Get"_s, {watcherName(), u"RegisteredStatusNotifierItems"_s}, this,
+              [this](const BusReply &reply) {
                   if (!reply) {
-                      Q_EMIT message(QStringLiteral("Tray: the other watcher does not tell its items"));
+                      Q_EMIT message(u"Tray: the other watcher does not tell its items"_s);
                       return;
                   }
                   for (const auto &item : reply->value(0).toStringList())
@@ -119,7 +120,7 @@ void ItemRegistry::registerItem(const QString &argument, const QString &sender)
 void ItemRegistry::resolve(const Registration &registration, const QString &registeredAs)
 {
     watch(registration.service);
-    callAsync(m_bus, busDaemon(), QStringLiteral("GetNameOwner"), {registration.service}, this,
+    callAsync(m_bus, busDaemon(), u"GetNameOwner"_s, {registration.service}, this,
               [this, registration, registeredAs](const BusReply &reply) {
                   const auto owner = reply ? reply->value(0).toString() : QString();
                   if (!isUniqueName(owner))
@@ -143,7 +144,7 @@ void ItemRegistry::add(const ItemKey &key, const QString &registeredAs)
         std::count_if(m_items.begin(), m_items.end(), [&](const auto &item) { return item.first.owner == key.owner; });
     if (m_items.size() >= kMostItems || ofOwner >= kMostItemsOfOneOwner) {
         if (!std::exchange(m_saidFull, true))
-            Q_EMIT message(QStringLiteral("Tray: too many items, those behind the first ones are left out"));
+            Q_EMIT message(u"Tray: too many items, those behind the first ones are left out"_s);
         return;
     }
     if (!m_items.emplace(key, registeredAs).second)

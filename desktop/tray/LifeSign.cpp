@@ -1,9 +1,11 @@
 #include "LifeSign.h"
 
+using namespace Qt::StringLiterals;
+
 namespace brimshade::desktop::tray {
 
 LifeSign::LifeSign(const QDBusConnection &bus, const QString &owner, platform::Dispatch &dispatch)
-    : m_bus(bus), m_peer{owner, QStringLiteral("/"), QStringLiteral("org.freedesktop.DBus.Peer")}, m_dispatch(dispatch)
+    : m_bus(bus), m_peer{owner, u"/"_s, u"org.freedesktop.DBus.Peer"_s}, m_dispatch(dispatch)
 {
 }
 
@@ -13,7 +15,7 @@ void LifeSign::ask()
     listen();
     if (std::exchange(m_isPinging, true))
         return;
-    callPatiently(m_bus, m_peer, QStringLiteral("Ping"), {}, this, [this](const BusReply &) {
+    callPatiently(m_bus, m_peer, u"Ping"_s, {}, this, [this](const BusReply &) {
         m_isPinging = false;
         hear();
     });

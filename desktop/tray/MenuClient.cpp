@@ -4,6 +4,8 @@
 #include <QDBusVariant>
 #include <QDateTime>
 
+using namespace Qt::StringLiterals;
+
 namespace brimshade::desktop::tray {
 
 namespace {
@@ -18,10 +20,8 @@ MenuClient::MenuClient(const QDBusConnection &bus, const QString &owner, const Q
 {
     connect(&life, &LifeSign::heard, this, &MenuClient::sendHeld);
     connect(&life, &LifeSign::silent, this, &MenuClient::dropChoices);
-    m_bus.connect(owner, path, m_address.interface, QStringLiteral("LayoutUpdated"), this,
-                  SLOT(layoutUpdated(QDBusMessage)));
-    m_bus.connect(owner, path, m_address.interface, QStringLiteral("ItemsPropertiesUpdated"), this,
-                  SLOT(propertiesUpdated()));
+    m_bus.connect(owner, path, m_address.interface, u"LayoutUpdated"_s, this, SLOT(layoutUpdated(QDBusMessage)));
+    m_bus.connect(owner, path, m_address.interface, u"ItemsPropertiesUpdated"_s, this, SLOT(propertiesUpdated()));
     m_refresh.requestNow();
 }
 
@@ -29,8 +29,7 @@ void MenuClient::open()
 {
     m_opening = Opening::telling;
     const bool isFresh = !m_oldParent && !m_entries.empty();
-    callAsync(m_bus, m_address, QStringLiteral("AboutToShow"), {0}, this,
-              [this](const BusReply &reply) { programWasTold(reply); });
+    callAsync(m_bus, m_address, u"AboutToShow"_s, {0}, this, [this](const BusReply &reply) { programWasTold(reply); });
     m_life.ask();
     if (isFresh)
         finishOpening(true);
@@ -57,9 +56,8 @@ void MenuClient::programWasTold(const BusReply &reply)
 void MenuClient::aboutToShow(int id)
 {
     m_shown.push_back(id);
-    callAsync(m_bus, m_address, QStringLiteral("AboutToShow"), {id}, this,
-              [this, id](const BusReply &) { markOld(id); });
-    sendEvent(id, QStringLiteral("opened"));
+    callAsync(m_bus, m_address, u"AboutToShow"_s, {id}, this, [this, id](const BusReply &) { markOld(id); });
+    sendEvent(id, u"opened"_s);
 }
 
 void MenuClient::choose(int id)
@@ -71,10 +69,10 @@ void MenuClient::close()
 {
     --m_opened;
     while (!m_shown.empty()) {
-        sendEvent(m_shown.back(), QStringLiteral("closed"));
+        sendEvent(m_shown.back(), u"closed"_s);
         m_shown.pop_back();
     }
-    sendEvent(0, QStringLiteral("closed"));
+    sendEvent(0, u"closed"_s);
 }
 
 void MenuClient::layoutUpdated(const QDBusMessage &signal)
@@ -101,7 +99,7 @@ void MenuClient::fetch()
     const int parent = m_oldParent.value_or(0);
     m_oldParent.reset();
     m_readsForOpening = m_opening == Opening::reading;
-    callAsync(m_bus, m_address, QStringLiteral("GetLayout"), {parent, -1, QStringList()}, this,
+    callAsync(m_bus, m_address, u"GetLayout"_s, {parent, -1, QStringList()}, this,
               [this, parent](const BusReply &reply) { receive(parent, reply); });
 }
 
@@ -157,7 +155,7 @@ void MenuClient::finishOpening(bool isRead)
         return;
     }
     ++m_opened;
-    sendEvent(0, QStringLiteral("opened"));
+    sendEvent(0, u"opened"_s);
     if (m_oldParent)
         m_refresh.request();
     Q_EMIT ready();
@@ -166,7 +164,7 @@ void MenuClient::finishOpening(bool isRead)
 void MenuClient::showNew(std::vector<MenuEntry> entries, bool isCut)
 {
     if (isCut && !m_saidCut)
-        Q_EMIT message(QStringLiteral("its menu is too large or too deep: the beginning is shown"));
+        Q_EMIT message(u"its menu is too large or too deep: the beginning is shown"_s);
     m_saidCut = m_saidCut || isCut;
     const bool same = looksTheSame(m_entries, entries);
     m_entries = std::move(entries);
@@ -213,7 +211,7 @@ void MenuClient::dropChoices()
 void MenuClient::send(const Event &event)
 {
     const auto data = QVariant::fromValue(QDBusVariant(QString()));
-    notify(m_bus, m_address, QStringLiteral("Event"), {event.id, event.name, data, event.time});
+    notify(m_bus, m_address, u"Event"_s, {event.id, event.name, data, event.time});
 }
 
 } // namespace brimshade::desktop::tray

@@ -4,8 +4,11 @@
 #include "Pixmap.h"
 #include "ShortcutText.h"
 #include "WireValue.h"
+#include "desktop/core/PixelImage.h"
 
 #include <algorithm>
+
+using namespace Qt::StringLiterals;
 
 namespace brimshade::desktop::tray {
 
@@ -49,7 +52,7 @@ private:
         const int id = fields[0].toInt();
         m_seen.insert(id);
         const auto properties = fields[1].toMap();
-        if (!boolOf(properties.value(QStringLiteral("visible"))).value_or(true))
+        if (!boolOf(properties.value(u"visible"_s)).value_or(true))
             return;
         auto entry = read(id, properties);
         const bool separatesNothing = entry.isSeparator && (result.empty() || result.back().isSeparator);
@@ -67,11 +70,11 @@ private:
         entry.id = id;
         entry.isSeparator = line("type") == u"separator";
         entry.title = withoutMnemonic(line("label"));
-        entry.isEnabled = boolOf(properties.value(QStringLiteral("enabled"))).value_or(true);
+        entry.isEnabled = boolOf(properties.value(u"enabled"_s)).value_or(true);
         entry.hasSubmenu = line("children-display") == u"submenu";
-        readToggle(line("toggle-type"), properties.value(QStringLiteral("toggle-state")), entry);
-        entry.shortcut = shortcutText(properties.value(QStringLiteral("shortcut")));
-        entry.icon = readPicture(line("icon-name"), properties.value(QStringLiteral("icon-data")));
+        readToggle(line("toggle-type"), properties.value(u"toggle-state"_s), entry);
+        entry.shortcut = shortcutText(properties.value(u"shortcut"_s));
+        entry.icon = iconOf(line("icon-name"), properties.value(u"icon-data"_s));
         return entry;
     }
 
@@ -82,7 +85,7 @@ private:
         entry.isOn = entry.toggle != Toggle::none && integerOf(state).value_or(-1) == 1;
     }
 
-    platform::Image readPicture(const QString &name, const QVariant &data)
+    platform::Image iconOf(const QString &name, const QVariant &data)
     {
         if ((name.isEmpty() && data.isNull()) || m_pictures >= kMostPictures)
             return {};

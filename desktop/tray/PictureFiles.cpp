@@ -12,7 +12,7 @@ constexpr int kLargestEdge = 1024;
 constexpr qint64 kMostPictureBytes = 4 << 20;
 constexpr int kMostKilobytes = 8192;
 
-QImage readPicture(const QFileInfo &file)
+QImage decode(const QFileInfo &file)
 {
     QImageReader reader(file.filePath());
     auto size = reader.size();
@@ -48,7 +48,7 @@ QImage PictureFiles::read(const QString &path)
     const auto modified = file.lastModified();
     if (const auto *known = m_known.object(path); known && known->modified == modified && known->size == file.size())
         return known->image;
-    auto image = readPicture(file);
+    auto image = decode(file);
     m_known.remove(path);
     if (isSettled(modified, QDateTime::currentDateTime()))
         m_known.insert(path, new Picture{image, modified, file.size()},

@@ -7,6 +7,8 @@
 #include <deque>
 #include <filesystem>
 
+using namespace Qt::StringLiterals;
+
 namespace brimshade::desktop::tray {
 
 namespace {
@@ -16,8 +18,7 @@ namespace fs = std::filesystem;
 constexpr int kMostBelow = 4096; // entries
 constexpr int kMostInside = 200'000; // a rich icon theme has some ten thousand
 
-const QStringList kEndings{QStringLiteral(".svg"), QStringLiteral(".png"), QStringLiteral(".svgz"),
-                           QStringLiteral(".xpm")}; // the best first
+const QStringList kEndings{u".svg"_s, u".png"_s, u".svgz"_s, u".xpm"_s}; // the best first
 
 fs::path pathOf(const QString &folder)
 {

@@ -7,6 +7,8 @@
 #include <QtEndian>
 #include <optional>
 
+using namespace Qt::StringLiterals;
+
 namespace brimshade::desktop::tray {
 
 namespace {
@@ -52,11 +54,10 @@ QImage largestPixmap(const QVariant &pixmaps, QStringList &complaints)
     for (const auto &value : listOf(pixmaps).mid(0, kMostPixmaps)) {
         auto pixmap = readPixmap(value);
         if (!pixmap || !pixmap->isSound()) {
-            complaints.append(pixmap ? QStringLiteral("a pixmap said to be %1 × %2 has %3 bytes")
-                                           .arg(pixmap->width)
+            complaints.append(pixmap ? u"a pixmap said to be %1 × %2 has %3 bytes"_s.arg(pixmap->width)
                                            .arg(pixmap->height)
                                            .arg(pixmap->bytes.size())
-                                     : QStringLiteral("a pixmap is not (width, height, bytes)"));
+                                     : u"a pixmap is not (width, height, bytes)"_s);
         } else if (!best || pixmap->width > best->width) {
             best = std::move(pixmap);
         }

@@ -6,6 +6,8 @@
 #include <QRegularExpression>
 #include <QStandardPaths>
 
+using namespace Qt::StringLiterals;
+
 namespace brimshade::desktop::tray {
 
 namespace {
@@ -16,7 +18,7 @@ constexpr double kTrustSeconds = 10; // a session's programs all start at once
 bool isInterpreter(const QString &name)
 {
     static const QRegularExpression pattern(
-        QStringLiteral("^(python|perl|ruby|node|bash|dash|sh|gjs|java|mono|pypy|wish|lua|php)[0-9.]*(-console)?$"));
+        u"^(python|perl|ruby|node|bash|dash|sh|gjs|java|mono|pypy|wish|lua|php)[0-9.]*(-console)?$"_s);
     return pattern.match(name).hasMatch();
 }
 
@@ -47,12 +49,12 @@ int score(const DesktopEntry &entry, const QStringList &names)
 
 Process readProcess(int pid)
 {
-    const auto folder = QStringLiteral("/proc/%1/").arg(pid);
+    const auto folder = u"/proc/%1/"_s.arg(pid);
     Process process;
-    process.executable = QFileInfo(folder + QStringLiteral("exe")).symLinkTarget();
+    process.executable = QFileInfo(folder + u"exe"_s).symLinkTarget();
     if (process.executable.endsWith(u" (deleted)"))
         process.executable.chop(10);
-    QFile commandLine(folder + QStringLiteral("cmdline"));
+    QFile commandLine(folder + u"cmdline"_s);
     if (commandLine.open(QIODevice::ReadOnly)) {
         for (const auto &argument : commandLine.read(kMostCommandLineBytes).split('\0'))
             process.arguments.append(QString::fromLocal8Bit(argument));

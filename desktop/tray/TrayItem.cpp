@@ -6,6 +6,8 @@
 
 #include <QRegularExpression>
 
+using namespace Qt::StringLiterals;
+
 namespace brimshade::desktop::tray {
 
 namespace {
@@ -16,8 +18,8 @@ constexpr int kLongestLabel = 48;
 // Tool tips may be written in markup; what people see is plain.
 QString withoutMarkup(QString text)
 {
-    static const QRegularExpression tag(QStringLiteral("<[^<>]{0,200}>"));
-    text.replace(tag, QStringLiteral(" "));
+    static const QRegularExpression tag(u"<[^<>]{0,200}>"_s);
+    text.replace(tag, u" "_s);
     for (const auto &[entity, character] :
          {std::pair(u"&lt;", u"<"), {u"&gt;", u">"}, {u"&quot;", u"\""}, {u"&amp;", u"&"}})
         text.replace(QString::fromUtf16(entity), QString::fromUtf16(character));
@@ -43,7 +45,7 @@ public:
         QStringList faults;
         ItemIcon icon{line(name, kLongestPath), largestPixmap(value(pixmap), faults)};
         if (!faults.isEmpty())
-            m_complaints.append(QStringLiteral("%1: %2").arg(QString::fromLatin1(pixmap), faults.first()));
+            m_complaints.append(u"%1: %2"_s.arg(QString::fromLatin1(pixmap), faults.first()));
         return icon;
     }
 
@@ -101,7 +103,7 @@ ParsedItem parseItem(const QVariantMap &values)
     item.overlayIcon = properties.icon("OverlayIconName", "OverlayIconPixmap");
     parseToolTip(properties.value("ToolTip"), item);
     parseMenu(properties, item);
-    item.isIndicator = values.contains(QStringLiteral("XAyatanaLabel"));
+    item.isIndicator = values.contains(u"XAyatanaLabel"_s);
     return {std::move(item), properties.complaints()};
 }
 

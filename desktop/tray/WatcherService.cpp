@@ -4,6 +4,8 @@
 
 #include <QDBusMessage>
 
+using namespace Qt::StringLiterals;
+
 namespace brimshade::desktop::tray {
 
 void WatcherService::addItem(const QString &item)
@@ -23,7 +25,7 @@ void WatcherService::removeItem(const QString &item)
 void WatcherService::RegisterStatusNotifierItem(const QString &argument)
 {
     if (!parseRegistration(argument, message().service())) {
-        sendErrorReply(QDBusError::InvalidArgs, QStringLiteral("expected a bus name or an object path"));
+        sendErrorReply(QDBusError::InvalidArgs, u"expected a bus name or an object path"_s);
         return;
     }
     Q_EMIT registrationAsked(argument, message().service());

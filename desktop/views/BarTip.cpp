@@ -3,8 +3,6 @@
 #include "desktop/core/BarEntry.h"
 #include "platform/Dispatch.h"
 
-#include <algorithm>
-
 namespace brimshade::desktop {
 
 namespace {
@@ -46,10 +44,8 @@ void BarTip::rested()
 
 void BarTip::take()
 {
-    const auto items = m_bar.items();
-    const auto item = std::ranges::find_if(
-        items, [this](const BarItem &each) { return each.drawn && m_item->frame && each.frame == *m_item->frame; });
-    if (item == items.end()) {
+    const auto item = m_bar.itemOf(m_item);
+    if (!item || !item->drawn) {
         hide();
         return;
     }

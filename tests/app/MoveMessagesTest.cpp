@@ -29,7 +29,7 @@ TEST(BulkMove, OnlyAMovableItemThatIsNotWhereItWasChosenToBeIsPending)
         extra.id = u"812-0-wifi"_s;
         extra.isHidden = isHidden;
         extra.canMove = canMove;
-        EXPECT_EQ(isPending(extra, choice ? Choices{{extra.id, *choice}} : Choices{}), expected);
+        EXPECT_EQ(isPending(extra, choice ? ItemChoices{{extra.id, *choice}} : ItemChoices{}), expected);
     }
 }
 

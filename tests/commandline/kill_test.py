@@ -1,22 +1,26 @@
-"""Kills the program 200 times while it writes its settings as fast as it can; every start reads a whole file.
+"""Kills the program 40 times while it writes its settings as fast as it can; every start reads a whole file.
 Usage: kill_test.py PROGRAM"""
 import json
+import os
 import pathlib
 import random
 import signal
-import subprocess
 import sys
 import tempfile
 import unittest
 
+sys.path.insert(0, str(pathlib.Path(__file__).resolve().parent.parent / "session"))
+from lib.session import Session  # noqa: E402
+from lib.waiting import PATIENCE, Lines  # noqa: E402
+
 PROGRAM = sys.argv.pop(1)
-ROUNDS = 200
+ROUNDS = 40
 TOGGLES = 300  # more than a round lets the program get through
 
 OPEN_SETTINGS = [{"do": "advance", "seconds": 1}, {"do": "menu", "at": [1490, 18]}, {"do": "choose", "title": "Settings…"},
                  {"do": "advance", "seconds": 1}]
 TOGGLE = {"do": "press-element", "name": "Also show items already in the menu bar", "role": "CheckBox"}
-SCRIPT = "".join(json.dumps(command) + "\n" for command in [{"do": "state"}, *OPEN_SETTINGS, *[TOGGLE] * TOGGLES])
+SCRIPT = "".join(json.dumps(command) + "\n" for command in [{"do": "state"}, *OPEN_SETTINGS, *[TOGGLE] * TOGGLES]).encode()
 FOREIGN = ["x" * 20_000, {"kept": None}]  # long enough that a torn write shows
 
 
@@ -32,15 +36,14 @@ class KillTest(unittest.TestCase):
 
     def run_and_kill(self, toggles):
         """The settings that the program found at its start; it is killed after about so many changes."""
-        with subprocess.Popen([PROGRAM, "--script", "-", "--desktop", self.desktop, "--defaults", self.store],
-                              stdin=subprocess.PIPE, stdout=subprocess.PIPE, stderr=subprocess.PIPE, text=True) as program:
+        with Session() as session:
+            program = session.talk("brimshade", PROGRAM, "--script", "-", "--desktop", self.desktop, "--defaults", self.store)
             program.stdin.write(SCRIPT)
             program.stdin.flush()
-            answers = [json.loads(program.stdout.readline()) for _ in range(1 + len(OPEN_SETTINGS) + toggles)]
-            program.send_signal(signal.SIGKILL)
-            errors = program.stderr.read()
-            program.stdout.read()
-        self.assertEqual((errors, program.returncode), ("", -signal.SIGKILL))
+            lines = session.own(Lines(os.dup(program.stdout.fileno())))
+            answers = [json.loads(lines.next("an answer")) for _ in range(1 + len(OPEN_SETTINGS) + toggles)]
+            program.kill()
+            self.assertEqual((program.wait(PATIENCE), session.errors("brimshade")), (-signal.SIGKILL, ""))
         self.assertTrue(all(answer["ok"] for answer in answers), answers[1:])
         return answers[0]["defaults"]
 

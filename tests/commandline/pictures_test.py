@@ -54,13 +54,13 @@ class Pictures(unittest.TestCase):
 
     def open_panel(self, program):
         """The frame of its tile once everything stands still."""
-        program.do("click", at=program.status_item())
+        program.do("click", at=program.icon())
         program.wait(0.1)
         before = None
         for _ in range(100):
             now = self.picture(program)
             if now == before:
-                return next(e["frame"] for e in program.do("find", text=NAME)["elements"] if e["role"] == "Button")
+                return program.found(NAME, role="Button")[0]["frame"]
             before = now
             program.wait(0.1)
         self.fail("the panel never came to rest")

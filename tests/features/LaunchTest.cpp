@@ -60,6 +60,9 @@ TEST(Launch, AsksOnceForAMissingPermission)
     EXPECT_FALSE(brimshade.isOnScreen(u"setup"_s));
     brimshade.wait(60);
     EXPECT_EQ(brimshade.desktop().inspection().promptCount(), 1);
+    EXPECT_TRUE(brimshade.desktop().permission().isPromptOpen());
+    brimshade.desktop().setTrusted(true);
+    EXPECT_FALSE(brimshade.desktop().permission().isPromptOpen()) << "it is answered";
 }
 
 } // namespace brimshade::features

@@ -40,6 +40,26 @@ TEST(LiveItems, ComeChangeAndGoInAnOpenPanelWhichKeepsSearchAndSelection)
     expect({u"Quill"_s, u"Vault"_s, u"Relay"_s});
 }
 
+TEST(LiveItems, TakeTheirOpenMenuWithThem)
+{
+    const std::pair<const char *, std::function<void(desktop::Desktop &)>> ends[] = {
+        {"the application quits", [](desktop::Desktop &d) { d.quit(811); }},
+        {"it takes its item back",
+         [](desktop::Desktop &d) { d.change(811, {.description = brimshade::application(811, u"Relay"_s, {})}); }},
+    };
+    for (const auto &[name, end] : ends) {
+        Brimshade brimshade;
+        brimshade.open();
+        brimshade.model().onSelect(brimshade.item(u"Relay"_s));
+        brimshade.wait(1);
+        EXPECT_EQ(brimshade.desktop().menus().titles(), QStringList{u"About"_s}) << name;
+        brimshade.desktop().quit(812);
+        EXPECT_TRUE(brimshade.desktop().menus().openMenu()) << "of another application";
+        end(brimshade.desktop());
+        EXPECT_FALSE(brimshade.desktop().menus().openMenu()) << name;
+    }
+}
+
 TEST(LiveItems, AreReadAgainOnlyWhileSomebodyLooksAndOnceForABurst)
 {
     Brimshade brimshade;

@@ -23,6 +23,7 @@ TEST(StatusMenu, RefreshesTheList)
     brimshade.rightClickStatusItem();
     brimshade.chooseFromMenu(u"Refresh"_s);
     EXPECT_EQ(brimshade.model().extras().size(), 5u);
+    EXPECT_TRUE(brimshade.desktop().windows().onScreen().empty());
     brimshade.desktop().setTrusted(false);
     brimshade.desktop().quit(811);
     brimshade.rightClickStatusItem();

@@ -6,7 +6,7 @@ import sys
 import unittest
 
 sys.path.insert(0, str(pathlib.Path(__file__).resolve().parent.parent / "support"))
-from program import Session  # noqa: E402
+from program import PATIENCE, Session  # noqa: E402
 
 PROGRAM = sys.argv.pop(1)
 
@@ -47,7 +47,7 @@ class RealInput(unittest.TestCase):
 
     def focus_another_program(self):
         other = self.session.start("xev", "-geometry", "200x100+20+750")
-        self.addCleanup(other.wait)
+        self.addCleanup(other.wait, PATIENCE)
         self.addCleanup(other.terminate)
         window = self.xdotool("search", "--sync", "--onlyvisible", "--name", "Event Tester").split()[-1]
         self.xdotool("windowactivate", "--sync", window)
@@ -55,8 +55,7 @@ class RealInput(unittest.TestCase):
     def tile(self, name):
         """The tile of that name once it has come in."""
         def tiles(_):
-            return [e for e in self.program.do("find", text=name)["elements"]
-                    if e["role"] == "Button" and e["window"] == "panel" and e["opacity"] > 0.9]
+            return [e for e in self.program.found(name, role="Button", window="panel") if e["opacity"] > 0.9]
         return self.program.until(f"a tile {name}", tiles)[0]
 
     def point(self, x, y):

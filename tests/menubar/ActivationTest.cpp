@@ -1,3 +1,4 @@
+#include "menubar/Activation.h"
 #include "MenuBarContext.h"
 #include "desktop/services/LogWriter.h"
 
@@ -66,7 +67,7 @@ TEST(Activation, WaitsHalfASecondForAnApplicationThatHangs)
     desktop::ApplicationSpec given;
     given.description = hung(application(1, u"Relay"_s, {extra(u"x"_s)}));
     ASSERT_TRUE(bar.desktop.change(1, given));
-    EXPECT_DOUBLE_EQ(bar.onScanQueue([&] { bar.access->press(found.element, found); }), 0.5);
+    EXPECT_DOUBLE_EQ(bar.onScanQueue([&] { pressItem(bar.platform.accessibility, bar.platform.log, found); }), 0.5);
     EXPECT_TRUE(errors(bar).isEmpty());
 }
 

@@ -3,8 +3,7 @@
 #include "menubar/MenuBarAccess.h"
 #include "support/Descriptions.h"
 #include "support/FakeSystem.h"
-
-#include <QCoreApplication>
+#include "support/Waiting.h"
 
 namespace brimshade::menubar::tests {
 
@@ -33,8 +32,7 @@ TEST(Scan, ReadsOnThreadsOfItsOwnAndNamesOnTheScanQueue)
             dispatch.mainSync([&] { results.push_back(std::move(extras)); });
         });
     }
-    while (results.size() < 3)
-        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+    waitFor(u"three scans"_s, [&] { return results.size() == 3; });
     for (const ExtraList &extras : results)
         EXPECT_EQ(extras.size(), 19U * 2);
 }

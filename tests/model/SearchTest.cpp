@@ -12,14 +12,15 @@ ExtraList library()
             item(u"pwr"_s, true, u"Power"_s, u"Low bat"_s),
             item(u"cafe"_s, false, u"Cafe\u0301 Timer"_s, u"Straße"_s), // the accent as a mark of its own
             item(u"math"_s, false, u"x\u0302 Plot"_s, u"İstanbul Ilgaz"_s),
-            item(u"line"_s, true, u"Two\nLines"_s, u"end\n"_s)};
+            item(u"line"_s, true, u"Two\nLines"_s, u"end\n"_s),
+            item(u"quad"_s, true, u"q\u0302 by q"_s)};
 }
 
 TEST(Search, FindsNamesAndDetailsAsAPersonTypesThem)
 {
     const std::pair<QString, QStringList> cases[] = {
-        {u""_s, {u"cal"_s, u"bat"_s, u"pwr"_s, u"cafe"_s, u"math"_s, u"line"_s}},
-        {u" \t\u3000"_s, {u"cal"_s, u"bat"_s, u"pwr"_s, u"cafe"_s, u"math"_s, u"line"_s}}, // only blanks
+        {u""_s, {u"cal"_s, u"bat"_s, u"pwr"_s, u"cafe"_s, u"math"_s, u"line"_s, u"quad"_s}},
+        {u" \t\u3000"_s, {u"cal"_s, u"bat"_s, u"pwr"_s, u"cafe"_s, u"math"_s, u"line"_s, u"quad"_s}}, // only blanks
         {u"  cal  "_s, {u"cal"_s}},
         {u"BAT"_s, {u"bat"_s, u"pwr"_s}}, // in a name, and in a detail alone
         {u"caf\u00e9"_s, {u"cafe"_s}},
@@ -28,6 +29,7 @@ TEST(Search, FindsNamesAndDetailsAsAPersonTypesThem)
         {u"STRASSE"_s, {u"cafe"_s}},
         {u"x"_s, {}}, // half of a character that no single code stands for
         {u"x\u0302"_s, {u"math"_s}},
+        {u"q"_s, {u"quad"_s}}, // the whole one behind such a half
         {u"pwr"_s, {}}, // ids are not searched
         {u"o\nl"_s, {u"line"_s}},
         {u"end\n"_s, {u"line"_s}}, // a line break is no blank: it stays in the query

@@ -26,8 +26,7 @@ TEST_F(ScrollingTest, TheTabStaysInThePanelAndOnlyTilesInViewExist)
 TEST_F(ScrollingTest, TheSelectedTileIsKeptInView)
 {
     panel.model.moveSelection(1);
-    for (int i = 0; i < 40; ++i)
-        panel.model.moveSelection(kColumns);
+    panel.model.moveSelection(40 * kColumns);
     panel.finishMotion();
     const QString name = panel.model.extraWithID(panel.model.selectedID())->name;
     ASSERT_NE(panel.tile(name), nullptr);

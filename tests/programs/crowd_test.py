@@ -7,11 +7,10 @@ import sys
 import unittest
 
 sys.path.insert(0, str(pathlib.Path(__file__).resolve().parent.parent / "support"))
-from program import Program, Session  # noqa: E402
+from program import ESCAPE, Session  # noqa: E402
 
 PROGRAM = sys.argv.pop(1)
-RETURN, ESCAPE = 36, 53
-PATIENCE = 600  # tenths of a second: so many programs start slowly on a busy machine
+PATIENCE = 60  # seconds: so many programs start slowly on a busy machine
 QT6_ITEM = """
 import sys
 from PyQt6.QtGui import QIcon, QPixmap
@@ -58,14 +57,7 @@ class Crowd(unittest.TestCase):
         cls.session.write(".config/keepassxc/keepassxc.ini",
                           "[General]\nUpdateCheckMessageShown=true\n[GUI]\nShowTrayIcon=true\nMinimizeToTray=true\n")
         cls.session.write(".config/copyq/copyq.conf", "[Options]\nconfirm_exit=false\n")
-        cls.session.write("settings.json", json.dumps({"onboardingDone": True}))
-        cls.session.start_window_manager()
-        cls.brimshade = Program(cls.session.start(
-            PROGRAM, "--session", "--script", "-", "--real-time", "--defaults", str(cls.session.home / "settings.json"),
-            stdin=subprocess.PIPE, stdout=subprocess.PIPE, text=True))
-        cls.brimshade.until("watcher", lambda s: "boolean true" in cls.session.output_of(
-            "dbus-send", "--session", "--print-reply", "--dest=org.freedesktop.DBus", "/",
-            "org.freedesktop.DBus.NameHasOwner", "string:org.kde.StatusNotifierWatcher"))
+        cls.brimshade = cls.session.start_bar(PROGRAM)
         cls.processes = {name: cls.session.start(*command) for name, (command, *_) in PROGRAMS.items()}
         cls.processes |= {name: cls.session.start(command) for name, (command, *_) in DOCKED.items()}
         cls.brimshade.until("all in the bar", lambda s: cls.items(s) == len(cls.processes), PATIENCE)
@@ -76,27 +68,12 @@ class Crowd(unittest.TestCase):
         """Without Brimshade's and the clock's."""
         return len(state["menuBar"]) - 2
 
-    def open_panel(self):
-        self.brimshade.until("nothing open", lambda s: not s["panel"]["onScreen"] and not s["menu"])
-        self.session.output_of(PROGRAM, "--toggle")
-        return self.brimshade.until("open panel", lambda s: s["model"]["isOpen"] and s["panel"]["isKey"] and s)
-
-    def choose_tile(self, name):
-        """Opens the panel, types the name, Return."""
-        self.open_panel()
-        self.brimshade.do("type", text=name)
-        self.brimshade.until(f"one match of {name}", lambda s: len(
-            s["model"]["hiddenMatches"] + s["model"]["visibleMatches"]) == 1 and s["model"]["selectedID"], PATIENCE)
-        self.brimshade.do("key", code=RETURN)
-
     def open_menu(self, name):
-        """Answers with the titles of the menu that opens."""
-        self.choose_tile(name)
-        return self.brimshade.until(f"menu of {name}", lambda s: s["menu"], PATIENCE)
+        return self.brimshade.open_menu(name, PATIENCE)
 
     def choose_from_own_menu(self, name, class_name, keys):
-        self.choose_tile(name)
         before = self.windows_of(class_name)
+        self.brimshade.choose_tile(name, PATIENCE)
         self.brimshade.until(f"menu of {name}", lambda s: self.windows_of(class_name) - before, PATIENCE)
         for key in keys:
             self.session.xdotool("key", key)
@@ -106,7 +83,7 @@ class Crowd(unittest.TestCase):
 
     @classmethod
     def has_window(cls, name):
-        return bool(cls.session.output_of("xdotool", "search", "--onlyvisible", "--name", name).split())
+        return bool(cls.session.text_of("xdotool", "search", "--onlyvisible", "--name", name).split())
 
     def has_come(self, name, effect):
         kind, what = effect.split(":", 1)
@@ -117,11 +94,10 @@ class Crowd(unittest.TestCase):
         return what in titles
 
     def test_1_all_are_found_and_pictured(self):
-        self.open_panel()
+        self.brimshade.open_panel()
         self.brimshade.until("all names", lambda s: {e["name"] for e in s["model"]["extras"] if e["hasIcon"]}
                              == set(self.processes), PATIENCE)
-        self.brimshade.do("key", code=ESCAPE)
-        self.brimshade.until("closed panel", lambda s: not s["panel"]["onScreen"])
+        self.brimshade.close_panel()
 
     def test_2_each_does_what_is_chosen_in_its_menu(self):
         for name, (_, entry, effect, _) in PROGRAMS.items():

@@ -4,17 +4,14 @@ import itertools
 import json
 import pathlib
 import signal
-import subprocess
 import sys
 import unittest
 
-SUPPORT = pathlib.Path(__file__).resolve().parent.parent / "support"
-sys.path.insert(0, str(SUPPORT))
-from program import Program, Session  # noqa: E402
+sys.path.insert(0, str(pathlib.Path(__file__).resolve().parent.parent / "support"))
+from program import PATIENCE, Program, Session  # noqa: E402
 
 COMMAND = sys.argv[1:]
 del sys.argv[1:]
-ESCAPE = 53
 ROUNDS = 10
 AT_REST = 1.6  # seconds: the divider measures anew one after the last item came, which takes 0.3, and settles in 0.1
 DESKTOP = {
@@ -37,28 +34,24 @@ class Restarts(unittest.TestCase):
     def start_brimshade(self):
         command = COMMAND if len(COMMAND) > 1 else [
             *COMMAND, "--script", "-", "--real-time", "--tray", "--desktop", self.session.home / "desktop.json"]
-        self.process = self.session.start(
-            *command, "--defaults", self.session.home / "settings.json", "--state", self.session.home / "bar.json",
-            stdin=subprocess.PIPE, stdout=subprocess.PIPE, text=True)
-        self.brimshade = Program(self.process)
+        self.brimshade = self.session.converse("brimshade", *command, "--defaults", self.session.home / "settings.json",
+                                               "--state", self.session.home / "bar.json", kind=Program)
 
     def end_brimshade(self, killed):
         if killed:
-            self.process.send_signal(signal.SIGKILL)
+            self.brimshade.process.send_signal(signal.SIGKILL)
         status = self.brimshade.end()
         self.assertEqual(status, -signal.SIGKILL if killed else 0)
 
     def start(self, names):
         for name in names:
-            item = {"properties": {"Id": name.lower(), "Title": name}}
-            self.programs[name] = self.session.start("/usr/bin/python3", SUPPORT / "mock_item.py", json.dumps(item),
-                                                     stdin=subprocess.PIPE)
+            self.programs[name] = self.session.start_item({"properties": {"Id": name.lower(), "Title": name}})
 
     def end(self, names):
         for name in names:
             program = self.programs.pop(name)
             program.terminate()
-            program.wait(timeout=30)
+            program.wait(PATIENCE)
 
     @staticmethod
     def items(state):
@@ -78,12 +71,8 @@ class Restarts(unittest.TestCase):
         self.brimshade.until(f"{when}{drawn} in the bar", lambda s: s["time"] >= self.came + AT_REST
                              and s["divider"]["isExpanded"]
                              and drawn == {item["identifier"]: item["drawn"] for item in self.items(s)})
-        self.brimshade.do("click", at=self.brimshade.status_item())
-        self.brimshade.until("all tiles", lambda s: s["panel"]["isKey"] and len(self.hidden(s)) == len(names))
-
-    def close_panel(self):
-        self.brimshade.do("key", code=ESCAPE)
-        self.brimshade.until("closed panel", lambda s: not s["panel"]["onScreen"])
+        self.brimshade.open_panel()
+        self.brimshade.until("all tiles", lambda s: len(self.hidden(s)) == len(names))
 
     @staticmethod
     def hidden(state):
@@ -91,9 +80,8 @@ class Restarts(unittest.TestCase):
 
     def tuck_away(self, name):
         self.open_panel(NAMES, hidden=[])
-        x, y, width, height = self.brimshade.until(
-            f"tile of {name}", lambda s: next((e["frame"] for e in self.brimshade.do("find", text=name)["elements"]
-                                               if e["window"] == "panel" and e["role"] == "Button"), None))
+        x, y, width, height = self.brimshade.until(f"tile of {name}", lambda s: self.brimshade.found(
+            name, window="panel", role="Button"))[0]["frame"]
         self.brimshade.do("menu", at=[x + width / 2, y + height / 2])
         self.brimshade.do("choose", title="Hide from Menu Bar")
         self.brimshade.until(f"{name} tucked away", lambda s: not s["model"]["movingID"] and self.hidden(s)[name])
@@ -102,7 +90,7 @@ class Restarts(unittest.TestCase):
         self.open_panel(names, ["Vault"], when)
         self.brimshade.until(f"{when}vault alone hidden",
                              lambda s: self.hidden(s) == {name: name == "Vault" for name in names})
-        self.close_panel()
+        self.brimshade.close_panel()
 
     def restart(self, number, names):
         killed = number % 2 == 1

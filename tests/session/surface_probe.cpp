@@ -8,6 +8,7 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
+#include <QLoggingCategory>
 #include <QMouseEvent>
 #include <QQmlComponent>
 #include <QQmlEngine>
@@ -231,9 +232,9 @@ void Probe::sync()
 
 int run(int argc, char **argv)
 {
+    QLoggingCategory::setFilterRules(u"qt.qpa.wayland.info=false"_s); // of having no screen
     qInstallMessageHandler([](QtMsgType, const QMessageLogContext &, const QString &message) {
-        // Of the runtime folder, which belongs to the compositor's user; and of having no screen.
-        if (!message.startsWith("QStandardPaths"_L1) && !message.startsWith("Creating a fake screen"_L1))
+        if (!message.startsWith("QStandardPaths"_L1)) // of the runtime folder, which belongs to the compositor's user
             std::cerr << qUtf8Printable(message) << std::endl;
     });
     if (const auto prepared = ShellBackend::prepareEnvironment(); !prepared) {

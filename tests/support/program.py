@@ -1,113 +1,72 @@
 """A running Brimshade that answers script commands, and a session of its own for it and other programs."""
 import json
-import os
 import pathlib
-import shutil
 import subprocess
-import tempfile
+import sys
+
+sys.path.insert(0, str(pathlib.Path(__file__).resolve().parent.parent / "session"))
+from lib.brimshade import ESCAPE, RETURN, Brimshade, Program, matches, names  # noqa: E402, F401
+from lib.session import Session as Home  # noqa: E402
+from lib.waiting import PATIENCE  # noqa: E402
+
+SUPPORT = pathlib.Path(__file__).resolve().parent
+EMPTY_DESKTOP = {
+    "screens": [{"name": "Built-in Display", "frame": [0, 0, 1512, 982], "menuBarHeight": 37, "notch": [663, 849]}],
+    "applications": [], "defaults": {"onboardingDone": True},
+}
 
 
-class Program:
-    def __init__(self, process):
-        self._process = process
-        self.pid = process.pid
-
-    def do(self, command, **arguments):
-        """The answer to a command; one that is refused fails the test."""
-        self._process.stdin.write(json.dumps({"do": command, **arguments}) + "\n")
-        self._process.stdin.flush()
-        answer = json.loads(self._process.stdout.readline())
-        assert answer["ok"], (command, arguments, answer)
-        return answer
-
-    def state(self):
-        return self.do("state")
-
-    def wait(self, seconds):
-        self.do("advance", seconds=seconds)
-
-    def until(self, what, found, patience=100):
-        """Lets time pass until found(state) is something, which is then returned."""
-        for _ in range(patience):
-            state = self.state()
-            result = found(state)
-            if result:
-                return result
-            self.wait(0.1)
-        raise AssertionError(f"never came: {what}; the last state: {json.dumps(state)[:4000]}")
-
-    def status_item(self):
-        x, y, width, height = self.state()["statusItem"]["frame"]
-        return [x + width / 2, y + height / 2]
-
-    def end(self):
-        if not self._process.stdin.closed:
-            self._process.stdin.close()
-            self._process.wait(timeout=60)
-            self._process.stdout.close()
-        return self._process.returncode
-
-
-class Session:
-    """A display, a message bus, a home folder. Every process it starts it also ends; nothing of the user's own session
-    is seen or touched."""
+class Session(Home):
+    """With an X server that is bare of a window manager, and a message bus."""
 
     def __init__(self):
-        self.home = pathlib.Path(tempfile.mkdtemp(prefix="brimshade-session-"))
-        for folder in ("runtime", "tmp"):
-            (self.home / folder).mkdir(mode=0o700)
-        self.environment = {
-            "PATH": os.environ["PATH"], "HOME": str(self.home), "XDG_RUNTIME_DIR": str(self.home / "runtime"),
-            "TMPDIR": str(self.home / "tmp"), "XDG_CURRENT_DESKTOP": "KDE", "LC_ALL": "C.UTF-8", "NO_AT_BRIDGE": "1",
-        }
-        self._processes = []
-        self.environment["DISPLAY"] = ":" + self._first_line_of(
-            "Xvfb", "-displayfd", "1", "-screen", "0", "1440x900x24", "-nolisten", "tcp",
-            "-noreset")  # else it is away for a moment whenever its last client ends
-        self.environment["DBUS_SESSION_BUS_ADDRESS"] = self._first_line_of(
-            "dbus-daemon", "--session", "--nofork", "--print-address=1")
-
-    def _first_line_of(self, *command):
-        return self.start(*command, stdout=subprocess.PIPE, text=True).stdout.readline().strip()
-
-    def start(self, *command, without=(), **options):
-        """without: variables that it does not see."""
-        options = {"stdout": subprocess.DEVNULL, "stderr": subprocess.DEVNULL, **options}
-        environment = {name: value for name, value in self.environment.items() if name not in without}
-        process = subprocess.Popen(command, env=environment, **options)
-        self._processes.append(process)
-        return process
+        super().__init__()
+        self.environment["XDG_CURRENT_DESKTOP"] = "KDE"
+        try:
+            lines = self.lines_of("Xvfb", "-displayfd", "1", "-screen", "0", "1440x900x24", "-nolisten", "tcp",
+                                  "-noreset")  # else it is away for a moment whenever its last client ends
+            self.environment["DISPLAY"] = ":" + lines.next("the X server's display")
+            self.start_bus()
+        except BaseException:
+            self.close()
+            raise
 
     def start_window_manager(self):
-        ready = self.home / "ready"
-        os.mkfifo(ready)  # opening it waits for the window manager to write
+        ready, is_ready = self.fifo("openbox.ready")
         self.start("openbox", "--startup", f"sh -c 'echo > {ready}'")
-        ready.read_text()
+        is_ready.next("openbox")
 
     def start_program(self, binary, description, *arguments, without=()):
-        desktop = self.home / "desktop.json"
-        desktop.write_text(json.dumps(description))
-        return Program(self.start(binary, "--script", "-", "--desktop", str(desktop), *arguments, without=without,
-                                  stdin=subprocess.PIPE, stdout=subprocess.PIPE, text=True))
+        """without: variables that it does not see."""
+        desktop = self.write("desktop.json", json.dumps(description))
+        environment = {name: value for name, value in self.environment.items() if name not in without}
+        return self.converse("brimshade", binary, "--script", "-", "--desktop", desktop, *arguments, kind=Program,
+                             env=environment)
 
-    def write(self, path, text):
-        file = self.home / path
-        file.parent.mkdir(parents=True, exist_ok=True)
-        file.write_text(text)
+    def start_host(self, binary):
+        """With nothing but the session's tray items, in real time, once programs find it."""
+        return self._once_found(self.start_program(binary, EMPTY_DESKTOP, "--tray", "--real-time"))
 
-    def output_of(self, *command):
-        return subprocess.run(command, env=self.environment, capture_output=True, text=True, timeout=60).stdout
+    def start_bar(self, binary):
+        """The same as the menu bar of the session."""
+        self.start_window_manager()
+        return self._once_found(Brimshade(self, binary))
+
+    def _once_found(self, program):
+        """Programs look for a tray only when they start."""
+        program.until("the tray's watcher", lambda s: "boolean true" in self.text_of(
+            "dbus-send", "--session", "--print-reply", "--dest=org.freedesktop.DBus", "/",
+            "org.freedesktop.DBus.NameHasOwner", "string:org.kde.StatusNotifierWatcher"))
+        return program
+
+    def start_item(self, wanted, **options):
+        """A tray item of our own: see mock_item.py."""
+        return self.start("/usr/bin/python3", SUPPORT / "mock_item.py", json.dumps(wanted), stdin=subprocess.PIPE, **options)
+
+    def text_of(self, *command):
+        """What it says, whether or not it succeeds."""
+        return subprocess.run([str(word) for word in command], env=self.environment, capture_output=True, text=True,
+                              timeout=PATIENCE).stdout
 
     def xdotool(self, *arguments):
-        return subprocess.run(["xdotool", *map(str, arguments)], env=self.environment, capture_output=True, text=True,
-                              check=True).stdout
-
-    def close(self):
-        for process in reversed(self._processes):
-            process.terminate()
-            for stream in (process.stdin, process.stdout):
-                if stream:
-                    stream.close()
-        for process in reversed(self._processes):
-            process.wait(timeout=30)
-        shutil.rmtree(self.home, ignore_errors=True)
+        return self.output_of("xdotool", *arguments).decode()

@@ -27,7 +27,7 @@ public:
     desktop::VirtualDispatch dispatch;
     model::NotchModel model{defaults, loginItems};
     model::PermissionRequest permission{accessibility, workspace};
-    std::optional<OnboardingFlow::Choices> finished;
+    std::optional<ItemChoices> finished;
     int scans = 0;
     int setups = 0;
     QStringList moves; // "relay hide"

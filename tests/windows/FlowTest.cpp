@@ -66,7 +66,7 @@ TEST_F(Flow, RunsNoTimerWhileItsViewIsOffScreen)
 TEST_F(Flow, SeedsChoicesAtTheStartAndForEveryNewItem)
 {
     model.setExtras({extra(u"relay"_s, false), extra(u"ledger"_s, true)});
-    const OnboardingFlow::Choices seeded{{u"relay"_s, false}, {u"ledger"_s, true}};
+    const ItemChoices seeded{{u"relay"_s, false}, {u"ledger"_s, true}};
     EXPECT_EQ(flow.choices(), seeded);
     EXPECT_EQ(OnboardingFlow(model, permission, accessibility, dispatch, nullptr).choices(), seeded);
 
@@ -74,7 +74,7 @@ TEST_F(Flow, SeedsChoicesAtTheStartAndForEveryNewItem)
     // A rescan: one new, one gone, and Relay found hidden and shown again.
     model.setExtras({extra(u"atlas"_s, true), extra(u"relay"_s, true)});
     model.setExtras({extra(u"atlas"_s, true), extra(u"relay"_s, false)});
-    EXPECT_EQ(flow.choices(), (OnboardingFlow::Choices{{u"relay"_s, true}, {u"ledger"_s, true}, {u"atlas"_s, true}}));
+    EXPECT_EQ(flow.choices(), (ItemChoices{{u"relay"_s, true}, {u"ledger"_s, true}, {u"atlas"_s, true}}));
     EXPECT_EQ(tiles(), (QStringList{u"atlas tucked"_s, u"relay tucked"_s}));
     EXPECT_EQ(flow.pendingCount(), 1) << "Relay, which is in the menu bar";
 }
@@ -101,7 +101,7 @@ TEST_F(Flow, TogglesWhatCanMove)
     EXPECT_EQ(changes, 3);
     goTo(4);
     flow.act();
-    EXPECT_EQ(finished, (OnboardingFlow::Choices{{u"relay"_s, false}, {u"ledger"_s, false}, {u"clock"_s, false}}));
+    EXPECT_EQ(finished, (ItemChoices{{u"relay"_s, false}, {u"ledger"_s, false}, {u"clock"_s, false}}));
 }
 
 TEST_F(Flow, KeepsRowsOfItemsThatStay)

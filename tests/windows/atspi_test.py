@@ -96,7 +96,7 @@ class AccessibilityBus(unittest.TestCase):
         return self.program.until(f"{role} {name}", lambda _: self.client.find(role, name))
 
     def open_settings(self):
-        self.program.do("menu", at=self.program.status_item())
+        self.program.do("menu", at=self.program.icon())
         self.program.do("choose", title="Settings…")
         self.wait_for("heading", "Opening")
 
@@ -129,7 +129,7 @@ class AccessibilityBus(unittest.TestCase):
         self.program.until("the picker's new value", lambda _: "⌃⌥Space" in picker.description)
 
     def test_4_presses_a_tile(self):
-        self.program.do("click", at=self.program.status_item())
+        self.program.do("click", at=self.program.icon())
         self.program.until("the panel", lambda s: s["shown"])
         # The item in the menu bar has the same name; it is part of the desktop and takes no action.
         tile = self.program.until("the tile", lambda _: self.client.find_pressable("push button", "Relay"))

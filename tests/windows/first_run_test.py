@@ -3,13 +3,12 @@
 for. Usage: first_run_test.py BRIMSHADE"""
 import json
 import pathlib
-import subprocess
 import sys
-import tempfile
 import unittest
 
-sys.path.insert(0, str(pathlib.Path(__file__).resolve().parent.parent / "support"))
-import program  # noqa: E402
+sys.path.insert(0, str(pathlib.Path(__file__).resolve().parent.parent / "session"))
+from lib.brimshade import Program  # noqa: E402
+from lib.session import Session  # noqa: E402
 
 
 def application(pid, name, *extras):
@@ -34,20 +33,13 @@ DESKTOP = {
 }
 
 
-class Program(program.Program):
-    def __init__(self, folder, desktop):
-        file = pathlib.Path(folder) / "desktop.json"
-        file.write_text(json.dumps(desktop))
-        super().__init__(subprocess.Popen(
-            [BINARY, "--script", "-", "--desktop", file, "--defaults", file.with_name("settings.json")],
-            stdin=subprocess.PIPE, stdout=subprocess.PIPE, stderr=subprocess.DEVNULL, text=True))
-
+class Person(Program):
     def press(self, name, **more):
         self.do("press-element", name=name, **more)
         self.wait(1.2)
 
     def sees(self, text):
-        return any(text in (e["name"], e["description"]) for e in self.do("find", text=text)["elements"])
+        return any(text in (e["name"], e["description"]) for e in self.found(text))
 
     def windows(self):
         return [w["name"] for w in self.state()["windows"] if w["visible"]]
@@ -58,15 +50,17 @@ class Program(program.Program):
 
 class FirstRun(unittest.TestCase):
     def setUp(self):
-        self.folder = tempfile.TemporaryDirectory()
+        self.session = Session()
+        self.addCleanup(self.session.close)
         self.program = self.start()
 
     def start(self, **changes):
-        return Program(self.folder.name, {**DESKTOP, **changes})
+        desktop = self.session.write("desktop.json", json.dumps({**DESKTOP, **changes}))
+        return self.session.converse("brimshade", BINARY, "--script", "-", "--desktop", desktop, "--defaults",
+                                     desktop.with_name("settings.json"), kind=Person)
 
     def tearDown(self):
         self.assertEqual(self.program.end(), 0)
-        self.folder.cleanup()
 
     def test_from_welcome_to_the_new_arrangement(self):
         program = self.program
@@ -123,7 +117,7 @@ class FirstRun(unittest.TestCase):
         self.assertTrue(program.sees("Allow Accessibility first to see your items."))
         for _ in range(2):
             program.press("Continue")
-        self.assertFalse(program.do("find", text="Finishing moves")["elements"])
+        self.assertFalse(program.found("Finishing moves"))
         program.press("Finish")
         state = program.state()
         self.assertTrue(state["defaults"]["onboardingDone"])
@@ -143,7 +137,7 @@ class FirstRun(unittest.TestCase):
         program.press("Close")
         self.assertEqual(program.windows(), [])
         program.do("launch", application=application(900, "Glacier", item("glacier")))
-        program.do("menu", at=program.status_item())
+        program.do("menu", at=program.icon())
         program.do("choose", title="Setup Guide…")
         program.wait(2)
         self.assertTrue(program.sees("What stays in the menu bar?"))

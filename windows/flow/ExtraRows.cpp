@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+using namespace Qt::StringLiterals;
+
 namespace brimshade::windows {
 
 using menubar::ExtraList;
@@ -30,7 +32,7 @@ QVariant ExtraRows::value(int row, int role) const
     case ImageRole:
         return QVariant::fromValue(extra.icon);
     case SymbolRole:
-        return extra.symbol.value_or(QStringLiteral("circle"));
+        return extra.symbol.value_or(u"circle"_s);
     case CanMoveRole:
         return extra.canMove;
     default:

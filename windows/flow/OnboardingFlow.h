@@ -1,7 +1,7 @@
 #pragma once
 #include "ChoiceTiles.h"
+#include "ItemChoices.h"
 
-#include <QHash>
 #include <QVariantList>
 #include <functional>
 #include <memory>
@@ -36,8 +36,7 @@ class OnboardingFlow : public QObject {
     Q_PROPERTY(QVariantList heroIcons READ heroIcons NOTIFY heroIconsChanged)
 
 public:
-    using Choices = QHash<QString, bool>; // extra id → true: tucked into the notch, false: stays in the menu bar
-    using FinishAction = std::function<void(const Choices &)>;
+    using FinishAction = std::function<void(const ItemChoices &)>;
 
     enum Step { Welcome, Permission, Items, Opening, Final };
     Q_ENUM(Step)
@@ -63,7 +62,7 @@ public:
     void setActive(bool active);
 
     ChoiceTiles *tiles() { return &m_tiles; }
-    const Choices &choices() const { return m_choices; }
+    const ItemChoices &choices() const { return m_choices; }
     bool effectiveChoice(const menubar::MenuExtra &extra) const; // the choice, else where the item is now
     int stayCount() const;
     int tuckedCount() const;
@@ -97,7 +96,7 @@ private:
     FinishAction m_onFinish;
     const bool m_asksForPermission;
     int m_step = Welcome;
-    Choices m_choices;
+    ItemChoices m_choices;
     ChoiceTiles m_tiles;
     QVariantList m_heroIcons;
     std::unique_ptr<platform::Timer> m_timer;

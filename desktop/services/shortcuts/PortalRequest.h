@@ -11,9 +11,11 @@ namespace brimshade::desktop {
 
 // The desktop portal of the session.
 namespace portal {
-inline const QString kService = QStringLiteral("org.freedesktop.portal.Desktop");
-inline const QString kPath = QStringLiteral("/org/freedesktop/portal/desktop");
-inline const QString kGlobalShortcuts = QStringLiteral("org.freedesktop.portal.GlobalShortcuts");
+
+using namespace Qt::StringLiterals;
+inline const QString kService = u"org.freedesktop.portal.Desktop"_s;
+inline const QString kPath = u"/org/freedesktop/portal/desktop"_s;
+inline const QString kGlobalShortcuts = u"org.freedesktop.portal.GlobalShortcuts"_s;
 } // namespace portal
 
 // One call whose outcome the portal tells later, by a signal of a request object. Main thread; starts the portal where

@@ -10,8 +10,8 @@ namespace brimshade::desktop::session {
 WaylandTokens::WaylandTokens(wl_display *display) : m_registry(wl_display_get_registry(display))
 {
     static constexpr wl_registry_listener kListener{
-        [](void *self, wl_registry *, std::uint32_t name, const char *interface, std::uint32_t) {
-            static_cast<WaylandTokens *>(self)->add(name, interface);
+        [](void *self, wl_registry *, std::uint32_t name, const char *interface, std::uint32_t version) {
+            static_cast<WaylandTokens *>(self)->add(name, interface, version);
         },
         [](void *self, wl_registry *, std::uint32_t name) { static_cast<WaylandTokens *>(self)->remove(name); }};
     wl_registry_add_listener(m_registry, &kListener, this);
@@ -27,13 +27,16 @@ WaylandTokens::~WaylandTokens()
     wl_registry_destroy(m_registry);
 }
 
-void WaylandTokens::add(std::uint32_t name, const char *interface)
+void WaylandTokens::add(std::uint32_t name, const char *interface, std::uint32_t version)
 {
-    const auto bind = [&](const wl_interface &known) { return wl_registry_bind(m_registry, name, &known, 1); };
+    const auto bind = [&](const wl_interface &known, std::uint32_t most) {
+        return wl_registry_bind(m_registry, name, &known, std::min(version, most));
+    };
     if (std::strcmp(interface, xdg_activation_v1_interface.name) == 0 && !m_activation)
-        m_activation = static_cast<xdg_activation_v1 *>(bind(xdg_activation_v1_interface));
+        m_activation = static_cast<xdg_activation_v1 *>(bind(xdg_activation_v1_interface, 1));
     else if (std::strcmp(interface, wl_seat_interface.name) == 0)
-        m_seats.push_back(std::make_unique<WaylandSerials>(static_cast<wl_seat *>(bind(wl_seat_interface)), name));
+        m_seats.push_back(std::make_unique<WaylandSeat>(
+            static_cast<wl_seat *>(bind(wl_seat_interface, WaylandSeat::kVersion)), name));
 }
 
 void WaylandTokens::remove(std::uint32_t name)
@@ -43,7 +46,7 @@ void WaylandTokens::remove(std::uint32_t name)
 
 void WaylandTokens::request(Give give)
 {
-    const WaylandSerials *used = lastUsed();
+    const WaylandSeat *used = lastUsed();
     if (!m_activation || !used)
         return give({});
     static constexpr xdg_activation_token_v1_listener kListener{
@@ -54,7 +57,7 @@ void WaylandTokens::request(Give give)
     m_requests.push_back({this, xdg_activation_v1_get_activation_token(m_activation), std::move(give)});
     Request &request = m_requests.back();
     xdg_activation_token_v1_add_listener(request.token, &kListener, &request);
-    xdg_activation_token_v1_set_serial(request.token, used->last(), used->seat());
+    xdg_activation_token_v1_set_serial(request.token, used->lastSerial(), used->seat());
     xdg_activation_token_v1_commit(request.token);
 }
 
@@ -66,10 +69,10 @@ void WaylandTokens::done(Request *request, const QString &token)
     give(token);
 }
 
-const WaylandSerials *WaylandTokens::lastUsed() const
+const WaylandSeat *WaylandTokens::lastUsed() const
 {
-    const auto used = std::ranges::max_element(m_seats, {}, [](const auto &seat) { return seat->last(); });
-    return used == m_seats.end() || (*used)->last() == 0 ? nullptr : used->get();
+    const auto used = std::ranges::max_element(m_seats, {}, [](const auto &seat) { return seat->lastSerial(); });
+    return used == m_seats.end() || (*used)->lastSerial() == 0 ? nullptr : used->get();
 }
 
 } // namespace brimshade::desktop::session

@@ -1,6 +1,6 @@
 #pragma once
 #include "ActivationTokens.h"
-#include "WaylandSerials.h"
+#include "desktop/session/wayland/WaylandSeat.h"
 
 #include <list>
 #include <vector>
@@ -27,14 +27,14 @@ private:
         xdg_activation_token_v1 *token;
         Give give;
     };
-    void add(std::uint32_t name, const char *interface);
+    void add(std::uint32_t name, const char *interface, std::uint32_t version);
     void remove(std::uint32_t name);
     void done(Request *request, const QString &token);
-    const WaylandSerials *lastUsed() const; // null while nothing was pressed
+    const WaylandSeat *lastUsed() const; // null while nothing was pressed
 
     wl_registry *const m_registry;
     xdg_activation_v1 *m_activation = nullptr;
-    std::vector<std::unique_ptr<WaylandSerials>> m_seats;
+    std::vector<std::unique_ptr<WaylandSeat>> m_seats;
     std::list<Request> m_requests;
 };
 

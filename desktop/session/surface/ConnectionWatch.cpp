@@ -1,13 +1,16 @@
 #include "ConnectionWatch.h"
 
-#include <QCoreApplication>
+#include <QGuiApplication>
 #include <array>
+#include <cstdio>
 #include <cstdlib>
-#include <mutex>
 #include <poll.h>
+#include <qpa/qplatformnativeinterface.h>
 #include <string_view>
 #include <sys/eventfd.h>
 #include <unistd.h>
+#include <wayland-client-core.h>
+#include <xcb/xcb.h>
 
 namespace brimshade::desktop::session {
 
@@ -23,25 +26,24 @@ bool isMainProcessOfUnit()
     return qEnvironmentVariableIntValue("SYSTEMD_EXEC_PID") == getpid();
 }
 
-// By whoever finds out first, the watch or Qt; the other one waits here for the end.
+// By whoever finds out first, the watch or Qt; the other one waits here for the end, and so does whatever writes.
 [[noreturn]] void endAtOnce()
 {
-    static std::mutex first;
-    const std::lock_guard lock(first);
+    flockfile(stderr);
     [[maybe_unused]] const auto written = write(STDERR_FILENO, kGone.data(), kGone.size());
     _exit(isMainProcessOfUnit() ? kGoneInUnit : EXIT_FAILURE);
 }
 
-// What a message handler cannot be given otherwise.
-struct Watched {
-    int connection = -1;
-    QtMessageHandler usualHandler = nullptr;
-};
-
-Watched &watched()
+// The application's own, whichever display it is on; -1 without one. A message handler cannot be given it. Any thread.
+int connectionOfApplication()
 {
-    static Watched watched;
-    return watched;
+    auto *native = QCoreApplication::instance() ? QGuiApplication::platformNativeInterface() : nullptr;
+    if (!native)
+        return -1;
+    if (void *display = native->nativeResourceForIntegration("wl_display"))
+        return wl_display_get_fd(static_cast<wl_display *>(display));
+    void *connection = native->nativeResourceForIntegration("connection");
+    return connection ? xcb_get_file_descriptor(static_cast<xcb_connection_t *>(connection)) : -1;
 }
 
 bool isGone(int connection)
@@ -53,9 +55,9 @@ bool isGone(int connection)
 // Qt complains before it ends the process, and of what no longer works before it notices why: none of that is said.
 void handleMessage(QtMsgType type, const QMessageLogContext &context, const QString &text)
 {
-    if (isGone(watched().connection))
+    if (isGone(connectionOfApplication()))
         endAtOnce();
-    watched().usualHandler(type, context, text);
+    std::fprintf(stderr, "%s\n", qUtf8Printable(qFormatLogMessage(type, context, text)));
 }
 
 void waitForEnd(int connection, int stop)
@@ -76,19 +78,18 @@ void leaveAtOnce(int, void *)
 
 } // namespace
 
-ConnectionWatch::ConnectionWatch(int fileDescriptor)
-    : m_stop(eventfd(0, EFD_CLOEXEC)), m_thread(waitForEnd, fileDescriptor, m_stop)
+ConnectionWatch::ConnectionWatch()
+    : m_stop(eventfd(0, EFD_CLOEXEC)), m_thread(waitForEnd, connectionOfApplication(), m_stop),
+      m_usualHandler(qInstallMessageHandler(handleMessage))
 {
     on_exit(leaveAtOnce, nullptr);
-    watched() = {fileDescriptor, nullptr};
-    watched().usualHandler = qInstallMessageHandler(handleMessage);
 }
 
 ConnectionWatch::~ConnectionWatch()
 {
     eventfd_write(m_stop, 1);
     m_thread.join();
-    qInstallMessageHandler(watched().usualHandler);
+    qInstallMessageHandler(m_usualHandler);
     close(m_stop);
 }
 

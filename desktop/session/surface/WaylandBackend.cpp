@@ -20,8 +20,7 @@ std::expected<std::unique_ptr<ShellBackend>, QString> WaylandBackend::create()
 
 WaylandBackend::WaylandBackend(std::unique_ptr<WaylandGlobals> globals)
     : m_globals(std::move(globals)), m_foreground(*m_globals, shownSurfaces()), m_outside(*m_globals, shownSurfaces()),
-      m_sway(qEnvironmentVariable("SWAYSOCK"), wl_display_get_fd(m_globals->display())),
-      m_watch(wl_display_get_fd(m_globals->display()))
+      m_sway(qEnvironmentVariable("SWAYSOCK"), wl_display_get_fd(m_globals->display()))
 {
     m_globals->setPressed([this](const wl_surface *surface) {
         if (m_outside.isOf(surface))

@@ -19,7 +19,6 @@ namespace {
 // The versions whose events are listened to.
 constexpr std::uint32_t kLayerShellVersion = 4;
 constexpr std::uint32_t kToplevelVersion = 3;
-constexpr std::uint32_t kSeatVersion = 3;
 constexpr std::uint32_t kOutputVersion = 2; // at least
 constexpr std::uint32_t kOutputReleaseVersion = 3;
 constexpr std::uint32_t kLayerShellDestroyVersion = 3;
@@ -94,7 +93,7 @@ void WaylandGlobals::add(std::uint32_t name, const char *interface, std::uint32_
         addOutput(name, std::min(version, kOutputReleaseVersion));
     else if (is(wl_seat_interface))
         m_seats.push_back(std::make_unique<WaylandSeat>(
-            versioned<wl_seat>(m_registry, name, wl_seat_interface, std::min(version, kSeatVersion)), name,
+            versioned<wl_seat>(m_registry, name, wl_seat_interface, std::min(version, WaylandSeat::kVersion)), name,
             [this](wl_surface *surface) {
                 if (m_pressed)
                     m_pressed(surface);

@@ -1,5 +1,5 @@
 #pragma once
-#include "WaylandSeat.h"
+#include "desktop/session/wayland/WaylandSeat.h"
 
 #include <QString>
 #include <cstdint>
@@ -20,6 +20,8 @@ struct zwlr_layer_shell_v1;
 class QScreen;
 
 namespace brimshade::desktop::session {
+
+inline constexpr int kIgnoresZones = -1; // of a layer surface, as its exclusive zone
 
 // What the compositor offers, bound anew beside what Qt has bound on the same connection. Qt reads the connection and
 // calls all listeners on the main thread.

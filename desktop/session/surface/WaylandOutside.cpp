@@ -18,10 +18,9 @@ namespace brimshade::desktop::session {
 
 namespace {
 
-constexpr auto kNamespace = "brimshade-outside";
+constexpr auto kOutsideNamespace = "brimshade-outside";
 constexpr std::uint32_t kAllEdges = ZWLR_LAYER_SURFACE_V1_ANCHOR_TOP | ZWLR_LAYER_SURFACE_V1_ANCHOR_BOTTOM
     | ZWLR_LAYER_SURFACE_V1_ANCHOR_LEFT | ZWLR_LAYER_SURFACE_V1_ANCHOR_RIGHT;
-constexpr int kIgnoresZones = -1;
 constexpr int kPixelBytes = 4;
 
 // A fresh file is all zeros: transparent. Null when the system is out of files.
@@ -65,7 +64,7 @@ WaylandOutside::Sheet::Sheet(const WaylandOutside &owner, QScreen *screen)
     : m_owner(owner), m_screen(screen), m_surface(wl_compositor_create_surface(owner.m_globals.compositor())),
       m_viewport(wp_viewporter_get_viewport(owner.m_globals.viewporter(), m_surface)),
       m_role(zwlr_layer_shell_v1_get_layer_surface(owner.m_globals.layerShell(), m_surface, outputOf(screen),
-                                                   ZWLR_LAYER_SHELL_V1_LAYER_OVERLAY, kNamespace))
+                                                   ZWLR_LAYER_SHELL_V1_LAYER_OVERLAY, kOutsideNamespace))
 {
     static constexpr zwlr_layer_surface_v1_listener kListener{
         [](void *self, zwlr_layer_surface_v1 *, std::uint32_t serial, std::uint32_t width, std::uint32_t height) {

@@ -17,7 +17,6 @@ namespace {
 constexpr auto kNamespace = "brimshade";
 constexpr std::uint32_t kTopLeft = ZWLR_LAYER_SURFACE_V1_ANCHOR_TOP | ZWLR_LAYER_SURFACE_V1_ANCHOR_LEFT;
 constexpr std::uint32_t kTopEdge = kTopLeft | ZWLR_LAYER_SURFACE_V1_ANCHOR_RIGHT;
-constexpr int kIgnoresZones = -1;
 
 } // namespace
 

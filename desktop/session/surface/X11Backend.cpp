@@ -26,7 +26,7 @@ std::expected<std::unique_ptr<ShellBackend>, QString> X11Backend::create()
 X11Backend::X11Backend(std::unique_ptr<X11Connection> watching)
     : m_connection(qGuiApp->nativeInterface<QNativeInterface::QX11Application>()->connection()),
       m_watching(std::move(watching)), m_focus(m_connection), m_foreground(*m_watching, shownSurfaces()),
-      m_outside(*m_watching, shownSurfaces()), m_watch(xcb_get_file_descriptor(m_connection))
+      m_outside(*m_watching, shownSurfaces())
 {
     connect(&m_outside, &X11Outside::pressed, this, [this](xcb_timestamp_t time) {
         m_focus.pressedElsewhere(time);

@@ -3,11 +3,13 @@
 
 #include <QFile>
 
+using namespace Qt::StringLiterals;
+
 namespace brimshade::desktop {
 
 DesktopDescription builtInDesktop()
 {
-    QFile file(QStringLiteral(":/desktop/desktop.json"));
+    QFile file(u":/desktop/desktop.json"_s);
     if (!file.open(QIODevice::ReadOnly))
         qFatal("the built-in desktop is missing from the program");
     const auto description = parseDesktop(file.readAll());

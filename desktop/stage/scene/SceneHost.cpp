@@ -184,7 +184,7 @@ QImage SceneHost::Private::onlyFrame(const QQuickItem &frame)
     return picture;
 }
 
-SceneHost::SceneHost(std::unique_ptr<Private> d_) : d(std::move(d_)) { }
+SceneHost::SceneHost(std::unique_ptr<Private> parts) : m_d(std::move(parts)) { }
 
 SceneHost::~SceneHost() = default;
 
@@ -200,12 +200,12 @@ std::unique_ptr<SceneHost> SceneHost::window(Desktop &desktop)
 
 QQuickWindow *SceneHost::quickWindow() const
 {
-    return &d->window();
+    return &m_d->window();
 }
 
 QQmlEngine &SceneHost::engine() const
 {
-    return *d->engine;
+    return *m_d->engine;
 }
 
 void SceneHost::settle()
@@ -214,11 +214,11 @@ void SceneHost::settle()
     for (int round = 0; round < 2; ++round) {
         QCoreApplication::sendPostedEvents();
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-        if (d->surface)
-            d->surface->layOut();
+        if (m_d->surface)
+            m_d->surface->layOut();
     }
-    if (d->animations)
-        d->animations->catchUp();
+    if (m_d->animations)
+        m_d->animations->catchUp();
 }
 
 std::vector<ScriptHost::View> SceneHost::views() const
@@ -229,64 +229,65 @@ std::vector<ScriptHost::View> SceneHost::views() const
 QImage SceneHost::picture()
 {
     settle();
-    return d->whole();
+    return m_d->whole();
 }
 
 std::optional<QImage> SceneHost::picture(const QString &windowName)
 {
-    const DesktopWindow *window = d->desktop.windows().named(windowName);
-    const QQuickItem *frame = d->windows->frameOf(window);
+    const DesktopWindow *window = m_d->desktop.windows().named(windowName);
+    const QQuickItem *frame = m_d->windows->frameOf(window);
     if (!frame || !window->isVisible())
         return {};
     settle();
-    return d->surface ? d->onlyFrame(*frame) : d->partOf(d->whole(), *frame); // nothing vanishes before a person's eyes
+    return m_d->surface ? m_d->onlyFrame(*frame)
+                        : m_d->partOf(m_d->whole(), *frame); // nothing vanishes before a person's eyes
 }
 
 QQuickItem *SceneHost::contentOf(const DesktopWindow *window) const
 {
-    return d->windows->contentOf(window);
+    return m_d->windows->contentOf(window);
 }
 
 bool SceneHost::isAnimating() const
 {
-    return d->animations && d->animations->isRunning();
+    return m_d->animations && m_d->animations->isRunning();
 }
 
 QPointF SceneHost::toDisplay(QPointF scene) const
 {
-    return d->space->mapFromScene(scene);
+    return m_d->space->mapFromScene(scene);
 }
 
 QPoint SceneHost::toScreen(QPointF display) const
 {
     if (!quickWindow()->isVisible())
         return display.toPoint();
-    return nativePoint(quickWindow()->mapToGlobal(d->space->mapToScene(display)));
+    return nativePoint(quickWindow()->mapToGlobal(m_d->space->mapToScene(display)));
 }
 
 void SceneHost::movePointer(QPointF to, std::uint64_t modifierFlags)
 {
-    d->hands->movePointer(to, modifierFlags);
+    m_d->hands->movePointer(to, modifierFlags);
 }
 
 void SceneHost::press(MouseButton button, std::uint64_t modifierFlags)
 {
-    d->hands->press(button, modifierFlags);
+    m_d->hands->press(button, modifierFlags);
 }
 
 void SceneHost::release(MouseButton button, std::uint64_t modifierFlags)
 {
-    d->hands->release(button, modifierFlags);
+    m_d->hands->release(button, modifierFlags);
 }
 
 void SceneHost::scroll(QPoint by, std::uint64_t modifierFlags)
 {
-    d->hands->scroll(by, modifierFlags);
+    m_d->hands->scroll(by, modifierFlags);
 }
 
 void SceneHost::key(const platform::Event &event)
 {
-    d->hands->key(event);
+    m_d->hands->key(event);
 }
 
 } // namespace brimshade::desktop

@@ -49,8 +49,8 @@ public:
 
 private:
     class Private;
-    explicit SceneHost(std::unique_ptr<Private> d);
-    const std::unique_ptr<Private> d;
+    explicit SceneHost(std::unique_ptr<Private> parts);
+    const std::unique_ptr<Private> m_d;
 };
 
 } // namespace brimshade::desktop

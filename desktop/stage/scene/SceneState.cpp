@@ -4,6 +4,8 @@
 #include "platform/Screens.h"
 #include "platform/Workspace.h"
 
+using namespace Qt::StringLiterals;
+
 namespace brimshade::desktop {
 
 SceneState::SceneState(Desktop &desktop, WallClock::Now now, bool alwaysDrawsPointer)
@@ -66,8 +68,8 @@ QVariantList SceneState::dockImages() const
     constexpr qsizetype most = 12;
     QVariantList images;
     for (const platform::RunningApplication &each : m_desktop.platform().workspace.runningApplications()) {
-        const bool isProgram = each.bundlePath && each.bundlePath->startsWith(QStringLiteral("/Applications/"))
-            && !each.bundlePath->contains(QStringLiteral(".app/")); // a helper of one has its icon, too
+        const bool isProgram = each.bundlePath && each.bundlePath->startsWith(u"/Applications/"_s)
+            && !each.bundlePath->contains(u".app/"_s); // a helper of one has its icon, too
         if (isProgram && !each.icon.isNull() && images.size() < most)
             images.append(QVariant::fromValue(each.icon));
     }

@@ -60,6 +60,16 @@ TEST_F(BarTest, WithoutANotchShowsItemsUpToTheActiveApplicationsMenus)
     }
 }
 
+TEST_F(BarTest, ShowsNoLayoutThatIsOlderThanItsOwnItem)
+{
+    desktop.launch({.description = application(13, {extra(u"c.four"_s)})}); // will be laid out without the own item
+    const auto own = platform.statusBar.createStatusItem(28);
+    const QRectF behind = barFrame(u"a.one"_s);
+    EXPECT_EQ(maxX(behind), windowFrame(*own).left());
+    settle();
+    EXPECT_EQ(barFrame(u"a.one"_s), behind);
+}
+
 TEST_F(BarTest, NeverPutsAnItemBackIntoALayoutThatItHasLeft)
 {
     const QRectF place(900, 0, 20, 37);

@@ -1,7 +1,9 @@
 #include "World.h"
 #include "desktop/time/RealDispatch.h"
+#include "support/Waiting.h"
 
 #include <QCoreApplication>
+#include <QDeadlineTimer>
 #include <atomic>
 
 using namespace brimshade::platform;
@@ -55,7 +57,9 @@ TEST(DesktopThreads, ReadsAndPostsOnAnyThreadWhileTheDisplayChanges)
     for (int i = 0; i < kWorkers; ++i)
         dispatch.globalAsync(QualityOfService::userInitiated, work);
 
+    const QDeadlineTimer deadline(kPatience);
     for (int turn = 0; running > 0; ++turn) {
+        ASSERT_FALSE(deadline.hasExpired()) << "never came: the end of the reads";
         desktop->change(12, {.description = application(12, {extra(u"b.%1"_s.arg(turn % 3))})});
         desktop->quit(11);
         desktop->launch({.description = application(11, {extra(u"a.one"_s)})});

@@ -4,9 +4,9 @@
 #include "platform/HotkeyCenter.h"
 #include "platform/KeyCodes.h"
 #include "support/Test.h"
+#include "support/Waiting.h"
 
 #include <QCoreApplication>
-#include <QEventLoop>
 #include <QProcessEnvironment>
 
 namespace brimshade::desktop {
@@ -53,8 +53,8 @@ protected:
     {
         pressed.clear();
         run(u"xdotool"_s, QStringList{u"key"_s} + keys + QStringList{u"ctrl+alt+space"_s});
-        while (pressed.empty() || pressed.back() != kControlOptionSpace)
-            QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+        waitFor(u"the combination that is known to come"_s,
+                [&] { return !pressed.empty() && pressed.back() == kControlOptionSpace; });
         pressed.pop_back();
         return pressed;
     }

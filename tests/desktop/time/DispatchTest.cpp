@@ -2,9 +2,9 @@
 #include "desktop/time/RealDispatch.h"
 #include "desktop/time/VirtualDispatch.h"
 #include "support/Test.h"
+#include "support/Waiting.h"
 
 #include <QCoreApplication>
-#include <QEventLoop>
 #include <atomic>
 
 namespace brimshade::desktop {
@@ -21,8 +21,7 @@ void runUntil(VirtualDispatch &dispatch, const bool &done)
 
 void runUntil(RealDispatch &, const bool &done)
 {
-    while (!done)
-        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+    waitFor(u"the end of the work"_s, [&] { return done; });
 }
 
 template <class Implementation> class DispatchTest : public testing::Test {

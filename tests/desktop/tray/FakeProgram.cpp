@@ -13,8 +13,7 @@ void BusTest::settle(const QDBusConnection &from, const QDBusConnection &to)
     // A Ping is answered past the program: the second one follows what that answers.
     for (int round = 1; round <= 2; ++round) {
         callAsync(from, peer, u"Ping"_s, {}, &context, [&](const BusReply &) { ++answers; });
-        while (answers < round)
-            QCoreApplication::processEvents(QEventLoop::AllEvents | QEventLoop::WaitForMoreEvents);
+        waitFor(u"the answer to a ping"_s, [&] { return answers == round; });
     }
 }
 
@@ -22,7 +21,8 @@ void BusTest::step(const QDeadlineTimer &deadline, const std::source_location &w
 {
     constexpr double unnoticed = 0.1; // seconds: the bar's layout
     if (deadline.hasExpired())
-        throw std::runtime_error("never came: what line " + std::to_string(where.line()) + " waits for");
+        throw std::runtime_error("never came: what " + std::string(where.file_name()) + " waits for in line "
+                                 + std::to_string(where.line()));
     if (const auto due = m_dispatch.nextDue(); due && *due <= unnoticed)
         return m_dispatch.advance(std::max(*due, 0.0));
     QTimer wakeUp; // for the deadline

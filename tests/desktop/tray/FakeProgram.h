@@ -2,6 +2,7 @@
 #include "WireLayout.h"
 #include "desktop/time/VirtualDispatch.h"
 #include "support/PrivateBus.h"
+#include "support/Waiting.h"
 
 #include <QCoreApplication>
 #include <QDBusMessage>
@@ -32,7 +33,6 @@ protected:
     PrivateBus m_bus;
 
 private:
-    static constexpr std::chrono::seconds kPatience{20};
     void step(const QDeadlineTimer &deadline, const std::source_location &where);
 };
 

@@ -42,6 +42,27 @@ TEST_F(IconTest, AreFoundInABareFolderAndInAThemeBelowIt)
     EXPECT_TRUE(finder.find(u"absent"_s, folder.path()).isNull());
 }
 
+TEST_F(IconTest, OfSeveralBelowAFolderTheLargestIsShownAndADrawnOneBeforeAll)
+{
+    const auto theme = folder.filePath(u"theme"_s);
+    // Whichever of the two folders is visited first.
+    put(u"theme/one/first.png"_s, Qt::red, 8);
+    put(u"theme/two/first.png"_s, Qt::green, 64);
+    put(u"theme/one/second.png"_s, Qt::green, 64);
+    put(u"theme/two/second.png"_s, Qt::red, 8);
+    EXPECT_EQ(colourOf(u"first"_s, theme), QColor(Qt::green));
+    EXPECT_EQ(colourOf(u"second"_s, theme), QColor(Qt::green));
+    for (const auto &[drawn, picture] : {std::pair(u"one"_s, u"two"_s), {u"two"_s, u"one"_s}}) {
+        put(u"theme/%1/of%2.png"_s.arg(picture, drawn), Qt::red, 512);
+        writeFile(
+            folder.filePath(u"theme/%1/of%1.svg"_s.arg(drawn)),
+            R"(<svg xmlns="http://www.w3.org/2000/svg" width="8" height="8"><rect width="8" height="8" fill="#0f0"/></svg>)");
+    }
+    IconFinder later{{}, [] { return 100.0; }};
+    for (const auto &name : {u"ofone"_s, u"oftwo"_s})
+        EXPECT_EQ(later.find(name, theme).bitmap().pixelColor(4, 4), QColor(Qt::green)) << name.toStdString();
+}
+
 TEST_F(IconTest, WhatIsNoPictureIsNotOpenedForEver)
 {
     QTemporaryDir folder;

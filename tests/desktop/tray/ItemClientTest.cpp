@@ -144,8 +144,7 @@ TEST_F(ItemClientTest, PicturesAreLookedForOffTheMainThread)
 {
     m_program.properties = {{u"IconName"_s, u"anything"_s}, {u"IconThemePath"_s, u"/usr"_s}};
     start();
-    while (m_program.calls().isEmpty())
-        QCoreApplication::processEvents(QEventLoop::AllEvents | QEventLoop::WaitForMoreEvents);
+    waitFor(u"a call"_s, [&] { return !m_program.calls().isEmpty(); });
     settle(m_own, m_connection); // the answer has come; other threads have their turn with runDue()
     EXPECT_FALSE(m_client->item());
     m_dispatch.runDue();

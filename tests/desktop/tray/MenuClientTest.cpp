@@ -74,6 +74,23 @@ TEST_F(MenuClientTest, AClosedMenuIsNotReadForAChangeAndAnOldOneIsNotShown)
     EXPECT_EQ(titles(), QStringList{u"New"_s});
 }
 
+TEST_F(MenuClientTest, AMenuThatBecomesOldWhileItIsReadForItsOpeningIsReadAgain)
+{
+    start();
+    m_program.signalLayout(0);
+    settle(m_connection, m_own);
+    m_program.heldMethods = {u"GetLayout"_s};
+    m_client->open();
+    waitUntil([&] { return m_program.calls().count(u"GetLayout 0"_s) == 2; });
+    m_program.signalLayout(0);
+    settle(m_connection, m_own);
+    m_program.answerHeld();
+    waitUntil([&] { return !m_ready->isEmpty(); });
+    EXPECT_EQ(titles(), (QStringList{u"Open"_s, u"Quit"_s}));
+    m_program.menu.children = {labelled(9, u"New"_s)};
+    waitUntil([&] { return titles() == QStringList{u"New"_s}; });
+}
+
 TEST_F(MenuClientTest, AnOpenMenuFollowsItsProgram)
 {
     start();

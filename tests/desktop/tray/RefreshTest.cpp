@@ -43,4 +43,30 @@ TEST(Refresh, AChangeIsReadAtOnceAndWhatChangesAllTheTimeTogether)
     EXPECT_NEAR(one.read.back(), 1.14, exact);
 }
 
+TEST(Refresh, AChangeDuringAReadIsReadWhenThatHasEnded)
+{
+    const std::function<void(Refresh &)> asks[] = {[](Refresh &refresh) { refresh.request(); },
+                                                   [](Refresh &refresh) { refresh.requestNow(); }};
+    const std::function<void(Refresh &)> ends[] = {[](Refresh &refresh) { refresh.finished(); },
+                                                   [](Refresh &refresh) { refresh.failed(); }};
+    for (const auto &ask : asks) {
+        for (const auto &end : ends) {
+            VirtualDispatch dispatch;
+            int reads = 0;
+            Refresh refresh(dispatch, [&] { ++reads; });
+            refresh.requestNow();
+            ask(refresh);
+            ask(refresh);
+            dispatch.advance(10);
+            EXPECT_EQ(reads, 1) << "one at a time";
+            end(refresh);
+            dispatch.advance(0.1);
+            EXPECT_EQ(reads, 2);
+            refresh.finished();
+            dispatch.advance(10);
+            EXPECT_EQ(reads, 2);
+        }
+    }
+}
+
 } // namespace brimshade::desktop::tray

@@ -47,9 +47,9 @@ QStringList TrayHostContext::titles()
     return result;
 }
 
-void TrayHostContext::waitForTitles(const QStringList &wanted)
+void TrayHostContext::waitForTitles(const QStringList &wanted, std::source_location where)
 {
-    waitUntil([&] { return titles() == wanted; });
+    waitUntil([&] { return titles() == wanted; }, where);
 }
 
 int TrayHostContext::hostedPid()

@@ -17,7 +17,7 @@ protected:
 
     // The tray's items in the order in which they came, as "Title" texts.
     QStringList titles();
-    void waitForTitles(const QStringList &wanted);
+    void waitForTitles(const QStringList &wanted, std::source_location where = std::source_location::current());
     int hostedPid(); // of the first of them; 0 without any
     void press(int index); // through Accessibility
     void click(const QString &titleOrIdentifier, MouseButton button = MouseButton::left);

@@ -1,7 +1,9 @@
-"""Brimshade as a session's menu bar, driven and read by its script while hands use it."""
+"""Brimshade, driven and read by its script."""
 import json
 
-from .waiting import Conversation, Deadline
+from .waiting import PATIENCE, Conversation, Deadline
+
+RETURN, ESCAPE = 36, 53  # as its script names them
 
 
 def matches(state):
@@ -17,34 +19,36 @@ def middle(frame):
     return round(x + width / 2), round(y + height / 2)
 
 
-class Brimshade:
-    def __init__(self, session, program, *arguments, settings=None):
-        file = session.home / "settings.json"
-        if not file.exists():
-            file.write_text(json.dumps(settings or {"onboardingDone": True}))
-        self._conversation = session.converse("brimshade", program, "--session", "--script", "-", "--real-time",
-                                              "--defaults", file, *arguments)
-        self.process = self._conversation.process
+class Program(Conversation):
+    @property
+    def pid(self):
+        return self.process.pid
 
-    def do(self, command, **arguments):
-        return self._conversation.do(command, **arguments)
+    def state(self):
+        return self.do("state")
 
-    def until(self, what, found):
-        """Lets time pass until found(state) is something, which is then returned."""
+    def wait(self, seconds):
+        self.do("advance", seconds=seconds)
+
+    def until(self, what, found, patience=PATIENCE):
+        """Lets its time pass until found(state) is something, which is then returned."""
         state = None
-        deadline = Deadline(lambda: f"{what}; the last state: {json.dumps(state)[:4000]}")
+        deadline = Deadline(lambda: f"{what}; the last state: {json.dumps(state)[:4000]}", patience)
         while True:
-            state = self.do("state")
+            state = self.state()
             result = found(state)
             if result:
                 return result
             deadline.check()
-            self.do("advance", seconds=0.05)
+            self.wait(0.05)
+
+    def found(self, text, **like):
+        """The elements of the windows in which that text stands."""
+        return [element for element in self.do("find", text=text)["elements"] if like.items() <= element.items()]
 
     def element(self, name, role=None):
         """The middle of the one visible element of exactly that name, in points of the bar's screen."""
-        found = [element for element in self.do("find", text=name)["elements"]
-                 if element["name"] == name and role in (None, element["role"])]
+        found = self.found(name, name=name, **({"role": role} if role else {}))
         assert len(found) == 1, (name, found)
         return middle(found[0]["frame"])
 
@@ -54,4 +58,41 @@ class Brimshade:
 
     def icon(self):
         """The middle of Brimshade's own item."""
-        return middle(self.do("state")["statusItem"]["frame"])
+        return middle(self.state()["statusItem"]["frame"])
+
+    def open_panel(self):
+        self.do("click", at=self.icon())
+        return self.until("the open panel", lambda s: s["model"]["isOpen"] and s["panel"]["isKey"] and s)
+
+    def close_panel(self):
+        self.do("key", code=ESCAPE)
+        self.until("the closed panel", lambda s: not s["panel"]["onScreen"])
+
+    def choose_tile(self, typed, patience=PATIENCE):
+        """Opens the panel, types part of a name, Return."""
+        self.open_panel()
+        self.do("type", text=typed)
+        self.until(f"one match of {typed}", lambda s: len(matches(s)) == 1, patience)
+        self.do("key", code=RETURN)
+
+    def open_menu(self, typed, patience=PATIENCE):
+        """The titles of the menu that opens when the tile is chosen."""
+        self.choose_tile(typed, patience)
+        return self.until(f"the menu of {typed}", lambda s: s["menu"], patience)
+
+    def end(self):
+        if not self.process.stdin.closed:
+            self.process.stdin.close()
+        return self.process.wait(PATIENCE)
+
+
+class Brimshade(Program):
+    """As a session's menu bar, while hands use it."""
+
+    def __init__(self, session, program, *arguments, settings=None):
+        file = session.home / "settings.json"
+        if not file.exists():
+            file.write_text(json.dumps(settings or {"onboardingDone": True}))
+        super().__init__(session.talk("brimshade", program, "--session", "--script", "-", "--real-time", "--defaults",
+                                      file, *arguments), "brimshade")
+        session.own(self)

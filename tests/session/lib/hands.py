@@ -2,7 +2,7 @@
 import os
 import subprocess
 
-from .waiting import Lines, NeverCame
+from .waiting import PATIENCE, Lines, NeverCame
 
 BUTTONS = {"left": (0x110, 1), "middle": (0x112, 2), "right": (0x111, 3)}  # on Linux, on X11
 ROWS = {2: "1234567890-=", 16: "qwertyuiop[]", 30: "asdfghjkl;'`", 44: "zxcvbnm,./"}
@@ -63,7 +63,7 @@ class WaylandHands(Hands):
     def end(self):
         """Takes the devices away."""
         self._process.stdin.close()
-        self._process.wait()
+        self._process.wait(PATIENCE)
 
 
 class X11Hands(Hands):

@@ -15,8 +15,11 @@ class Session:
         self.home = pathlib.Path(tempfile.mkdtemp(prefix="brimshade-session-"))
         self.runtime = self.home / "runtime"
         self.runtime.mkdir(mode=0o700)
+        temporary = self.home / "tmp"  # where programs find out that they run already
+        temporary.mkdir()
+        temporary.chmod(0o1777)
         self.environment = {
-            "PATH": os.environ["PATH"], "HOME": str(self.home), "XDG_RUNTIME_DIR": str(self.runtime),
+            "PATH": os.environ["PATH"], "HOME": str(self.home), "XDG_RUNTIME_DIR": str(self.runtime), "TMPDIR": str(temporary),
             "LC_ALL": "C.UTF-8", "NO_AT_BRIDGE": "1", "QT_QUICK_BACKEND": "software",
         }
         self._processes = []
@@ -32,13 +35,21 @@ class Session:
         self._processes.append(process)
         return process
 
-    def converse(self, name, *command, **options):
-        """A program that speaks JSON on its standard input and output. Its standard error goes to errors(name)."""
+    def talk(self, name, *command, **options):
+        """A program with which one speaks over its standard input and output. Its standard error goes to errors(name)."""
         with open(self.home / f"{name}.err", "wb") as errors:
-            process = self.start(*command, stdin=subprocess.PIPE, stdout=subprocess.PIPE, stderr=errors, **options)
-        conversation = Conversation(process, name)
-        self._closed_with_it.append(conversation)
-        return conversation
+            return self.start(*command, stdin=subprocess.PIPE, stdout=subprocess.PIPE, stderr=errors, **options)
+
+    def converse(self, name, *command, kind=Conversation, **options):
+        """A program with which one speaks JSON."""
+        return self.own(kind(self.talk(name, *command, **options), name))
+
+    def write(self, path, text):
+        """A file below the home."""
+        file = self.home / path
+        file.parent.mkdir(parents=True, exist_ok=True)
+        file.write_text(text)
+        return file
 
     def errors(self, name):
         """What a program that was started by converse has written to standard error."""
@@ -60,7 +71,7 @@ class Session:
             Deadline(what).wait(descriptor)
         finally:
             os.close(descriptor)
-        return process.wait()
+        return process.wait(PATIENCE)
 
     def fifo(self, name):
         """The path of a new one and the lines that programs write into it."""
@@ -97,7 +108,7 @@ class Session:
                 process.wait(timeout=PATIENCE)
             except subprocess.TimeoutExpired:
                 process.kill()
-                process.wait()
+                process.wait(PATIENCE)
             for stream in (process.stdin, process.stdout):
                 if stream:
                     try:

@@ -5,7 +5,7 @@ import os
 from .hands import WaylandHands
 from .picture import from_ppm
 from .session import Session, Terminal
-from .waiting import Deadline
+from .waiting import PATIENCE, Deadline
 
 ORDINARY_USER = 1000  # sway refuses to be root; the session's folder is that user's, and root's programs may connect
 CONFIG = """
@@ -125,5 +125,5 @@ class Sway(Session):
 
     def kill_display(self):
         self.compositor.kill()
-        self.compositor.wait()
+        self.compositor.wait(PATIENCE)
 

@@ -13,10 +13,10 @@ class NeverCame(AssertionError):
 
 
 class Deadline:
-    def __init__(self, what):
+    def __init__(self, what, patience=PATIENCE):
         """what: the text, or what makes it in the end."""
-        self._what = what
-        self._end = time.monotonic() + PATIENCE
+        self._what, self._patience = what, patience
+        self._end = time.monotonic() + patience
 
     def wait(self, *descriptors):
         """Until one of them can be read; the ones that can."""
@@ -28,7 +28,7 @@ class Deadline:
 
     def check(self):
         if time.monotonic() > self._end:
-            self.fail(f"not within {PATIENCE} s")
+            self.fail(f"not within {self._patience} s")
 
     def fail(self, why):
         raise NeverCame(f"never came: {self._what() if callable(self._what) else self._what}; {why}")
@@ -54,6 +54,12 @@ class Lines:
             self._read()
         line, found, self._bytes = self._bytes.partition(b"\n")
         return line.decode(errors="replace") if found else None
+
+    def so_far(self):
+        """Those that have come and were not asked for."""
+        self._read()
+        lines, _, self._bytes = self._bytes.rpartition(b"\n")
+        return lines.decode(errors="replace").splitlines()
 
     def drain(self):
         """Forgets what has come so far."""

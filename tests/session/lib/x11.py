@@ -7,7 +7,7 @@ import signal
 from .hands import X11Hands
 from .picture import from_xwd
 from .session import Session, Terminal
-from .waiting import Deadline
+from .waiting import PATIENCE, Deadline
 
 
 class X11(Session):
@@ -127,4 +127,4 @@ class X11(Session):
 
     def kill_display(self):
         self.server.kill()
-        self.server.wait()
+        self.server.wait(PATIENCE)

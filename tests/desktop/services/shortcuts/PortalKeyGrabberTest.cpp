@@ -4,11 +4,10 @@
 #include "platform/HotkeyCenter.h"
 #include "platform/KeyCodes.h"
 #include "support/PrivateBus.h"
+#include "support/Waiting.h"
 
 #include <QCoreApplication>
 #include <QDBusPendingCallWatcher>
-#include <QEventLoop>
-#include <QTimer>
 
 namespace brimshade::desktop {
 
@@ -52,16 +51,6 @@ protected:
         portal->takeCalls();
     }
     static QString idOf(const KeyCombination &combination) { return combination == kN ? kNId : kSpaceId; }
-    // Lets messages come until the condition holds.
-    static void waitFor(const QString &what, const std::function<bool()> &condition)
-    {
-        QTimer deadline;
-        deadline.setSingleShot(true);
-        deadline.start(std::chrono::seconds(30));
-        while (!condition() && deadline.isActive())
-            QCoreApplication::processEvents(QEventLoop::AllEvents | QEventLoop::WaitForMoreEvents);
-        EXPECT_TRUE(condition()) << "never came: " << qPrintable(what);
-    }
     void waitForCall(const QString &call)
     {
         waitFor(call, [&] { return portal->has(call); });

@@ -1,10 +1,10 @@
 #include "desktop/session/instance/Instance.h"
 #include "support/PrivateBus.h"
+#include "support/Waiting.h"
 
 #include <QCoreApplication>
 #include <QDBusMessage>
 #include <QDBusPendingCallWatcher>
-#include <QEventLoop>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
@@ -50,9 +50,9 @@ protected:
         auto message = QDBusMessage::createMethodCall(kService, kPath, interface, method);
         message.setArguments(arguments);
         QDBusPendingCallWatcher watcher(bus.connection(u"other"_s).asyncCall(message));
-        QEventLoop loop;
-        QObject::connect(&watcher, &QDBusPendingCallWatcher::finished, &loop, &QEventLoop::quit);
-        loop.exec();
+        bool isFinished = false;
+        QObject::connect(&watcher, &QDBusPendingCallWatcher::finished, [&] { isFinished = true; });
+        waitFor(u"an answer to "_s + method, [&] { return isFinished; });
         QCoreApplication::processEvents(); // what is done after the answer
         return watcher.reply();
     }
@@ -68,10 +68,8 @@ protected:
         auto environment = QProcessEnvironment::systemEnvironment();
         environment.insert(u"DBUS_SESSION_BUS_ADDRESS"_s, bus.address());
         launcher.setProcessEnvironment(environment);
-        QEventLoop loop;
-        QObject::connect(&launcher, &QProcess::finished, &loop, &QEventLoop::quit);
         launcher.start(QStringLiteral(BRIMSHADE_LAUNCHER), options);
-        loop.exec();
+        waitFor(u"the end of the launcher"_s, [&] { return launcher.state() == QProcess::NotRunning; });
         QCoreApplication::processEvents();
         const auto output = launcher.readAllStandardOutput();
         return {launcher.exitCode(), QString::fromUtf8(launcher.readAllStandardError() + output)};

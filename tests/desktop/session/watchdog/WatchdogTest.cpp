@@ -1,6 +1,7 @@
 #include "desktop/session/watchdog/Watchdog.h"
 #include "desktop/session/watchdog/Silence.h"
 #include "support/Test.h"
+#include "support/Waiting.h"
 
 #include <future>
 #include <unistd.h>
@@ -40,7 +41,7 @@ public:
             m_started.set_value();
         ++waits;
         arrived.notify_all();
-        changed.wait(lock);
+        EXPECT_EQ(changed.wait_for(lock, kPatience), std::cv_status::no_timeout) << "never came: a step, or the end";
     }
 
     // Until the watchdog has done what it does then.
@@ -54,7 +55,6 @@ public:
     }
     void untilStarted() { ASSERT_EQ(m_started.get_future().wait_for(kPatience), std::future_status::ready); }
 
-    static constexpr std::chrono::seconds kPatience{20};
     std::condition_variable arrived;
     int waits = 0;
     bool hasEnded = false;

@@ -6,12 +6,12 @@
 namespace brimshade::app {
 
 // A set of event monitors that goes as one. Main thread.
-class EventMonitors {
+class EventMonitorSet {
 public:
-    explicit EventMonitors(platform::Application &application) : m_application(application) { }
-    ~EventMonitors() { removeAll(); }
-    EventMonitors(const EventMonitors &) = delete;
-    EventMonitors &operator=(const EventMonitors &) = delete;
+    explicit EventMonitorSet(platform::Application &application) : m_application(application) { }
+    ~EventMonitorSet() { removeAll(); }
+    EventMonitorSet(const EventMonitorSet &) = delete;
+    EventMonitorSet &operator=(const EventMonitorSet &) = delete;
 
     void addGlobal(platform::EventMask mask, std::function<void(const platform::Event &)> handler);
     void addLocal(platform::EventMask mask,
