@@ -2,7 +2,7 @@
 
 #include "TrayManager.h"
 #include "desktop/core/Desktop.h"
-#include "desktop/tray/IconFinder.h"
+#include "desktop/core/PixelImage.h"
 #include "desktop/tray/TrayPrograms.h"
 #include "platform/Weakly.h"
 
@@ -85,7 +85,7 @@ void XEmbedItems::show(const DockedItem &item)
     Shown &shown = m_shown[item.window];
     if (item.picture != shown.item.picture)
         shown.picture =
-            item.picture.isNull() ? platform::Image() : tray::imageOf(item.picture, QSizeF(kIconPoints, kIconPoints));
+            item.picture.isNull() ? platform::Image() : imageOf(item.picture, QSizeF(kIconPoints, kIconPoints));
     shown.item = item;
     m_programs.show(processOf(item), hosted(shown));
 }
