@@ -5,6 +5,7 @@
 #include <QQmlComponent>
 #include <QQuickGraphicsDevice>
 #include <QQuickRenderTarget>
+#include <QThreadPool>
 #include <algorithm>
 
 namespace brimshade::ui {
@@ -89,6 +90,7 @@ void OffscreenScene::renderFrame(int milliseconds)
 
 void OffscreenScene::settle()
 {
+    QThreadPool::globalInstance()->waitForDone(); // what is blurred there comes now, however busy the machine is
     // Polishing may ask for more polishing, and queued signals for more events: two rounds reach the end.
     for (int round = 0; round < 2; ++round) {
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);

@@ -61,6 +61,7 @@ class Program(Conversation):
         return middle(self.state()["statusItem"]["frame"])
 
     def open_panel(self):
+        self.until("nothing open", lambda s: not s["panel"]["onScreen"] and not s["menu"])
         self.do("click", at=self.icon())
         return self.until("the open panel", lambda s: s["model"]["isOpen"] and s["panel"]["isKey"] and s)
 
