@@ -119,21 +119,9 @@ BarItem MenuBar::shown(const BarEntry &e) const
 {
     const bool isOwn = e.place == BarEntry::Place::own;
     const bool isMenuOpen = m_d->menus.openMenu() && m_d->menus.anchor() == *e.frame;
-    return {e.pid,
-            e.identifier,
-            e.title,
-            e.description,
-            e.symbol,
-            e.image,
-            e.label,
-            e.toolTip,
-            *e.frame,
-            minX(*e.frame) + e.shift,
-            isDrawn(e),
-            isOwn,
-            e.isPressed || isMenuOpen,
-            isOwn ? hiddenWantsAttention() : e.wantsAttention,
-            e.dragOffset};
+    return BarItem(e.pid, e.identifier, e.title, e.description, e.symbol, e.image, e.label, e.toolTip, *e.frame,
+                   minX(*e.frame) + e.shift, isDrawn(e), isOwn, e.isPressed || isMenuOpen,
+                   isOwn ? hiddenWantsAttention() : e.wantsAttention, e.dragOffset);
 }
 
 bool MenuBar::hiddenWantsAttention() const

@@ -1,6 +1,8 @@
 #include "MenuHost.h"
 #include "SharedState.h"
 
+using namespace Qt::StringLiterals;
+
 namespace brimshade::desktop {
 
 namespace {
@@ -81,7 +83,7 @@ QStringList MenuHost::titles() const
     QStringList titles;
     if (m_open) {
         for (const MenuEntry &entry : m_open->source->entries())
-            titles << (entry.isSeparator ? QStringLiteral("-") : entry.title);
+            titles << (entry.isSeparator ? u"-"_s : entry.title);
     }
     return titles;
 }

@@ -8,6 +8,8 @@
 
 #include <algorithm>
 
+using namespace Qt::StringLiterals;
+
 namespace brimshade::desktop::tray {
 
 BusItems::BusItems(Desktop &desktop, const QDBusConnection &bus, TrayPrograms &programs, const Workshop &workshop,
@@ -29,7 +31,7 @@ BusItems::~BusItems()
 
 void BusItems::add(const ItemKey &key)
 {
-    callAsync(m_bus, busDaemon(), QStringLiteral("GetConnectionUnixProcessID"), {key.owner}, this,
+    callAsync(m_bus, busDaemon(), u"GetConnectionUnixProcessID"_s, {key.owner}, this,
               [this, key](const BusReply &reply) {
                   if (reply)
                       place(key, reply->value(0).toInt());

@@ -6,6 +6,8 @@
 #include <algorithm>
 #include <cmath>
 
+using namespace Qt::StringLiterals;
+
 namespace brimshade::desktop::tray {
 
 namespace {
@@ -31,7 +33,7 @@ QString toolTipOf(const TrayItem &item)
 ExtraDescription describeExtra(const TrayItem &item, const QString &identifier)
 {
     ExtraDescription extra;
-    extra.role = QStringLiteral("AXMenuBarItem");
+    extra.role = u"AXMenuBarItem"_s;
     extra.identifier = identifier;
     if (!item.title.isEmpty())
         extra.title = item.title;
@@ -39,7 +41,7 @@ ExtraDescription describeExtra(const TrayItem &item, const QString &identifier)
     if (!description.isEmpty())
         extra.description = description;
     extra.width = widthOf(item);
-    extra.actions = {QStringLiteral("AXPress")};
+    extra.actions = {u"AXPress"_s};
     return extra;
 }
 
@@ -73,7 +75,7 @@ QString applicationName(const HostedProgram &program, const std::vector<HostedIt
         if (!hosted.item.nameForPeople().isEmpty())
             return hosted.item.nameForPeople();
     }
-    return QStringLiteral("App");
+    return u"App"_s;
 }
 
 ApplicationSpec describeApplication(int pid, const HostedProgram &program, const std::vector<HostedItem> &items)

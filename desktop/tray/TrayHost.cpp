@@ -4,6 +4,8 @@
 #include "TrayPrograms.h"
 #include "desktop/core/Desktop.h"
 
+using namespace Qt::StringLiterals;
+
 namespace brimshade::desktop {
 
 using namespace tray;
@@ -34,12 +36,11 @@ TrayHost::TrayHost(Desktop &desktop, ConnectToBus connect, platform::Dispatch &d
     QObject::connect(&m_parts->bus, &BusLink::lost, this, [this, &desktop] {
         m_parts->items.reset();
         const QString text = tr("The session's message bus is gone, and the tray's items with it.");
-        desktop.notify(QStringLiteral("Brimshade"), text);
+        desktop.notify(u"Brimshade"_s, text);
         Q_EMIT message(text);
     });
-    QObject::connect(&m_parts->bus, &BusLink::failed, this, [this] {
-        Q_EMIT message(QStringLiteral("Tray: there is no session bus; its items come when there is one"));
-    });
+    QObject::connect(&m_parts->bus, &BusLink::failed, this,
+                     [this] { Q_EMIT message(u"Tray: there is no session bus; its items come when there is one"_s); });
 }
 
 TrayHost::~TrayHost() = default;

@@ -5,8 +5,8 @@ namespace brimshade::contract {
 
 struct ItemOfAnother {
     QString identifier;
-    QStringList actions{QStringLiteral("AXPress")};
-    QStringList menu{QStringLiteral("Entry")};
+    QStringList actions{u"AXPress"_s};
+    QStringList menu{u"Entry"_s};
 };
 
 // Stands for what is outside of the program: the person, the other applications, the passing of time. Each

@@ -8,6 +8,8 @@
 #include <QThreadPool>
 #include <algorithm>
 
+using namespace Qt::StringLiterals;
+
 namespace brimshade::ui {
 
 OffscreenScene::OffscreenScene(QSize size, double scale)
@@ -15,7 +17,7 @@ OffscreenScene::OffscreenScene(QSize size, double scale)
       m_window(std::make_unique<QQuickWindow>(m_control.get())),
       m_image((QSizeF(size) * scale).toSize(), QImage::Format_ARGB32_Premultiplied)
 {
-    m_engine->addImportPath(QStringLiteral("qrc:/qt/qml"));
+    m_engine->addImportPath(u"qrc:/qt/qml"_s);
     m_window->setColor(kBackground);
     PictureCache::of(m_window.get())->setAwaited(true);
     m_window->setGeometry(QRect(QPoint(), size));

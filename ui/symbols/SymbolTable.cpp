@@ -9,6 +9,8 @@
 #include <array>
 #include <functional>
 
+using namespace Qt::StringLiterals;
+
 namespace brimshade::ui {
 
 namespace {
@@ -76,7 +78,7 @@ static_assert(kSymbolGrid == 24 * kFineGrid);
 
 QPainterPath glyphOutline(char16_t glyph)
 {
-    QFont font(QStringLiteral("Material Design Icons"));
+    QFont font(u"Material Design Icons"_s);
     font.setPixelSize(int(kSymbolGrid));
     font.setHintingPreference(QFont::PreferNoHinting);
     font.setStyleStrategy(QFont::NoFontMerging);

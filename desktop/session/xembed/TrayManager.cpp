@@ -4,6 +4,8 @@
 #include <xcb/composite.h>
 #include <xcb/res.h>
 
+using namespace Qt::StringLiterals;
+
 using namespace std::chrono_literals;
 
 namespace brimshade::desktop::session {
@@ -64,7 +66,7 @@ void TrayManager::begin()
     if (!m_x11)
         return; // without a display there is nothing left at all
     if (!hasExtensions(m_x11->xcb())) {
-        Q_EMIT message(QStringLiteral("Tray: the X server lacks what icons of the XEmbed tray need"));
+        Q_EMIT message(u"Tray: the X server lacks what icons of the XEmbed tray need"_s);
         return;
     }
     askVersions(m_x11->xcb());
@@ -157,7 +159,7 @@ void TrayManager::dock(xcb_window_t window)
         return;
     if (m_windows.size() >= kMostWindows) {
         if (!std::exchange(m_saidFull, true))
-            Q_EMIT message(QStringLiteral("Tray: too many icons are docked, those behind the first ones are left out"));
+            Q_EMIT message(u"Tray: too many icons are docked, those behind the first ones are left out"_s);
         return;
     }
     if (auto docked = DockedWindow::dock(*m_x11, window, m_side))

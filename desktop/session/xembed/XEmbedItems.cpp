@@ -8,6 +8,8 @@
 
 #include <cmath>
 
+using namespace Qt::StringLiterals;
+
 namespace brimshade::desktop::session {
 
 namespace {
@@ -39,7 +41,7 @@ std::uint8_t buttonOf(ItemGesture gesture)
 
 QString instanceOf(std::uint32_t window)
 {
-    return QStringLiteral("window 0x%1").arg(window, 0, 16);
+    return u"window 0x%1"_s.arg(window, 0, 16);
 }
 
 // A process that is not known counts as one of that window alone.
@@ -68,7 +70,7 @@ XEmbedItems::XEmbedItems(Desktop &desktop, tray::TrayPrograms &programs, ToScree
     connect(m_manager, &TrayManager::gone, this, &XEmbedItems::remove);
     connect(m_manager, &TrayManager::message, this, &XEmbedItems::message);
     connect(&desktop, &Desktop::acted, m_manager, &TrayManager::lapseClicks);
-    m_thread.setObjectName(QStringLiteral("brimshade.xembed"));
+    m_thread.setObjectName(u"brimshade.xembed"_s);
     m_thread.start();
 }
 

@@ -62,8 +62,11 @@ class Program(Conversation):
 
     def open_panel(self):
         self.until("nothing open", lambda s: not s["panel"]["onScreen"] and not s["menu"])
-        self.do("click", at=self.icon())
+        self.ask_for_panel()
         return self.until("the open panel", lambda s: s["model"]["isOpen"] and s["panel"]["isKey"] and s)
+
+    def ask_for_panel(self):
+        self.do("click", at=self.icon())
 
     def close_panel(self):
         self.do("key", code=ESCAPE)
@@ -97,3 +100,8 @@ class Brimshade(Program):
         super().__init__(session.talk("brimshade", program, "--session", "--script", "-", "--real-time", "--defaults",
                                       file, *arguments), "brimshade")
         session.own(self)
+        self._toggle = lambda: session.output_of(program, "--toggle")
+
+    def ask_for_panel(self):
+        """Its item moves when a program comes or goes."""
+        self._toggle()
