@@ -28,6 +28,8 @@ class Lifetime:
         self.brimshade.until("the bar", lambda state: state["statusItem"])
         self.hands = self.session.hands()  # before the terminal, which has to learn of a new keyboard
         self.terminal = self.session.terminal()
+        x, y, width, height = self.session.rect("terminal")
+        self.hands.click(x + width // 4, y + height - 20)  # X11 gives the keys to what is under the pointer, for a moment
 
     def request(self, word):
         done = subprocess.run([PROGRAM, word], env=self.session.environment, capture_output=True, text=True,

@@ -19,7 +19,7 @@ namespace brimshade::soak {
 namespace {
 
 constexpr double kSecondsARound = 24 * 3600. / 10'000; // one opening each
-constexpr double kShort = 2; // hours, where none are said: less than a minute
+constexpr double kShort = 4; // hours, where none are said: less than a minute
 constexpr int kRoundsACycle = 40; // after which everything has happened, and begins again
 constexpr int kTenths = 10;
 
