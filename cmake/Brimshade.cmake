@@ -11,9 +11,17 @@ target_compile_options(brimshade_options INTERFACE -Wall -Wextra -Wpedantic
 target_compile_definitions(brimshade_options INTERFACE QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII QT_NO_KEYWORDS
                                                        QT_NO_FOREACH QT_STRICT_ITERATORS)
 if(BRIMSHADE_SANITIZER)
-  target_compile_options(brimshade_options INTERFACE -fsanitize=${BRIMSHADE_SANITIZER}
+  # The linker is asked for what only the sanitizer's library calls.
+  target_compile_options(brimshade_options INTERFACE -fsanitize=${BRIMSHADE_SANITIZER} -fno-sanitize-recover=undefined
                          $<$<CXX_COMPILER_ID:GNU>:-Wno-maybe-uninitialized>)
-  target_link_options(brimshade_options INTERFACE -fsanitize=${BRIMSHADE_SANITIZER})
+  target_link_options(brimshade_options INTERFACE -fsanitize=${BRIMSHADE_SANITIZER} LINKER:-u,__asan_default_options)
+  add_library(brimshade_sanitizer STATIC ${CMAKE_CURRENT_LIST_DIR}/sanitizer.cpp)
+  target_link_libraries(brimshade_options INTERFACE brimshade_sanitizer)
+  if(BRIMSHADE_TESTS)
+    set(BRIMSHADE_REPORTS ${CMAKE_BINARY_DIR}/reports) # ./test looks there
+    file(MAKE_DIRECTORY ${BRIMSHADE_REPORTS})
+    target_compile_definitions(brimshade_sanitizer PRIVATE BRIMSHADE_REPORTS="${BRIMSHADE_REPORTS}")
+  endif()
 endif()
 
 function(_brimshade_include_root target folder)
@@ -99,10 +107,13 @@ function(_brimshade_test_properties name)
       "XDG_CACHE_HOME=unset:;XDG_CONFIG_HOME=unset:;XDG_DATA_HOME=unset:;XDG_STATE_HOME=unset:;DISPLAY=unset:;WAYLAND_DISPLAY=unset:;DBUS_SESSION_BUS_ADDRESS=unset:")
 endfunction()
 
+# Those that the thread sanitizer runs.
+add_custom_target(threaded_tests)
+
 # brimshade_test(model MOC SOURCES … LINK …): a GoogleTest program "model_test", which is one ctest entry.
-# NO_MAIN when the sources bring a main of their own.
+# NO_MAIN when the sources bring a main of their own. THREADED where threads meet in real time.
 function(brimshade_test name)
-  cmake_parse_arguments(arg "MOC;NO_MAIN" "" "SOURCES;LINK" ${ARGN})
+  cmake_parse_arguments(arg "MOC;NO_MAIN;THREADED" "" "SOURCES;LINK" ${ARGN})
   add_executable(${name}_test ${arg_SOURCES})
   target_link_libraries(${name}_test PRIVATE ${arg_LINK} GTest::gtest GTest::gmock brimshade_options)
   if(NOT arg_NO_MAIN)
@@ -112,6 +123,10 @@ function(brimshade_test name)
     AUTOMOC ${arg_MOC} RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/tests)
   add_test(NAME ${name} COMMAND ${name}_test)
   _brimshade_test_properties(${name})
+  if(arg_THREADED)
+    set_tests_properties(${name} PROPERTIES LABELS threaded)
+    add_dependencies(threaded_tests ${name}_test)
+  endif()
 endfunction()
 
 # brimshade_python_test(kill kill_test.py $<TARGET_FILE:brimshade>): a script with its arguments, which is one ctest entry.

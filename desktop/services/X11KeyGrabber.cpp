@@ -32,12 +32,6 @@ constexpr std::array<std::uint16_t, 4> kLocks{0, XCB_MOD_MASK_LOCK, kNumLock, XC
 constexpr std::uint16_t kNoLocks =
     XCB_MOD_MASK_SHIFT | XCB_MOD_MASK_CONTROL | XCB_MOD_MASK_1 | XCB_MOD_MASK_3 | XCB_MOD_MASK_4 | XCB_MOD_MASK_5;
 
-struct Key {
-    xcb_keycode_t code = 0; // 0: the keyboard has none
-    std::uint16_t modifiers = 0;
-    auto operator<=>(const Key &) const = default;
-};
-
 std::uint16_t x11Modifiers(std::uint32_t carbon)
 {
     std::uint16_t mask = 0;
@@ -67,6 +61,12 @@ public:
     void release(KeyCombination combination);
 
 private:
+    struct Key {
+        xcb_keycode_t code = 0; // 0: the keyboard has none
+        std::uint16_t modifiers = 0;
+        auto operator<=>(const Key &) const = default;
+    };
+
     Key keyOf(KeyCombination combination) const;
     xcb_keycode_t keycodeOf(xcb_keysym_t keysym) const;
     bool grabKey(Key key) const;
@@ -113,7 +113,7 @@ void X11KeyGrabber::Private::release(KeyCombination combination)
         releaseKey(found.mapped());
 }
 
-Key X11KeyGrabber::Private::keyOf(KeyCombination combination) const
+auto X11KeyGrabber::Private::keyOf(KeyCombination combination) const -> Key
 {
     const xcb_keysym_t keysym = keysymOf(combination.keyCode);
     return keysym ? Key{keycodeOf(keysym), x11Modifiers(combination.modifiers)} : Key();

@@ -27,6 +27,8 @@ desktop::DesktopDescription dividedDesktop();
 // And with Relay and Vault right of Brimshade's item: only Quill is tucked away.
 desktop::DesktopDescription sharedDesktop();
 
+enum Key { returnKey = 36, escape = 53, enter = 76 };
+
 inline constexpr QPointF kEmptySpot(100, 800); // of the display, top-left origin: no window of the program is there
 inline constexpr QPointF kOnNotch(756, 10);
 

@@ -2,8 +2,6 @@
 
 namespace brimshade::features {
 
-enum Key { returnKey = 36, escape = 53, enter = 76 };
-
 TEST(Panel, OpensUnderTheNotchWithTheKeysAndTheList)
 {
     Brimshade brimshade;

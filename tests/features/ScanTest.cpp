@@ -3,8 +3,6 @@
 
 namespace brimshade::features {
 
-enum Key { returnKey = 36, escape = 53 };
-
 desktop::DesktopDescription withHungApplications(desktop::DesktopDescription desktop, int count)
 {
     for (int pid = 900; pid < 900 + count; ++pid)

@@ -4,7 +4,7 @@
 
 namespace brimshade::menubar {
 
-const QRectF kDivider(1000, 0, 28, 30);
+const QRectF kCollapsedDivider(1000, 0, 28, 30);
 
 QRectF at(double x, double width)
 {
@@ -30,7 +30,7 @@ TEST(DropPoint, LiesInsideTheNearestNeighbourOrBesideTheDivider)
         {"show, no neighbour", false, {}, 1032},
     };
     for (const auto &[what, hide, candidates, x] : cases)
-        EXPECT_EQ(dropPoint(candidates, kDivider, hide), QPointF(x, 15)) << what;
+        EXPECT_EQ(dropPoint(candidates, kCollapsedDivider, hide), QPointF(x, 15)) << what;
 }
 
 TEST(DropCandidates, AreOtherItemsThatShowRightOfTheSystemButton)
@@ -65,7 +65,7 @@ TEST(Showing, NeedsAnItemInReachLeftOfTheDivider)
         {"in another row", {950, 20, 30, 30}, button, false},
     };
     for (const auto &[what, item, button, possible] : cases)
-        EXPECT_EQ(canBeShown(item, kDivider, button), possible) << what;
+        EXPECT_EQ(canBeShown(item, kCollapsedDivider, button), possible) << what;
 }
 
 TEST(MenuBarWindow, IsOneAtItsLevelThatCoversThePoint)

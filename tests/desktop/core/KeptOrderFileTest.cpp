@@ -6,9 +6,9 @@ namespace brimshade::desktop {
 namespace {
 
 // The program's own item and a bar that hosts programs of one item each, whose order is kept in a file.
-class Bar : public TestDesktop {
+class FiledBar : public TestDesktop {
 public:
-    explicit Bar(const QString &path)
+    explicit FiledBar(const QString &path)
         : TestDesktop(notchedDesktop({})), own(platform.statusBar.createStatusItem(28)),
           file(path, desktop.menuBar(), dispatch, [this](const QString &message) { messages.append(message); })
     {
@@ -18,7 +18,7 @@ public:
     void launch(const QString &name)
     {
         const int pid = ++m_lastPid;
-        desktop.launch({.description = application(pid, name, {extra(name, 34)}),
+        desktop.launch({.description = brimshade::application(pid, name, {extra(name, 34)}),
                         .items = {{name, {.origin = ItemOrigin{QString::number(pid), name, u"main"_s}}}}});
     }
     void run() { dispatch.advance(0.2); } // reads what is to be read, and lets the bar settle
@@ -46,6 +46,8 @@ private:
     int m_lastPid = 100;
 };
 
+} // namespace
+
 class KeptOrderFileTest : public testing::Test {
 protected:
     QStringList files() const { return QDir(folder.path()).entryList(QDir::Files, QDir::Name); }
@@ -54,12 +56,10 @@ protected:
     QString path = folder.filePath(u"bar.json"_s);
 };
 
-} // namespace
-
 TEST_F(KeptOrderFileTest, KeepsTheOrderFromOneStartToTheNext)
 {
     {
-        Bar bar(path);
+        FiledBar bar(path);
         bar.run();
         EXPECT_TRUE(files().isEmpty()) << "nothing was there to be kept";
         for (const QString &name : {u"relay"_s, u"vault"_s, u"quill"_s})
@@ -70,7 +70,7 @@ TEST_F(KeptOrderFileTest, KeepsTheOrderFromOneStartToTheNext)
     }
     const QByteArray written = readFile(path);
     {
-        Bar bar(path);
+        FiledBar bar(path);
         bar.launch(u"quill"_s); // before the file was read
         bar.run();
         for (const QString &name : {u"pigment"_s, u"vault"_s, u"relay"_s})
@@ -82,7 +82,7 @@ TEST_F(KeptOrderFileTest, KeepsTheOrderFromOneStartToTheNext)
     const QByteArray marked = readFile(path) + "\n";
     writeFile(path, marked);
     {
-        Bar bar(path);
+        FiledBar bar(path);
         bar.launch(u"vault"_s);
         EXPECT_EQ(bar.order(), u"vault |"_s);
     }
@@ -94,7 +94,7 @@ TEST_F(KeptOrderFileTest, ADamagedFileIsMovedAsideAndAnotherVersionsLeftAlone)
 {
     writeFile(path, "{\"version\": 1, \"rightOfBrimshade\": tr");
     {
-        Bar bar(path);
+        FiledBar bar(path);
         bar.launch(u"relay"_s);
         EXPECT_EQ(bar.order(), u"| relay"_s);
         EXPECT_EQ(bar.messages, QStringList{u"%1: places of tray items are damaged; moved to %1.damaged"_s.arg(path)});
@@ -105,7 +105,7 @@ TEST_F(KeptOrderFileTest, ADamagedFileIsMovedAsideAndAnotherVersionsLeftAlone)
     const QByteArray newer = "{\"version\": 2, \"bars\": []}";
     writeFile(path, newer);
     {
-        Bar bar(path);
+        FiledBar bar(path);
         bar.launch(u"relay"_s);
         EXPECT_EQ(bar.order(), u"| relay"_s);
         EXPECT_EQ(bar.messages,

@@ -10,12 +10,16 @@ class MenuClientTest : public FakeProgramTest {
 protected:
     MenuClientTest() { m_program.menu.children = {labelled(1, u"Open"_s), labelled(2, u"Quit"_s)}; }
 
-    void start()
+    void make()
     {
         m_client = std::make_unique<MenuClient>(m_own, m_connection.baseService(), u"/Menu"_s, m_workshop, m_life,
                                                 m_activation);
         m_ready = std::make_unique<QSignalSpy>(m_client.get(), &MenuClient::ready);
         m_changed = std::make_unique<QSignalSpy>(m_client.get(), &MenuClient::changed);
+    }
+    void start()
+    {
+        make();
         waitUntil([&] { return m_program.calls().contains(u"GetLayout 0"_s); });
         settle(m_own, m_connection);
         m_dispatch.runDue();
@@ -128,6 +132,18 @@ TEST_F(MenuClientTest, ASubmenuIsFilledWhenItOpens)
     settle(m_own, m_connection);
     EXPECT_EQ(m_program.takeEvents(),
               (QStringList{u"Event 0 opened"_s, u"Event 1 opened"_s, u"Event 1 closed"_s, u"Event 0 closed"_s}));
+}
+
+TEST_F(MenuClientTest, PicturesAreLookedForOffTheMainThread)
+{
+    m_program.menu.children = {labelled(1, u"Open"_s, {{u"icon-name"_s, u"anything"_s}})};
+    QSignalSpy calls(&m_program, &FakeProgram::called);
+    make();
+    ASSERT_TRUE(calls.wait());
+    settle(m_own, m_connection); // the answer has come; other threads have their turn with runDue()
+    EXPECT_EQ(titles(), QStringList());
+    m_dispatch.runDue();
+    EXPECT_EQ(titles(), QStringList{u"Open"_s});
 }
 
 // Each submenu that is opened brings another one: what fits is shown, one message is said.

@@ -4,8 +4,6 @@
 
 namespace brimshade::desktop::session {
 
-namespace {
-
 class ApplicationNamesTest : public testing::Test {
 protected:
     ApplicationNamesTest()
@@ -30,8 +28,6 @@ protected:
     VirtualDispatch m_dispatch;
     ApplicationNames m_names{m_dispatch};
 };
-
-} // namespace
 
 TEST_F(ApplicationNamesTest, ComeFromTheEntryThatFitsBest)
 {
