@@ -14,14 +14,21 @@ namespace brimshade::soak {
 
 namespace {
 
+#if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__)
 std::size_t heapInUse()
 {
-#if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__)
     return __sanitizer_get_current_allocated_bytes();
+}
+
+std::size_t residentSize()
+{
+    return 0; // a sanitizer keeps what was freed for a while: its pages say nothing
+}
 #else
+std::size_t heapInUse()
+{
     const struct mallinfo2 info = mallinfo2();
     return info.uordblks + info.hblkhd;
-#endif
 }
 
 std::size_t residentSize()
@@ -30,6 +37,7 @@ std::size_t residentSize()
     std::ifstream("/proc/self/statm") >> total >> resident;
     return resident * static_cast<std::size_t>(sysconf(_SC_PAGESIZE));
 }
+#endif
 
 std::size_t entries(const char *folder)
 {
