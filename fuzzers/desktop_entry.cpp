@@ -1,8 +1,8 @@
 // Desktop entries as they are read of installed programs and of the session's autostart folders.
 #include "Expect.h"
 #include "desktop/services/AutostartEntry.h"
+#include "desktop/services/DesktopEntry.h"
 #include "desktop/services/KeyFile.h"
-#include "desktop/tray/DesktopEntry.h"
 
 using namespace Qt::StringLiterals;
 using namespace brimshade;
@@ -21,7 +21,7 @@ bool comesBack(const QString &text)
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)
 {
     const QByteArray content(reinterpret_cast<const char *>(data), static_cast<qsizetype>(size));
-    const auto entry = desktop::tray::parseDesktopEntry(u"org.example"_s, content, u"de_DE"_s);
+    const auto entry = desktop::parseDesktopEntry(u"org.example"_s, content, u"de_DE"_s);
     fuzz::expect(!entry || entry->name.size() <= 256, "a name that can be shown");
     fuzz::expect(!entry || !entry->executable.contains(u'/'), "the name of a file");
     desktop::readAutostartEntry(content);

@@ -31,13 +31,19 @@ public:
     std::vector<View> views() const override { return {}; }
     QImage picture() override { return {}; }
     std::optional<QImage> picture(const QString &) override { return {}; }
-    void movePointer(QPointF to, std::uint64_t flags) override { m_input.pointerMoved(to, flags); }
+    void movePointer(QPointF to, std::uint64_t flags) override
+    {
+        m_at = to;
+        m_input.pointerMoved(to, flags);
+    }
     void press(desktop::MouseButton button, std::uint64_t flags) override { m_input.pressed(button, flags); }
     void release(desktop::MouseButton button, std::uint64_t flags) override { m_input.released(button, flags); }
+    void scroll(QPoint by, std::uint64_t) override { m_input.scrolled(m_at, by); }
     void key(const platform::Event &event) override { m_input.keyDown(event); }
 
 private:
     desktop::InputRouter &m_input;
+    QPointF m_at;
 };
 
 class Clock : public desktop::ScriptClock {
