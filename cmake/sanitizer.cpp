@@ -1,5 +1,5 @@
-// What a sanitized program goes by in whatever environment it is started: many tests start it in one of their own, where
-// nobody reads its errors.
+// What a sanitized program goes by in whatever environment it is started: many tests start it in one of their own,
+// where nobody reads its errors.
 #ifdef BRIMSHADE_REPORTS
 #define LOG "log_path=" BRIMSHADE_REPORTS "/report"
 #else
@@ -31,7 +31,8 @@ const char *__lsan_default_options()
 // None of our own.
 const char *__lsan_default_suppressions()
 {
-    // Qt 6.4 keeps the surface with which a render control looks for OpenGL before it settles for the software renderer.
+    // Qt 6.4 keeps the surface with which a render control looks for OpenGL before it settles for the software
+    // renderer.
     return "leak:QRhiGles2InitParams::newFallbackSurface\n";
 }
 
