@@ -56,7 +56,8 @@ pid_t start(const std::string &line)
         arguments.push_back(word.data());
     arguments.push_back(nullptr);
     const char *input = std::getenv("METER_INPUT");
-    if (std::freopen(input ? input : "/dev/null", "r", stdin))
+    // It warns of what a bare session lacks.
+    if (std::freopen(input ? input : "/dev/null", "r", stdin) && std::freopen("/dev/null", "w", stderr))
         execvp(arguments[0], arguments.data());
     _exit(127);
 }
