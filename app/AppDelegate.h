@@ -60,7 +60,7 @@ public:
     void openItem(const QString &name, const std::function<void(const std::expected<void, QString> &)> &then);
 
     model::NotchModel &model() { return *m_model; }
-    bool shown() const; // from the ordering in of the panel until its closing begins
+    bool shown() const; // from when the panel is ordered in until it begins to close
     const controls::Divider *divider() const { return m_divider.get(); } // null before the launch
 
 private:

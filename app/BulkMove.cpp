@@ -9,7 +9,7 @@ namespace brimshade::app {
 
 namespace {
 
-constexpr double kPause = 0.8; // after each move, for the divider to be back where it belongs
+constexpr double kPause = 0.8; // after each move, so that the divider is back in its place
 
 }
 
@@ -45,7 +45,7 @@ bool BulkMove::move(const menubar::MenuExtra &extra)
     if (result)
         return true;
     m_messages.insert(extra.id, failureMessage(extra, result.error()));
-    return result.error() != menubar::MenuBarMover::Failure::menuBarHidden; // the others would fare no better
+    return result.error() != menubar::MenuBarMover::Failure::menuBarHidden; // the rest would fail in the same way
 }
 
 std::optional<menubar::MenuExtra> BulkMove::nextPending()

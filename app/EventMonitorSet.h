@@ -5,7 +5,7 @@
 
 namespace brimshade::app {
 
-// A set of event monitors that goes as one. Main thread.
+// Event monitors that are removed together. Main thread.
 class EventMonitorSet {
 public:
     explicit EventMonitorSet(platform::Application &application) : m_application(application) { }

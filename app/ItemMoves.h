@@ -15,14 +15,14 @@ public:
               std::shared_ptr<PanelPresenter> panel, std::shared_ptr<SecondaryWindows> windows);
     ~ItemMoves();
 
-    // Turns the divider on first. Ignored while anything moves. A failure ends in the model's message.
+    // Turns the divider on first. Ignored while a move runs. A failure becomes the model's message.
     void setHidden(const menubar::MenuExtra &extra, bool hidden);
     // The setup flow is done: remembers that, and brings every item where it was chosen to be.
     void finishOnboarding(const ItemChoices &choices);
 
 private:
-    // What stands in the model's movingID from a move's request to its end. A later move's takes its place, and is then
-    // that move's alone to take away.
+    // What stands in the model's movingID from a move's request to its end. A later move replaces it, and then only
+    // that move clears it.
     using Mark = int;
     Mark mark(const QString &movingID);
     void unmark(Mark mark);

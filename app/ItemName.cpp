@@ -11,7 +11,7 @@ namespace {
 using Extra = menubar::MenuExtra;
 using Means = bool (*)(const Extra &, const QString &name);
 
-// From the clearest on.
+// The clearest first.
 constexpr Means kMeans[] = {
     [](const Extra &extra, const QString &name) { return extra.detail.compare(name, Qt::CaseInsensitive) == 0; },
     [](const Extra &extra, const QString &name) { return extra.name.compare(name, Qt::CaseInsensitive) == 0; },

@@ -15,7 +15,7 @@ public:
     // The model outlives the handler.
     KeyHandler(model::NotchModel &model, Close close);
 
-    // The event when it shall go on to others, nothing when it has been taken.
+    // The event where it is for others, nothing where it has been handled.
     std::optional<platform::Event> handle(const platform::Event &event) const;
 
 private:

@@ -33,14 +33,14 @@ public:
     model::ShortcutRecorder &recorder() { return *m_recorder; }
 
     bool shown() const { return m_shown; }
-    void prepare(); // makes the panel ahead of its first opening, which takes as long as any then
+    void prepare(); // creates the panel ahead of its first opening, which then takes no longer than the others
     // Refused while an item is being moved. By hover the panel leaves the keys where they are.
     void open(bool byHover);
-    void present(); // open and with the keys, whatever it was before
+    void present(); // opens it, or gives the open panel the keys
     void close(); // the panel goes off screen 0.35 s later, unless reopened
     void toggle();
     void select(const menubar::MenuExtra &extra); // closes, then presses the item
-    void activate(const menubar::MenuExtra &extra); // closes, then has it do what it does besides showing its menu
+    void activate(const menubar::MenuExtra &extra); // closes, then activates the item
     void record(const menubar::MenuExtra &extra); // its shortcut, in the panel, until that closes or has it
     void itemsChanged(); // of those that change while a person looks at them
     void hovered(); // the pointer has rested on the notch

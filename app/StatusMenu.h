@@ -36,7 +36,7 @@ public:
     StatusMenu(const platform::Platform &platform, Parts parts);
     ~StatusMenu();
 
-    void clicked(); // judged by the application's current event; none counts as a left click
+    void clicked(); // decided by the application's current event; without one it is a left click
 
 private:
     void popUp();

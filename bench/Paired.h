@@ -2,7 +2,7 @@
 #include <benchmark/benchmark.h>
 #include <chrono>
 
-// Times a piece of work and its reference turn by turn, so that a noisy machine troubles both alike. The time of the
+// Times a piece of work and its reference in turns, so that a noisy machine disturbs both alike. The time of the
 // row is the work's own; beside it stand the reference's and how many times the reference the work took.
 namespace brimshade::bench {
 

@@ -1,5 +1,5 @@
 // Frames of the panel's opening and closing on the software renderer, beside a scene of plain moving rectangles and
-// text of the same number and size: what the toolkit itself takes.
+// text of the same number and size: what the toolkit itself costs.
 #include "OffscreenScene.h"
 #include "PanelScene.h"
 

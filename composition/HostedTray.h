@@ -21,11 +21,11 @@ enum class ItemPlaces;
 
 namespace brimshade::composition {
 
-// The session's tray in a desktop's bar. What it has to say goes to standard error. Main thread; the desktop and the
+// The session's tray in a desktop's bar. Its messages go to standard error. Main thread; the desktop and the
 // dispatch outlive it.
 class HostedTray {
 public:
-    // stateFile keeps the order of items whose places are kept; without one it begins anew.
+    // stateFile keeps the order of the items; without one the order is forgotten.
     HostedTray(desktop::Desktop &desktop, platform::Dispatch &dispatch, desktop::tray::Surroundings surroundings,
                desktop::tray::ItemPlaces places, const std::optional<QString> &stateFile);
     ~HostedTray();

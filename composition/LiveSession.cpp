@@ -60,7 +60,7 @@ public:
     desktop::RealDispatch dispatch;
     desktop::SymbolService symbols;
     std::unique_ptr<ShellBackend> shell;
-    std::unique_ptr<desktop::MemoryDefaults> defaults; // the desktop's, from its making on
+    std::unique_ptr<desktop::MemoryDefaults> defaults; // the desktop's, once that exists
     SessionScreens screens;
     SessionPreferences preferences;
     desktop::Desktop desktop;

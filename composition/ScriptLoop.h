@@ -21,7 +21,7 @@ public:
     int runBlocking();
     // The same while the event loop of the application keeps running between the lines.
     int runInEventLoop();
-    void stop(); // no line after the present one is run; without one the event loop ends now
+    void stop(); // runs no line after the present one; where none is running, the event loop ends now
 
 private:
     bool readMore(); // false at the end of the file

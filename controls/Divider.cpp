@@ -100,7 +100,7 @@ void Divider::setEnabled(bool enabled)
     reanchor();
 }
 
-// A second after the last of several, which so share one measurement.
+// A second after the last of several, so that they share one measurement.
 void Divider::applicationsChanged()
 {
     later(m_applicationChange, kApplicationChangeDelay, &Divider::reanchor);

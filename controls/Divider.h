@@ -28,7 +28,7 @@ public:
                                            std::shared_ptr<platform::StatusItem> item, const platform::Image &symbol);
     ~Divider() override;
 
-    bool isExpanded() const { return m_isExpanded; } // expand() was the last word, even where it has to wait
+    bool isExpanded() const { return m_isExpanded; } // expand() was called last, even where it still has to wait
     bool isEnabled() const { return m_isEnabled; } // divider mode
     void setEnabled(bool enabled); // and measures anew
     // x of the right edge of the item while it has its resting length, screen space; absent until measured.
@@ -57,7 +57,7 @@ private:
     void observe();
     void applicationsChanged();
     void measure();
-    std::optional<Room> room() const; // absent when there is nothing to go by
+    std::optional<Room> room() const; // absent when nothing can be measured
     void checkClearance();
     void giveWay();
     bool mayWiden() const { return !m_isMoving && !m_measurement; }

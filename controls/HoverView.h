@@ -4,7 +4,7 @@
 
 namespace brimshade::controls {
 
-// What fills the strip over the notch: invisible, and tells when the pointer has rested on it. Main thread.
+// Fills the strip over the notch: invisible, and reports when the pointer has rested on it. Main thread.
 class HoverView : public platform::NativeView, public std::enable_shared_from_this<HoverView> {
 public:
     // onHover runs once per entry, 0.18 s after it, unless the pointer left before.

@@ -5,7 +5,7 @@ namespace brimshade::controls {
 
 using namespace Qt::StringLiterals;
 
-// The panel that holds the hover view: over the menu bar on every space, and never in anybody's way.
+// The panel that holds the hover view: over the menu bar on every space, and never in the way.
 inline platform::WindowAttributes stripPanelAttributes(const QRectF &frame)
 {
     platform::WindowAttributes strip;

@@ -48,7 +48,7 @@ int list(std::string (*written)(const std::vector<remote::Item> &))
     return 0;
 }
 
-// Nothing where the arguments are no such word.
+// Absent where the arguments are anything else.
 std::optional<int> sayToTheOneThatRuns(const std::vector<const char *> &arguments)
 {
     const auto are = [&](std::initializer_list<std::string_view> words) {

@@ -19,7 +19,7 @@ constexpr double kInsetShare = 0.25; // of the neighbour's width
 constexpr double kLargestInset = 6;
 constexpr double kOffsetWithoutNeighbour = 4;
 
-// A number as the window server writes it; a text that looks like one is none.
+// A number as the window server writes it; a text that looks like one does not count.
 std::optional<double> number(const QVariantMap &map, const QString &key)
 {
     const QVariant value = map.value(key);

@@ -25,7 +25,7 @@ public:
     QString string(const AXUIElement &element, const QString &attribute);
     std::vector<AXUIElement> elements(const AXUIElement &element, const QString &attribute);
     QRectF frame(const AXUIElement &element); // display space; a part that is not finite is 0 too
-    bool hasFailed() const { return m_hasFailed; } // something so far reads so for want of a value
+    bool hasFailed() const { return m_hasFailed; } // some attribute so far could not be read
 
 private:
     template <typename T> T value(const AXUIElement &element, const QString &attribute, T otherwise = {});

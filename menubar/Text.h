@@ -8,7 +8,7 @@ namespace brimshade::menubar {
 // Without leading and trailing Unicode space separators and tabs; line breaks stay.
 QStringView trimmedBlanks(QStringView text);
 
-// The form in which texts are equal that are the same; the text itself, without a copy, when it is ASCII.
+// The form in which canonically equivalent texts are equal; the text itself, without a copy, when it is ASCII.
 QString canonicalText(const QString &text);
 
 // Equal up to Unicode canonical equivalence.

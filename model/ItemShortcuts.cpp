@@ -21,7 +21,7 @@ std::uint32_t readNumber(const QVariant &value)
     return fits ? static_cast<std::uint32_t>(number) : std::numeric_limits<std::uint32_t>::max();
 }
 
-// Nothing of what no recorder writes.
+// Whatever no recorder could have written is dropped.
 std::optional<ItemShortcut> readShortcut(const QVariant &value)
 {
     const QVariantMap map = value.toMap();

@@ -142,7 +142,7 @@ Q_SIGNALS:
     void dividerEnabledChanged();
     void launchAtLoginChanged();
     void matchesChanged(); // extras, query or showVisible changed: the derived lists may differ
-    void panelSizeChanged(); // once for each change of the above, of trusted, isRecording or notch
+    void panelSizeChanged(); // once for each change of these, of trusted, isRecording or notch
 
 private:
     struct Derived {

@@ -9,7 +9,7 @@ struct PanelContent {
     bool hasItems = false; // of any kind, also when none matches
     int hiddenTiles = 0;
     int visibleTiles = 0;
-    bool isRecording = false; // the recorder of shortcuts is in the place of the tiles
+    bool isRecording = false; // the shortcut recorder is shown instead of the tiles
 };
 
 int columnCount(const PanelContent &content);

@@ -3,7 +3,7 @@
 
 namespace brimshade::model {
 
-// What the panel's content measures, in points; views have it as a value of QML. The panel's size counts on it.
+// What the panel's content measures, in points; views have it as a value of QML. The panel's size follows from them.
 class PanelMetrics : public QObject {
     Q_OBJECT
     Q_PROPERTY(double tileWidth MEMBER tileWidth CONSTANT)
@@ -35,7 +35,7 @@ public:
     static constexpr double topPadding = 10; // under the header
     static constexpr double spacing = 14; // between sections, sentence and footer
     static constexpr double sectionTitleHeight = 24;
-    static constexpr double sentenceHeight = 74; // in the place of the sections
+    static constexpr double sentenceHeight = 74; // shown instead of the sections
     static constexpr double waitingHeight = 60; // of the spinner or the sentence while there are no items
     static constexpr double footerHeight = 18;
     static constexpr double bottomMargin = 4; // under the footer

@@ -16,7 +16,7 @@ public:
     PermissionRequest(platform::Accessibility &accessibility, platform::Workspace &workspace,
                       QObject *parent = nullptr);
 
-    // The system's prompt, then its settings page. Whether the permission came of it is not reported here.
+    // The system's prompt, then its settings page. Whether the user granted it is not reported here.
     Q_INVOKABLE void openAccessibilitySettings();
 
 private:

@@ -90,7 +90,7 @@ void ShortcutRecorder::record(const KeyCombination &keys)
     endSoon();
 }
 
-// Held down, the keys would press what they were just made to be.
+// While they are held down, their repeats would trigger the shortcut just recorded.
 void ShortcutRecorder::endSoon()
 {
     const auto endUnlessRenewed = [](ShortcutRecorder &self, int time) {

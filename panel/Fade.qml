@@ -2,7 +2,7 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import Brimshade.Ui
 
-// How what goes disappears in its place.
+// How things that leave fade out in their place.
 SpringValue {
     curve: SpringValue.EaseOut
     duration: 0.2

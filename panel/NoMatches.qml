@@ -3,7 +3,7 @@ import QtQuick
 import Brimshade.Panel
 import Brimshade.Ui
 
-// The sentence in the place of the tiles. Of a long query it shows the beginning, and its own end all the same.
+// The sentence shown instead of the tiles. A long query is cut, so that the sentence's own end still shows.
 StyledText {
     id: root
 

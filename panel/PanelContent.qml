@@ -31,7 +31,7 @@ Item {
         root.actions.showMenuAt(id, Qt.point(root.width / 2 + face.x, root.bodyTop + face.y - body.scrollPosition));
     }
 
-    // Items that come into an empty panel find it as wide as it is going to be.
+    // Items that come into an empty panel find it in its final width.
     Glide {
         id: contentWidth
         target: root.geometry.openSize.width - 2 * (PanelMetrics.openFlare + PanelMetrics.sidePadding)
@@ -99,7 +99,7 @@ Item {
         y: root.bodyTop + footerY.value
         width: contentWidth.value
         visible: root.presented && root.panelState.body === PanelState.Tiles
-        // It is never cut: before the tab has room for it nothing of it is seen.
+        // It is never cut: no part of it shows before the tab has room for it.
         opacity: root.shown * Math.max(0, Math.min(1, (root.tab.height - y - height + 2) / (PanelMetrics.bottomMargin + 2)))
         panelState: root.panelState
         animated: root.model.isOpen

@@ -7,7 +7,7 @@
 
 namespace brimshade::panel {
 
-// What the panel shows in words and cases, derived from the model; and the model's callbacks that no tile calls.
+// The panel's texts and cases, derived from the model; and those of the model's callbacks that no tile calls.
 class PanelState : public QObject {
     Q_OBJECT
     QML_ELEMENT
@@ -20,7 +20,7 @@ class PanelState : public QObject {
     Q_PROPERTY(QString focusID READ focusID NOTIFY focusChanged) // of the footer's item; empty: the hint
     Q_PROPERTY(QString focusText READ focusText NOTIFY focusChanged)
     Q_PROPERTY(QString hint READ hint CONSTANT)
-    Q_PROPERTY(QString briefHint READ briefHint CONSTANT) // where the other has no room
+    Q_PROPERTY(QString briefHint READ briefHint CONSTANT) // where the longer one has no room
 
 public:
     enum Body { Permission, Recorder, Waiting, NoItems, Tiles };

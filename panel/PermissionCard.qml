@@ -3,7 +3,7 @@ import QtQuick
 import Brimshade.Model
 import Brimshade.Ui
 
-// In the place of the tiles while the permission is missing.
+// Shown instead of the tiles while the permission is missing.
 Column {
     id: root
 

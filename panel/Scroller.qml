@@ -2,7 +2,7 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import Brimshade.Ui
 
-// Says how much more there is, and where what is in view stands in it.
+// Shows how much more there is, and where in it the view stands.
 Item {
     id: root
 

@@ -4,7 +4,7 @@ import Brimshade.Model
 import Brimshade.Panel
 import Brimshade.Ui
 
-// In the place of the tiles while the shortcut of one item is recorded. The keys go to the recorder, not to these views.
+// Shown instead of the tiles while an item's shortcut is recorded. The keys go to the recorder, not to these views.
 Column {
     id: root
 

@@ -25,7 +25,7 @@ FadingGroup {
     required property color tint
     required property bool isHidden
 
-    signal gone // it was leaving and has faded
+    signal gone // it was leaving, and has faded out
 
     enabled: !root.isLeaving
     z: root.isLeaving ? -1 : 0

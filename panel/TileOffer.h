@@ -8,7 +8,7 @@
 
 namespace brimshade::panel {
 
-// What the item of a tile offers beyond being pressed, as it is now.
+// What a tile's item offers besides being pressed, at present.
 class TileOffer : public QObject {
     Q_OBJECT
     QML_ELEMENT

@@ -18,7 +18,7 @@ Item {
     required property int startIndex
     required property int count
     required property bool takesWheel
-    required property bool presented // on screen: whatever moves may be seen to move
+    required property bool presented // on screen: movement is animated
     required property real gridLeft // from the middle
     required property real sectionTop
     required property real viewTop // what is in view

@@ -9,7 +9,7 @@ namespace brimshade::panel {
 
 namespace {
 
-constexpr int kATurn = 4; // tiles: about a millisecond's making
+constexpr int kATurn = 4; // tiles: about a millisecond's work
 
 bool looksEqual(const model::MenuExtra &a, const model::MenuExtra &b)
 {

@@ -10,8 +10,8 @@ namespace brimshade::panel {
 
 // The tiles of one section that are in view, and one grid row beyond on either side. Rows are kept by id: across
 // searches and scans an item that stays keeps its delegate, which learns its new place. Tiles that a search or a scan
-// takes away stay as leaving ones, last in the list and as they were, until the view has faded and dropped them. Paced,
-// many new ones come a few a turn of the event loop, so that frames are drawn in between.
+// takes away stay as leaving ones, last in the list and as they were, until the view has faded and dropped them. When
+// paced, many new ones come a few at each turn of the event loop, so that frames are drawn in between.
 // The base is spelled in full: the registrar of QML types finds it by its spelling.
 class TilesModel : public brimshade::ui::ListModel {
     Q_OBJECT

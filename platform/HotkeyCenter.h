@@ -21,7 +21,7 @@ inline std::uint32_t carbonModifiers(std::uint64_t modifierFlags)
         | (modifierFlags & kOptionFlag ? kCarbonOption : 0) | (modifierFlags & kControlFlag ? kCarbonControl : 0);
 }
 
-// Of several hotkeys, which one. The same at every launch for what does the same: a system in which the user has a say
+// Tells hotkeys apart. The same at every launch for the same purpose: a system in which the user has a say
 // in the keys keeps what was said by this.
 struct EventHotKeyID {
     std::uint32_t signature = 0; // a four-character code, big-endian

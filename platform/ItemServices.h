@@ -10,7 +10,7 @@ namespace brimshade::platform {
 
 // What an item of the bar offers beyond Accessibility.
 struct ItemOffer {
-    bool canBeActivated = false; // its menu is not all it has
+    bool canBeActivated = false; // it does something besides showing its menu
     bool wantsAttention = false;
     QString toolTip; // plain, a line of title and lines of text; empty where it says nothing of itself
     Image overlay; // on its icon; null for none
@@ -37,7 +37,7 @@ public:
     virtual void scroll(const AXUIElement &item, QPoint by) = 0; // 120 is a notch of the wheel, up and left
 
     virtual void observeOffers(Work changed) = 0; // of some item
-    // Items came, went or changed, of applications that a person expects to see doing so; the bar may still have to
+    // Items came, went or changed, of applications whose changes a person expects to see; the bar may still have to
     // settle. Other applications are read again when they are needed.
     virtual void observeItems(Work changed) = 0;
 };

@@ -13,7 +13,8 @@ namespace brimshade::ui {
 
 namespace {
 
-constexpr double kReach = 2; // deviations: what is beyond is too faint for something that fades at the same time
+constexpr double kReach =
+    2; // deviations: anything beyond is too faint to matter in something that fades at the same time
 constexpr double kEnough = 3; // pixels of deviation: a wider blur is drawn smaller and enlarged
 
 // reach and deviation: pixels of the picture.

@@ -4,7 +4,7 @@
 
 namespace brimshade::ui {
 
-// What another item draws, blurred: for the moment in which that comes or goes; give this the complement of its
+// What another item draws, blurred, for the moment in which that comes or goes; give this the complement of its
 // opacity. The picture is made once, on a thread of its own, and is small, as a blur has no detail. Until it is there
 // nothing is shown, and nothing is kept while the item is invisible.
 class Blurred : public QQuickItem {

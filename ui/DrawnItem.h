@@ -16,7 +16,7 @@ class DrawnItem : public brimshade::ui::CachedItem {
 public:
     using CachedItem::CachedItem;
 
-    // For who shows the picture in another way, too; while the scene graph synchronises.
+    // For whoever shows the picture in another way as well; while the scene graph synchronises.
     QByteArray pictureName() const; // its key with size and scale; empty: there is none
     QImage picture(const QByteArray &name) const;
     // What the key names by address.

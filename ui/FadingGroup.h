@@ -15,7 +15,7 @@ class FadingGroup : public QQuickItem {
     Q_PROPERTY(double shown READ shown WRITE setShown NOTIFY shownChanged) // 0 to 1, instead of an opacity
     Q_PROPERTY(double reach MEMBER m_reach NOTIFY changed) // points beyond the item in which it is drawn, too
     Q_PROPERTY(bool asOne MEMBER m_isAsOne NOTIFY changed) // false where nothing overlaps: that is cheaper
-    // For who asks what can be seen: what the opacities of the item and its ancestors do not say.
+    // For whoever asks what can be seen: the opacities of the item and its ancestors do not say it.
     Q_PROPERTY(double groupOpacity READ groupOpacity NOTIFY shownChanged)
 
 public:

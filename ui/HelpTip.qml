@@ -48,7 +48,7 @@ Item {
     anchors.fill: parent
     z: 100
 
-    // Not a Timer, which goes by the wall and not by the animations' clock.
+    // Not a Timer, which goes by the wall clock and not by the animations'.
     NumberAnimation {
         id: delay
         target: root

@@ -5,8 +5,8 @@
 
 namespace brimshade::ui {
 
-// A plain rectangle thinner than a few device pixels, as heavy as its size says: what covers a part of a pixel has a
-// part of its colour.
+// A plain rectangle a few device pixels thick or less, exactly as heavy as its size says: where it covers a part of a
+// pixel it gives that part of its colour.
 // The base is spelled in full: the registrar of QML types finds it by its spelling.
 class Line : public brimshade::ui::DrawnItem {
     Q_OBJECT

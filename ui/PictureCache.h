@@ -39,7 +39,7 @@ private:
 
     QCache<QByteArray, Entry> m_pictures;
     bool m_isAwaited = false;
-    int m_insertions = 0; // since it was last looked through for pictures that nobody can show any more
+    int m_insertions = 0; // since it was last searched for pictures that nobody can show any more
 };
 
 } // namespace brimshade::ui

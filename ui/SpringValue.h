@@ -23,8 +23,8 @@ class SpringValue : public QObject, public QQmlParserStatus {
     Q_PROPERTY(double clamped READ clamped NOTIFY valueChanged)
     // What may be left of the way when a spring is said to rest. The default is a tenth of a point of a panel's width.
     Q_PROPERTY(double precision MEMBER m_precision NOTIFY parametersChanged)
-    // False: changes of target jump, as for what nobody sees. So do those of the turn of the event loop in which it
-    // becomes true: what comes into view appears in its place.
+    // False: changes of target jump, as nobody sees them. So do those in the turn of the event loop in which it becomes
+    // true: what comes into view appears in its place.
     Q_PROPERTY(bool animated READ isAnimated WRITE setAnimated NOTIFY parametersChanged)
     // True: the value stays where it is, whatever the target; false again, it moves there.
     Q_PROPERTY(bool held READ isHeld WRITE setHeld NOTIFY parametersChanged)

@@ -36,12 +36,12 @@ QtObject {
     // The toolkit's own point is a 72nd of an inch of the screen; this system's is one unit of the scene.
     readonly property real pointsPerUnit: 72 / (25.4 * Application.screens[0].logicalPixelDensity)
 
-    // The opacity of a control: less where it is disabled, but not where all around it is, which only fades.
+    // The opacity of a control: less where it is disabled, but not where everything around it is and merely fades.
     function presence(control: Item): real {
         return control.enabled || !(control.parent?.enabled ?? true) ? 1 : 0.4;
     }
 
-    // Of what stands beside text of that ink and says less.
+    // Of secondary things beside text of that ink.
     function secondary(ink: color): color {
         return Qt.alpha(ink, 0.5);
     }

@@ -3,7 +3,7 @@ import QtQuick
 import Brimshade.Ui
 import Brimshade.Windows
 
-// Where the user is in the flow, and the ways on and back.
+// Where the user is in the flow, and the buttons that go on and back.
 Item {
     id: root
 
@@ -23,7 +23,7 @@ Item {
         }
     }
 
-    // From its first moment on what comes can be found and pressed; what goes cannot.
+    // A button that comes can be found and pressed from its first moment; one that goes cannot.
     component Presence: StepSpring {
         property bool shown
         readonly property real opacity: shown ? Math.max(0.02, clamped) : clamped

@@ -27,7 +27,7 @@ Item {
         loops: Animation.Infinite
         running: root.visible
 
-        // Not PauseAnimation: the toolkit times a lone pause by the wall, not by the animations' clock.
+        // Not PauseAnimation: the toolkit times a lone pause by the wall clock, not by the animations' clock.
         NumberAnimation {
             target: root
             property: "waited"

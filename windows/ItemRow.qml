@@ -3,7 +3,7 @@ import QtQuick
 import Brimshade.Ui
 import Brimshade.Windows
 
-// A menu bar item in the settings, with what may be done to it.
+// A menu bar item in the settings, with the controls for it.
 Item {
     id: root
 

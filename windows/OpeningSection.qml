@@ -9,7 +9,7 @@ SettingsSection {
 
     required property NotchModel model
     required property Item surface
-    property string shortcutAdvice // where the shortcut needs something of the user's own
+    property string shortcutAdvice // where the user has to do something for the shortcut
 
     title: qsTr("Opening")
     footer: root.shortcutAdvice

@@ -8,7 +8,7 @@ import Brimshade.Windows
 T.AbstractButton {
     id: control
 
-    property string leavingText // fades while the text that replaced it comes
+    property string leavingText // fades out while the text that replaces it comes
     property string latestText
 
     component Label: StyledText {

@@ -2,7 +2,7 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import Brimshade.Ui
 
-// What parts a row of the form from the one above.
+// The line between a row of the form and the one above.
 Line {
     id: root
 

@@ -2,7 +2,7 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import Brimshade.Ui
 
-// A group of the form: rows in a rounded box under a title. Rows draw the line that parts them from the row above.
+// A group of the form: rows in a rounded box under a title. Rows draw the line between them and the row above.
 Column {
     id: root
 

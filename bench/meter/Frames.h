@@ -3,13 +3,13 @@
 
 namespace brimshade::bench {
 
-// What a display shows anew.
+// What changes on a display.
 class Frames {
 public:
     virtual ~Frames() = default;
 
-    // The area in pixels of the box around what changed, with the next frame in which anything does; 0 when none has
-    // come by then. Waits on the display's connection.
+    // The area in pixels of the box around what changes in the next frame that changes anything; 0 when none has come
+    // by then. Waits on the display's connection.
     virtual long next(double seconds) = 0;
 };
 

@@ -89,7 +89,7 @@ void WaylandFrames::ask()
             static_cast<WaylandFrames *>(self)->m_hasCome = true;
             zwlr_screencopy_frame_v1_destroy(frame);
         },
-        [](void *self, zwlr_screencopy_frame_v1 *frame) { // the output changed in between: what came is whole
+        [](void *self, zwlr_screencopy_frame_v1 *frame) { // the output changed in between: the whole frame came
             static_cast<WaylandFrames *>(self)->m_hasCome = true;
             zwlr_screencopy_frame_v1_destroy(frame);
         },

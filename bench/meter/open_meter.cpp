@@ -3,7 +3,7 @@
 //     call ACTION      asks the Brimshade of the session's message bus
 //     exec WORDS…      starts a program, with the file $METER_INPUT as its standard input, and ends it when it was seen
 // What it takes begins once the display has been still for a while, and ends with the first frame that changes a part
-// of some size: a first one that shows next to nothing is no opening.
+// of some size: one that shows next to nothing does not count.
 #include "Frames.h"
 
 #include <chrono>

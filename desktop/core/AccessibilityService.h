@@ -6,7 +6,7 @@ namespace brimshade::desktop {
 
 class Permission;
 
-// Other applications' items, read and pressed. Any thread; on the main thread nothing is waited for, so that an
+// Other applications' items, read and pressed. Any thread; on the main thread no call waits, so that an
 // application that hangs or is slow answers there at once.
 class AccessibilityService : public platform::Accessibility {
 public:

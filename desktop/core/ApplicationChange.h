@@ -1,7 +1,7 @@
 #pragma once
 #include "ApplicationSpec.h"
 
-// What a change of an application changes for whoever shows it.
+// What changes for whoever shows an application when that changes.
 namespace brimshade::desktop {
 
 bool offerTheSame(const ApplicationSpec &one, const ApplicationSpec &other);

@@ -18,7 +18,7 @@ using ItemHandler = std::function<void(ItemGesture gesture, const QRectF &itemFr
 // Scrolls over an item; 120 is a notch of the wheel, up and left.
 using ItemScroller = std::function<void(QPoint by)>;
 
-// What keeps the place of an item that comes and goes.
+// By what an item that comes and goes keeps its place.
 struct ItemOrigin {
     QString instance; // this very item, whatever it says of itself, as long as it is there
     QString program, id; // what it is, whenever its program runs
@@ -31,7 +31,7 @@ struct ItemSpec {
     ItemScroller scroller = {}; // null: nothing happens
     QString label = {}; // beside the image
     platform::ItemOffer offer = {};
-    bool isAway = false; // it has nothing to say: it stands off-screen
+    bool isAway = false; // passive, it has nothing to report: it stands off-screen
     std::optional<ItemOrigin> origin = {}; // absent: the item is a listed one
 };
 
@@ -40,7 +40,7 @@ struct ApplicationSpec {
     ApplicationDescription description;
     platform::Image icon = {}; // null: made from description.icon
     std::map<QString, ItemSpec> items = {}; // by identifier of the extra
-    bool isLive = false; // a person who looks at its items sees what becomes of them
+    bool isLive = false; // people see its items change while they look
 };
 
 } // namespace brimshade::desktop

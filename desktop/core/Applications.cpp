@@ -31,11 +31,12 @@ BarEntry::Place placeOf(const ApplicationSpec &application, const ExtraDescripti
 {
     if (extra.frameKind == ExtraDescription::Frame::fixed)
         return BarEntry::Place::fixed;
-    const bool isListed = !specOf(application, extra).origin; // no program pins an item by what it calls itself
+    const bool isListed =
+        !specOf(application, extra).origin; // no program gets a pinned item by naming itself after one
     return isListed && isPinned(application.description, extra) ? BarEntry::Place::pinned : BarEntry::Place::movable;
 }
 
-// A line each; no program's begins with another's.
+// One line each; no program's line is the beginning of another's.
 QString identityOf(const KeptItem &kept)
 {
     const QString item = kept.program + u'\n' + kept.id;
@@ -247,7 +248,7 @@ void Applications::describe(BarEntry &entry, const Hosted &hosted, const Describ
         entry.image = hosted.icon;
 }
 
-// An item that calls itself otherwise has a new element, where the old one was.
+// An item under a new name has a new element, in the place of the old one.
 void Applications::attach(BarEntry &entry, const ElementPointer &element)
 {
     if (std::exchange(entry.element, element) != element && entry.frame)
@@ -305,7 +306,7 @@ std::pair<const Applications::Hosted *, const Applications::Item *> Applications
 
 void Applications::carryOut(ItemGesture gesture, int pid, const Element *element)
 {
-    if (const auto [hosted, item] = find(pid, element); item) // else it went between the press and its effect
+    if (const auto [hosted, item] = find(pid, element); item) // otherwise it went between the press and its effect
         carryOut(gesture, *hosted, *item);
 }
 

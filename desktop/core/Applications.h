@@ -33,7 +33,7 @@ public:
 Q_SIGNALS:
     void offersChanged();
     void itemsChanged(); // of a live application
-    void acted(); // before anything comes of what was asked
+    void acted(); // before the request takes effect
     void notified(const QString &application, const QString &what);
 
 private:

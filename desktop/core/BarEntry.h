@@ -11,7 +11,7 @@ namespace brimshade::desktop {
 
 // An item of the bar as the desktop keeps it. Shared by the bar and whoever brought the item. Main thread.
 struct BarEntry {
-    // Right to left, each kind ends where the next begins.
+    // From right to left, one kind after the other.
     enum class Place { pinned, own, movable, fixed };
 
     int pid = 0;
@@ -30,7 +30,7 @@ struct BarEntry {
     bool wantsAttention = false;
     bool isPressed = false;
     double dragOffset = 0; // points to the right of its frame, while a hand has it
-    double shift = 0; // points to the right of its frame, where another one shall have room, until the bar settles
+    double shift = 0; // points to the right of its frame, to make room for another item, until the bar settles
 };
 using BarEntryPointer = std::shared_ptr<BarEntry>;
 

@@ -7,7 +7,7 @@
 // Where a bar's items stand. Pure functions; lengths in points, rectangles in display space.
 namespace brimshade::desktop {
 
-inline constexpr double kItemPicture = 18; // a side of the picture that an item shows
+inline constexpr double kItemPicture = 18; // the side of an item's square picture
 inline constexpr double kItemPadding = 8; // at each side of it
 inline constexpr double kLabelGap = 5; // between it and a label
 

@@ -150,7 +150,7 @@ bool BarOrder::drop(const BarEntryPointer &entry, std::size_t index, double room
     return true;
 }
 
-// Only want of room has put them left of the own item; the one that is dropped goes where it is put.
+// They stand left of the own item only for want of room; the dropped one goes where it was dropped.
 BarEntries BarOrder::crowdedOthers(const BarEntryPointer &dropped, double room) const
 {
     BarEntries crowded = crowdedOut(m_laidOut, room);

@@ -11,7 +11,7 @@ public:
     // The own item goes next to the pinned ones, a listed one to the left end, one that comes and goes where it stood.
     void add(const BarEntryPointer &entry);
     void remove(const BarEntryPointer &entry);
-    bool rename(const BarEntryPointer &entry, const KeptItem &who); // false when that is what it was
+    bool rename(const BarEntryPointer &entry, const KeptItem &who); // false when it already was
 
     const KeptOrder &kept() const { return m_kept; }
     void restore(KeptOrder kept);

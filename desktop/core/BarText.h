@@ -8,8 +8,8 @@ namespace brimshade::desktop {
 QFont barFont();
 double barTextWidth(const QString &text); // points
 
-// The active application's name at the bar's left end, and the room that it takes there from the bar's edge: none
-// without a name.
+// The active application's name at the bar's left end, and the room that it takes there from the bar's edge: 0 without
+// a name.
 inline constexpr double kNameMargin = 18; // at each side
 double barNameWidth(const QString &name);
 

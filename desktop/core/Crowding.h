@@ -3,8 +3,8 @@
 
 #include <vector>
 
-// What makes way for the own item where the bar is too full to show it. Orders run from right to left, room is the
-// points for what is drawn. Pure functions.
+// Which items make way for the own item where the bar is too full to show it. Orders run from right to left, room is
+// the points for what is drawn. Pure functions.
 namespace brimshade::desktop {
 
 using BarEntries = std::vector<BarEntryPointer>;
@@ -22,7 +22,7 @@ BarEntries withoutCrowded(const BarEntries &order, double room);
 // Brings those back to the right of the own item.
 void takeIn(BarEntries &order, const BarEntries &crowded);
 
-// Moves an item of the order to the right until it is not crowded out; others are then.
+// Moves an item of the order to the right until it is no longer crowded out; others are instead.
 void makeRoomFor(const BarEntryPointer &entry, BarEntries &order, double room);
 
 } // namespace brimshade::desktop

@@ -7,7 +7,7 @@
 
 namespace brimshade::desktop {
 
-// A menu of titles alone: choosing one tells its title.
+// A menu of mere titles: choosing one reports it.
 class DescribedMenu : public MenuSource {
     Q_OBJECT
 public:

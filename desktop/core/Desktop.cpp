@@ -32,7 +32,7 @@ namespace brimshade::desktop {
 
 namespace {
 
-// The process's own, or the next that no described application claims: a desktop file knows nothing of this process.
+// The process's own, or the next one that no described application has taken: a desktop file cannot know this process.
 int freePid(const std::vector<ApplicationDescription> &applications)
 {
     auto pid = static_cast<int>(QCoreApplication::applicationPid());

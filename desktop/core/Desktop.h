@@ -66,14 +66,14 @@ public:
     void setMenuBarShowing(bool showing);
     void setMovesAccepted(bool accepted);
 
-    // Shows a person what an application has to say, and notes it for Inspection: "Relay", "Open Relay".
+    // Shows a person an application's message, and records it for Inspection: "Relay", "Open Relay".
     void notify(const QString &application, const QString &what);
 
 Q_SIGNALS:
     void changed(); // screens, permission, prompt, opened pages or applications
     void terminated(); // the program asked to end
     void notified(const QString &application, const QString &what);
-    // Somebody pressed a button, a key or an item: what was asked for before and has not come is wanted no longer.
+    // Somebody pressed a button, a key or an item: what was asked for before and has not come is no longer wanted.
     void acted();
 
 private:

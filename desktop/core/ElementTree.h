@@ -4,7 +4,7 @@
 
 namespace brimshade::desktop {
 
-// An item of an application and its element. Groups are none; their children stand in their place.
+// An item of an application and its element. A group is not an item; its children take its place.
 struct DescribedExtra {
     ExtraDescription description;
     ElementPointer element;
@@ -16,7 +16,7 @@ struct DescribedExtra {
 // lock.
 std::vector<DescribedExtra> describeChildren(Element &parent, const std::vector<ExtraDescription> &extras);
 
-// The application quit: it and everything below it answers no more.
+// The application quit: neither it nor anything below it answers any more.
 void killChildren(Element &parent);
 
 } // namespace brimshade::desktop

@@ -5,8 +5,8 @@
 
 namespace brimshade::desktop {
 
-// The program's event monitors, told in the order they were added. One that is removed while an event goes round
-// does not hear of it any more. Main thread.
+// The program's event monitors, called in the order they were added. One that is removed while an event is being
+// delivered no longer gets it. Main thread.
 class EventMonitors {
 public:
     using Global = std::function<void(const platform::Event &)>;

@@ -165,7 +165,7 @@ Target InputRouter::pressInMenuBar(MouseButton button, const Event &event)
     return Target::menuBar;
 }
 
-// The program listens to no other buttons: only items of the bar and views do.
+// The program has no use for other buttons: only items of the bar and views do.
 Target InputRouter::pressMiddle(Target target)
 {
     const auto entry = target == Target::menuBar ? m_d->menuBar.drawnEntryAt(m_d->at) : nullptr;

@@ -58,7 +58,8 @@ public:
     // Hotkeys, then the local monitors when a window of this program is key. The event comes back when the key
     // window's view shall have it. While a menu is open the other keys are the scene's: nothing is done with them here.
     std::optional<platform::Event> keyDown(const platform::Event &event);
-    bool takeHotkey(const platform::Event &event); // first of all; whether it was one: held down it presses once
+    bool takeHotkey(const platform::Event
+                        &event); // asked first; whether it was a hotkey, which presses once however long it is held
 
     // An event that the program posted, in its turn; the pointer is there already.
     void synthetic(const platform::CGMouseEvent &event);

@@ -33,7 +33,7 @@ public:
     std::vector<SyntheticEvent> takeEvents();
     std::vector<PerformedAction> takeActions();
     QStringList takeOpenedURLs();
-    QStringList takeMessages(); // "Relay: Open Relay", as a person was shown them
+    QStringList takeMessages(); // "Relay: Open Relay", as they were shown
     int promptCount() const; // permission prompts asked for while the permission was missing
     std::uint64_t requestCount() const; // Accessibility attribute reads since the desktop began
 

@@ -2,7 +2,7 @@
 
 namespace brimshade::desktop {
 
-// What a person asks of an item of the bar.
+// What a person does to an item of the bar.
 enum class ItemGesture {
     click, // with the left button
     menu, // with the right button, or with Control: its menu, whatever else it can do

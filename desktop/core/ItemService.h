@@ -23,7 +23,7 @@ public:
     void tellOfItems() const { tell(m_ofItems); }
 
 private:
-    using Observers = std::list<platform::Work>; // one that is told may add another
+    using Observers = std::list<platform::Work>; // a handler may add another
     static void tell(const Observers &observers);
 
     Applications &m_applications;

@@ -7,7 +7,7 @@ namespace brimshade::desktop {
 
 namespace {
 
-// Without half a character at the end.
+// Never ends in the middle of a character.
 QString shortened(const QString &text)
 {
     const QString start = text.first(std::min<qsizetype>(text.size(), KeptOrder::kLongestText));
@@ -24,7 +24,7 @@ QDate KeptOrder::currentDay()
     return QDateTime::currentDateTimeUtc().date();
 }
 
-// A clock that was set back does not make anything older.
+// A clock that was set back makes nothing older.
 QDate KeptOrder::lastSeen(const Record &record) const
 {
     return record.isPresent ? std::max(record.seen, m_today()) : record.seen;

@@ -22,7 +22,7 @@ struct KeptItem {
 class KeptOrder {
 public:
     using Today = std::function<QDate()>;
-    using Slot = std::optional<KeptItem>; // nothing: Brimshade's own item
+    using Slot = std::optional<KeptItem>; // absent: Brimshade's own item
 
     struct Record {
         Slot slot;
@@ -45,14 +45,14 @@ public:
     // is present has.
     KeptItem arrive(const KeptItem &who);
     void leave(const KeptItem &item);
-    // A present one turns out to be another: it goes where that one stood, or stays when that one is unknown.
+    // A present item turns out to be another one: it goes where that one stood, or stays where that one is unknown.
     KeptItem rename(const KeptItem &item, const KeptItem &who);
-    // It now stands among the present ones as listed. It passes no more absent ones than it must.
+    // It now stands among the present ones as listed, and passes no more absent ones than it must.
     void move(const Slot &moved, const std::vector<Slot> &present);
 
     // Left of all, and not present. One that is there already keeps its place; the own item is brought there.
     void append(const Slot &slot, QDate seen);
-    // An order that was kept before takes in those that are present here.
+    // Takes up an order that was kept earlier, and fits the present items into it.
     void restore(KeptOrder before);
 
 private:

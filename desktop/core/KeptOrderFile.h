@@ -13,8 +13,8 @@ namespace brimshade::desktop {
 
 class MenuBar;
 
-// Keeps a bar's order in a file, as StoredFile says: it is read aside, the bar takes it in when it has come, and from
-// then on every change is written. Main thread; the bar and the dispatch outlive it.
+// Keeps a bar's order in a file, as StoredFile says: it is read in the background, the bar adopts it once it is there,
+// and from then on every change is written. Main thread; the bar and the dispatch outlive it.
 class KeptOrderFile : public QObject {
 public:
     KeptOrderFile(const QString &path, MenuBar &bar, platform::Dispatch &dispatch, const Report &report);
@@ -35,7 +35,7 @@ private:
     const Report m_report;
     MenuBar &m_bar;
     std::unique_ptr<StoredFileWriter> m_writer; // null: it was not read yet, or nothing is written
-    QByteArray m_content; // that the file has, or soon has
+    QByteArray m_content; // what the file holds, or soon will
     Lifetime m_lifetime;
 };
 

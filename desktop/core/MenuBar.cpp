@@ -40,7 +40,7 @@ struct MenuBar::Layout {
     bool operator==(const Layout &) const = default;
 };
 
-// An item that a hand has, and where.
+// The item that is being dragged, and where.
 struct Held {
     MenuBar::EntryPointer entry;
     QPointF at;
@@ -146,7 +146,7 @@ void MenuBar::remove(const EntryPointer &entry)
     m_d->order.remove(entry);
     entry->element = nullptr; // layouts that are still to show hold the entry
     relayout();
-    touch(); // it is gone at once; the others close up when they settle
+    touch(); // it goes at once; the others close the gap when they settle
     if (entry->kept)
         Q_EMIT keptOrderChanged();
 }
@@ -387,7 +387,7 @@ bool MenuBar::isRearranging() const
     return m_d->isRearranging;
 }
 
-// Those that are drawn, before that has settled. One that is not going to be goes just out of sight.
+// Those that will be drawn, before that has settled. One that will not be goes just out of sight.
 void MenuBar::showAt(const Layout &layout)
 {
     for (const auto &[entry, frame] : layout.frames) {

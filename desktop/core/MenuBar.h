@@ -62,14 +62,14 @@ public:
     // Each takes part in the next layout. Nothing happens when nothing differs.
     void add(const EntryPointer &entry);
     void remove(const EntryPointer &entry);
-    void rename(const EntryPointer &entry, const KeptItem &who); // one that comes and goes is another than it seemed
+    void rename(const EntryPointer &entry, const KeptItem &who); // one that comes and goes turns out to be another one
     void widthChanged();
     void lookChanged();
     void placeOwn(const EntryPointer &entry, double pointsFromRight); // left of the listed items that fill them
     const KeptOrder &keptOrder() const;
-    void restore(KeptOrder order); // one that was kept before; those that are here already take their places in it
+    void restore(KeptOrder order); // one that was kept earlier; the items that are here take their places in it
     void setScreens(); // read them anew
-    void setApplicationMenusWidth(double points); // as much as may be, until it is said
+    void setApplicationMenusWidth(double points); // the most it may be, until it is set
     void setShowing(bool showing);
     void setMovesAccepted(bool accepted) { m_areMovesAccepted = accepted; }
     // Several changes laid out together, here or all at once: at start, when nothing was there before.

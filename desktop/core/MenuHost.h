@@ -18,7 +18,7 @@ public:
     explicit MenuHost(const SharedState &state);
     ~MenuHost() override; // an open menu is forgotten: neither its closed() nor its dismissed runs
 
-    // Opens under the anchor (display space; it may lie off the screen, whoever draws the menu clamps it), or at its
+    // Opens under the anchor (display space; it may lie off the screen: whoever draws the menu clamps it), or at its
     // corner for an empty rectangle; an open menu is dismissed first. dismissed runs when the menu is gone, after the
     // entry's own effect. A menu without entries closes at once.
     void open(std::shared_ptr<MenuSource> source, const QRectF &anchor, platform::Work dismissed = {});

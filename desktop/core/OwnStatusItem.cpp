@@ -155,8 +155,8 @@ void OwnStatusItem::send(NSEventType type)
     action();
 }
 
-// An item that finds no room any more has left its screen, as one that shows on another screen has; one that would have
-// left it had others not made way counts, too.
+// An item that no longer finds room has left its screen, as has one that shows on another screen; so has one that would
+// have left it, had others not made way.
 void OwnStatusItem::barSettled()
 {
     const auto screen = m_window.screen();

@@ -73,7 +73,7 @@ private:
     // When the bar last settled:
     std::optional<QString> m_screen; // by name, the one the window was on
     bool m_isDrawn = false;
-    bool m_isCrowded = false; // where it shows it keeps items out that belong right of it
+    bool m_isCrowded = false; // where it shows, it keeps out items that belong right of it
 };
 
 } // namespace brimshade::desktop

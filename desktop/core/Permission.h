@@ -20,13 +20,16 @@ class Permission : public QObject {
 public:
     Permission(SharedState &state, bool isNeeded) : m_state(state), m_isNeeded(isNeeded) { }
 
-    bool isNeeded() const { return m_isNeeded; } // not where every program may read the bar: then it is always given
+    bool isNeeded() const
+    {
+        return m_isNeeded;
+    } // false where every program may read the bar: it is always granted then
 
     bool isTrusted() const;
     void setTrusted(bool trusted); // granting closes the prompt
 
     bool isPromptOpen() const { return m_isPromptOpen; }
-    void openPrompt(); // once more is no second one
+    void openPrompt(); // asking again opens no second one
     Q_INVOKABLE void closePrompt(); // the prompt's own button: not now
     Q_INVOKABLE void openSettingsFromPrompt(); // its other button: closes it and opens the page
 

@@ -45,14 +45,15 @@ void PointerTracking::refresh(DesktopWindow *window)
 
 bool PointerTracking::contains(const DesktopWindow &window, const TrackingArea &area, QPointF point) const
 {
-    // In display space, as whatever else asks what the pointer is on: of two edges the upper one counts as inside.
+    // In display space, like every other question of what the pointer is on: of two edges the upper one counts as
+    // inside.
     const QRectF inScreenSpace = area.rect.translated(window.frame().topLeft());
     return containsPoint(flipped(inScreenSpace, m_state.primaryHeight()), point);
 }
 
 void PointerTracking::pointerMoved(QPointF to)
 {
-    const auto windows = m_windows.onScreen(); // what is told may show, hide and destroy windows
+    const auto windows = m_windows.onScreen(); // a handler may show, hide and destroy windows
     for (DesktopWindow *window : windows) {
         for (std::size_t index = 0; m_tracked.contains(window) && index < m_tracked[window].areas.size(); ++index)
             tell(window, index, to);
@@ -67,7 +68,7 @@ void PointerTracking::tell(DesktopWindow *window, std::size_t index, QPointF poi
     if (isInside == area.isInside || !isActive || !(area.area.options & kTrackingMouseEnteredAndExited))
         return;
     area.isInside = isInside;
-    const auto view = std::get<std::shared_ptr<NativeView>>(window->content()); // kept while it is told
+    const auto view = std::get<std::shared_ptr<NativeView>>(window->content()); // kept for as long as its handler runs
     if (isInside)
         view->mouseEntered();
     else

@@ -13,7 +13,7 @@ class SharedState;
 class WindowStack;
 
 // Tells native views of the pointer coming into and leaving their tracking areas. As the toolkit does: an area that
-// appears under the pointer counts as entered without a word, a covered view is told like any other, and nothing is
+// appears under the pointer counts as entered without being told, a covered view is told like any other, and nothing is
 // told while a button is held. Main thread.
 class PointerTracking : public QObject {
     Q_OBJECT

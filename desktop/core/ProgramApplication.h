@@ -26,7 +26,7 @@ public:
 
     const EventMonitors &monitors() const { return m_monitors; }
 
-    // While it lives, events of this type are what the program is handling.
+    // While it lives, the program is handling an event of this type.
     class Handling {
     public:
         Handling(ProgramApplication &application, platform::NSEventType type)

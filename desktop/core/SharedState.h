@@ -34,7 +34,7 @@ struct Element final : platform::AXUIElementObject {
     std::optional<QRectF> frame; // display space; absent: unreadable, or not laid out yet
     QStringList actions;
     std::optional<platform::AXError> pressError;
-    QString owner; // the application's name, where a person is told that the element is gone; empty: nobody is
+    QString owner; // the application's name, for telling a person that the element is gone; empty: nobody is told
     std::vector<platform::AXUIElement> children;
 };
 using ElementPointer = std::shared_ptr<Element>;
@@ -96,7 +96,7 @@ private:
     DisplayState m_state;
 };
 
-// Nobody may ever take what was recorded: the oldest goes.
+// What was recorded may never be taken: the oldest is dropped.
 template <typename Entry> void record(std::deque<Entry> &entries, Entry entry)
 {
     constexpr std::size_t kMost = 10'000;

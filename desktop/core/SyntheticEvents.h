@@ -6,7 +6,7 @@ namespace brimshade::desktop {
 
 class InputRouter;
 
-// Events that the program makes. Any thread: the pointer is there at once, what the event does follows on the main
+// Events that the program makes. Any thread: the pointer moves at once, the event's effect follows on the main
 // queue, in the order of posting.
 class SyntheticEvents : public platform::EventServices {
 public:

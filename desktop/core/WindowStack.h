@@ -33,9 +33,10 @@ public:
     void screensChanged(); // windows that no screen holds come back to the primary one
 
 Q_SIGNALS:
-    void windowAdded(brimshade::desktop::DesktopWindow *window); // its content may be made now: nothing has read it yet
+    void
+    windowAdded(brimshade::desktop::DesktopWindow *window); // its content may be created now: nothing has read it yet
     void windowRemoved(brimshade::desktop::DesktopWindow *window); // about to go; its content must be dropped now
-    void orderChanged(); // also: a window was shown or hidden
+    void orderChanged(); // a window was shown or hidden, too
     void keyChanged();
 
 private:

@@ -63,7 +63,7 @@ Image WorkspaceService::iconForFile(const QString &path) const
             return exact->second;
         const Image *enclosing = nullptr;
         const Image *enclosed = nullptr;
-        for (const auto &[bundle, icon] : icons) { // a longer path comes after those it begins with
+        for (const auto &[bundle, icon] : icons) { // a path comes after those that are the beginning of it
             if (isInside(path, bundle))
                 enclosing = &icon;
             else if (!enclosed && isInside(bundle, path))

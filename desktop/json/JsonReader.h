@@ -10,7 +10,7 @@
 #include <utility>
 #include <vector>
 
-// Typed reading of JSON values. Each reader answers nothing when it has read, or one sentence that starts with the
+// Typed reading of JSON values. Each reader answers nothing on success, or one sentence that starts with the
 // place of the fault. Sizes are bounded: what is read comes from anywhere.
 namespace brimshade::desktop {
 

@@ -15,7 +15,7 @@ namespace {
 
 constexpr double kFaintest = 0.01;
 
-// What an item's ancestors leave of it.
+// The part of an item that its ancestors do not clip away.
 struct Exposure {
     QRectF frame;
     double opacity = 1;

@@ -12,7 +12,7 @@ class QQuickWindow;
 
 namespace brimshade::desktop {
 
-// Whoever shows the desktop, as a script uses it: its hands and its eyes. Main thread; points in display space.
+// Whatever shows the desktop, as a script uses it: its hands and its eyes. Main thread; points in display space.
 class ScriptHost {
 public:
     // A window of the toolkit in which elements can be seen, and where its points are on the display.

@@ -72,7 +72,7 @@ QJsonArray windowsAnswer(const WindowStack &stack)
     return windows;
 }
 
-// Before its first opening there is no panel, or one without a frame: both read like that.
+// Before its first opening there is no panel, or one without a frame: both are reported as that.
 QJsonObject panelAnswer(const WindowStack &stack)
 {
     const DesktopWindow *panel = stack.named(u"panel"_s);

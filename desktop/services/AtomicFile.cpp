@@ -21,7 +21,7 @@ QString systemText(int error)
     return QString::fromStdString(std::generic_category().message(error));
 }
 
-// Every process writes to a file of its own: two of them never meet in one.
+// Every process writes to a file of its own, so that no two write to the same one.
 QString draftOf(const QString &path, const QString &process)
 {
     return u"%1.%2.new"_s.arg(path, process);
@@ -34,7 +34,7 @@ std::expected<void, QString> writeDraft(const QString &draft, const QByteArray &
         return std::unexpected(file.errorString());
     if (file.write(content) != content.size() || !file.flush())
         return std::unexpected(file.errorString());
-    // Else a crash of the machine may leave the new name with nothing in it.
+    // Otherwise a crash of the machine may leave an empty file under the new name.
     if (fsync(file.handle()) != 0)
         return std::unexpected(systemText(errno));
     return {};

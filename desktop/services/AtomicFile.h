@@ -9,7 +9,7 @@ namespace brimshade::desktop {
 // one. Makes missing folders; follows a symbolic link. The error is the system's own text. Any thread.
 std::expected<void, QString> writeAtomically(const QString &path, const QByteArray &content);
 
-// Removes what processes that died while they wrote this file have left behind.
+// Removes what processes left behind that died while they wrote this file.
 void removeLeftovers(const QString &path);
 
 } // namespace brimshade::desktop

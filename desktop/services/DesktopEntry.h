@@ -17,7 +17,7 @@ struct DesktopEntry {
     QString windowClass = {}; // what its windows call themselves, where the entry says so
 };
 
-// Nothing when it is not the entry of an application. locale is "de_DE".
+// Absent where it is not the entry of an application. locale is like "de_DE".
 std::optional<DesktopEntry> parseDesktopEntry(const QString &id, const QByteArray &content, const QString &locale);
 
 // All entries of these folders, the first of an id winning. Reads files: not on the main thread.

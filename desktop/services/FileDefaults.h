@@ -4,8 +4,8 @@
 
 namespace brimshade::desktop {
 
-// The store in one JSON file: read when it is made, since everything at start asks it, and written after every change,
-// as StoredFile says. What the file holds beyond our own keys is kept.
+// The store in one JSON file: read when it is created, since everything at start needs it, and written after every
+// change, as StoredFile says. Keys in the file that are not ours are kept.
 class FileDefaults : public MemoryDefaults {
 public:
     using Report = desktop::Report;

@@ -14,7 +14,7 @@ struct KeyCombination {
 
 // What a grabbed combination is for, where the session asks the user.
 struct KeyUse {
-    std::uint32_t number = 0; // the same at every launch for the same use
+    std::uint32_t number = 0; // the same at every launch for the same purpose
     QString purpose = {}; // in the user's language
 };
 
@@ -23,7 +23,8 @@ class GlobalKeyGrabber {
 public:
     virtual ~GlobalKeyGrabber() = default;
     virtual void setPressed(std::function<void(KeyCombination)> pressed) = 0; // called on the main thread
-    // False: another program has it, or no keyboard has such a key. One that the present keyboard lacks is waited for.
+    // False: another program has it, or no keyboard has such a key. One that the present keyboard lacks is grabbed once
+    // a keyboard has it.
     virtual bool grab(KeyCombination combination, const KeyUse &use) = 0;
     virtual void release(KeyCombination combination) = 0;
 };

@@ -30,7 +30,7 @@ public:
     // True when the combination is registered and hotkeys are on; the handler has run then.
     bool press(std::uint32_t keyCode, std::uint32_t carbonModifiers);
     void setObserver(platform::Work observer); // runs before the handler, at each press
-    // Runs as hotkeys go off and on; whoever can sees to it that the key window gets all keys meanwhile.
+    // Runs as hotkeys go off and on; whoever can do so lets the key window have all keys meanwhile.
     void setModeObserver(std::function<void(bool areOff)> observer);
     std::vector<Registered> registered() const; // by their numbers
 
@@ -38,7 +38,7 @@ public:
     // working inside the desktop.
     void setGrabber(std::unique_ptr<GlobalKeyGrabber> grabber);
 
-    bool takes(KeyCombination combination) const; // a press of it would be one of a hotkey
+    bool takes(KeyCombination combination) const; // pressing it would press a hotkey
 
 private:
     const Registered *find(KeyCombination combination) const; // null for none

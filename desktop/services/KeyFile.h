@@ -9,7 +9,7 @@ namespace brimshade::desktop {
 using KeyGroup = QMap<QString, QString>;
 
 // The groups by name of a file like a desktop entry or an icon theme's index: "[Group]" lines, "Key=Value" lines. Lines
-// that are neither are passed over. What comes later wins.
+// that are neither are skipped. The later of two equal keys wins.
 QMap<QString, KeyGroup> readKeyFile(const QByteArray &content);
 KeyGroup readDesktopEntry(const QByteArray &content); // the group that every desktop entry has
 

@@ -12,7 +12,7 @@ struct LogEntry {
     QString text;
 };
 
-// Keeps what is logged until somebody takes it, the latest 10,000 lines of it. Any thread.
+// Keeps log lines until they are taken, the latest 10,000 of them. Any thread.
 class LogWriter : public platform::Log {
 public:
     explicit LogWriter(bool printsToStandardError = false);

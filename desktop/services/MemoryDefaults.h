@@ -3,7 +3,7 @@
 
 namespace brimshade::desktop {
 
-// A store that is gone with the process. Reads convert as the Mac's do: numbers and some strings read as a Bool,
+// A store that ends with the process. Reads convert as the Mac's do: numbers and some strings read as a Bool,
 // numbers but no Bool as a string.
 class MemoryDefaults : public platform::UserDefaults {
 public:
@@ -21,7 +21,7 @@ public:
     QVariantMap all() const; // every stored key
 
 protected:
-    virtual void changed() { } // a stored value is another one than before
+    virtual void changed() { } // a stored value has changed
 
 private:
     void set(const QVariant &value, const QString &key);

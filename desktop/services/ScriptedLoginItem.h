@@ -5,7 +5,7 @@
 
 namespace brimshade::desktop {
 
-// A login service that answers as it is told. Main thread.
+// A login service that answers as a script tells it to. Main thread.
 class ScriptedLoginItem : public platform::LoginItems {
 public:
     // failure: what registering and unregistering answer; without one they succeed and change the status.

@@ -7,6 +7,6 @@ namespace brimshade::desktop {
 
 // The settings as one JSON object. Pure functions, any thread.
 QByteArray writeSettings(const QVariantMap &values);
-std::optional<QVariantMap> readSettings(const QByteArray &json); // nothing when it is none
+std::optional<QVariantMap> readSettings(const QByteArray &json); // absent where the text is not one
 
 } // namespace brimshade::desktop

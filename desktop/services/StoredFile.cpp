@@ -16,7 +16,7 @@ namespace {
 
 constexpr qint64 kLargestFile = 1 << 20; // bytes; ours have some hundreds
 
-// The new name, empty when there is none to be had. Never replaces an earlier one.
+// The new name, empty where the file cannot be renamed. Never replaces an earlier one.
 QString moveAside(const QString &path)
 {
     constexpr int most = 1000;

@@ -9,13 +9,13 @@ namespace brimshade::desktop {
 
 using Report = std::function<void(const QString &message)>; // on the thread that reads, or on the writing one
 
-// Which file it is, and what stands in it, in the plural, as messages call it: "settings".
+// Which file it is, and what messages call its content, in the plural: "settings".
 struct StoredFile {
     QString path;
     QString what;
 };
 
-// What the reader of a content found. One of another version is a newer program's, and stays as it is.
+// What was found in the file. A file of another version is a newer program's, and stays as it is.
 enum class Verdict { good, damaged, otherVersion };
 
 // Reads the file and has its content judged; a missing one is not read. A damaged file is renamed to "<path>.damaged"

@@ -206,7 +206,7 @@ void X11KeyGrabber::Private::keyPressed(const xcb_key_press_event_t &event)
     }
 }
 
-// With the time of the press: a window manager refuses who asks for the keys without a hand behind it.
+// With the time of the press: a window manager refuses the keys to a window that no person asked for.
 void X11KeyGrabber::Private::activateWindow(xcb_timestamp_t time) const
 {
     constexpr std::uint32_t kFromApplication = 1;

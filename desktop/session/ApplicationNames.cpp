@@ -13,7 +13,7 @@ namespace {
 
 constexpr qsizetype kMostNames = 1024; // of one session; a program may call its windows anything
 
-// The last word of "org.keepassxc.KeePassXC"; of anything else all.
+// The last word of "org.keepassxc.KeePassXC"; anything else as it is.
 QString wordOf(const QString &id)
 {
     return id.contains(u' ') ? id : id.section(u'.', -1);
@@ -51,7 +51,7 @@ QString ApplicationNames::nameOf(const QString &id)
         return *known;
     if (m_names.size() >= kMostNames)
         m_names.clear();
-    m_names[id] = wordOf(id); // and asked for no second time
+    m_names[id] = wordOf(id); // and never asked for again
     const auto then = platform::weakly(QPointer(this), &ApplicationNames::keep);
     m_dispatch.globalAsync(platform::QualityOfService::userInitiated, [&dispatch = m_dispatch, then, id] {
         const QString name = readName(id);

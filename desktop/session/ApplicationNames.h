@@ -7,11 +7,11 @@
 
 namespace brimshade::desktop::session {
 
-// How well the entry fits an application that its windows call that: the greater the better, 0 for not at all.
+// How well the entry fits an application whose windows call it that: the greater the better, 0 for not at all.
 int fit(const DesktopEntry &entry, const QString &id);
 
-// What people call an application, by what its windows call it: an app_id, or a class on X11. Main thread. The files
-// that tell are read elsewhere, once for each application.
+// What people call an application, by what its windows call it: an app_id, or a class on X11. Main thread. The
+// files are read on another thread, once for each application.
 class ApplicationNames : public QObject {
     Q_OBJECT
 public:

@@ -82,7 +82,7 @@ void OtherHosts::looked(const QStringList &names)
             asked(isOther ? programOf(pid.value()) : QString());
         });
     }
-    asked({}); // the look itself
+    asked({}); // the present round itself
 }
 
 void OtherHosts::asked(const QString &program)

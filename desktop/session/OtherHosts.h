@@ -5,8 +5,8 @@
 
 namespace brimshade::desktop::session {
 
-// Other programs of the session that show tray items: bars and tray hosts. It follows the names on the bus, one look at
-// a time; nothing is waited for. Main thread; the connection outlives it.
+// Other programs of the session that show tray items: bars and tray hosts. It follows the names on the bus, one round
+// of questions at a time; nothing is waited for. Main thread; the connection outlives it.
 class OtherHosts : public QObject {
     Q_OBJECT
 public:
@@ -27,8 +27,8 @@ private:
 
     QDBusConnection m_bus;
     QStringList m_programs;
-    QStringList m_found; // in the look that is under way
-    int m_open = 0; // questions of it that are not answered yet
+    QStringList m_found; // in the present round
+    int m_open = 0; // its questions that are not answered yet
     bool m_isLooking = false;
     bool m_needsAnother = false;
 };

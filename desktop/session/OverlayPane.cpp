@@ -48,7 +48,7 @@ OverlayPane::OverlayPane(DesktopWindow &window, const Parts &parts)
 
 OverlayPane::~OverlayPane() = default;
 
-// What most of the first frame's time would go into: the native window, the scene and its texts.
+// Most of what the first frame would take: the native window, the scene and its texts.
 void OverlayPane::rehearse()
 {
     QQuickItem *view = m_content->view();

@@ -7,14 +7,14 @@ namespace brimshade::desktop::session {
 
 class SessionScreens;
 
-// A window over everything, as the panel is. Of the window's frame only as much is a window of the session as the view
-// draws in: what is copied at each frame is small. The view tells by properties of its root item, in its points:
+// A window over everything, as the panel is. The session's window covers only that part of the frame in which the
+// view draws: little is copied at each frame. The view says which by properties of its root item, in its points:
 //   rect hitArea       what takes clicks now, and empty while the view takes no input, keys neither; a click beside it
 //                      is a click outside
 //   real hitRadius     of the area's lower corners, where the window has to be cut to it
 //   real drawnMargin   how far around it shadows and moves reach
-// Without them the window is as large as its frame. It is told by others, which it may have:
-//   bool paced         true: what takes long to make shall come in pieces, with frames in between
+// Without them the window is as large as its frame. Other properties, which it may have, are set for it:
+//   bool paced         true: it creates what takes long in pieces, with frames in between
 //   bool rehearsing    true while it is drawn where nobody sees it, ahead of its first opening
 class OverlayPane : public WindowPane {
     Q_OBJECT
@@ -55,7 +55,7 @@ private:
     DesktopWindow &m_window;
     const Parts m_parts;
     Pane m_pane;
-    QQuickItem m_holder; // as large as the window's frame, wherever that is in the session's window
+    QQuickItem m_holder; // as large as the window's frame, and placed as that is within the session's window
     std::unique_ptr<HostedContent> m_content;
     std::unique_ptr<ShellSurface> m_surface;
     bool m_takesInput = false;

@@ -37,7 +37,7 @@ private:
     std::unique_ptr<WindowInput> m_input;
 };
 
-// Without any background: for what is drawn over other programs.
+// Without a background: for what is drawn over other programs.
 void makeTransparent(QQuickWindow &window);
 
 } // namespace brimshade::desktop::session

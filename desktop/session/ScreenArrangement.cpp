@@ -41,7 +41,7 @@ std::optional<Notch> notchOf(const ScreenFacts &screen, const ScreenChoice &choi
     case NotchChoice::Kind::given:
         if (choice.notch.upper <= width)
             return Notch{.lower = choice.notch.lower, .upper = choice.notch.upper};
-        break; // it was said of a wider screen
+        break; // it was chosen for a wider screen
     case NotchChoice::Kind::machine:
         if (choice.machine && isBuiltIn(screen.name)) {
             const double scale = width / choice.machine->screenWidth; // points a pixel

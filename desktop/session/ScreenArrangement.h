@@ -27,7 +27,7 @@ struct NotchChoice {
     bool operator==(const NotchChoice &) const = default;
 };
 
-// "drawn", "none", "machine", "LOWER,UPPER" with 0 ≤ LOWER < UPPER, or "WIDTH"; nothing for any other text.
+// "drawn", "none", "machine", "LOWER,UPPER" with 0 ≤ LOWER < UPPER, or "WIDTH"; absent for any other text.
 std::optional<NotchChoice> parseNotchChoice(const QString &text);
 QString toText(const NotchChoice &choice);
 

@@ -13,7 +13,7 @@ namespace brimshade::desktop::session {
 
 namespace {
 
-constexpr std::size_t kMostWaiting = 64; // a person clicks less in the second that a drag takes
+constexpr std::size_t kMostWaiting = 64; // more than a person clicks in the second that a drag takes
 
 bool isOfPointer(QEvent::Type type)
 {

@@ -29,7 +29,7 @@ namespace brimshade::desktop::session {
 
 namespace {
 
-// Where the pointer counts as being while it is on no window of this program: nobody says where it really is.
+// Where the pointer is taken to be while it is on no window of this program: the session does not say.
 constexpr QPointF kNowhere(-10'000, -10'000);
 
 } // namespace
@@ -42,7 +42,7 @@ SessionHost::SessionHost(Desktop &desktop, SessionScreens &screens, ShellBackend
       m_menu(desktop.menus(), [this](QPointF point) { return screenFrameAt(point); })
 {
     m_engine->addImportPath(u"qrc:/qt/qml"_s);
-    // Before the bar hears of it: it asks the desktop where it is.
+    // Before the bar learns of it: it asks the desktop where it is.
     connect(&screens, &SessionScreens::changed, this, [this] {
         m_desktop.setScreens(m_screens.descriptions());
         followForeground();
@@ -171,7 +171,7 @@ void SessionHost::followForeground()
     m_desktop.setMenuBarShowing(screen && !foreground.coversScreen(screen));
 }
 
-// The router hears where the pointer came in, and that it left: no move tells it so.
+// The router is told where the pointer came in, and that it left: no move event says so.
 bool SessionHost::eventFilter(QObject *watched, QEvent *event)
 {
     if (event->type() != QEvent::Enter && event->type() != QEvent::Leave)

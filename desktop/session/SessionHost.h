@@ -37,13 +37,13 @@ public:
 
     QPoint toScreen(QPointF display) const; // as other programs count
     bool takesKeyboard() const; // all keys of the session come to this program: panel or menu are open
-    // On X11: those that other programs have grabbed come, too, to the window that has the keys now.
+    // On X11: those that other programs have grabbed come to the window that has the keys now, too.
     void takeEveryKey(bool take);
     QString windowWithKeys() const; // the session's keys come to it by now; empty while another program has them
 
     void settle() override;
     std::vector<View> views() const override;
-    QImage picture() override; // what this program shows of the screens, on nothing
+    QImage picture() override; // this program's part of what is on the screens, on a transparent ground
     std::optional<QImage> picture(const QString &windowName) override; // also of "bar" and "menu"
     void movePointer(QPointF to, std::uint64_t modifierFlags) override;
     void press(MouseButton button, std::uint64_t modifierFlags) override;

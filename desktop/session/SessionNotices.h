@@ -6,8 +6,8 @@ class Desktop;
 
 namespace brimshade::desktop::session {
 
-// Hands what the desktop has to tell a person to the session's notification service, where there is one; nothing waits
-// for it. Main thread; the desktop's.
+// Hands the desktop's messages to the session's notification service, where there is one; nothing waits for it. Main
+// thread; owned by the desktop.
 void showNotices(Desktop &desktop);
 
 } // namespace brimshade::desktop::session

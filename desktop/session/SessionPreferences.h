@@ -8,17 +8,17 @@
 
 namespace brimshade::desktop::session {
 
-// The session's menu bar as the user wants it, kept in the defaults. What the command line says counts for this run
-// until it is chosen otherwise. Main thread; what is referred to outlives it, the defaults until the last call.
+// The session's menu bar as the user wants it, kept in the defaults. What the command line says holds for this run,
+// until the user chooses otherwise. Main thread; what is referred to outlives it, the defaults until the last call.
 class SessionPreferences : public QObject, public platform::MenuBarPreferences {
     Q_OBJECT
 public:
-    // What the defaults say, with what the command line says instead.
+    // What the defaults say, overridden by the command line.
     static ScreenChoice kept(const platform::UserDefaults &defaults, ScreenChoice said, bool isNotchSaid);
 
     SessionPreferences(SessionScreens &screens, platform::UserDefaults &defaults, const QDBusConnection &bus);
 
-    // Whether a global shortcut can be had; without it the settings tell what to bind instead.
+    // Whether global shortcuts are available; without them the settings say what to bind instead.
     void setShortcutsWork(bool work);
 
     QStringList screenNames() const override;

@@ -26,7 +26,7 @@ public:
     QPointF originOf(const QScreen *screen) const; // its top left corner in display space
 
 Q_SIGNALS:
-    void changed(); // once a turn of the event loop, however much has
+    void changed(); // once a turn of the event loop, however many changes there were
 
 private:
     void watch(QScreen *screen);

@@ -14,7 +14,7 @@ public:
     virtual bool isOverlay() const = 0; // over everything; the session does not manage it
     virtual bool takesInput() const = 0;
     virtual bool takesKeyboard() const = 0; // from every program of the session
-    virtual void setKey(bool key) = 0; // it has the keys of the program, or has them no more
+    virtual void setKey(bool key) = 0; // it has got the program's keys, or lost them
 };
 
 } // namespace brimshade::desktop::session

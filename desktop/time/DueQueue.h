@@ -16,7 +16,8 @@ public:
 
     // True when this work is now the first; once closed, the work is dropped.
     bool add(Nanoseconds due, platform::Work work);
-    // The same in a turn of its own, for what comes back again and again; one piece of work at a time has it.
+    // The same under an order reserved earlier, for work that is scheduled again and again; one piece of work at a time
+    // has it.
     bool add(Nanoseconds due, Turn turn, platform::Work work);
     Turn takeTurns(std::size_t count); // that many, from the one returned on
 

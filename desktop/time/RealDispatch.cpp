@@ -12,7 +12,7 @@ namespace {
 
 // A press may wait seconds for its application; enough that a few hanging ones do not hold up the rest.
 constexpr std::size_t kGlobalThreads = 8;
-// As many can wait at a time; made only for those that do.
+// That many can wait at a time; threads are made only for those that do.
 constexpr std::size_t kConcurrentThreads = 64;
 
 Nanoseconds steadyNow()

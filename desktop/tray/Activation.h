@@ -6,7 +6,8 @@
 
 namespace brimshade::desktop::tray {
 
-// Lets an item's program bring up its windows by what is asked of it next. Main thread; the surroundings outlive it.
+// Allows an item's program to bring up its windows in answer to the next request. Main thread; the surroundings outlive
+// it.
 class Activation {
 public:
     Activation(const QDBusConnection &bus, const BusAddress &item, const Surroundings &surroundings,

@@ -37,7 +37,7 @@ void callAsync(const QDBusConnection &bus, const BusAddress &to, const QString &
 void callPatiently(const QDBusConnection &bus, const BusAddress &to, const QString &method,
                    const QVariantList &arguments, QObject *context, ReplyHandler handler);
 
-// Calls without asking for an answer: what the callee makes of it is its own affair.
+// Calls without asking for an answer: what the callee does with it does not matter.
 void notify(const QDBusConnection &bus, const BusAddress &to, const QString &method, const QVariantList &arguments);
 
 // The bus daemon itself.

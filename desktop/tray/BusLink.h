@@ -21,7 +21,7 @@ public:
 
 Q_SIGNALS:
     void connected(const QDBusConnection &bus);
-    void failed(); // nobody is there; once until it is
+    void failed(); // no bus is there; told once until one is
     void lost(); // after connected()
 
 private Q_SLOTS:

@@ -9,7 +9,7 @@ namespace brimshade::desktop::tray {
 // One item of a program as its application shows it.
 struct HostedItem {
     QString instance; // this very item among all, as long as it is there
-    QString path; // it among those of one connection of its program
+    QString path; // the same, among those of one connection of its program
     TrayItem item;
     ItemPictures pictures;
     ItemHandler handler;

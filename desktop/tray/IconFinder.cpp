@@ -11,7 +11,7 @@ namespace {
 
 constexpr int kMostIndices = 16;
 constexpr int kMostKnown = 4096;
-constexpr double kOldIndex = 2, kOldThemes = 60; // seconds: a name that is missing then may have come
+constexpr double kOldIndex = 2, kOldThemes = 60; // seconds after which a missing name may have appeared
 constexpr double kTrustMissing = 10; // seconds in which a name that was nowhere is not looked for again
 constexpr QSizeF kItemSize{22, 22};
 
@@ -84,7 +84,7 @@ QString IconFinder::knownPath(const QString &name, const QString &themePath)
     return known.path;
 }
 
-// A name that is nowhere is cut at its hyphens: "network-wired-offline" is at least a network.
+// A name that is not found is cut at its hyphens: "network-wired-offline" is at least a network.
 QString IconFinder::lookUp(const QString &name, const QString &themePath)
 {
     if (auto path = inThemePath(name, themePath); !path.isEmpty())

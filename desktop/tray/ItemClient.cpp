@@ -112,7 +112,7 @@ void ItemClient::lapse()
     m_press.lapse();
 }
 
-// What comes while the program is being asked for a sign of life goes as one.
+// What comes while the program is being asked for a sign of life is sent as one.
 void ItemClient::scroll(QPoint by)
 {
     m_scrolled += by;

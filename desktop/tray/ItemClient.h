@@ -35,10 +35,10 @@ public:
     bool canBeActivated() const; // it is more than a menu, and the program has not said otherwise
 
 Q_SIGNALS:
-    void changed(); // item(), pictures() or canBeActivated() is another one
+    void changed(); // item(), pictures() or canBeActivated() has changed
     void menuReady(const QRectF &frame); // show menu() at the item that was pressed
     void gone(); // its program lives on without it; it does nothing more
-    void unanswered(); // a press; the program does not answer anything
+    void unanswered(); // a press; the program answers nothing at all
     void message(const QString &text);
 
 private Q_SLOTS:

@@ -49,7 +49,7 @@ private:
     Activation &m_activation;
     platform::Dispatch &m_dispatch;
 
-    int m_number = 0; // of the press; what belongs to another one comes too late
+    int m_number = 0; // of the press; an answer to another one comes too late
     bool m_isUnderWay = false;
     bool m_canActivate = true; // as far as is known
     std::vector<Press> m_untried;

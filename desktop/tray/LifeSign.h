@@ -7,7 +7,8 @@
 
 namespace brimshade::desktop::tray {
 
-// Whether a program answers at all. What would take effect whenever it wakes is sent only once it does. Main thread.
+// Whether a program answers at all. A request that would take effect whenever it wakes is held back until it answers.
+// Main thread.
 class LifeSign : public QObject {
     Q_OBJECT
 public:
@@ -28,7 +29,7 @@ private:
     BusAddress m_peer;
     platform::Dispatch &m_dispatch;
     bool m_isHeard = true;
-    bool m_isPinging = false; // one is on its way; a program that is stopped gets no more of them
+    bool m_isPinging = false; // one is on its way; a stopped program is sent no more of them
     bool m_isListening = false;
     Lifetime m_lifetime;
 };

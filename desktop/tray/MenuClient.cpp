@@ -199,7 +199,7 @@ void MenuClient::sendHeld()
     }
 }
 
-// A program that slept gets no choice that the person has given up; that its menu has closed it shall know.
+// A program that slept is not sent a choice that the person has given up; it is told that its menu has closed.
 void MenuClient::dropChoices()
 {
     for (const auto &event : std::exchange(m_held, {})) {

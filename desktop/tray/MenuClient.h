@@ -31,9 +31,9 @@ public:
     // Tells the program that its menu is about to be shown and ends in ready() or unusable(), at once when what was
     // read is still good. Each ready() is followed by one close().
     void open();
-    void forgetOpening(); // nobody waits for it any longer: neither ready() nor unusable() follows
+    void forgetOpening(); // it is no longer wanted: neither ready() nor unusable() follows
     void aboutToShow(int id); // a submenu; changed() follows if that brings entries
-    void choose(int id); // nothing comes of it when the program has not answered since it was opened, and does not
+    void choose(int id); // dropped when the program has not answered since it was opened, and still does not
     void close();
 
 Q_SIGNALS:
@@ -84,7 +84,7 @@ private:
     bool m_saidCut = false;
     std::deque<Event> m_held; // until the program is heard and may bring up its windows
     bool m_isProviding = false; // for the choice that is sent next
-    std::vector<int> m_shown; // submenus that were told so, to be told the end
+    std::vector<int> m_shown; // submenus that were announced as shown, and must be announced as closed
     Lifetime m_lifetime;
 };
 

@@ -14,7 +14,7 @@ namespace brimshade::desktop::tray {
 
 namespace {
 
-constexpr int kMostPictures = 200; // in one menu; the entries behind are shown without
+constexpr int kMostPictures = 200; // in one menu; the entries after that have none
 constexpr QSizeF kPictureSize{16, 16};
 
 class Parser {

@@ -29,7 +29,7 @@ QString withoutMnemonic(const QString &label);
 const MenuEntry *findEntry(const std::vector<MenuEntry> &entries, int id);
 MenuEntry *findEntry(std::vector<MenuEntry> &entries, int id);
 QSet<int> idsOf(const std::vector<MenuEntry> &entries);
-int depthOf(const std::vector<MenuEntry> &entries, int id); // 1 at the top, 0 when it is not there
+int depthOf(const std::vector<MenuEntry> &entries, int id); // 1 at the top, 0 where the menu has no such entry
 bool looksTheSame(const std::vector<MenuEntry> &a, const std::vector<MenuEntry> &b);
 
 } // namespace brimshade::desktop::tray

@@ -34,7 +34,7 @@ bool isVectorPicture(const QString &path)
 
 bool isSettled(const QDateTime &modified, const QDateTime &looked)
 {
-    constexpr int coarsest = 2; // seconds, that a file system's times may be
+    constexpr int coarsest = 2; // seconds by which a file system's times may be off
     return modified.secsTo(looked) > coarsest;
 }
 
@@ -43,7 +43,7 @@ PictureFiles::PictureFiles() : m_known(kMostKilobytes) { }
 QImage PictureFiles::read(const QString &path)
 {
     const QFileInfo file(path);
-    if (!file.isFile() || file.size() > kMostPictureBytes) // not a pipe either: reading one could wait for ever
+    if (!file.isFile() || file.size() > kMostPictureBytes) // nor a pipe: reading one could block for ever
         return {};
     const auto modified = file.lastModified();
     if (const auto *known = m_known.object(path); known && known->modified == modified && known->size == file.size())

@@ -8,7 +8,7 @@ namespace brimshade::desktop::tray {
 
 bool isVectorPicture(const QString &path);
 
-// Whether a change after the look would show in the time of the last one.
+// Whether a change after the look would show in the modification time.
 bool isSettled(const QDateTime &modified, const QDateTime &looked);
 
 // Reads pictures and keeps some of them. Only regular files are opened, and none larger than a picture of an icon can

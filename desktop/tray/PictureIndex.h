@@ -6,8 +6,8 @@
 
 namespace brimshade::desktop::tray {
 
-// Which picture files some folders have, by name. Reads the folders when it is made, however large they are: only so
-// many entries are visited. One thread at a time.
+// Which picture files some folders have, by name. Reads the folders when it is created, and no more entries than a
+// limit, however large they are. One thread at a time.
 class PictureIndex {
 public:
     // The pictures in a folder and below it, those nearest to the top first. Of a name's pictures a drawn one wins,

@@ -13,7 +13,7 @@ inline constexpr int kLargestPixmapEdge = 512;
 // agree.
 QImage largestPixmap(const QVariant &pixmaps, QStringList &complaints);
 
-// A PNG that came as bytes; null when it is none or larger than a pixmap may be.
+// A PNG that came as bytes; null where it is not one, or larger than a pixmap may be.
 QImage decodePng(const QByteArray &bytes);
 
 } // namespace brimshade::desktop::tray

@@ -5,7 +5,7 @@
 
 namespace brimshade::desktop::tray {
 
-// A running process, as far as it tells which program it is.
+// A running process, as far as that says which program it is.
 struct Process {
     QString executable; // the file it runs; empty when it may not be seen
     QStringList arguments; // its command line, the program's own name first

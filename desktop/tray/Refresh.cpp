@@ -23,8 +23,7 @@ void Refresh::request()
         fetchAfter(delay(), State::waiting);
 }
 
-// What changes all the time is read with everything else that does: icons that move are then drawn in one frame, not
-// each in its own.
+// Items that change all the time are read together: moving icons are then drawn in one frame, not each in its own.
 double Refresh::delay() const
 {
     const double now = m_dispatch.now();

@@ -12,8 +12,8 @@ class TrayPrograms;
 }
 
 // The tray items of the Linux session as applications of the desktop. A process that owns items is launched when
-// its first item has been read, changed whenever one of them changes, and quit with its last one. Where the bus goes
-// the items go, and come with the next one.
+// its first item has been read, changed whenever one of them changes, and quit with its last one. When the bus
+// goes its items go, and come back with the next one.
 //
 // It is the session's StatusNotifierWatcher, or a host of the one that is there until that one goes. Main thread;
 // construction returns at once, nothing here waits for the bus. The Dispatch and the Desktop outlive it.

@@ -21,8 +21,8 @@ public:
     ~TrayPrograms();
     Q_DISABLE_COPY_MOVE(TrayPrograms)
 
-    // A new item of that process, or what the one of that instance has become. A process that is not known has a number
-    // below 0 of its own.
+    // A new item of that process, or what the one of that instance has become. An unknown process has a
+    // negative number of its own.
     void show(int pid, const HostedItem &item);
     void remove(int pid, const QString &instance); // or nothing, where it was never shown
     QString nameOf(int pid) const;

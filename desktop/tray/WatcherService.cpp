@@ -33,7 +33,7 @@ void WatcherService::RegisterStatusNotifierItem(const QString &argument)
 
 void WatcherService::RegisterStatusNotifierHost(const QString &)
 {
-    Q_EMIT StatusNotifierHostRegistered(); // this program is one already; a further one changes nothing
+    Q_EMIT StatusNotifierHostRegistered(); // this program is a host already; another one changes nothing
 }
 
 } // namespace brimshade::desktop::tray

@@ -5,7 +5,7 @@
 
 // Values from the bus, unpacked once into what Qt holds without the bus: an array or a structure is a QVariantList, an
 // array of strings a QStringList, an array of bytes a QByteArray, a map a QVariantMap, a path or signature a QString.
-// What reads them further needs no bus, and trusts none of them.
+// Whoever reads them on needs no bus, and trusts none of them.
 namespace brimshade::desktop::tray {
 
 // One message holds at most this many values; what comes behind is left out.

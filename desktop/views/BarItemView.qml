@@ -7,7 +7,7 @@ Item {
     id: root
 
     required property real origin // of the bar, in display space
-    required property bool glides // where it stands, rather than being there at once
+    required property bool glides // its movement is shown, rather than being there at once
     required property rect frame
     required property real place
     required property string name

@@ -18,7 +18,7 @@ class BarModel : public brimshade::ui::ListModel {
     QML_UNCREATABLE("belongs to a scene")
     Q_PROPERTY(QRectF frame READ frame NOTIFY changed)
     Q_PROPERTY(bool isShowing READ isShowing NOTIFY changed)
-    Q_PROPERTY(bool isRearranging READ isRearranging NOTIFY changed) // changes of a place are to be seen
+    Q_PROPERTY(bool isRearranging READ isRearranging NOTIFY changed) // changes of place are animated
     Q_PROPERTY(bool hasNotch READ hasNotch NOTIFY changed)
     Q_PROPERTY(double notchLeft READ notchLeft NOTIFY changed)
     Q_PROPERTY(double notchRight READ notchRight NOTIFY changed)

@@ -52,7 +52,7 @@ void MenuController::reopen()
     endInsertRows();
 }
 
-// A list whose entry is gone closes; the others keep what is chosen.
+// A list whose entry is gone closes; the others keep their chosen row.
 void MenuController::refresh()
 {
     const std::vector<MenuEntry> *entries = &m_source->entries();
@@ -92,7 +92,8 @@ void MenuController::truncate(int depth)
     std::move(m_levels.begin() + depth, m_levels.end(), std::back_inserter(gone));
     m_levels.resize(depth);
     endRemoveRows();
-    // The views of a list, and then of its rows, go in later turns of the event loop; the list must outlive them.
+    // The views of a list, and then of its rows, are destroyed in later turns of the event loop; the list must outlive
+    // them.
     for (auto &level : gone)
         QMetaObject::invokeMethod(level.release(), &QObject::deleteLater, Qt::QueuedConnection);
 }

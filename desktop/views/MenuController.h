@@ -50,7 +50,7 @@ private:
     void refresh();
     void place(int depth);
     void openSubmenu(int depth); // of the chosen row at that depth
-    void truncate(int depth); // keeps that many lists
+    void truncate(int depth); // closes all but that many lists
     void select(int depth, int row);
     void step(int by);
     void choose(); // the chosen row of the deepest list

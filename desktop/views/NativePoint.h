@@ -4,7 +4,7 @@
 
 namespace brimshade::desktop {
 
-// A global point of the toolkit's in the units in which programs of the session tell each other points: pixels on X11,
+// A global point of the toolkit's in the units in which the session's programs exchange points: pixels on X11,
 // the compositor's own points on Wayland. Main thread.
 QPoint nativePoint(QPointF global);
 

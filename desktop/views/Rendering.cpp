@@ -13,7 +13,7 @@ void preferSoftwareRenderer()
         useSoftwareRenderer();
         return;
     }
-    // Like the software renderer, the others are to give text no coloured edges.
+    // The other renderers, too, shall give text no coloured edges.
     constexpr auto edges = "QSG_DISTANCEFIELD_ANTIALIASING";
     if (!qEnvironmentVariableIsSet(edges))
         qputenv(edges, "gray");

@@ -16,7 +16,7 @@ public:
 
     WallClock(platform::Dispatch &dispatch, Now now);
 
-    // The longest of the usual forms that is no wider, in points.
+    // The longest of the usual forms that is no wider than that, in points.
     QString text(double width) const;
 
 Q_SIGNALS:

@@ -34,10 +34,10 @@ public:
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 Q_SIGNALS:
-    void handMoved(); // the pointer is where a hand is again
+    void handMoved(); // the pointer is the hand's again
 
 private:
-    // Each answers whether Qt Quick shall not see the event.
+    // Each answers whether to keep the event from Qt Quick.
     bool takeMove(const QMouseEvent &event);
     bool takePress(const QMouseEvent &event);
     bool takeRelease(const QMouseEvent &event);

@@ -4,8 +4,8 @@
 
 namespace brimshade::ui {
 
-// For the setter of what an object follows: lets go of the signals of what it followed until now. False when that is
-// the same. The follower then connects to the new one, which may be null.
+// For the setter of what an object follows: disconnects from what it followed until now. False when that is the same.
+// The follower then connects to the new one, which may be null.
 template <class T> bool follow(QObject &follower, QPointer<T> &followed, T *next)
 {
     if (followed == next)

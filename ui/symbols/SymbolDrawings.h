@@ -1,7 +1,7 @@
 #pragma once
 #include <QPainterPath>
 
-// The symbols that the icon font lacks. They are thought of on its grid, a square of side 24 with y down and two units
+// The symbols that the icon font lacks. They are designed on its grid, a square of side 24 with y down and two units
 // of margin, and returned kFineGrid times as large.
 namespace brimshade::ui {
 

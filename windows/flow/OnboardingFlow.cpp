@@ -137,7 +137,7 @@ void OnboardingFlow::extrasChanged()
     Q_EMIT choicesChanged();
 }
 
-// A choice once made outlives every rescan, and the item itself.
+// A choice outlives every rescan, and even the item.
 void OnboardingFlow::seedChoices()
 {
     for (const MenuExtra &extra : m_model.extras())

@@ -20,7 +20,7 @@ public:
     void setModel(model::NotchModel *model);
     QStringList titles() const;
     int index() const;
-    Q_INVOKABLE void choose(int index); // out of range: nothing
+    Q_INVOKABLE void choose(int index); // ignored when out of range
 
 Q_SIGNALS:
     void modelChanged();

@@ -14,7 +14,7 @@ namespace brimshade::desktop {
 class PortalKeyGrabber : public QObject, public GlobalKeyGrabber {
     Q_OBJECT
 public:
-    // bindsNothing: the session has a portal that does as if, see there.
+    // bindsNothing: the session's portal only pretends to, see there.
     explicit PortalKeyGrabber(const QDBusConnection &bus, bool bindsNothing = isPlasma5());
     ~PortalKeyGrabber() override; // gives the shortcuts back
 
@@ -45,7 +45,7 @@ private:
     void inquire();
     void setAvailable(uint version);
     void ownerChanged(const QString &newOwner);
-    void renewSoon(); // once a turn: a changed shortcut is one released and one grabbed
+    void renewSoon(); // once a turn: a changed shortcut is released and then grabbed
     void renew();
     void createSession();
     void sessionCreated(const Results &results);

@@ -19,7 +19,7 @@ inline const QString kGlobalShortcuts = u"org.freedesktop.portal.GlobalShortcuts
 } // namespace portal
 
 // One call whose outcome the portal tells later, by a signal of a request object. Main thread; starts the portal where
-// it does not run. Destroyed, it is not heard of again.
+// it does not run. Once it is destroyed, its handler is not called.
 class PortalRequest : public QObject {
     Q_OBJECT
 public:

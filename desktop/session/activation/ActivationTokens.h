@@ -11,7 +11,7 @@ class ActivationTokens {
 public:
     using Give = std::function<void(const QString &token)>;
 
-    // After the application object; null where the session knows no such thing.
+    // After the application object; null where the session has no such thing.
     static std::unique_ptr<ActivationTokens> create();
     virtual ~ActivationTokens() = default;
 

@@ -20,7 +20,7 @@ Instance::Claim Instance::claim()
 {
     if (!m_bus.isConnected())
         return Claim::noBus;
-    // First the object: once the name is there, it is called.
+    // The object first: once the name is there, calls come.
     m_bus.registerObject(QString::fromLatin1(remote::kPath), &m_service,
                          QDBusConnection::ExportScriptableSlots | QDBusConnection::ExportAdaptors);
     if (m_bus.registerService(QString::fromLatin1(remote::kService)))

@@ -16,11 +16,11 @@ public:
     enum class Claim {
         ours,
         anothers, // ask that one: desktop/session/remote
-        noBus, // nobody can ask for anything
+        noBus, // there is no bus to ask over
     };
     Claim claim();
 
-    // Once all can be done: what the session has asked for since the claim has waited for it.
+    // Once everything can be done: what the session has asked for since the claim has been waiting.
     void serve(const ApplicationService::Actions &actions, const ItemsService::Actions &items);
 
 private:

@@ -6,8 +6,8 @@
 
 namespace brimshade::desktop::session {
 
-// What the session asks for before the program can do it, which is later in the same start: the bus may have started
-// it for the very call. Main thread.
+// Requests that come before the program can carry them out, a moment later in the same start: the bus may have started
+// it for that very call. Main thread.
 class Waiting {
 public:
     using Work = std::function<void()>;
@@ -32,7 +32,7 @@ public:
     }
 
 private:
-    static constexpr std::size_t kMost = 16; // no more is asked for in earnest
+    static constexpr std::size_t kMost = 16; // nobody asks for more than that in earnest
 
     bool m_isReady = false;
     std::vector<Work> m_works;

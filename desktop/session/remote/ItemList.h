@@ -4,7 +4,7 @@
 
 namespace brimshade::desktop::session::remote {
 
-// An item of the bar as other programs are told of it. Text is UTF-8.
+// An item of the bar as other programs are told about it. Text is UTF-8.
 struct Item {
     std::string name, program;
     bool isHidden = false;

@@ -17,7 +17,7 @@ inline constexpr char kToggle[] = "toggle"; // opens the panel or closes it
 inline constexpr char kSettings[] = "settings";
 inline constexpr char kQuit[] = "quit";
 
-// All wait for the answer, at most five seconds, and never start a Brimshade. The error is for standard error. Any
+// All wait for the answer, for at most five seconds, and never start a Brimshade. The error is for standard error. Any
 // thread.
 std::expected<void, std::string> activate(); // opens the panel
 std::expected<void, std::string> activateAction(const char *action);

@@ -26,7 +26,8 @@ bool isMainProcessOfUnit()
     return qEnvironmentVariableIntValue("SYSTEMD_EXEC_PID") == getpid();
 }
 
-// By whoever finds out first, the watch or Qt; the other one waits here for the end, and so does whatever writes.
+// By whichever finds out first, the watch or Qt; the other one waits here for the end, as does every thread that
+// writes.
 [[noreturn]] void endAtOnce()
 {
     flockfile(stderr);
@@ -52,7 +53,8 @@ bool isGone(int connection)
     return poll(&state, 1, 0) > 0;
 }
 
-// Qt complains before it ends the process, and of what no longer works before it notices why: none of that is said.
+// Qt complains before it ends the process, and about what no longer works before it notices why: none of that is
+// passed on.
 void handleMessage(QtMsgType type, const QMessageLogContext &context, const QString &text)
 {
     if (isGone(connectionOfApplication()))

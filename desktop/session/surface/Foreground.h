@@ -8,7 +8,7 @@ class QScreen;
 
 namespace brimshade::desktop::session {
 
-// What the other programs of the session show. Main thread. Where the compositor does not tell, there is no application
+// What the other programs of the session show. Main thread. Where the compositor does not say, there is no application
 // and no screen is covered. While a surface of Brimshade's has the keys, the application that had them stays the
 // focused one.
 class Foreground : public QObject {

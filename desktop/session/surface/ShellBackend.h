@@ -35,7 +35,7 @@ public:
     // pressedOutside. On Wayland the press goes nowhere else, on X11 also to what it hit.
     virtual void watchOutside(bool on) = 0;
 
-    // False: transparent parts are black, see ShellSurface::setDrawnRegion.
+    // False: transparent parts would be black, see ShellSurface::setDrawnRegion.
     virtual bool isComposited() const = 0;
 
 Q_SIGNALS:

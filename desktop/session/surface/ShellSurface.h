@@ -30,7 +30,7 @@ public:
     QRect geometry() const; // of a bar: the width of its screen, and the height that was set
     QRegion inputRegion() const; // never empty: the whole window where none was set
     bool takesKeyboard() const { return m_takesKeyboard; }
-    bool isShown() const { return m_isShown; } // asked for; the window is visible from configured on
+    bool isShown() const { return m_isShown; } // it was asked for; the window is visible once configured came
 
     void setScreen(QScreen *screen);
     void setGeometry(const QRect &geometry);
@@ -41,7 +41,7 @@ public:
     // Takes all keys while it is shown; hidden, it gives them back to whoever had them.
     void setTakesKeyboard(bool takes);
 
-    // Needs a screen. Where the compositor has its say, configured comes later.
+    // Needs a screen. Where the compositor decides, configured comes later.
     void show();
     void hide(); // at once, and without a signal
 
@@ -59,7 +59,7 @@ protected:
 
 private:
     template <class Value> void set(Value &member, const Value &value, void (ShellSurface::*apply)());
-    // Everything that was set is to be in force after map; the others are called only in between.
+    // After map everything that was set must be in force; the others are called only while it is mapped.
     virtual void map() = 0;
     virtual void unmap() = 0;
     virtual void applyGeometry() = 0; // and the zone

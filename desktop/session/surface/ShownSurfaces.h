@@ -5,7 +5,7 @@
 
 namespace brimshade::desktop::session {
 
-// A back end's surfaces, as far as they are shown. Main thread.
+// Those of a back end's surfaces that are shown. Main thread.
 class ShownSurfaces : public QObject {
     Q_OBJECT
 public:

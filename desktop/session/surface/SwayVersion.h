@@ -16,7 +16,7 @@ public:
     Q_DISABLE_COPY_MOVE(SwayVersion)
 
     // Of the surfaces of one layer the one that came last is the lowest and the last to get the keys; every other
-    // compositor, and sway from 1.10 on, does it the other way round. The protocol leaves it open. False until the
+    // compositor, and sway from 1.10 on, does it the other way round. The protocol leaves this open. False until the
     // answer is there.
     bool stacksDownwards() const { return m_stacksDownwards; }
 

@@ -13,9 +13,9 @@ namespace brimshade::desktop::session {
 class ShownSurfaces;
 class WaylandGlobals;
 
-// From wlr-foreign-toplevel-management. It does not tell which windows are seen: a full-screen one may be on another
+// From wlr-foreign-toplevel-management. It does not say which windows are visible: a full-screen one may be on another
 // workspace. So a screen is covered when the window on it that was activated last is a full-screen one, and some window
-// of the session is activated still, or was until Brimshade took the keys.
+// of the session is still activated, or was until Brimshade took the keys.
 class WaylandForeground : public Foreground {
     Q_OBJECT
 public:

@@ -37,8 +37,8 @@ public:
     wl_shm *shm() const { return m_shm; }
     wp_viewporter *viewporter() const { return m_viewporter; }
     zwlr_layer_shell_v1 *layerShell() const { return m_layerShell; }
-    // Tells of all windows from then on, so whoever wants it binds it when the listener is there. The caller's; may be
-    // null.
+    // Reports all windows once it is bound, so whoever wants it binds it when the listener is there. The caller's; may
+    // be null.
     zwlr_foreign_toplevel_manager_v1 *bindToplevelManager() const;
 
     // Called with the surface that a button was pressed on or a finger put down on.

@@ -13,7 +13,7 @@ class ShownSurfaces;
 class WaylandGlobals;
 
 // Clicks outside: one transparent pixel stretched over each screen, with holes where the program's own surfaces are.
-// What lies above or below which is then all the same.
+// So it does not matter which surface lies above which.
 class WaylandOutside : public QObject {
     Q_OBJECT
 public:

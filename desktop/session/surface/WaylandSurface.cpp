@@ -46,7 +46,7 @@ bool WaylandSurface::eventFilter(QObject *watched, QEvent *event)
     return ShellSurface::eventFilter(watched, event);
 }
 
-// Somebody else has hidden or destroyed the window and is still about it.
+// Somebody else is in the middle of hiding or destroying the window.
 void WaylandSurface::closeWithoutRole()
 {
     if (!m_role)

@@ -23,7 +23,7 @@ void X11Focus::giveBack(xcb_window_t window)
     const auto found = std::ranges::find(m_takers, window);
     if (found == m_takers.end())
         return;
-    // Nobody else gets a word in between the look and the change: a window that was just clicked keeps the keys.
+    // Nothing can change between the look and the change: a window that was just clicked keeps the keys.
     xcb_grab_server(m_connection);
     const bool isOurs = std::ranges::find(m_takers, focused()) != m_takers.end();
     m_takers.erase(found);
@@ -42,7 +42,7 @@ xcb_window_t X11Focus::focused() const
     return reply ? reply->focus : xcb_window_t(XCB_INPUT_FOCUS_POINTER_ROOT);
 }
 
-// The window may be gone by then: that error is nobody's, and the keys go to what is under the pointer.
+// The window may be gone by then: that error is ignored, and the keys go to what is under the pointer.
 void X11Focus::focus(xcb_window_t window, xcb_timestamp_t time) const
 {
     const auto cookie = xcb_set_input_focus_checked(m_connection, XCB_INPUT_FOCUS_POINTER_ROOT, window, time);

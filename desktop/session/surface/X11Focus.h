@@ -5,7 +5,7 @@
 namespace brimshade::desktop::session {
 
 // Takes the keys for windows that the window manager does not manage, and gives them back to the window that had them
-// before the first of them did. Who was given the keys by somebody else meanwhile keeps them. Main thread; on Qt's
+// before the first of them did. A window that was given the keys otherwise meanwhile keeps them. Main thread; on Qt's
 // connection, so that requests stay in order with those that map and unmap the windows. Waits for one answer of the
 // server.
 class X11Focus {

@@ -9,8 +9,8 @@ namespace brimshade::desktop::session {
 
 class ShownSurfaces;
 
-// From what the window manager says of its clients. A screen is covered when a full-screen window on it has the focus,
-// or is the uppermost there.
+// From what the window manager says about its clients. A screen is covered when a full-screen window on it has the
+// focus, or is the uppermost there.
 class X11Foreground : public Foreground {
     Q_OBJECT
 public:

@@ -5,7 +5,8 @@ namespace brimshade::desktop::session {
 
 class ShownSurfaces;
 
-// Presses anywhere on the display, as the devices report them: no grab, so they arrive where they were aimed as well.
+// Presses anywhere on the display, as the devices report them: without a grab, so that they also arrive where they were
+// aimed.
 class X11Outside : public QObject {
     Q_OBJECT
 public:

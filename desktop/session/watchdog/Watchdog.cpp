@@ -38,7 +38,7 @@ void Watchdog::endProcess()
     constexpr std::string_view message =
         "brimshade: it hung while it had the keyboard, and ended to give that back; start it again with: brimshade "
         "--session\n";
-    // Nothing that a lock or a full pipe could hold up.
+    // Nothing here may be held up by a lock or a full pipe.
     pollfd standardError{STDERR_FILENO, POLLOUT, 0};
     if (poll(&standardError, 1, 0) == 1 && write(STDERR_FILENO, message.data(), message.size()) < 0) { }
     _exit(1);

@@ -8,9 +8,9 @@
 
 namespace brimshade::desktop::session {
 
-// Ends the process when its main thread hangs while all keys of the session come to it: nobody could use the keyboard
-// again. The main thread is asked a few times a second, on a thread of the watchdog's own, which sleeps while there is
-// nothing to watch. A process that is stopped and continued lives on.
+// Ends the process when its main thread hangs while all keys of the session come to it: the keyboard would be of no
+// use again. The main thread is asked a few times a second, on a thread of the watchdog's own, which sleeps while there
+// is nothing to watch. A process that is stopped and continued lives on.
 class Watchdog {
 public:
     // How its thread sees time.

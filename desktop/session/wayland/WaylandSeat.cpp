@@ -8,7 +8,7 @@ namespace brimshade::desktop::session {
 
 namespace {
 
-constexpr std::uint32_t kReleaseVersion = 3; // of the seat: before it devices are not given back
+constexpr std::uint32_t kReleaseVersion = 3; // of the seat: earlier ones cannot release devices
 
 template <class Device> void giveBack(Device *device, void (*release)(Device *), void (*destroy)(Device *))
 {
@@ -36,7 +36,7 @@ WaylandSeat::~WaylandSeat()
     wl_seat_destroy(m_seat);
 }
 
-// A compositor ends the connection of who asks for a device that never was.
+// A compositor ends the connection of a client that asks for a device that never existed.
 void WaylandSeat::setCapabilities(std::uint32_t capabilities)
 {
     const bool hasPointer = capabilities & WL_SEAT_CAPABILITY_POINTER;

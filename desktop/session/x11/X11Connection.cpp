@@ -69,7 +69,7 @@ X11Connection::X11Connection(xcb_connection_t *connection, int screenNumber)
         m_atoms[i] = reply ? reply->atom : xcb_atom_t(XCB_ATOM_NONE);
     }
     connect(&m_notifier, &QSocketNotifier::activated, this, &X11Connection::readEvents);
-    // Waiting for an answer takes events off the socket, of which the notifier then knows nothing; and requests that
+    // Waiting for an answer takes events off the socket without the notifier's knowledge; and requests that
     // were made meanwhile go out.
     connect(QAbstractEventDispatcher::instance(), &QAbstractEventDispatcher::aboutToBlock, this,
             &X11Connection::readEvents);

@@ -34,7 +34,7 @@ enum class X11Atom {
     XEmbed,
     XEmbedInfo,
     CompositingManager, // the selection that the compositing manager of the screen owns
-    SystemTray, // the one that whoever shows the icons owns that programs dock there
+    SystemTray, // the one whose owner shows the icons that programs dock there
     Count,
 };
 
@@ -52,7 +52,7 @@ public:
     xcb_window_t root() const { return m_screen->root; }
     xcb_atom_t atom(X11Atom atom) const { return m_atoms[std::size_t(atom)]; }
 
-    // Of an open property read: its 32-bit numbers, or its bytes; none when the window or the property is gone.
+    // Of a property read under way: its 32-bit numbers, or its bytes; none when the window or the property is gone.
     std::vector<std::uint32_t> numbers(xcb_get_property_cookie_t cookie) const;
     QByteArray bytes(xcb_get_property_cookie_t cookie) const;
     xcb_get_property_cookie_t requestNumbers(xcb_window_t window, X11Atom property) const;

@@ -18,7 +18,7 @@ bool wantsPresses(const X11Connection &x11, xcb_window_t window)
     return reply && (reply->all_event_masks & XCB_EVENT_MASK_BUTTON_PRESS);
 }
 
-// The innermost window there that wants presses; nothing where none does: then its program reads devices instead.
+// The innermost window there that wants presses; absent where none does: then its program reads devices instead.
 std::optional<xcb_window_t> listener(const X11Connection &x11, xcb_window_t outer, QPoint inside)
 {
     std::optional<xcb_window_t> found;

@@ -6,8 +6,8 @@
 
 namespace brimshade::desktop::session {
 
-// Clicks that wait until they can be made: no button of a pointer is held, since while one is nobody else's menu gets
-// the pointer, and the server has told its time, without which programs' windows do not come to the front. On the
+// Clicks that wait until they can be made: no button of a pointer is held, since no other menu gets the pointer while
+// one is, and the server has told its time, without which programs' windows do not come to the front. On the
 // connection's thread.
 class DockedClicks : public QObject {
     Q_OBJECT

@@ -28,7 +28,7 @@ std::unique_ptr<DockedWindow> DockedWindow::dock(X11Connection &x11, xcb_window_
 {
     if (window == x11.root() || isOwn(x11.xcb(), window))
         return nullptr;
-    // Before it is looked at: no change is missed.
+    // Before it is read, so that no change is missed.
     const std::uint32_t mask = XCB_EVENT_MASK_STRUCTURE_NOTIFY | XCB_EVENT_MASK_PROPERTY_CHANGE;
     xcb_change_window_attributes(x11.xcb(), window, XCB_CW_EVENT_MASK, &mask);
     const auto cookie = xcb_get_window_attributes(x11.xcb(), window);
@@ -55,7 +55,7 @@ DockedWindow::DockedWindow(X11Connection &x11, xcb_window_t window, int side, co
     followWish();
 }
 
-// What is asked of a window that was destroyed does nothing.
+// Requests about a destroyed window do nothing.
 DockedWindow::~DockedWindow()
 {
     xcb_connection_t *connection = m_x11.xcb();
@@ -105,7 +105,7 @@ void DockedWindow::embed()
                          XCB_CONFIG_WINDOW_X | XCB_CONFIG_WINDOW_Y | XCB_CONFIG_WINDOW_WIDTH | XCB_CONFIG_WINDOW_HEIGHT
                              | XCB_CONFIG_WINDOW_BORDER_WIDTH,
                          geometry);
-    // Nothing of it goes to the screen.
+    // No part of it goes to the screen.
     xcb_composite_redirect_window(connection, m_window, XCB_COMPOSITE_REDIRECT_MANUAL);
     xcb_damage_create(connection, m_damage, m_window, XCB_DAMAGE_REPORT_LEVEL_NON_EMPTY);
     xcb_client_message_event_t message{};

@@ -22,7 +22,7 @@ template <class Event> const Event &as(const xcb_generic_event_t &event)
     return reinterpret_cast<const Event &>(event);
 }
 
-// No extension answers before it was asked for its version.
+// An extension answers only after it was asked for its version.
 void askVersions(xcb_connection_t *connection)
 {
     xcb_discard_reply(connection, xcb_composite_query_version(connection, 0, 4).sequence);
@@ -30,8 +30,8 @@ void askVersions(xcb_connection_t *connection)
     xcb_discard_reply(connection, xcb_res_query_version(connection, 1, 2).sequence);
 }
 
-// Waits until the server has done all that it was asked for: a connection that is closed with events unread may take
-// with it what the server has not read.
+// Waits until the server has done everything that was asked of it: a connection that is closed with events unread may
+// take with it what the server has not read.
 void finish(xcb_connection_t *connection)
 {
     const X11Reply<xcb_get_input_focus_reply_t> done(

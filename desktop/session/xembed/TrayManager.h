@@ -10,8 +10,8 @@
 namespace brimshade::desktop::session {
 
 // The tray of an X server's screen, as programs know it that dock a window there: it owns the selection while nobody
-// else does, has their windows, and tells what each of them shows. On a thread of its own with an event loop, since it
-// waits for the server.
+// else does, has their windows, and reports what each of them shows. On a thread of its own with an event loop, since
+// it waits for the server.
 class TrayManager : public QObject {
     Q_OBJECT
 public:

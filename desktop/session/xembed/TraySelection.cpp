@@ -53,7 +53,7 @@ void TraySelection::follow()
         prepare();
 }
 
-// The selection is taken at a time of the server's, which the change of a property tells.
+// The selection is taken at a time of the server's, which the change of a property reveals.
 void TraySelection::prepare()
 {
     m_window = xcb_generate_id(m_x11.xcb());

@@ -12,7 +12,7 @@ public:
     ~TraySelection() override;
 
     xcb_window_t window() const { return m_window; } // that programs send their wishes to; XCB_WINDOW_NONE without
-    void askTime(); // the server's, which timeCame tells; nothing without a window
+    void askTime(); // the server's, which timeCame reports; does nothing without a window
 
 Q_SIGNALS:
     void lost(); // while the window is there: programs turn to the next owner when it goes

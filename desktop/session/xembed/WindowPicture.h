@@ -14,7 +14,7 @@ struct PixelLayout {
     bool hasAlpha() const { return depth == 32; }
 };
 
-// Nothing where it is none of 8 bits a colour in 32 bits a pixel, red above blue: pictures of no other are read.
+// Absent unless it has 8 bits a colour in 32 bits a pixel, red above blue: no other pictures are read.
 std::optional<PixelLayout> layoutOf(const xcb_setup_t &setup, const xcb_screen_t &screen, xcb_visualid_t visual);
 
 // The screen's visual for windows with alpha; XCB_NONE when it has none.

@@ -44,7 +44,7 @@ QString instanceOf(std::uint32_t window)
     return u"window 0x%1"_s.arg(window, 0, 16);
 }
 
-// A process that is not known counts as one of that window alone.
+// An unknown process counts as one that has this window alone.
 int processOf(const DockedItem &item)
 {
     return item.pid > 0 ? item.pid : -int(item.window);

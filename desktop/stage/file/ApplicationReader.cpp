@@ -67,7 +67,7 @@ Fault readExtras(const QJsonValue &value, const QString &path, Extras &into)
     return readList(value, path, kMostExtras, into, readExtra);
 }
 
-// Before anything recurses into groups. 0 for what is no list.
+// Before anything recurses into groups. 0 for anything but a list.
 bool isDeeper(const QJsonValue &extras, int levels)
 {
     const QJsonArray list = extras.toArray();
@@ -77,7 +77,7 @@ bool isDeeper(const QJsonValue &extras, int levels)
     });
 }
 
-// By its header: its pixels are read when it is drawn. What is no regular file could keep a reader waiting.
+// By its header: its pixels are read when it is drawn. Anything but a regular file could keep a reader waiting.
 bool isPicture(const QString &path)
 {
     const QSize size = QFileInfo(path).isFile() ? QImageReader(path).size() : QSize();

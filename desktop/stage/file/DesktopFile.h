@@ -5,7 +5,7 @@
 #include <QJsonValue>
 #include <expected>
 
-// Reading of desktop files and of the same pieces in scripts. An error is one sentence that starts with the place,
+// Reads desktop files, and the same pieces in scripts. An error is one sentence that starts with the place,
 // "applications[2].extras[0].width: expected a number".
 namespace brimshade::desktop {
 

@@ -6,7 +6,7 @@ namespace brimshade::desktop {
 AnimationClock::AnimationClock(VirtualDispatch &clock) : m_clock(clock)
 {
     install();
-    // By the time of a frame all may have ended, and to advance then would start the toolkit's clock for nothing.
+    // By the time of a frame all may have ended; advancing then would start the toolkit's clock for nothing.
     m_clock.setFrames([this] { return isRunning(); }, [this] { catchUp(); });
 }
 
@@ -18,7 +18,7 @@ AnimationClock::~AnimationClock()
 
 qint64 AnimationClock::elapsed() const
 {
-    constexpr double half = 0.0005; // the nearest millisecond: a sixtieth is none
+    constexpr double half = 0.0005; // rounded: a sixtieth of a second is no whole number of milliseconds
     return static_cast<qint64>((m_clock.now() - m_startTime + half) * 1000);
 }
 

@@ -14,7 +14,7 @@ public:
     ~AnimationClock() override;
 
     qint64 elapsed() const override; // milliseconds since the driver started
-    void catchUp(); // brings what runs to the present instant, which may lie between two frames
+    void catchUp(); // brings running animations to the present instant, which may lie between two frames
 
 protected:
     void start() override;

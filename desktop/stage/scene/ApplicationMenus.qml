@@ -2,7 +2,7 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import Brimshade.Ui
 
-// The active application's menus at the left end of the bar. A decoration: they do not open.
+// The active application's menus at the left end of the bar. Decoration only: they do not open.
 Row {
     id: root
 

@@ -11,7 +11,7 @@ namespace brimshade::desktop {
 
 class Desktop;
 
-// What applications have to say, for three seconds each; the latest first. Main thread.
+// Applications' messages, each shown for three seconds; the latest first. Main thread.
 // The base is spelled in full: the registrar of QML types finds it by its spelling.
 class BannerModel : public brimshade::ui::ListModel {
     Q_OBJECT

@@ -3,7 +3,7 @@ import QtQuick
 import Brimshade.Desktop
 import Brimshade.Ui
 
-// What an application has to say: slides in from the right, and out again.
+// An application's message: slides in from the right, and out again.
 Item {
     id: root
 

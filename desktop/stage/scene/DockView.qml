@@ -3,7 +3,7 @@ import QtQuick
 import Brimshade.Stage
 import Brimshade.Ui
 
-// The running applications' icons at the foot of the screen. A decoration: applications are opened elsewhere.
+// The running applications' icons at the foot of the screen. Decoration only: applications are opened elsewhere.
 Item {
     id: root
 

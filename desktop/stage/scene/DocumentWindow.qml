@@ -3,7 +3,7 @@ import QtQuick
 import Brimshade.Desktop
 import Brimshade.Ui
 
-// Another application's window, so that the screen looks lived in. A decoration: it takes no input.
+// Another application's window, so that the screen looks lived in. Decoration only: it takes no input.
 Item {
     id: root
 

@@ -15,7 +15,7 @@ namespace {
 constexpr double kDeviation = 18; // points
 constexpr double kGrain = 6; // points a pixel while it is blurred: it has no detail then
 
-// Beyond its edges counts as more of the same: there is nothing to average with, and then the alpha is left out.
+// Beyond its edges the picture counts as continuing: there is nothing to average with there.
 QImage blurredWallpaper(const QSizeF &whole)
 {
     QImage small((whole / kGrain).toSize().expandedTo({1, 1}), QImage::Format_ARGB32_Premultiplied);

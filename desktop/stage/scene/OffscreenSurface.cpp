@@ -8,20 +8,21 @@
 
 namespace brimshade::desktop {
 
-// The control is never initialized: that is for the other renderers, and finds itself a GL where there is a display.
+// The control is never initialized: only the other renderers need that, and it would pick up GL where there is a
+// display.
 OffscreenSurface::OffscreenSurface()
     : m_control(std::make_unique<QQuickRenderControl>()), m_window(std::make_unique<QQuickWindow>(m_control.get()))
 {
     m_window->setColor(Qt::transparent);
     ui::PictureCache::of(m_window.get())->setAwaited(true);
-    // No window system ever makes it the active window, without which no item gets a key.
+    // No window system ever makes it the active window, and without that no item gets a key.
     QFocusEvent focus(QEvent::FocusIn, Qt::ActiveWindowFocusReason);
     QCoreApplication::sendEvent(m_window.get(), &focus);
 }
 
 OffscreenSurface::~OffscreenSurface()
 {
-    m_window.reset(); // the control says that it goes first, but the window still uses it
+    m_window.reset(); // documented to go first, but the window still uses it
 }
 
 void OffscreenSurface::setSize(QSize size, double scale)

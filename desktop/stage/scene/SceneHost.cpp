@@ -38,7 +38,7 @@ std::unique_ptr<QQuickWindow> sessionWindow(QSize desktop)
     auto window = std::make_unique<QQuickWindow>();
     window->setTitle(u"Brimshade"_s);
     window->setColor(Qt::black);
-    // As large as it is where the session's screen has room for it, else as large as fits beside a window manager.
+    // In its own size where the session's screen has room for that, else as large as a window manager leaves room for.
     const QScreen *screen = QGuiApplication::primaryScreen();
     const QSize room = screen ? screen->availableGeometry().size() : desktop;
     const bool hasRoom = desktop.width() <= room.width() && desktop.height() <= room.height();
@@ -103,7 +103,7 @@ SceneHost::Private::Private(Desktop &desktop_, VirtualDispatch *clock, std::opti
 
 SceneHost::Private::~Private()
 {
-    // What is drawn goes before what it shows, and the items before their window.
+    // Views go before what they show, and items before their window.
     hands.reset();
     input.reset();
     windows.reset();
@@ -240,7 +240,7 @@ std::optional<QImage> SceneHost::picture(const QString &windowName)
         return {};
     settle();
     return m_d->surface ? m_d->onlyFrame(*frame)
-                        : m_d->partOf(m_d->whole(), *frame); // nothing vanishes before a person's eyes
+                        : m_d->partOf(m_d->whole(), *frame); // nothing may vanish while a person looks
 }
 
 QQuickItem *SceneHost::contentOf(const DesktopWindow *window) const

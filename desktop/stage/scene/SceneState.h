@@ -14,7 +14,7 @@ namespace brimshade::desktop {
 
 class Desktop;
 
-// Everything that the desktop's own views show, but the program's windows. Display space. Main thread.
+// Everything that the desktop's own views show, except the program's windows. Display space. Main thread.
 class SceneState : public QObject {
     Q_OBJECT
     QML_ELEMENT
@@ -45,7 +45,7 @@ public:
     QPointF pointer() const;
     bool isPointerDrawn() const { return m_alwaysDrawsPointer || m_wasWarped; }
 
-    void handMoved(); // the pointer is where a hand is again
+    void handMoved(); // the pointer is the hand's again
 
 Q_SIGNALS:
     void screensChanged();

@@ -77,7 +77,7 @@ void paintSky(QPainter &painter, const QSizeF &size)
 
 void paintStars(QPainter &painter, const QSizeF &size)
 {
-    QRandomGenerator random(11); // the same sky every time
+    QRandomGenerator random(11); // the same sky each time
     for (int i = 0; i < 150; ++i) {
         const double height = std::pow(random.generateDouble(), 1.5) * 0.34;
         const double radius = 0.35 + 0.75 * std::pow(random.generateDouble(), 3);
