@@ -19,7 +19,7 @@ public:
     std::optional<platform::Event> handle(const platform::Event &event) const;
 
 private:
-    bool command(std::uint16_t keyCode) const; // false when the key is none
+    bool command(std::uint16_t keyCode) const; // false when the key is not a command
     bool type(const platform::Event &event) const;
     void escape() const;
     void choose() const;

@@ -73,10 +73,10 @@ Fault faultInRequest(const QCommandLineParser &parser, const Options &options)
     for (const QCommandLineOption &each :
          {options.toggle, options.settings, options.quit, options.open, options.list}) {
         if (parser.isSet(each))
-            return u"%1 goes alone"_s.arg(written(each));
+            return u"%1 cannot be combined with other options"_s.arg(written(each));
     }
     if (parser.isSet(options.json))
-        return u"--json goes with --list"_s;
+        return u"--json requires --list"_s;
     return {};
 }
 
@@ -86,14 +86,14 @@ Fault faultInCompany(const QCommandLineParser &parser, const Options &options)
     const auto needs = [&](const QList<QCommandLineOption> &dependents, const QCommandLineOption &needed) -> Fault {
         for (const QCommandLineOption &each : dependents) {
             if (parser.isSet(each) && !parser.isSet(needed))
-                return u"%1 goes with %2"_s.arg(written(each), written(needed));
+                return u"%1 requires %2"_s.arg(written(each), written(needed));
         }
         return {};
     };
     const auto excludes = [&](const QCommandLineOption &one, const QList<QCommandLineOption> &others) -> Fault {
         for (const QCommandLineOption &each : others) {
             if (parser.isSet(one) && parser.isSet(each))
-                return u"%1 and %2 exclude each other"_s.arg(written(one), written(each));
+                return u"%1 and %2 cannot be combined"_s.arg(written(one), written(each));
         }
         return {};
     };

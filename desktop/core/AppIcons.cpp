@@ -85,7 +85,7 @@ platform::Image makeIcon(const ApplicationDescription &application)
     auto image = imageOf(pictureOf(*application.icon, application), kPoints);
     if (!image.isNull())
         return image;
-    qWarning().noquote() << u"application %1: no picture is to be had from \"%2\""_s.arg(application.pid)
+    qWarning().noquote() << u"application %1: no picture can be read from \"%2\""_s.arg(application.pid)
                                 .arg(application.icon->left(200));
     return genericIcon();
 }

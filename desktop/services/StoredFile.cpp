@@ -54,7 +54,7 @@ bool readStored(const StoredFile &stored, const Report &report, const std::funct
     if (!file.exists())
         return true;
     if (!QFileInfo(stored.path).isFile()) { // a device or a folder is not ours to move away
-        say(stored, report, u"are not saved: this is no file"_s);
+        say(stored, report, u"are not saved: this is not a file"_s);
         return false;
     }
     if (!file.open(QIODevice::ReadOnly)) {

@@ -53,7 +53,7 @@ void ItemClient::receive(const BusReply &reply)
             Q_EMIT gone();
             return;
         }
-        say(u"it does not tell its properties: %1"_s.arg(reply.error().text));
+        say(u"its properties cannot be read: %1"_s.arg(reply.error().text));
         m_refresh.failed();
         return;
     }

@@ -55,7 +55,7 @@ void ItemRegistry::findWatcher()
             if (reply)
                 watcherChanged(reply->value(0).toString());
             else
-                Q_EMIT message(u"Tray: the bus gives nobody the watcher's name"_s);
+                Q_EMIT message(u"Tray: the bus does not give out the watcher's name"_s);
         });
     });
 }
@@ -88,7 +88,7 @@ void ItemRegistry::readForeignItems()
     callAsync(m_bus, properties, u"Get"_s, {watcherName(), u"RegisteredStatusNotifierItems"_s}, this,
               [this](const BusReply &reply) {
                   if (!reply) {
-                      Q_EMIT message(u"Tray: the other watcher does not tell its items"_s);
+                      Q_EMIT message(u"Tray: the other watcher does not list its items"_s);
                       return;
                   }
                   for (const auto &item : reply->value(0).toStringList())
@@ -144,7 +144,7 @@ void ItemRegistry::add(const ItemKey &key, const QString &registeredAs)
         std::count_if(m_items.begin(), m_items.end(), [&](const auto &item) { return item.first.owner == key.owner; });
     if (m_items.size() >= kMostItems || ofOwner >= kMostItemsOfOneOwner) {
         if (!std::exchange(m_saidFull, true))
-            Q_EMIT message(u"Tray: too many items, those behind the first ones are left out"_s);
+            Q_EMIT message(u"Tray: too many items; only the first ones are shown"_s);
         return;
     }
     if (!m_items.emplace(key, registeredAs).second)

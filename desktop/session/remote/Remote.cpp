@@ -115,7 +115,7 @@ std::expected<std::vector<Item>, std::string> listItems()
     if (!reply)
         return Fault(reply.error());
     if (!dbus_message_has_signature(reply->get(), "a(ssb)"))
-        return Fault("the one that runs in this session answers something else than a list");
+        return Fault("the one that runs in this session answers with something other than a list");
     DBusMessageIter answer, array;
     dbus_message_iter_init(reply->get(), &answer);
     dbus_message_iter_recurse(&answer, &array);

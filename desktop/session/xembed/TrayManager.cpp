@@ -159,7 +159,7 @@ void TrayManager::dock(xcb_window_t window)
         return;
     if (m_windows.size() >= kMostWindows) {
         if (!std::exchange(m_saidFull, true))
-            Q_EMIT message(u"Tray: too many icons are docked, those behind the first ones are left out"_s);
+            Q_EMIT message(u"Tray: too many icons are docked; only the first ones are shown"_s);
         return;
     }
     if (auto docked = DockedWindow::dock(*m_x11, window, m_side))

@@ -94,7 +94,7 @@ Fault readIcon(const QJsonValue &value, const QString &path, ApplicationDescript
     if (into.icon->startsWith(u'#') && !colour.match(*into.icon).hasMatch())
         return fault(path, u"expected #rrggbb, a picture's path or an icon's name"_s);
     if (into.icon->contains(u'/') && !isPicture(*into.icon))
-        return fault(path, u"expected a picture, %1 is none"_s.arg(*into.icon));
+        return fault(path, u"expected a picture, %1 is not one"_s.arg(*into.icon));
     return {};
 }
 

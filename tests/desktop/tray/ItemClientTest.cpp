@@ -278,7 +278,7 @@ TEST_F(ItemClientTest, AProgramMayBringUpItsWindowsBeforeItIsAskedTo)
     client().menu()->choose(1);
     client().menu()->close();
     waitUntil([&] { return bool(give); });
-    give({}); // none is to be had
+    give({}); // there is none
     waitUntil([&] { return asked().size() == 2; });
     EXPECT_EQ(asked(), (QStringList{u"Event 1 clicked"_s, u"Event 0 closed"_s}));
 

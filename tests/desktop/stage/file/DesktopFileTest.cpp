@@ -135,7 +135,7 @@ TEST(DesktopFileTest, FaultsNameTheirPlace)
         {withApplications(R"([{"pid": 1, "icon": "#12345"}])"),
          "applications[0].icon: expected #rrggbb, a picture's path or an icon's name"},
         {withApplications(R"([{"pid": 1, "icon": "/dev/zero"}])"),
-         "applications[0].icon: expected a picture, /dev/zero is none"},
+         "applications[0].icon: expected a picture, /dev/zero is not one"},
         {withApplications(R"([{"pid": 1, "Name": ""}])"), "applications[0].Name: unknown key"},
         {withApplications(R"([{"pid": 1}, {"pid": 2}, {"pid": 3, "extras": [{"width": "wide"}]}])"),
          "applications[2].extras[0].width: expected a number"},
