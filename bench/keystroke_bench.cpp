@@ -20,6 +20,7 @@ class NoDefaults : public platform::UserDefaults {
     void setBool(bool, const QString &) override { }
     void setInteger(qlonglong, const QString &) override { }
     void setObject(const QString &, const QString &) override { }
+    void setArray(const QVariantList &, const QString &) override { }
 };
 
 class NoLoginItems : public platform::LoginItems {
