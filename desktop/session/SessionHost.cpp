@@ -39,7 +39,8 @@ SessionHost::SessionHost(Desktop &desktop, SessionScreens &screens, ShellBackend
       m_clock(desktop.platform().dispatch, [] { return QDateTime::currentDateTime(); }),
       m_applicationNames(desktop.platform().dispatch), m_barState(desktop.menuBar(), m_clock),
       m_barTip(desktop.menuBar(), desktop.input(), desktop.platform().dispatch),
-      m_menu(desktop.menus(), [this](QPointF point) { return screenFrameAt(point); })
+      m_menu(desktop.menus(), [this](QPointF point) { return screenFrameAt(point); }),
+      m_unusedMemory(*m_engine, desktop.platform().dispatch)
 {
     m_engine->addImportPath(u"qrc:/qt/qml"_s);
     // Before the bar learns of it: it asks the desktop where it is.
@@ -120,7 +121,9 @@ void SessionHost::update()
 {
     const bool isOverlayOpen = std::ranges::any_of(
         m_windows, [](const auto &each) { return each.second->takesInput() && each.second->isOverlay(); });
-    m_shell.watchOutside(isOverlayOpen || m_menu.isOpen());
+    const bool isOpen = isOverlayOpen || m_menu.isOpen();
+    m_shell.watchOutside(isOpen);
+    m_unusedMemory.setInUse(isOpen);
     if (std::exchange(m_tookKeyboard, takesKeyboard()) != takesKeyboard())
         Q_EMIT takesKeyboardChanged();
 }

@@ -2,6 +2,7 @@
 #include "ApplicationNames.h"
 #include "BarState.h"
 #include "Pane.h"
+#include "UnusedMemory.h"
 #include "desktop/script/ScriptHost.h"
 #include "desktop/session/surface/ShellBackend.h"
 #include "desktop/views/BarTip.h"
@@ -84,6 +85,7 @@ private:
     std::unique_ptr<TipPane> m_tip;
     std::map<DesktopWindow *, std::unique_ptr<WindowPane>> m_windows;
     std::unique_ptr<ScriptHands> m_hands;
+    UnusedMemory m_unusedMemory;
     QPointer<QWindow> m_keyTaker; // takes every key
     QObject *m_hovered = nullptr; // the window that the pointer is in; only compared
     bool m_tookKeyboard = false;
