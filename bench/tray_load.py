@@ -2,14 +2,17 @@
 """bench/tray_load.py PROGRAM: what busy tray items cost a session's bar whose panel is closed, and what 200 openings of a
 tray item's menu leave in memory.
 
-Ten items of our own draw a new icon ten times a second each. The reference is the same program with ten items that rest,
-and for the memory the process after its twentieth opening."""
+Ten items of our own draw a new icon ten times a second each: items of the bus, then windows docked into the X server's
+tray. The reference is the same program with ten items that rest, and for the memory the process after its twentieth
+opening."""
+import json
 import pathlib
+import subprocess
 import sys
 import time
 
 sys.path.insert(0, str(pathlib.Path(__file__).resolve().parent.parent / "tests" / "support"))
-from program import ESCAPE, Session  # noqa: E402
+from program import ESCAPE, SUPPORT, Session  # noqa: E402
 from lib.brimshade import Brimshade  # noqa: E402
 from usage import cpu_seconds, resident_kib  # noqa: E402
 
@@ -25,14 +28,24 @@ def start(session, program):
 def add_items(session, brimshade, icons_a_second):
     for number in range(ITEMS):
         session.start_item({"properties": {"Id": f"mock{number}", "Title": f"Mock {number}"}, "icons": icons_a_second})
+    until_all(brimshade)
+
+
+def dock_items(session, brimshade, icons_a_second):
+    wanted = {"name": "mock", "count": ITEMS, "draws": icons_a_second}
+    session.start("/usr/bin/python3", SUPPORT / "mock_docker.py", json.dumps(wanted), stdin=subprocess.PIPE)
+    until_all(brimshade)
+
+
+def until_all(brimshade):
     brimshade.until("all items", lambda s: sum("mock" in (i["identifier"] or "") for i in s["menuBar"]) == ITEMS)
 
 
-def processor_time(program, icons_a_second):
+def processor_time(program, add, icons_a_second):
     session = Session()
     try:
         brimshade = start(session, program)
-        add_items(session, brimshade, icons_a_second)
+        add(session, brimshade, icons_a_second)
         before = cpu_seconds(brimshade.pid)
         time.sleep(SECONDS)
         return (cpu_seconds(brimshade.pid) - before) / SECONDS
@@ -59,8 +72,9 @@ def memory_after_openings(program):
 
 
 def main(program):
-    rest, busy = processor_time(program, 0), processor_time(program, ICONS_A_SECOND)
-    print(f"{ITEMS} items at rest {rest:.2%} of a core, at {ICONS_A_SECOND} icons a second {busy:.2%}")
+    for kind, add in (("items", add_items), ("docked windows", dock_items)):
+        rest, busy = (processor_time(program, add, icons) for icons in (0, ICONS_A_SECOND))
+        print(f"{ITEMS} {kind} at rest {rest:.2%} of a core, at {ICONS_A_SECOND} icons a second {busy:.2%}")
     resident = memory_after_openings(program)
     print(f"resident: opening {FIRST} {resident[FIRST - 1] / 1024:.1f} MiB, opening {OPENINGS} {resident[-1] / 1024:.1f} MiB, "
           f"most {max(resident) / 1024:.1f} MiB")

@@ -4,11 +4,12 @@ import itertools
 import json
 import pathlib
 import signal
+import subprocess
 import sys
 import unittest
 
 sys.path.insert(0, str(pathlib.Path(__file__).resolve().parent.parent / "support"))
-from program import PATIENCE, Program, Session  # noqa: E402
+from program import PATIENCE, SUPPORT, Program, Session  # noqa: E402
 
 COMMAND = sys.argv[1:]
 del sys.argv[1:]
@@ -20,6 +21,7 @@ DESKTOP = {
                       "extras": [{"identifier": "com.example.menuextra.clock", "width": 132}]}],
 }
 NAMES = ["Relay", "Vault", "Quill"]
+DOCKED = ["Vault"] if "--session" in COMMAND else []  # its item is a window in the X server's tray
 OWN = "BrimshadeButton"
 
 
@@ -45,7 +47,11 @@ class Restarts(unittest.TestCase):
 
     def start(self, names):
         for name in names:
-            self.programs[name] = self.session.start_item({"properties": {"Id": name.lower(), "Title": name}})
+            if name in DOCKED:
+                self.programs[name] = self.session.start("/usr/bin/python3", SUPPORT / "mock_docker.py",
+                                                         json.dumps({"name": name}), stdin=subprocess.PIPE)
+            else:
+                self.programs[name] = self.session.start_item({"properties": {"Id": name, "Title": name}})
 
     def end(self, names):
         for name in names:
@@ -56,8 +62,7 @@ class Restarts(unittest.TestCase):
     @staticmethod
     def items(state):
         """The programs' items and the own one, left to right."""
-        known = [name.lower() for name in [*NAMES, "Pigment"]]
-        return [item for item in state["menuBar"] if item["identifier"] in [*known, OWN]]
+        return [item for item in state["menuBar"] if item["identifier"] in [*NAMES, "Pigment", OWN]]
 
     def order(self, state):
         return [item["identifier"] for item in self.items(state)]
@@ -67,7 +72,7 @@ class Restarts(unittest.TestCase):
 
     def open_panel(self, names, hidden, when=""):
         """Once the bar is at rest: a scan takes what it finds."""
-        drawn = {OWN: True} | {name.lower(): name not in hidden for name in names}
+        drawn = {OWN: True} | {name: name not in hidden for name in names}
         self.brimshade.until(f"{when}{drawn} in the bar", lambda s: s["time"] >= self.came + AT_REST
                              and s["divider"]["isExpanded"]
                              and drawn == {item["identifier"]: item["drawn"] for item in self.items(s)})
@@ -124,7 +129,7 @@ class Restarts(unittest.TestCase):
         self.came = self.brimshade.until("three items", lambda s: len(self.order(s)) == 4 and s)["time"]
         self.tuck_away("Vault")
         order = self.order(self.brimshade.state())
-        self.assertEqual(order[:2], ["vault", OWN])
+        self.assertEqual(order[:2], ["Vault", OWN])
         self.expect_only_vault_hidden(NAMES)
         permutations = itertools.cycle(itertools.permutations(NAMES))
         for number in range(ROUNDS):
@@ -132,7 +137,7 @@ class Restarts(unittest.TestCase):
             self.until_order(order, f"restart {number}: ")
             self.expect_only_vault_hidden(NAMES, f"restart {number}: ")
         self.start(["Pigment"])
-        self.until_order([*order[:2], "pigment", *order[2:]])
+        self.until_order([*order[:2], "Pigment", *order[2:]])
         self.expect_only_vault_hidden([*NAMES, "Pigment"])
         self.end_brimshade(False)
 

@@ -149,8 +149,10 @@ void TrayManager::handleProperty(const xcb_property_notify_event_t &change)
         return found->second.window->followWish();
     const bool isText = change.atom == XCB_ATOM_WM_CLASS || change.atom == XCB_ATOM_WM_NAME
         || change.atom == m_x11->atom(X11Atom::NetWmName);
-    if (isText)
-        look(change.window);
+    if (!isText)
+        return;
+    found->second.areTextsOld = true;
+    look(change.window);
 }
 
 void TrayManager::dock(xcb_window_t window)
@@ -213,7 +215,8 @@ void TrayManager::lookAtAll()
 
 void TrayManager::tell(xcb_window_t window, Docked &docked)
 {
-    docked.window->readTexts();
+    if (std::exchange(docked.areTextsOld, false))
+        docked.window->readTexts();
     docked.window->readPicture();
     const DockedItem &item = docked.window->item();
     const bool isNew = docked.told.window == XCB_WINDOW_NONE;

@@ -32,6 +32,7 @@ private:
         std::unique_ptr<DockedWindow> window;
         DockedItem told; // of which changed() was last said; of no window when it was not
         int emptyLooks = 0;
+        bool areTextsOld = true;
     };
     using Windows = std::map<xcb_window_t, Docked>;
 
