@@ -39,7 +39,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size
         expect(heightOf(layout.entries) <= most.depth, "a menu that is not too deep");
         expect(looksTheSame(layout.entries, layout.entries), "a menu that is like itself");
         for (const int id : ids)
-            expect(findEntry(layout.entries, id)->id == id && depthOf(layout.entries, id) > 0, "every entry");
+            expect(findMenuEntry(layout.entries, id)->id == id && depthOf(layout.entries, id) > 0, "every entry");
     }
     return 0;
 }

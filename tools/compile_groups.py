@@ -27,12 +27,12 @@ def command_of(entry):
 
 def groups(build, wanted):
     """(command, files) of those sources."""
-    alike = collections.defaultdict(list)
+    alike = collections.defaultdict(set)  # one that several programs compile counts once
     for entry in json.loads((build / "compile_commands.json").read_text()):
         if entry["file"] in wanted:
-            alike[command_of(entry)].append(entry["file"])
+            alike[command_of(entry)].add(entry["file"])
     for command, files in alike.items():
-        files.sort()
+        files = sorted(files)
         for i in range(0, len(files), LARGEST):
             yield command, files[i:i + LARGEST]
 

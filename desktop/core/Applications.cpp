@@ -178,7 +178,7 @@ std::vector<DescribedExtra> Applications::publish(Hosted &hosted)
         if (description.bundlePath && !hosted.icon.isNull())
             state.bundleIcons.insert_or_assign(*description.bundlePath, hosted.icon);
 
-        Process &process = state.processes[description.pid];
+        AccessibleProcess &process = state.processes[description.pid];
         if (!process.responsiveness)
             process.responsiveness = std::make_shared<Responsiveness>();
         process.responsiveness->hangs = description.hangs;

@@ -210,7 +210,7 @@ bool InputRouter::takeHotkey(const Event &event)
 {
     if (!event.isARepeat)
         Q_EMIT acted();
-    const KeyCombination pressed{event.keyCode, carbonModifiers(event.modifierFlags)};
+    const HotkeyCombination pressed{event.keyCode, carbonModifiers(event.modifierFlags)};
     return event.isARepeat ? m_d->hotkeys.takes(pressed) : m_d->hotkeys.press(pressed.keyCode, pressed.modifiers);
 }
 

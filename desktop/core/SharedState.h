@@ -40,7 +40,7 @@ struct Element final : platform::AXUIElementObject {
 using ElementPointer = std::shared_ptr<Element>;
 
 // A running application as Accessibility knows it.
-struct Process {
+struct AccessibleProcess {
     std::shared_ptr<Responsiveness> responsiveness;
     ElementPointer extrasMenuBar; // null: it has none
 };
@@ -50,7 +50,7 @@ struct DisplayState {
     std::vector<platform::Screen> screens;
     std::optional<platform::Screen> keyScreen; // of the key window
     std::vector<platform::RunningApplication> applications;
-    std::unordered_map<int, Process> processes;
+    std::unordered_map<int, AccessibleProcess> processes;
     std::map<QString, QString> displayNames;
     std::map<QString, platform::Image> bundleIcons; // by bundle path; kept when the application quits
     std::vector<QVariantMap> windowInfo; // the program's windows, front to back

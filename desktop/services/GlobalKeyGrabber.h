@@ -6,10 +6,10 @@
 
 namespace brimshade::desktop {
 
-struct KeyCombination {
+struct HotkeyCombination {
     std::uint32_t keyCode = 0; // the Mac's virtual key code
     std::uint32_t modifiers = 0; // Carbon modifier bits
-    auto operator<=>(const KeyCombination &) const = default;
+    auto operator<=>(const HotkeyCombination &) const = default;
 };
 
 // What a grabbed combination is for, where the session asks the user.
@@ -22,11 +22,11 @@ struct KeyUse {
 class GlobalKeyGrabber {
 public:
     virtual ~GlobalKeyGrabber() = default;
-    virtual void setPressed(std::function<void(KeyCombination)> pressed) = 0; // called on the main thread
+    virtual void setPressed(std::function<void(HotkeyCombination)> pressed) = 0; // called on the main thread
     // False: another program has it, or no keyboard has such a key. One that the present keyboard lacks is grabbed once
     // a keyboard has it.
-    virtual bool grab(KeyCombination combination, const KeyUse &use) = 0;
-    virtual void release(KeyCombination combination) = 0;
+    virtual bool grab(HotkeyCombination combination, const KeyUse &use) = 0;
+    virtual void release(HotkeyCombination combination) = 0;
 };
 
 } // namespace brimshade::desktop

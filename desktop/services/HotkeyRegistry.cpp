@@ -49,7 +49,7 @@ void HotkeyRegistry::popSymbolicHotKeyMode()
 
 bool HotkeyRegistry::press(std::uint32_t keyCode, std::uint32_t carbonModifiers)
 {
-    const KeyCombination combination{keyCode, carbonModifiers};
+    const HotkeyCombination combination{keyCode, carbonModifiers};
     if (!takes(combination))
         return false;
     const platform::EventHotKeyID id = find(combination)->id;
@@ -84,17 +84,17 @@ void HotkeyRegistry::setGrabber(std::unique_ptr<GlobalKeyGrabber> grabber)
     m_grabber = std::move(grabber);
     if (!m_grabber)
         return;
-    m_grabber->setPressed([this](KeyCombination pressed) { press(pressed.keyCode, pressed.modifiers); });
+    m_grabber->setPressed([this](HotkeyCombination pressed) { press(pressed.keyCode, pressed.modifiers); });
     for (const auto &[ref, hotkey] : m_registered)
         grab(hotkey);
 }
 
-bool HotkeyRegistry::takes(KeyCombination combination) const
+bool HotkeyRegistry::takes(HotkeyCombination combination) const
 {
     return m_timesOff == 0 && find(combination);
 }
 
-const HotkeyRegistry::Registered *HotkeyRegistry::find(KeyCombination combination) const
+const HotkeyRegistry::Registered *HotkeyRegistry::find(HotkeyCombination combination) const
 {
     const auto found =
         std::ranges::find_if(m_registered, [&](const auto &each) { return each.second.combination == combination; });

@@ -14,7 +14,7 @@ namespace brimshade::desktop {
 class HotkeyRegistry : public platform::HotkeyCenter {
 public:
     struct Registered {
-        KeyCombination combination;
+        HotkeyCombination combination;
         platform::EventHotKeyID id;
         QString purpose;
     };
@@ -38,10 +38,10 @@ public:
     // working inside the desktop.
     void setGrabber(std::unique_ptr<GlobalKeyGrabber> grabber);
 
-    bool takes(KeyCombination combination) const; // pressing it would press a hotkey
+    bool takes(HotkeyCombination combination) const; // pressing it would press a hotkey
 
 private:
-    const Registered *find(KeyCombination combination) const; // null for none
+    const Registered *find(HotkeyCombination combination) const; // null for none
     bool grab(const Registered &hotkey);
 
     std::map<platform::EventHotKeyRef, Registered> m_registered;

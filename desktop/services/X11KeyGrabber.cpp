@@ -55,10 +55,10 @@ public:
     ~Private() { xcb_disconnect(m_connection); }
     Q_DISABLE_COPY_MOVE(Private)
 
-    std::function<void(KeyCombination)> pressed;
+    std::function<void(HotkeyCombination)> pressed;
 
-    bool grab(KeyCombination combination);
-    void release(KeyCombination combination);
+    bool grab(HotkeyCombination combination);
+    void release(HotkeyCombination combination);
 
 private:
     struct Key {
@@ -67,7 +67,7 @@ private:
         auto operator<=>(const Key &) const = default;
     };
 
-    Key keyOf(KeyCombination combination) const;
+    Key keyOf(HotkeyCombination combination) const;
     xcb_keycode_t keycodeOf(xcb_keysym_t keysym) const;
     bool grabKey(Key key) const;
     void releaseKey(Key key) const;
@@ -82,7 +82,7 @@ private:
     const xcb_window_t m_window; // 0 for none
     const xcb_atom_t m_activeWindow;
     QSocketNotifier m_notifier;
-    std::map<KeyCombination, Key> m_grabbed; // a key without a code waits for another mapping
+    std::map<HotkeyCombination, Key> m_grabbed; // a key without a code waits for another mapping
     std::pair<xcb_keycode_t, xcb_timestamp_t> m_released; // the latest
 };
 
@@ -94,7 +94,7 @@ X11KeyGrabber::Private::Private(xcb_connection_t *connection, xcb_window_t windo
     QObject::connect(&m_notifier, &QSocketNotifier::activated, &m_notifier, [this] { readEvents(); });
 }
 
-bool X11KeyGrabber::Private::grab(KeyCombination combination)
+bool X11KeyGrabber::Private::grab(HotkeyCombination combination)
 {
     const Key key = keyOf(combination);
     const bool isKey = keysymOf(combination.keyCode) != 0 && !xcb_connection_has_error(m_connection);
@@ -107,13 +107,13 @@ bool X11KeyGrabber::Private::grab(KeyCombination combination)
     return granted;
 }
 
-void X11KeyGrabber::Private::release(KeyCombination combination)
+void X11KeyGrabber::Private::release(HotkeyCombination combination)
 {
     if (const auto found = m_grabbed.extract(combination))
         releaseKey(found.mapped());
 }
 
-auto X11KeyGrabber::Private::keyOf(KeyCombination combination) const -> Key
+auto X11KeyGrabber::Private::keyOf(HotkeyCombination combination) const -> Key
 {
     const xcb_keysym_t keysym = keysymOf(combination.keyCode);
     return keysym ? Key{keycodeOf(keysym), x11Modifiers(combination.modifiers)} : Key();
@@ -201,7 +201,7 @@ void X11KeyGrabber::Private::keyPressed(const xcb_key_press_event_t &event)
         if (grabbed != key || !pressed)
             continue;
         activateWindow(event.time);
-        const KeyCombination found = combination; // what it points into may be gone by then
+        const HotkeyCombination found = combination; // what it points into may be gone by then
         return pressed(found);
     }
 }
@@ -248,17 +248,17 @@ std::unique_ptr<X11KeyGrabber> X11KeyGrabber::create(std::uint32_t window, const
     return nullptr;
 }
 
-void X11KeyGrabber::setPressed(std::function<void(KeyCombination)> pressed)
+void X11KeyGrabber::setPressed(std::function<void(HotkeyCombination)> pressed)
 {
     m_d->pressed = std::move(pressed);
 }
 
-bool X11KeyGrabber::grab(KeyCombination combination, const KeyUse &)
+bool X11KeyGrabber::grab(HotkeyCombination combination, const KeyUse &)
 {
     return m_d->grab(combination);
 }
 
-void X11KeyGrabber::release(KeyCombination combination)
+void X11KeyGrabber::release(HotkeyCombination combination)
 {
     m_d->release(combination);
 }

@@ -16,9 +16,9 @@ public:
     static std::unique_ptr<X11KeyGrabber> create(std::uint32_t window, const QByteArray &display = {});
     ~X11KeyGrabber() override;
 
-    void setPressed(std::function<void(KeyCombination)> pressed) override;
-    bool grab(KeyCombination combination, const KeyUse &use) override;
-    void release(KeyCombination combination) override;
+    void setPressed(std::function<void(HotkeyCombination)> pressed) override;
+    bool grab(HotkeyCombination combination, const KeyUse &use) override;
+    void release(HotkeyCombination combination) override;
 
 private:
     class Private;

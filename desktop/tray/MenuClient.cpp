@@ -114,7 +114,7 @@ void MenuClient::receive(int parent, const BusReply &reply)
     if (parent != 0) {
         limits.depth -= depthOf(m_entries, parent);
         limits.taken = idsOf(m_entries);
-        if (const auto *entry = findEntry(m_entries, parent))
+        if (const auto *entry = findMenuEntry(m_entries, parent))
             limits.taken -= idsOf(entry->submenu);
     }
     const auto parse = [node = reply->at(1), limits, theme = m_iconThemePath](Workshop::Tools &tools) {
@@ -134,7 +134,7 @@ void MenuClient::take(int parent, MenuLayout layout)
         return;
     }
     auto entries = m_entries;
-    if (auto *entry = findEntry(entries, parent)) {
+    if (auto *entry = findMenuEntry(entries, parent)) {
         entry->submenu = std::move(layout.entries);
         showNew(std::move(entries), layout.isCut);
     }

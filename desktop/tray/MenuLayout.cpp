@@ -132,20 +132,20 @@ QString withoutMnemonic(const QString &label)
     return text;
 }
 
-const MenuEntry *findEntry(const std::vector<MenuEntry> &entries, int id)
+const MenuEntry *findMenuEntry(const std::vector<MenuEntry> &entries, int id)
 {
     for (const auto &entry : entries) {
         if (entry.id == id)
             return &entry;
-        if (const auto *inside = findEntry(entry.submenu, id))
+        if (const auto *inside = findMenuEntry(entry.submenu, id))
             return inside;
     }
     return nullptr;
 }
 
-MenuEntry *findEntry(std::vector<MenuEntry> &entries, int id)
+MenuEntry *findMenuEntry(std::vector<MenuEntry> &entries, int id)
 {
-    return const_cast<MenuEntry *>(findEntry(std::as_const(entries), id));
+    return const_cast<MenuEntry *>(findMenuEntry(std::as_const(entries), id));
 }
 
 QSet<int> idsOf(const std::vector<MenuEntry> &entries)

@@ -26,8 +26,8 @@ MenuLayout parseLayout(const QVariant &node, const PictureByName &picture, const
 // "_Open __x" is shown as "Open _x".
 QString withoutMnemonic(const QString &label);
 
-const MenuEntry *findEntry(const std::vector<MenuEntry> &entries, int id);
-MenuEntry *findEntry(std::vector<MenuEntry> &entries, int id);
+const MenuEntry *findMenuEntry(const std::vector<MenuEntry> &entries, int id);
+MenuEntry *findMenuEntry(std::vector<MenuEntry> &entries, int id);
 QSet<int> idsOf(const std::vector<MenuEntry> &entries);
 int depthOf(const std::vector<MenuEntry> &entries, int id); // 1 at the top, 0 where the menu has no such entry
 bool looksTheSame(const std::vector<MenuEntry> &a, const std::vector<MenuEntry> &b);

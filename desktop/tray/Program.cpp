@@ -79,7 +79,7 @@ QStringList programNames(const Process &process)
     return names;
 }
 
-std::optional<DesktopEntry> findEntry(const Process &process, const std::vector<DesktopEntry> &entries)
+std::optional<DesktopEntry> findDesktopEntry(const Process &process, const std::vector<DesktopEntry> &entries)
 {
     const auto names = programNames(process);
     const DesktopEntry *best = nullptr;
@@ -104,7 +104,7 @@ FoundProgram ProgramFinder::find(int pid)
         m_readAt = m_now();
     }
     const auto process = readProcess(pid);
-    const auto entry = findEntry(process, m_entries);
+    const auto entry = findDesktopEntry(process, m_entries);
     return {entry, entry ? entry->id : programNames(process).value(0)};
 }
 

@@ -17,7 +17,7 @@ Process readProcess(int pid);
 QStringList programNames(const Process &process);
 
 // The desktop entry that belongs to a process; nothing when there is none.
-std::optional<DesktopEntry> findEntry(const Process &process, const std::vector<DesktopEntry> &entries);
+std::optional<DesktopEntry> findDesktopEntry(const Process &process, const std::vector<DesktopEntry> &entries);
 
 // What tells a program from others.
 struct FoundProgram {

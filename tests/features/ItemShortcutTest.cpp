@@ -108,9 +108,12 @@ TEST_F(ItemShortcut, StaysWithWhatTheItemIsAcrossRestartsOfBrimshadeAndOfTheProg
 TEST_F(ItemShortcut, ACombinationThatIsTakenIsRefusedWithTheOneWhoHasIt)
 {
     struct Taken : desktop::GlobalKeyGrabber {
-        void setPressed(std::function<void(desktop::KeyCombination)>) override { }
-        bool grab(desktop::KeyCombination keys, const desktop::KeyUse &) override { return keys.keyCode != kVK_ANSI_T; }
-        void release(desktop::KeyCombination) override { }
+        void setPressed(std::function<void(desktop::HotkeyCombination)>) override { }
+        bool grab(desktop::HotkeyCombination keys, const desktop::KeyUse &) override
+        {
+            return keys.keyCode != kVK_ANSI_T;
+        }
+        void release(desktop::HotkeyCombination) override { }
     };
     start();
     brimshade->desktop().hotkeys().setGrabber(std::make_unique<Taken>());

@@ -51,7 +51,7 @@ bool PortalKeyGrabber::isPlasma5()
     return qgetenv("KDE_SESSION_VERSION") == "5";
 }
 
-bool PortalKeyGrabber::grab(KeyCombination combination, const KeyUse &use)
+bool PortalKeyGrabber::grab(HotkeyCombination combination, const KeyUse &use)
 {
     const QString trigger = portalTrigger(combination);
     if (trigger.isEmpty())
@@ -61,7 +61,7 @@ bool PortalKeyGrabber::grab(KeyCombination combination, const KeyUse &use)
     return true;
 }
 
-void PortalKeyGrabber::release(KeyCombination combination)
+void PortalKeyGrabber::release(HotkeyCombination combination)
 {
     if (std::erase_if(m_grabbed, [&](const auto &each) { return each.second.combination == combination; }) > 0)
         renewSoon();
@@ -202,7 +202,7 @@ void PortalKeyGrabber::activated(const QDBusObjectPath &session, const QString &
     const auto found = m_grabbed.find(id);
     if (session.path() != m_session || found == m_grabbed.end() || !m_pressed)
         return;
-    const KeyCombination combination = found->second.combination; // the map may change by it
+    const HotkeyCombination combination = found->second.combination; // the map may change by it
     m_pressed(combination);
 }
 

@@ -25,9 +25,9 @@ public:
     // `brimshade --toggle`.
     bool isAvailable() const { return m_isAvailable; }
 
-    void setPressed(std::function<void(KeyCombination)> pressed) override { m_pressed = std::move(pressed); }
-    bool grab(KeyCombination combination, const KeyUse &use) override;
-    void release(KeyCombination combination) override;
+    void setPressed(std::function<void(HotkeyCombination)> pressed) override { m_pressed = std::move(pressed); }
+    bool grab(HotkeyCombination combination, const KeyUse &use) override;
+    void release(HotkeyCombination combination) override;
 
 Q_SIGNALS:
     void availabilityChanged();
@@ -39,7 +39,7 @@ private Q_SLOTS:
 private:
     using Results = std::optional<QVariantMap>;
     struct Grabbed {
-        KeyCombination combination;
+        HotkeyCombination combination;
         QString purpose;
     };
     void inquire();
@@ -60,7 +60,7 @@ private:
     };
 
     QDBusConnection m_bus;
-    std::function<void(KeyCombination)> m_pressed;
+    std::function<void(HotkeyCombination)> m_pressed;
     std::map<QString, Grabbed> m_grabbed; // by their ids at the portal
     uint m_version = 0; // of the portal's interface
     bool m_isAvailable = false;

@@ -20,7 +20,7 @@ constexpr std::array<std::pair<std::uint32_t, const char *>, 4> kModifiers{{{pla
 
 } // namespace
 
-QString portalTrigger(KeyCombination combination)
+QString portalTrigger(HotkeyCombination combination)
 {
     std::array<char, 64> key{};
     const std::uint32_t keysym = keysymOf(combination.keyCode);

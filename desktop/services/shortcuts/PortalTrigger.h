@@ -6,6 +6,6 @@
 namespace brimshade::desktop {
 
 // A combination of keys as the portal reads it, "CTRL+ALT+space"; empty for a key code that no key has.
-QString portalTrigger(KeyCombination combination);
+QString portalTrigger(HotkeyCombination combination);
 
 } // namespace brimshade::desktop

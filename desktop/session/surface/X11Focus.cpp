@@ -23,7 +23,7 @@ void X11Focus::giveBack(xcb_window_t window)
     const auto found = std::ranges::find(m_takers, window);
     if (found == m_takers.end())
         return;
-    // Nothing can change between the look and the change: a window that was just clicked keeps the keys.
+    // Nothing can happen between the look and the change: a window that was just clicked keeps the keys.
     xcb_grab_server(m_connection);
     const bool isOurs = std::ranges::find(m_takers, focused()) != m_takers.end();
     m_takers.erase(found);

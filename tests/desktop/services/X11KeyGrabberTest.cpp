@@ -13,10 +13,11 @@ namespace brimshade::desktop {
 
 using testing::ElementsAre;
 
-constexpr KeyCombination kOptionCommandN{platform::kVK_ANSI_N, platform::kCarbonOption | platform::kCarbonCommand};
-constexpr KeyCombination kControlOptionSpace{platform::kVK_Space, platform::kCarbonControl | platform::kCarbonOption};
-constexpr KeyCombination kControlOptionCommandM{platform::kVK_ANSI_M,
-                                                platform::kCarbonControl | kOptionCommandN.modifiers};
+constexpr HotkeyCombination kOptionCommandN{platform::kVK_ANSI_N, platform::kCarbonOption | platform::kCarbonCommand};
+constexpr HotkeyCombination kControlOptionSpace{platform::kVK_Space,
+                                                platform::kCarbonControl | platform::kCarbonOption};
+constexpr HotkeyCombination kControlOptionCommandM{platform::kVK_ANSI_M,
+                                                   platform::kCarbonControl | kOptionCommandN.modifiers};
 
 class X11KeyGrabberTest : public testing::Test {
 protected:
@@ -29,7 +30,7 @@ protected:
         display = ":" + server.readLine().trimmed();
         grabber = X11KeyGrabber::create(0, display);
         ASSERT_TRUE(grabber);
-        grabber->setPressed([this](KeyCombination combination) { pressed.push_back(combination); });
+        grabber->setPressed([this](HotkeyCombination combination) { pressed.push_back(combination); });
     }
     void TearDown() override
     {
@@ -49,7 +50,7 @@ protected:
         ASSERT_EQ(tool.exitCode(), 0) << tool.readAllStandardError().constData();
     }
     // Presses the keys and then a combination that is known to come: everything before it has come too.
-    std::vector<KeyCombination> press(const QStringList &keys)
+    std::vector<HotkeyCombination> press(const QStringList &keys)
     {
         pressed.clear();
         run(u"xdotool"_s, QStringList{u"key"_s} + keys + QStringList{u"ctrl+alt+space"_s});
@@ -61,12 +62,12 @@ protected:
     QProcess server;
     QByteArray display;
     std::unique_ptr<X11KeyGrabber> grabber;
-    std::vector<KeyCombination> pressed;
+    std::vector<HotkeyCombination> pressed;
 };
 
 TEST_F(X11KeyGrabberTest, TellsWhichCombinationWasPressed)
 {
-    for (const KeyCombination &each : {kOptionCommandN, kControlOptionSpace, kControlOptionCommandM})
+    for (const HotkeyCombination &each : {kOptionCommandN, kControlOptionSpace, kControlOptionCommandM})
         EXPECT_TRUE(grabber->grab(each, {}));
     EXPECT_FALSE(grabber->grab({1000, platform::kCarbonCommand}, {})); // no key at all
 
@@ -88,8 +89,8 @@ TEST_F(X11KeyGrabberTest, GrabsEveryShortcutThatCanBeChosen)
             EXPECT_TRUE(grabber->grab({keys->keyCode, keys->modifiers}, {})) << qPrintable(displayTitle(shortcut));
         }
     }
-    constexpr KeyCombination shiftCommandSlash{platform::kVK_ANSI_Slash,
-                                               platform::kCarbonShift | platform::kCarbonCommand};
+    constexpr HotkeyCombination shiftCommandSlash{platform::kVK_ANSI_Slash,
+                                                  platform::kCarbonShift | platform::kCarbonCommand};
     EXPECT_TRUE(grabber->grab(shiftCommandSlash, {}));
     EXPECT_THAT(press({u"super+slash"_s, u"super+shift+slash"_s}), ElementsAre(shiftCommandSlash));
 }

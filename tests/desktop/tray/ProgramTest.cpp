@@ -34,7 +34,7 @@ TEST(Programs, AreMatchedToTheirEntry)
         {{}, {}},
     };
     for (const auto &[process, id] : rows) {
-        const auto entry = findEntry(process, entries);
+        const auto entry = findDesktopEntry(process, entries);
         EXPECT_EQ(entry ? entry->id : QString(), id) << process.executable.toStdString();
     }
 }

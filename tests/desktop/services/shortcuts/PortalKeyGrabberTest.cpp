@@ -15,9 +15,9 @@ using namespace platform;
 using testing::ElementsAre;
 using testing::IsEmpty;
 
-constexpr KeyCombination kSpace{kVK_Space, kCarbonControl | kCarbonOption};
-constexpr KeyCombination kN{kVK_ANSI_N, kCarbonOption | kCarbonCommand};
-constexpr KeyCombination kNoKey{0x7f, kCarbonCommand};
+constexpr HotkeyCombination kSpace{kVK_Space, kCarbonControl | kCarbonOption};
+constexpr HotkeyCombination kN{kVK_ANSI_N, kCarbonOption | kCarbonCommand};
+constexpr HotkeyCombination kNoKey{0x7f, kCarbonCommand};
 const KeyUse kPanel{1, u"Open or close Brimshade"_s};
 const KeyUse kItem{22, u"Open the menu of Clip"_s};
 const QString kSpaceId = u"hotkey-1-ctrl-alt-space"_s;
@@ -26,7 +26,7 @@ const QString kNId = u"hotkey-22-alt-logo-n"_s;
 TEST(PortalTriggerTest, NamesTheKey)
 {
     struct Case {
-        KeyCombination combination;
+        HotkeyCombination combination;
         QString trigger;
     };
     for (const Case &each :
@@ -40,9 +40,9 @@ protected:
     void start(bool bindsNothing = false)
     {
         grabber = std::make_unique<PortalKeyGrabber>(own, bindsNothing);
-        grabber->setPressed([this](KeyCombination combination) { pressed.push_back(combination); });
+        grabber->setPressed([this](HotkeyCombination combination) { pressed.push_back(combination); });
     }
-    void startBound(const KeyCombination &combination)
+    void startBound(const HotkeyCombination &combination)
     {
         start();
         EXPECT_TRUE(grabber->grab(combination, kPanel));
@@ -50,7 +50,7 @@ protected:
         settleAll();
         portal->takeCalls();
     }
-    static QString idOf(const KeyCombination &combination) { return combination == kN ? kNId : kSpaceId; }
+    static QString idOf(const HotkeyCombination &combination) { return combination == kN ? kNId : kSpaceId; }
     void waitForCall(const QString &call)
     {
         waitFor(call, [&] { return portal->has(call); });
@@ -76,7 +76,7 @@ protected:
     QDBusConnection portalConnection = bus.connection(u"portal"_s);
     std::unique_ptr<FakePortal> portal = std::make_unique<FakePortal>(portalConnection);
     std::unique_ptr<PortalKeyGrabber> grabber;
-    std::vector<KeyCombination> pressed;
+    std::vector<HotkeyCombination> pressed;
 };
 
 TEST_F(PortalKeyGrabberTest, BindsWhatIsGrabbedAndTellsItsPresses)
