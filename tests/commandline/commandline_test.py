@@ -44,7 +44,7 @@ class CommandLine(Files):
             (["--nonsense"], "nonsense"),
             (["stray"], "stray"),
             (["--real-time"], "--script"),
-            (["--script", "-", "--tray", "--no-tray"], "exclude"),
+            (["--script", "-", "--tray", "--no-tray"], "cannot be combined"),
             (["--script", "-", "--scale", "9"], "1 to 4"),
             (["--script"], "script"),
             (["--script", "/nowhere/script.jsonl"], "/nowhere/script.jsonl"),
