@@ -45,7 +45,6 @@ model::ExtraList makeExtras(int hidden, int visible)
 
 ModelFixture::ModelFixture() : model(defaults, loginItems)
 {
-    journal.clear();
     model.onSelect = [this](const model::MenuExtra &extra) { journal << u"select "_s + extra.name; };
     model.onDismiss = [this] { journal << u"dismiss"_s; };
     model.onOpenSettings = [this] { journal << u"settings"_s; };

@@ -39,34 +39,19 @@ public:
 
 class FakeDefaults : public platform::UserDefaults {
 public:
-    explicit FakeDefaults(QStringList &journal) : m_journal(journal) { }
     QVariantMap stored;
 
-    QVariant objectForKey(const QString &key) const override { return read(key); }
-    bool boolForKey(const QString &key) const override { return read(key).toBool(); }
+    QVariant objectForKey(const QString &key) const override { return stored.value(key); }
+    bool boolForKey(const QString &key) const override { return stored.value(key).toBool(); }
     QString stringForKey(const QString &key) const override
     {
-        const QVariant value = read(key);
+        const QVariant value = stored.value(key);
         return value.typeId() == QMetaType::QString ? value.toString() : QString();
     }
-    void setBool(bool value, const QString &key) override { write(key, value); }
-    void setInteger(qlonglong value, const QString &key) override { write(key, value); }
-    void setObject(const QString &value, const QString &key) override { write(key, value); }
-    void setArray(const QVariantList &value, const QString &key) override { write(key, value); }
-
-private:
-    QVariant read(const QString &key) const
-    {
-        m_journal << u"read "_s + key;
-        return stored.value(key);
-    }
-    void write(const QString &key, const QVariant &value)
-    {
-        m_journal << u"store %1 %2"_s.arg(key, value.toString());
-        stored.insert(key, value);
-    }
-
-    QStringList &m_journal;
+    void setBool(bool value, const QString &key) override { stored.insert(key, value); }
+    void setInteger(qlonglong value, const QString &key) override { stored.insert(key, value); }
+    void setObject(const QString &value, const QString &key) override { stored.insert(key, value); }
+    void setArray(const QVariantList &value, const QString &key) override { stored.insert(key, value); }
 };
 
 class FakeLoginItems : public platform::LoginItems {
@@ -75,11 +60,7 @@ public:
     platform::LoginItemStatus now = platform::LoginItemStatus::notRegistered;
     std::optional<QString> failure;
 
-    platform::LoginItemStatus status() const override
-    {
-        m_journal << u"status"_s;
-        return now;
-    }
+    platform::LoginItemStatus status() const override { return now; }
     std::expected<void, QString> registerMainApp() override
     {
         return change(u"register"_s, platform::LoginItemStatus::enabled);
@@ -224,12 +205,11 @@ private:
     QStringList &m_journal;
 };
 
-// What models and views ask of the system, in memory, with one journal of it so that its order shows: "read
-// hoverToOpen", "store hoverToOpen true", "status", "menu Open,-Hide from Menu Bar" ("-" marks a disabled entry), "open
-// x-apple…".
+// What models and views ask of the system, in memory, with one journal of it so that its order shows:
+// "register", "menu Open,-Hide from Menu Bar" ("-" marks a disabled entry), "open x-apple…".
 struct FakeSystem {
     QStringList journal;
-    FakeDefaults defaults{journal};
+    FakeDefaults defaults;
     FakeLoginItems loginItems{journal};
     FakeMenus menus{journal};
     FakeItemServices itemServices{journal};
