@@ -19,17 +19,18 @@ Item {
     // From the beginning of the opening to the end of the closing. At other times nothing moves or is read out.
     readonly property bool presented: root.open || openness.running || root.rehearsing
 
-    // For whoever shows the panel in a window that is not as large as this: what takes clicks, nothing while it is
-    // closed, and how far shadow and springs reach beyond it.
-    readonly property rect hitArea: root.open
-        ? Qt.rect((root.width - geometry.openSize.width) / 2 + 14, 0, geometry.openSize.width - 28, geometry.openSize.height)
-        : Qt.rect(0, 0, 0, 0)
+    // For whoever shows the panel in a window that is not as large as this: what takes clicks when it is open, what does
+    // now, and how far shadow and springs reach beyond it.
+    readonly property rect openArea: Qt.rect((root.width - geometry.openSize.width) / 2 + 14, 0,
+                                             geometry.openSize.width - 28, geometry.openSize.height)
+    readonly property rect hitArea: root.open ? root.openArea : Qt.rect(0, 0, 0, 0)
     readonly property real hitRadius: 32 // of its lower corners
     readonly property real drawnMargin: 64
 
-    // For whoever shows it in a window that waits for frames: tiles come a few at a time; and a drawing that nobody sees,
-    // ahead of the first opening, has one of everything.
+    // For whoever shows it in a window that waits for frames: tiles come a few at a time, and none before the first frame;
+    // and a drawing that nobody sees, ahead of the first opening, has one of everything.
     property bool paced: false
+    property bool unseen: false
     property bool rehearsing: false
     readonly property HelpTip tip: helpTip
 
@@ -47,6 +48,7 @@ Item {
         id: panelState
         source: root.model
         isPaced: root.paced
+        isUnseen: root.unseen
     }
     PanelGeometry {
         id: geometry

@@ -13,6 +13,7 @@ class PanelState : public QObject {
     QML_ELEMENT
     Q_PROPERTY(brimshade::model::NotchModel *source READ source WRITE setSource NOTIFY sourceChanged REQUIRED)
     Q_PROPERTY(bool isPaced MEMBER m_isPaced NOTIFY isPacedChanged) // see TilesModel
+    Q_PROPERTY(bool isUnseen MEMBER m_isUnseen NOTIFY isUnseenChanged) // the same
     Q_PROPERTY(Body body READ body NOTIFY bodyChanged)
     Q_PROPERTY(bool hasHeader READ hasHeader NOTIFY bodyChanged)
     Q_PROPERTY(QString sentence READ sentence NOTIFY bodyChanged) // instead of tiles; empty when there are some
@@ -47,6 +48,7 @@ public:
 Q_SIGNALS:
     void sourceChanged();
     void isPacedChanged();
+    void isUnseenChanged();
     void bodyChanged();
     void focusChanged();
 
@@ -55,6 +57,7 @@ private:
 
     QPointer<model::NotchModel> m_source;
     bool m_isPaced = false;
+    bool m_isUnseen = false;
 };
 
 } // namespace brimshade::panel

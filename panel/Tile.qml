@@ -60,7 +60,6 @@ FadingGroup {
         id: offer
 
         readonly property string tip: offer.toolTip !== "" ? offer.toolTip : root.name
-
         actions: root.actions
         extraID: root.extraID
         onTipChanged: root.helpTip.follow(root, offer.tip)
@@ -115,6 +114,7 @@ FadingGroup {
     }
     Item {
         anchors.fill: parent
+        visible: root.shown > 0 // the first frame of an opening does nothing for tiles that come later
         scale: press.value
 
         TileFace {

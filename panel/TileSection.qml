@@ -41,6 +41,7 @@ Item {
             viewTop: root.viewTop - root.gridTop
             viewBottom: root.viewBottom - root.gridTop
             isPaced: root.panelState.isPaced
+            isUnseen: root.panelState.isUnseen
             keepsLeaving: root.presented
         }
         delegate: Tile {

@@ -80,6 +80,16 @@ QVariant TilesModel::value(int row, int role) const
     }
 }
 
+void TilesModel::setUnseen(bool unseen)
+{
+    if (m_isUnseen == unseen)
+        return;
+    m_isUnseen = unseen;
+    update();
+    endRenewal();
+    Q_EMIT isUnseenChanged();
+}
+
 void TilesModel::setKeepsLeaving(bool keeps)
 {
     if (m_keepsLeaving == keeps)
@@ -111,7 +121,7 @@ void TilesModel::matchesChanged()
 
 void TilesModel::endRenewal()
 {
-    if (!m_next.isActive())
+    if (!m_isHolding)
         m_isRenewing = m_isFirst = false;
 }
 
@@ -148,10 +158,12 @@ void TilesModel::holdBack(std::vector<Tile> &wanted)
     QSet<QString> shown;
     for (const Tile &tile : m_tiles)
         shown.insert(tile.extra.id);
+    const int most = m_isUnseen ? 0 : kATurn;
     int fresh = 0;
     const auto held =
-        std::erase_if(wanted, [&](const Tile &tile) { return !shown.contains(tile.extra.id) && ++fresh > kATurn; });
-    if (held > 0)
+        std::erase_if(wanted, [&](const Tile &tile) { return !shown.contains(tile.extra.id) && ++fresh > most; });
+    m_isHolding = held > 0;
+    if (m_isHolding && !m_isUnseen)
         m_next.start();
 }
 

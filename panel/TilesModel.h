@@ -11,8 +11,9 @@ namespace brimshade::panel {
 // The tiles of one section that are in view, and one grid row beyond on either side. Rows are kept by id: across
 // searches and scans an item that stays keeps its delegate, which learns its new place. Tiles that a search or a scan
 // takes away stay as leaving ones, last in the list and as they were, until the view has faded and dropped them. When
-// paced, many new ones come a few at each turn of the event loop, so that frames are drawn in between.
-// The base is spelled in full: the registrar of QML types finds it by its spelling.
+// paced, many new ones come a few at each turn of the event loop, so that frames are drawn in between; and none while
+// the view is unseen, so that its first frame does not wait for them. The base is spelled in full: the registrar of QML
+// types finds it by its spelling.
 class TilesModel : public brimshade::ui::ListModel {
     Q_OBJECT
     QML_ELEMENT
@@ -21,6 +22,7 @@ class TilesModel : public brimshade::ui::ListModel {
     Q_PROPERTY(double viewTop MEMBER m_viewTop NOTIFY viewChanged) // points, from the top of the first grid row
     Q_PROPERTY(double viewBottom MEMBER m_viewBottom NOTIFY viewChanged)
     Q_PROPERTY(bool isPaced MEMBER m_isPaced NOTIFY isPacedChanged)
+    Q_PROPERTY(bool isUnseen READ isUnseen WRITE setUnseen NOTIFY isUnseenChanged)
     Q_PROPERTY(bool keepsLeaving READ keepsLeaving WRITE setKeepsLeaving NOTIFY keepsLeavingChanged)
 
 public:
@@ -46,6 +48,8 @@ public:
     model::NotchModel *source() const { return m_source; }
     void setSource(model::NotchModel *source);
 
+    bool isUnseen() const { return m_isUnseen; }
+    void setUnseen(bool unseen);
     bool keepsLeaving() const { return m_keepsLeaving; }
     void setKeepsLeaving(bool keeps);
     QHash<int, QByteArray> roleNames() const override;
@@ -56,6 +60,7 @@ Q_SIGNALS:
     void sectionChanged();
     void viewChanged();
     void isPacedChanged();
+    void isUnseenChanged();
     void keepsLeavingChanged();
 
 protected:
@@ -85,13 +90,15 @@ private:
     double m_viewTop = 0;
     double m_viewBottom = 0;
     bool m_isPaced = false;
+    bool m_isUnseen = false;
+    bool m_isHolding = false; // some tiles back
     bool m_keepsLeaving = false;
     bool m_hasItems = false;
     // Until the turn of the event loop that brought other matches ends, as the view follows them; or all have come.
     bool m_isRenewing = false;
     bool m_isFirst = false; // the same, and there were no items before
     std::vector<Tile> m_tiles;
-    QTimer m_next; // runs while some are held back
+    QTimer m_next; // runs while some are held back from a view that is seen
 };
 
 } // namespace brimshade::panel

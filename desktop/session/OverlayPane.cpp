@@ -37,9 +37,9 @@ OverlayPane::OverlayPane(DesktopWindow &window, const Parts &parts)
     m_holder.setFlag(QQuickItem::ItemIsFocusScope);
     m_holder.setSize(window.frame().size());
     m_content = std::make_unique<HostedContent>(window, parts.engine, m_holder);
-    if (QQuickItem *view = m_content->view())
-        view->setProperty("paced", true);
+    tellView("paced", true);
     followView();
+    connect(&m_pane.window(), &QQuickWindow::frameSwapped, this, [this] { tellView("unseen", false); });
     connect(&window, &DesktopWindow::changed, this, &OverlayPane::update);
     connect(&parts.screens, &SessionScreens::changed, this, &OverlayPane::update);
     update();
@@ -51,15 +51,21 @@ OverlayPane::~OverlayPane() = default;
 // Most of what the first frame would take: the native window, the scene and its texts.
 void OverlayPane::rehearse()
 {
-    QQuickItem *view = m_content->view();
-    if (!view || m_window.isVisible())
+    if (!m_content->view() || m_window.isVisible())
         return;
     m_holder.setSize(kRehearsedSize);
     m_pane.window().resize(kRehearsedSize.toSize());
-    view->setProperty("rehearsing", true);
+    tellView("rehearsing", true);
     m_pane.window().grabWindow();
-    view->setProperty("rehearsing", false);
+    tellView("rehearsing", false);
     m_holder.setSize(m_window.frame().size());
+}
+
+void OverlayPane::tellView(const char *property, bool value)
+{
+    QQuickItem *view = m_content->view();
+    if (view && view->metaObject()->indexOfProperty(property) >= 0)
+        view->setProperty(property, value);
 }
 
 void OverlayPane::followView()
@@ -72,21 +78,21 @@ void OverlayPane::followView()
     connect(view, changed, this, metaObject()->method(metaObject()->indexOfSlot("update()")));
 }
 
-std::optional<QRectF> OverlayPane::hitArea() const
+std::optional<QRectF> OverlayPane::area(const char *property) const
 {
     const QQuickItem *view = m_content->view();
-    const QVariant area = view ? view->property("hitArea") : QVariant();
+    const QVariant area = view ? view->property(property) : QVariant();
     return area.isValid() ? std::optional(area.toRectF()) : std::nullopt;
 }
 
 QRect OverlayPane::drawnArea() const
 {
     const QRect whole({}, m_window.frame().size().toSize());
-    const auto hit = hitArea();
-    if (!hit)
+    const auto open = area("openArea");
+    if (!open)
         return whole;
     const double margin = m_content->view()->property("drawnMargin").toDouble();
-    return hit->isEmpty() ? QRect() : hit->adjusted(-margin, -margin, margin, margin).toAlignedRect() & whole;
+    return open->adjusted(-margin, -margin, margin, margin).toAlignedRect() & whole;
 }
 
 void OverlayPane::update()
@@ -97,13 +103,18 @@ void OverlayPane::update()
     if (!m_window.isVisible() || !screen || m_drawn.isEmpty()) {
         m_surface->hide();
         m_drawn = {};
-        takeInput(false);
+        if (takeInput(false))
+            Q_EMIT takesInputChanged();
         return;
     }
     place(*screen);
-    takeInput(!hitArea() || !hitArea()->isEmpty());
-    if (!m_surface->isShown())
+    const bool isNew = takeInput(!hitArea() || !hitArea()->isEmpty());
+    if (!m_surface->isShown()) {
+        tellView("unseen", true);
         m_surface->show();
+    }
+    if (isNew) // once it is shown: clicks beside it are watched for as soon as it is seen
+        Q_EMIT takesInputChanged();
 }
 
 void OverlayPane::place(QScreen &screen)
@@ -131,12 +142,11 @@ void OverlayPane::setKey(bool key)
     giveKeys();
 }
 
-void OverlayPane::takeInput(bool takes)
+bool OverlayPane::takeInput(bool takes)
 {
     const bool did = std::exchange(m_takesInput, takes);
     giveKeys();
-    if (did != takes)
-        Q_EMIT takesInputChanged();
+    return did != takes;
 }
 
 // Without the focus no caret blinks on in a window that is not shown.

@@ -11,10 +11,12 @@ class SessionScreens;
 // view draws: little is copied at each frame. The view says which by properties of its root item, in its points:
 //   rect hitArea       what takes clicks now, and empty while the view takes no input, keys neither; a click beside it
 //                      is a click outside
+//   rect openArea      the same for when it takes input: the window is as large from the start
 //   real hitRadius     of the area's lower corners, where the window has to be cut to it
 //   real drawnMargin   how far around it shadows and moves reach
 // Without them the window is as large as its frame. Other properties, which it may have, are set for it:
 //   bool paced         true: it creates what takes long in pieces, with frames in between
+//   bool unseen        true until its first frame has been drawn, which waits for nothing that takes long
 //   bool rehearsing    true while it is drawn where nobody sees it, ahead of its first opening
 class OverlayPane : public WindowPane {
     Q_OBJECT
@@ -45,11 +47,13 @@ private Q_SLOTS:
 
 private:
     void rehearse();
+    void tellView(const char *property, bool value);
     void followView();
     QRect drawnArea() const;
-    std::optional<QRectF> hitArea() const; // absent: the view has none
+    std::optional<QRectF> area(const char *property) const; // absent: the view has none
+    std::optional<QRectF> hitArea() const { return area("hitArea"); }
     void place(QScreen &screen);
-    void takeInput(bool takes);
+    bool takeInput(bool takes); // whether that is new
     void giveKeys();
 
     DesktopWindow &m_window;

@@ -72,6 +72,20 @@ TEST_F(TilesModelTest, PacedManyNewOnesComeAFewATurnInTheirPlacesAndAsNew)
         EXPECT_TRUE(tiles.index(row).data(TilesModel::IsNewRole).toBool()) << row;
 }
 
+TEST_F(TilesModelTest, WhileTheViewIsUnseenNewOnesWaitAndThenComeAsNew)
+{
+    show(u"a b"_s);
+    tiles.setProperty("isPaced", true);
+    tiles.setUnseen(true);
+    show(u"c b"_s);
+    EXPECT_EQ(names(), QStringList(u"b"_s));
+    QCoreApplication::processEvents();
+    EXPECT_EQ(names(), QStringList(u"b"_s));
+    tiles.setUnseen(false);
+    EXPECT_EQ(names(), (QStringList{u"c"_s, u"b"_s}));
+    EXPECT_TRUE(tiles.index(0).data(TilesModel::IsNewRole).toBool());
+}
+
 TEST_F(TilesModelTest, AnyListFollowsAnyOtherEvenWithARepeatedId)
 {
     QRandomGenerator random(7);

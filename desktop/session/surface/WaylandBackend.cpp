@@ -37,6 +37,7 @@ std::unique_ptr<ShellSurface> WaylandBackend::createSurface(QQuickWindow &window
     auto surface = std::make_unique<WaylandSurface>(window, kind, *m_globals);
     shownSurfaces().add(*surface);
     connect(surface.get(), &WaylandSurface::mapped, this, [this, last = surface.get()] { stack(last); });
+    connect(surface.get(), &WaylandSurface::seen, &m_outside, &WaylandOutside::follow);
     return surface;
 }
 

@@ -3,6 +3,7 @@
 #include "NativePixels.h"
 #include "ShellBackend.h"
 #include "WaylandGlobals.h"
+#include "WaylandSurface.h"
 
 #include <QGuiApplication>
 #include <QRegion>
@@ -88,6 +89,8 @@ WaylandOutside::Sheet::~Sheet()
 void WaylandOutside::Sheet::configure(std::uint32_t serial, const QSize &size)
 {
     zwlr_layer_surface_v1_ack_configure(m_role, serial);
+    if (m_size == size)
+        return wl_surface_commit(m_surface);
     m_size = size;
     wp_viewport_set_destination(m_viewport, size.width(), size.height());
     wl_surface_attach(m_surface, m_owner.m_pixel, 0, 0);
@@ -110,7 +113,7 @@ void WaylandOutside::Sheet::cutHoles()
 WaylandOutside::WaylandOutside(const WaylandGlobals &globals, const ShownSurfaces &shown)
     : m_globals(globals), m_shown(shown)
 {
-    connect(&shown, &ShownSurfaces::changed, this, &WaylandOutside::cutHoles);
+    connect(&shown, &ShownSurfaces::changed, this, &WaylandOutside::follow);
     connect(qGuiApp, &QGuiApplication::screenAdded, this, [this](QScreen *screen) {
         if (m_isOn && ShellBackend::screens().contains(screen))
             cover(screen);
@@ -129,13 +132,22 @@ WaylandOutside::~WaylandOutside()
 
 void WaylandOutside::watch(bool on)
 {
-    if (std::exchange(m_isOn, on) == on)
+    if (std::exchange(m_isOn, on) != on)
+        follow();
+}
+
+void WaylandOutside::follow()
+{
+    if (!m_isOn)
+        return m_sheets.clear();
+    if (!m_sheets.empty())
+        return cutHoles();
+    const auto isUnseen = [](const ShellSurface *surface) {
+        return surface->kind() == ShellSurface::Kind::Overlay
+            && !static_cast<const WaylandSurface *>(surface)->isSeen();
+    };
+    if (std::ranges::any_of(m_shown.inOrder(), isUnseen))
         return;
-    m_sheets.clear();
-    if (!on)
-        return;
-    if (!m_pixel)
-        m_pixel = transparentPixel(m_globals.shm());
     for (QScreen *screen : ShellBackend::screens())
         cover(screen);
 }
@@ -147,6 +159,8 @@ bool WaylandOutside::isOf(const wl_surface *surface) const
 
 void WaylandOutside::cover(QScreen *screen)
 {
+    if (!m_pixel)
+        m_pixel = transparentPixel(m_globals.shm());
     m_sheets.push_back(std::make_unique<Sheet>(*this, screen));
     wl_display_flush(m_globals.display());
 }

@@ -13,7 +13,8 @@ class ShownSurfaces;
 class WaylandGlobals;
 
 // Clicks outside: one transparent pixel stretched over each screen, with holes where the program's own surfaces are.
-// So it does not matter which surface lies above which.
+// So it does not matter which surface lies above which. They come once what opens has been seen: for each the
+// compositor paints its whole screen anew, and nobody clicks beside what is not there yet.
 class WaylandOutside : public QObject {
     Q_OBJECT
 public:
@@ -21,6 +22,7 @@ public:
     ~WaylandOutside() override;
 
     void watch(bool on);
+    void follow(); // what is shown, and what of it has been seen
     bool isOf(const wl_surface *surface) const; // one of the stretched pixels
 
 private:

@@ -29,6 +29,7 @@ WaylandSurface::WaylandSurface(QQuickWindow &window, Kind kind, const WaylandGlo
         if (!visible)
             closeWithoutRole();
     });
+    connect(&window, &QQuickWindow::frameSwapped, this, &WaylandSurface::awaitPainting);
 }
 
 WaylandSurface::~WaylandSurface()
@@ -151,8 +152,27 @@ void WaylandSurface::commit()
     wl_display_flush(m_globals.display());
 }
 
+// The compositor answers once it has painted the frame that the window has just committed.
+void WaylandSurface::awaitPainting()
+{
+    static constexpr wl_callback_listener kListener{[](void *self, wl_callback *, std::uint32_t) {
+        auto *surface = static_cast<WaylandSurface *>(self);
+        wl_callback_destroy(std::exchange(surface->m_painting, nullptr));
+        surface->m_isSeen = true;
+        Q_EMIT surface->seen();
+    }};
+    if (!m_role || m_isSeen || m_painting)
+        return;
+    m_painting = wl_surface_frame(surface());
+    wl_callback_add_listener(m_painting, &kListener, this);
+    commit();
+}
+
 void WaylandSurface::destroyRole()
 {
+    m_isSeen = false;
+    if (m_painting)
+        wl_callback_destroy(std::exchange(m_painting, nullptr));
     if (m_role)
         zwlr_layer_surface_v1_destroy(std::exchange(m_role, nullptr));
 }

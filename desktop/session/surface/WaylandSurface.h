@@ -4,6 +4,7 @@
 #include <QSize>
 #include <cstdint>
 
+struct wl_callback;
 struct wl_surface;
 struct zwlr_layer_surface_v1;
 
@@ -22,9 +23,11 @@ public:
     bool eventFilter(QObject *watched, QEvent *event) override;
     void followScale(); // of its screen: Qt's window keeps the scale that it was made with
     void enterLayerAgain(); // as if it had been shown last
+    bool isSeen() const { return m_isSeen; } // the compositor has painted it since it was shown
 
 Q_SIGNALS:
     void mapped();
+    void seen();
 
 private:
     void map() override;
@@ -36,12 +39,15 @@ private:
     void requestPlace();
     void configure(std::uint32_t serial, const QSize &native);
     void commit();
+    void awaitPainting();
     void destroyRole();
     void closeWithoutRole();
     wl_surface *surface() const; // null when Qt has none
 
     const WaylandGlobals &m_globals;
     zwlr_layer_surface_v1 *m_role = nullptr; // while it is mapped
+    wl_callback *m_painting = nullptr; // while the first frame waits for the compositor
+    bool m_isSeen = false;
 };
 
 } // namespace brimshade::desktop::session
