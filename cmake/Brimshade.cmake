@@ -6,8 +6,10 @@
 # its own includes, PRIVATE the rest. They are written to links.json in the build folder, where tools/rules reads them.
 
 add_library(brimshade_options INTERFACE)
+# What a newer Qt deprecates may be all that the oldest one has.
 target_compile_options(brimshade_options INTERFACE -Wall -Wextra -Wpedantic
-  $<$<BOOL:${BRIMSHADE_WARNINGS_ARE_ERRORS}>:-Werror> -Wnon-virtual-dtor -Woverloaded-virtual)
+  $<$<BOOL:${BRIMSHADE_WARNINGS_ARE_ERRORS}>:-Werror> -Wno-error=deprecated-declarations -Wnon-virtual-dtor
+  -Woverloaded-virtual)
 target_compile_definitions(brimshade_options INTERFACE QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII QT_NO_KEYWORDS
                                                        QT_NO_FOREACH QT_STRICT_ITERATORS)
 if(BRIMSHADE_SANITIZER)

@@ -65,7 +65,7 @@ QString initialOf(const ApplicationDescription &application)
 QImage pictureOf(const QString &icon, const ApplicationDescription &application)
 {
     if (icon.startsWith(u'#'))
-        return QColor::isValidColor(icon) ? roundedSquare(QColor(icon), initialOf(application)) : QImage();
+        return QColor::isValidColorName(icon) ? roundedSquare(QColor(icon), initialOf(application)) : QImage();
     if (icon.contains(u'/'))
         return readSquare(icon);
     return QIcon::fromTheme(icon).pixmap(kSize, kSize).toImage();
