@@ -134,6 +134,7 @@ QJsonObject LiveSession::Parts::state()
     QJsonObject state = stateReport(*delegate);
     const QString window = host.windowWithKeys();
     state.insert(u"keys"_s, window.isEmpty() ? QJsonValue() : window);
+    state.insert(u"outside"_s, host.hearsOutside());
     return state;
 }
 

@@ -40,6 +40,7 @@ public:
     bool takesKeyboard() const; // all keys of the session come to this program: panel or menu are open
     // On X11: those that other programs have grabbed come to the window that has the keys now, too.
     void takeEveryKey(bool take);
+    bool hearsOutside() const { return m_shell.hearsOutside(); } // a press elsewhere would close what is open
     QString windowWithKeys() const; // the session's keys come to it by now; empty while another program has them
 
     void settle() override;

@@ -68,7 +68,7 @@ class Living:
 
     def open_panel(self):
         self.assertEqual(self.request("--toggle").returncode, 0)
-        self.brimshade.until("the open panel", lambda s: s["model"]["isOpen"] and s["keys"] == "panel")
+        self.brimshade.until("the open panel", lambda s: s["keys"] == "panel" and s["outside"])
 
     def search(self, text):
         self.hands.type(text)
@@ -163,7 +163,7 @@ class Living:
 
     def test_5_the_bar_takes_clicks_as_a_menu_bar_does(self):
         self.hands.click(*self.brimshade.icon(), "right")
-        menu = self.brimshade.until("Brimshade's own menu", lambda s: s["menu"])
+        menu = self.brimshade.until("Brimshade's own menu", lambda s: s["outside"] and s["menu"])
         self.assertEqual(menu[0], "Settings…")
         self.click_terminal()
         self.brimshade.until("no menu", lambda s: not s["menu"])

@@ -88,6 +88,7 @@ public:
 private:
     void add(const QString &name, ShellSurface::Kind kind, const QColor &color);
     void place(ShellSurface &surface, const QJsonObject &wanted);
+    void watch(bool on);
     QJsonObject state() const;
     static QJsonObject stateOf(const ShellSurface &surface);
     static void sync();
@@ -177,11 +178,19 @@ QJsonObject Probe::obey(const QJsonObject &command)
     else if (what == "destroy"_L1 && surface)
         m_shown.erase(found);
     else if (what == "watch"_L1)
-        m_backend.watchOutside(command["on"_L1].toBool());
+        watch(command["on"_L1].toBool());
     else if (what != "state"_L1)
         return {{"ok"_L1, false}};
     sync();
     return state();
+}
+
+// Returns once presses are heard: whoever asked for it makes them next.
+void Probe::watch(bool on)
+{
+    m_backend.watchOutside(on);
+    while (on && !m_backend.hearsOutside())
+        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
 }
 
 QJsonObject Probe::state() const

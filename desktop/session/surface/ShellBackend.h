@@ -34,6 +34,8 @@ public:
     // While on, a press of a button outside the input regions of all shown surfaces, on any screen, gives
     // pressedOutside. On Wayland the press goes nowhere else, on X11 also to what it hit.
     virtual void watchOutside(bool on) = 0;
+    // Whether such a press would be told of by now. On Wayland that begins once what is shown has been seen.
+    virtual bool hearsOutside() const = 0;
 
     // False: transparent parts would be black, see ShellSurface::setDrawnRegion.
     virtual bool isComposited() const = 0;

@@ -48,6 +48,7 @@ public:
 
     const QScreen *screen() const { return m_screen; }
     const wl_surface *surface() const { return m_surface; }
+    bool isConfigured() const { return !m_size.isEmpty(); }
     void cutHoles();
 
 private:
@@ -100,7 +101,7 @@ void WaylandOutside::Sheet::configure(std::uint32_t serial, const QSize &size)
 
 void WaylandOutside::Sheet::cutHoles()
 {
-    if (m_size.isEmpty())
+    if (!isConfigured())
         return;
     wl_region *region = wl_compositor_create_region(m_owner.m_globals.compositor());
     for (const QRect &part : QRegion(QRect({}, m_size)) - toNative(m_owner.m_shown.inputRegion(m_screen), m_screen))
@@ -108,6 +109,7 @@ void WaylandOutside::Sheet::cutHoles()
     wl_surface_set_input_region(m_surface, region);
     wl_region_destroy(region);
     wl_surface_commit(m_surface);
+    wl_display_flush(m_owner.m_globals.display());
 }
 
 WaylandOutside::WaylandOutside(const WaylandGlobals &globals, const ShownSurfaces &shown)
@@ -134,6 +136,11 @@ void WaylandOutside::watch(bool on)
 {
     if (std::exchange(m_isOn, on) != on)
         follow();
+}
+
+bool WaylandOutside::hears() const
+{
+    return !m_sheets.empty() && std::ranges::all_of(m_sheets, &Sheet::isConfigured);
 }
 
 void WaylandOutside::follow()

@@ -22,6 +22,7 @@ public:
     ~WaylandOutside() override;
 
     void watch(bool on);
+    bool hears() const; // presses on every screen
     void follow(); // what is shown, and what of it has been seen
     bool isOf(const wl_surface *surface) const; // one of the stretched pixels
 

@@ -17,6 +17,7 @@ public:
     std::unique_ptr<ShellSurface> createSurface(QQuickWindow &window, ShellSurface::Kind kind) override;
     Foreground &foreground() override { return m_foreground; }
     void watchOutside(bool on) override { m_outside.watch(on); }
+    bool hearsOutside() const override { return m_outside.isOn(); }
     bool isComposited() const override { return m_isComposited; }
 
     xcb_connection_t *connection() const { return m_connection; } // Qt's

@@ -27,6 +27,7 @@ X11Outside::X11Outside(X11Connection &connection, const ShownSurfaces &shown) : 
 
 void X11Outside::watch(bool on)
 {
+    m_isOn = on;
     struct {
         xcb_input_event_mask_t head;
         std::uint32_t mask;

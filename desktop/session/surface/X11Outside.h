@@ -12,6 +12,7 @@ class X11Outside : public QObject {
 public:
     X11Outside(X11Connection &connection, const ShownSurfaces &shown);
     void watch(bool on);
+    bool isOn() const { return m_isOn; }
 
 Q_SIGNALS:
     void pressed(xcb_timestamp_t time); // of the server's
@@ -22,6 +23,7 @@ private:
 
     X11Connection &m_connection;
     const ShownSurfaces &m_shown;
+    bool m_isOn = false;
 };
 
 } // namespace brimshade::desktop::session
