@@ -2,6 +2,7 @@
 
 #include "desktop/core/Desktop.h"
 
+#include <QTimer>
 #include <algorithm>
 
 namespace brimshade::desktop::tray {
@@ -36,7 +37,7 @@ void TrayPrograms::show(int pid, const HostedItem &item)
     if (isNew)
         lookUp(pid);
     else if (program.isLookedUp)
-        update(pid, program);
+        updateSoon(pid, program);
 }
 
 void TrayPrograms::remove(int pid, const QString &instance)
@@ -85,8 +86,20 @@ void TrayPrograms::lookedUp(int pid, const HostedProgram &known)
     update(pid, program->second);
 }
 
+void TrayPrograms::updateSoon(int pid, Program &program)
+{
+    if (std::exchange(program.isDue, true))
+        return;
+    QTimer::singleShot(0, &m_desktop, m_lifetime.guard([this, pid] {
+        const auto due = m_programs.find(pid);
+        if (due != m_programs.end() && due->second.isDue)
+            update(pid, due->second);
+    }));
+}
+
 void TrayPrograms::update(int pid, Program &program)
 {
+    program.isDue = false;
     if (program.hostedId != 0) {
         m_desktop.change(program.hostedId, describe(program));
         return;

@@ -13,8 +13,8 @@ class Desktop;
 namespace brimshade::desktop::tray {
 
 // The programs that have tray items, as applications of the desktop: launched with their first item, changed with each
-// of them, quit with the last one. A process is one application, whichever way its items come. Main thread; the Desktop
-// and the workshop outlive it.
+// of them, quit with the last one. A process is one application, whichever way its items come; what several of them
+// become in one turn of the event loop is one change. Main thread; the Desktop and the workshop outlive it.
 class TrayPrograms {
 public:
     TrayPrograms(Desktop &desktop, const Workshop &workshop, ItemPlaces places);
@@ -31,12 +31,14 @@ private:
     struct Program {
         int hostedId = 0; // 0: not launched
         bool isLookedUp = false;
+        bool isDue = false; // an update is on its way
         HostedProgram known;
         std::vector<HostedItem> items; // as they came
     };
 
     void lookUp(int pid);
     void lookedUp(int pid, const HostedProgram &known);
+    void updateSoon(int pid, Program &program);
     void update(int pid, Program &program);
     ApplicationSpec describe(const Program &program) const;
 
