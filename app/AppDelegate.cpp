@@ -36,7 +36,7 @@ namespace {
 
 constexpr std::uint32_t kPanelHotkey = 1;
 constexpr qlonglong kFirstPosition = 5; // right of every other item that can move
-constexpr double kSettled = 1; // seconds after the launch: what it shows has come to rest
+constexpr double kSettled = 1; // seconds after the launch, when what that showed has come to rest
 
 } // namespace
 
@@ -61,7 +61,7 @@ void AppDelegate::applicationDidFinishLaunching()
     configureButton();
     installCallbacks();
     applySettings();
-    // Once more on a later turn: the status item has its window by then. It must not be lost with its owner.
+    // Again on a later turn, when the status item has its window. Held strongly: it must run whoever lets go of this.
     m_platform.dispatch.mainAsync([self = shared_from_this()] { self->m_divider->reanchor(); });
     m_platform.notificationCenter.addObserver(
         QString::fromLatin1(platform::kNSApplicationDidChangeScreenParametersNotification), nullptr,
@@ -151,7 +151,7 @@ void AppDelegate::applySettings()
     m_hoverZone->update(m_model->hoverToOpen(), menubar::notchedScreen(m_platform.screens.screens()));
 }
 
-// First of all: what an item's would take is this one's.
+// Before the shortcuts of items are registered: where one of them has the same keys, the panel's wins.
 void AppDelegate::applyShortcut()
 {
     const auto keys = keyCombination(m_model->shortcut());

@@ -39,23 +39,23 @@ class StatusMenu;
 // The coordinator: owns the model and every long-lived object, wires them at launch and turns what the views and the
 // system report into calls on them. Main thread only. Made by std::make_shared; every closure it hands out holds it, or
 // the part of it that the closure is about, weakly. Two hold it strongly, by design, until the next turn has run them:
-// the launch's second measurement and an opening's news to the views.
+// the second measurement at launch, and the one that tells the views of an opening.
 class AppDelegate : public std::enable_shared_from_this<AppDelegate> {
 public:
     // The services outlive the delegate. At least one screen exists.
     explicit AppDelegate(const platform::Platform &platform);
     ~AppDelegate();
 
-    // Once, before anything else; the first scan comes with the first opening of the panel.
+    // To be called once, before anything else; the first scan comes with the first opening of the panel.
     void applicationDidFinishLaunching();
 
     void applySettings(); // brings the divider, the hotkeys and the hover zone in line with the model
 
-    // What other programs may ask for; from the launch on.
-    void openPanel(); // with the keys
+    // What other programs may ask for once this has launched.
+    void openPanel(); // and gives it the keyboard
     void togglePanel();
     void openSettings();
-    void listItems(std::function<void(const menubar::ExtraList &)> then); // later, as they are then
+    void listItems(std::function<void(const menubar::ExtraList &)> then); // answers later, with the items of that time
     // Opens the menu of the one item of that name. The error is for whoever asked.
     void openItem(const QString &name, const std::function<void(const std::expected<void, QString> &)> &then);
 
@@ -81,8 +81,8 @@ private:
     std::shared_ptr<PanelPlacement> m_placement;
     std::shared_ptr<controls::HoverZone> m_hoverZone;
     const std::shared_ptr<controls::Hotkeys> m_hotkeys;
-    std::optional<model::KeyCombination> m_refused; // the panel's shortcut, and the person was told of it
-    std::shared_ptr<platform::StatusItem> m_statusItem; // this and all below: from the launch on
+    std::optional<model::KeyCombination> m_refused; // the panel's shortcut that was refused, once the person was told
+    std::shared_ptr<platform::StatusItem> m_statusItem; // this and all below: set at launch
     std::shared_ptr<controls::Divider> m_divider;
     std::shared_ptr<ScanScheduler> m_scans;
     std::shared_ptr<PanelPresenter> m_panel;

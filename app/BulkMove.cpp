@@ -9,7 +9,7 @@ namespace brimshade::app {
 
 namespace {
 
-constexpr double kPause = 0.8; // after each move, so that the divider is back in its place
+constexpr double kPause = 0.8; // after each move, for the divider to return to its place
 
 }
 

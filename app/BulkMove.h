@@ -7,21 +7,21 @@ namespace brimshade::app {
 
 using windows::ItemChoices;
 
-// Whether the item can move and is not where it was chosen to be.
+// Whether the item can move and is not yet on the side chosen for it.
 bool isPending(const menubar::MenuExtra &extra, const ItemChoices &choices);
 
-// Brings one item after the other where it was chosen to be, each on fresh positions. Made on the main thread from
-// what holds then; runs on the scan queue.
+// Moves the items one after another to the sides chosen for them, reading positions afresh for each. Made on the main
+// thread from the state at that moment; runs on the scan queue.
 class BulkMove {
 public:
     struct Job {
         ItemChoices choices;
-        int passLimit = 0; // ends a bar that takes every move and does none
+        int passLimit = 0; // gives up on a bar that accepts every move but carries out none
     };
     BulkMove(const platform::Platform &platform, std::shared_ptr<menubar::MenuBarAccess> access,
              std::weak_ptr<ScanScheduler> scans, std::weak_ptr<menubar::DividerControl> divider, Job job);
 
-    MoveMessages run(); // blocks its thread, seconds for each move
+    MoveMessages run(); // blocks its thread for some seconds per move
 
 private:
     bool pass(); // false when there is nothing more to do

@@ -22,7 +22,7 @@ using platform::weakly;
 
 namespace {
 
-// The same at every launch, and none of the few that the program has of its own.
+// The same at every launch, and never one of the few numbers that the program uses for itself.
 std::uint32_t numberOf(const QString &item)
 {
     const QByteArray hash = QCryptographicHash::hash(item.toUtf8(), QCryptographicHash::Sha1);

@@ -36,12 +36,12 @@ public:
     };
     ItemHotkeys(const platform::Platform &platform, Parts parts);
 
-    void registerKept(); // those that are not yet; whoever is refused stays kept, and is told to the log
-    // The error is for the person: who has these keys.
+    void registerKept(); // those not yet registered; a refused one stays kept and is logged
+    // The error tells the person who has these keys.
     std::expected<void, QString> assign(const model::ItemShortcut &shortcut);
     void remove(const QString &item);
     void removeOf(const menubar::MenuExtra &extra);
-    // A sentence: who has the keys that were refused to this item, or, empty, to the panel.
+    // A sentence that says who has the keys that this item or, when item is empty, the panel was refused.
     QString whoHas(const model::KeyCombination &keys, const QString &item) const;
 
 private:

@@ -51,7 +51,7 @@ void ItemMoves::setHidden(const menubar::MenuExtra &extra, bool hidden)
 {
     if (!m_parts.model->movingID().isEmpty())
         return;
-    // An item can only be hidden, or shown again, across the widened icon; re-applies the settings even when it is on.
+    // Items are hidden and shown by moving them across the widened icon. Re-applies the settings even when it is on.
     m_parts.model->setDividerEnabled(true);
     m_panel->close();
     const Mark mark = this->mark(extra.id);

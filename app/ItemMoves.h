@@ -7,8 +7,8 @@ namespace brimshade::app {
 class PanelPresenter;
 class SecondaryWindows;
 
-// Hides and shows items by moving them across the divider, one at a time, and words what went wrong. Main thread;
-// the moves themselves run on the scan queue.
+// Hides and shows items by moving them across the divider, one at a time, and puts into words what went wrong. Main
+// thread; the moves themselves run on the scan queue.
 class ItemMoves : public std::enable_shared_from_this<ItemMoves> {
 public:
     ItemMoves(const platform::Platform &platform, ScanScheduler::Parts parts, std::shared_ptr<ScanScheduler> scans,
@@ -17,11 +17,11 @@ public:
 
     // Turns the divider on first. Ignored while a move runs. A failure becomes the model's message.
     void setHidden(const menubar::MenuExtra &extra, bool hidden);
-    // The setup flow is done: remembers that, and brings every item where it was chosen to be.
+    // For the end of the setup flow: remembers that it is done and moves every item to the side chosen for it.
     void finishOnboarding(const ItemChoices &choices);
 
 private:
-    // What stands in the model's movingID from a move's request to its end. A later move replaces it, and then only
+    // Tells whose movingID the model shows, from a move's request to its end. A later move replaces it, and then only
     // that move clears it.
     using Mark = int;
     Mark mark(const QString &movingID);

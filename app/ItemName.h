@@ -6,11 +6,11 @@
 
 namespace brimshade::app {
 
-// The one item that a person means by a name: its own or its program's, whole before a part of it, in any case of the
-// letters. It points into extras. The error says what is wrong with the name.
+// The one item that a person means by a name, its own or its program's: a whole name is tried before a part of one,
+// ignoring case. The result points into extras. The error says what is wrong with the name.
 std::expected<const menubar::MenuExtra *, QString> itemNamed(const QString &name, const menubar::ExtraList &extras);
 
-// What to call an item so that it is the one that is meant: by its program's name, which changes least, or by its own.
+// The name to ask for an item with: its program's, which changes least, where that finds this very item, else its own.
 QString nameToAskWith(const menubar::MenuExtra &item, const menubar::ExtraList &extras);
 
 } // namespace brimshade::app

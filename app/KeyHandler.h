@@ -15,7 +15,7 @@ public:
     // The model outlives the handler.
     KeyHandler(model::NotchModel &model, Close close);
 
-    // The event where it is for others, nothing where it has been handled.
+    // Returns the event if it is for others, nothing if it was handled here.
     std::optional<platform::Event> handle(const platform::Event &event) const;
 
 private:

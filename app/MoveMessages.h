@@ -9,7 +9,7 @@ using MoveMessages = QHash<QString, QString>; // by the id of the item that did 
 
 // What the user reads about one item.
 QString failureMessage(const menubar::MenuExtra &extra, menubar::MenuBarMover::Failure failure);
-// About all of them, in ascending order of the messages.
+// The same about all of them, sorted by message.
 QString failureSummary(const MoveMessages &messages);
 
 } // namespace brimshade::app

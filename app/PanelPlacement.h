@@ -12,14 +12,14 @@ class PanelPlacement {
 public:
     PanelPlacement(const platform::Screens &screens, const platform::Application &application);
 
-    // Of the last opening, as it was then; the main screen before the first.
+    // The screen of the last opening, as it was then; before the first one, the main screen.
     const platform::Screen &screen() const { return m_screen; }
-    // The one that an opening would take now: the notched screen, else the one under the pointer, else the main one,
-    // else the one of last time.
+    // The screen that an opening would use now: the notched screen, else the one under the pointer, else the main one,
+    // else the one used last time.
     platform::Screen currentScreen() const;
     void chooseScreen() { m_screen = currentScreen(); }
 
-    QSizeF notchSize() const; // a stand-in's where the screen has none
+    QSizeF notchSize() const; // a stand-in where the screen has no notch
     QRectF panelFrame() const; // hangs from the top of the screen, centred on the notch
 
 private:

@@ -33,7 +33,7 @@ constexpr double kSelectDelay = 0.22;
 constexpr double kItemsDelay = 0.15; // the bar needs 0.1 s to settle, and changes come in bursts
 constexpr double kWatchInterval = 0.25;
 constexpr double kAwayLimit = 2.5;
-constexpr double kClockRounding = 1e-6; // of a difference of two clock readings
+constexpr double kClockRounding = 1e-6; // error of a difference of two clock readings
 constexpr double kZoneMargin = 8;
 
 QString describe(const QRectF &r)
@@ -80,7 +80,7 @@ void PanelPresenter::open(bool byHover)
     placePanel();
     logOpening(byHover);
     show(byHover);
-    // On a later turn, so that the views see a closed panel on screen first. It must not be lost with its owner.
+    // On a later turn, so that the views see a closed panel on screen first. Held strongly: it must run.
     m_platform.dispatch.mainAsync([self = shared_from_this()] {
         if (self->m_shown)
             self->m_model->setIsOpen(true);
@@ -173,7 +173,7 @@ void PanelPresenter::activate(const menubar::MenuExtra &extra)
 void PanelPresenter::record(const menubar::MenuExtra &extra)
 {
     const QString identity = m_platform.itemServices ? m_platform.itemServices->identity(extra.element) : QString();
-    if (identity.isEmpty()) // it has gone
+    if (identity.isEmpty()) // the item has gone
         return;
     present();
     if (!m_shown)
@@ -217,7 +217,7 @@ void PanelPresenter::installMonitors()
 
 void PanelPresenter::handleOutsideClick(const platform::Event &)
 {
-    // A click on the status item is its own action's to judge.
+    // A click on the status item is left to the item's own action.
     platform::StatusBarButton *button = m_statusItem->button();
     platform::Window *window = button ? button->window() : nullptr;
     if (window && platform::containsPoint(window->frame(), m_platform.application.mouseLocation()))

@@ -34,15 +34,15 @@ public:
 
     bool shown() const { return m_shown; }
     void prepare(); // creates the panel ahead of its first opening, which then takes no longer than the others
-    // Refused while an item is being moved. By hover the panel leaves the keys where they are.
+    // Refused while an item is being moved. When opened by hover the panel does not take the keyboard.
     void open(bool byHover);
-    void present(); // opens it, or gives the open panel the keys
+    void present(); // opens it, or gives the open panel the keyboard
     void close(); // the panel goes off screen 0.35 s later, unless reopened
     void toggle();
     void select(const menubar::MenuExtra &extra); // closes, then presses the item
     void activate(const menubar::MenuExtra &extra); // closes, then activates the item
-    void record(const menubar::MenuExtra &extra); // its shortcut, in the panel, until that closes or has it
-    void itemsChanged(); // of those that change while a person looks at them
+    void record(const menubar::MenuExtra &extra); // its shortcut, in the panel, until it has one or the panel closes
+    void itemsChanged(); // those whose changes a person expects to see at once
     void hovered(); // the pointer has rested on the notch
 
 private:

@@ -5,7 +5,7 @@
 
 namespace brimshade::app {
 
-// Its place in the queue, and the work that will be done there.
+// A scan's place in the queue, and the work to be done there.
 class ScanQueue::Scan {
 public:
     explicit Scan(platform::Work work) : m_work(std::move(work)) { }

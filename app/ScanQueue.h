@@ -3,8 +3,8 @@
 
 namespace brimshade::app {
 
-// The serial queue of scans and moves. A scan that waits gives way to the next one asked for: nobody needs both. Not
-// across a move, so that a scan asked for after one sees the bar after it. Main thread.
+// The serial queue of scans and moves. A scan that still waits is replaced by the next one asked for, as nobody needs
+// both. Never across a move: a scan asked for after a move must see the bar as that left it. Main thread.
 class ScanQueue {
 public:
     explicit ScanQueue(std::shared_ptr<platform::SerialQueue> queue);

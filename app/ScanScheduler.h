@@ -30,7 +30,7 @@ namespace brimshade::app {
 class PanelPlacement;
 class ScanQueue;
 
-// What a scan judges the items by, as it is at one moment.
+// What a scan judges the items by, taken at one moment.
 struct ScanBasis {
     platform::Screen screen;
     std::optional<QRectF> dividerFrame; // display space; absent while divider mode is off
@@ -50,9 +50,10 @@ public:
     ScanScheduler(const platform::Platform &platform, Parts parts);
     ~ScanScheduler();
 
-    // Main thread; returns at once. The model learns whether the permission is there; without it nothing is scanned.
+    // Main thread; returns at once. Tells the model whether the permission has been granted; without it nothing is
+    // scanned.
     void scan();
-    // The same, and hands over what this scan or one under way finds; nothing without the permission.
+    // The same, and passes on what this scan, or one already under way, finds: no items without the permission.
     using Found = std::function<void(const menubar::ExtraList &)>;
     void scanFor(Found found);
     ScanBasis basis() const; // now; main thread
@@ -64,7 +65,7 @@ private:
     platform::Accessibility &m_accessibility;
     platform::Dispatch &m_dispatch;
     const Parts m_parts;
-    std::vector<Found> m_waiting; // for what is published next
+    std::vector<Found> m_waiting; // called with the next list that is published
 };
 
 } // namespace brimshade::app

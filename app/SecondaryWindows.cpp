@@ -110,7 +110,7 @@ void SecondaryWindows::createOnboarding()
     m_onboarding->center();
 }
 
-// The program is otherwise never the active one.
+// At no other time is this program the active one.
 void SecondaryWindows::present(platform::Window &window)
 {
     m_application.activate();

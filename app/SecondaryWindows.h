@@ -45,7 +45,7 @@ private:
     const std::unique_ptr<model::PermissionRequest> m_permission;
     const windows::OnboardingFlow::FinishAction m_onFinish;
     std::unique_ptr<windows::MenuBarChoices> m_menuBarChoices; // null where there is nothing to choose
-    std::unique_ptr<windows::OnboardingFlow> m_flow; // as old as the setup window
+    std::unique_ptr<windows::OnboardingFlow> m_flow; // made together with the setup window
     std::unique_ptr<platform::Window> m_settings;
     std::unique_ptr<platform::Window> m_onboarding;
 };

@@ -48,8 +48,8 @@ std::expected<void, QString> prepareEnvironment(const composition::CommandLine &
     return {};
 }
 
-// Even where it is to draw off screen the application object looks for display servers, and warns of a runtime folder
-// that a machine without any need not have.
+// Even when it only draws off screen, the application object looks for display servers and warns if the runtime folder
+// is missing, which a machine without a display need not have.
 std::unique_ptr<QGuiApplication> makeOffscreenApplication(int &argc, char **argv)
 {
     const QtMessageHandler usual =
@@ -131,7 +131,7 @@ int runStage(const composition::CommandLine &line, int scriptDescriptor)
     return line.script ? runScript(session, line, scriptDescriptor) : runWindow(session);
 }
 
-// Another Brimshade is this session's already.
+// For when this session already has a Brimshade.
 int openAnothersPanel()
 {
     const auto answer = desktop::session::remote::activate();
@@ -210,7 +210,7 @@ int main(int argc, char **argv)
     const auto application =
         line->hasWindow ? std::make_unique<QGuiApplication>(argc, argv) : makeOffscreenApplication(argc, argv);
     application->setApplicationName(u"brimshade"_s);
-    if (!line->isSession) // there it would stand once more in every window's title
+    if (!line->isSession) // in a session every window's title would repeat it
         application->setApplicationDisplayName(u"Brimshade"_s);
     application->setDesktopFileName(u"org.brimshade.Brimshade"_s);
     prepareRendering(line->hasWindow);

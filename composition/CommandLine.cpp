@@ -67,7 +67,7 @@ std::optional<desktop::session::NotchChoice> parseNotch(const QString &text)
     return isOffered ? choice : std::nullopt;
 }
 
-// What goes to the Brimshade that runs never comes here, unless it is not alone: the launcher takes it.
+// The launcher handles a request to the running Brimshade; one gets here only when combined with other options.
 Fault faultInRequest(const QCommandLineParser &parser, const Options &options)
 {
     for (const QCommandLineOption &each :

@@ -15,8 +15,8 @@ struct CommandLine {
     std::optional<QString> desktopFile; // absent: the built-in desktop
     std::optional<QString> defaultsFile; // absent: the user's settings, or memory in a script
     std::optional<QString> stateFile; // absent: the user's state, or none in a script
-    std::optional<QString> script; // "-" is standard input; absent: driven by hand alone
-    bool hasWindow = true; // it shows on the running session; a script only when asked for
+    std::optional<QString> script; // "-" is standard input; absent: driven only by hand
+    bool hasWindow = true; // on the running session; for a script only when asked for
     bool hostsTray = true;
     bool isRealTime = true; // always, with a window
     double scale = 1; // pixels a point, for pictures of a script

@@ -31,7 +31,7 @@ public:
     ~HostedTray();
     Q_DISABLE_COPY_MOVE(HostedTray)
 
-    // Shows what programs dock into the tray of the X server, too.
+    // Also shows what programs dock into the tray of the X server.
     void dockIcons(desktop::session::XEmbedItems::ToScreen toScreen, double pixelsPerPoint);
 
 private:

@@ -51,7 +51,7 @@ bool isX11()
 
 } // namespace
 
-// In the order in which they come to life; taken down in the opposite one.
+// Declared in the order of creation; destroyed in reverse.
 class LiveSession::Parts {
 public:
     Parts(LiveSessionOptions options, std::unique_ptr<ShellBackend> shell);
@@ -60,7 +60,7 @@ public:
     desktop::RealDispatch dispatch;
     desktop::SymbolService symbols;
     std::unique_ptr<ShellBackend> shell;
-    std::unique_ptr<desktop::MemoryDefaults> defaults; // the desktop's, once that exists
+    std::unique_ptr<desktop::MemoryDefaults> defaults; // moved into the desktop once that exists
     SessionScreens screens;
     SessionPreferences preferences;
     desktop::Desktop desktop;
@@ -138,7 +138,7 @@ QJsonObject LiveSession::Parts::state()
     return state;
 }
 
-// What a script can do to an invented desktop only.
+// What a script can do only to an invented desktop.
 void LiveSession::Parts::refuseInvented()
 {
     for (const QString &name :
@@ -159,7 +159,7 @@ void LiveSession::Parts::grabKeys()
     auto portal = std::make_unique<desktop::PortalKeyGrabber>(QDBusConnection::sessionBus());
     QObject::connect(portal.get(), &desktop::PortalKeyGrabber::availabilityChanged, &preferences,
                      [this, &portal = *portal] { preferences.setShortcutsWork(portal.isAvailable()); });
-    preferences.setShortcutsWork(false); // before it has answered
+    preferences.setShortcutsWork(false); // until it has answered
     desktop.hotkeys().setGrabber(std::move(portal));
 }
 
@@ -171,7 +171,7 @@ void LiveSession::Parts::watchOverKeys()
 
 LiveSession::Parts::~Parts()
 {
-    dispatch.stop(); // workers may be in the middle of a scan or a move: they end before anything that they use does
+    dispatch.stop(); // workers may be in the middle of a scan or a move and must end before what they use goes
 }
 
 std::expected<std::unique_ptr<LiveSession>, QString> LiveSession::create(LiveSessionOptions options)

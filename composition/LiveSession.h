@@ -21,9 +21,9 @@ namespace brimshade::composition {
 struct LiveSessionOptions {
     std::unique_ptr<desktop::MemoryDefaults> defaults; // null: empty, in memory
     desktop::session::ScreenChoice screen; // what the command line says of it
-    bool isNotchSaid = false; // there
+    bool isNotchSaid = false; // whether it says which notch
     bool hostsTray = true;
-    std::optional<QString> stateFile; // keeps the order of the tray's items; absent: it begins anew
+    std::optional<QString> stateFile; // keeps the order of the tray's items; absent: it is not kept
     bool printsLog = false; // to standard error
 };
 

@@ -8,7 +8,7 @@ class ScriptHost;
 
 namespace brimshade::composition {
 
-// Time as on a clock: to advance is to wait, while the event loop runs.
+// Real time: to advance is to wait while the event loop runs.
 class RealClock : public desktop::ScriptClock {
 public:
     RealClock(desktop::RealDispatch &dispatch, desktop::ScriptHost &host);

@@ -100,7 +100,7 @@ int ScriptLoop::runInEventLoop()
 {
     QSocketNotifier notifier(m_fileDescriptor, QSocketNotifier::Read);
     QObject::connect(&notifier, &QSocketNotifier::activated, &notifier, [&] {
-        if (m_isRunning) // a command that lets time pass is not to be interrupted by the next one
+        if (m_isRunning) // the next command must not interrupt one that lets time pass
             return;
         readMore();
         m_isRunning = true;

@@ -21,12 +21,12 @@ public:
     int runBlocking();
     // The same while the event loop of the application keeps running between the lines.
     int runInEventLoop();
-    void stop(); // runs no line after the present one; where none is running, the event loop ends now
+    void stop(); // runs no further line; when none is running, the event loop ends at once
 
 private:
     bool readMore(); // false at the end of the file
     std::optional<QByteArray> nextLine();
-    std::optional<int> refuseLongLine() const; // after the whole lines that were read
+    std::optional<int> refuseLongLine() const; // call once the complete lines have been taken
     std::optional<int> runLine(const QByteArray &line); // the exit status, when the script ends here
 
     int m_fileDescriptor;

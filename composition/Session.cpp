@@ -34,7 +34,7 @@ public:
     {
         m_dispatch.runDue();
         m_scene.settle();
-        m_dispatch.runDue(); // what laying out has asked for
+        m_dispatch.runDue(); // what the layout has queued
     }
     void advance(double seconds) override { m_dispatch.advance(seconds); }
     double now() const override { return m_dispatch.now(); }
@@ -46,7 +46,7 @@ private:
 
 } // namespace
 
-// In the order in which they come to life; taken down in the opposite one.
+// Declared in the order of creation; destroyed in reverse.
 class Session::Parts {
 public:
     explicit Parts(SessionOptions options);
@@ -58,7 +58,7 @@ public:
     std::unique_ptr<desktop::Desktop> desktop;
     std::unique_ptr<desktop::SceneHost> scene;
     std::shared_ptr<app::AppDelegate> delegate;
-    std::unique_ptr<desktop::session::ActivationTokens> tokens; // where a person sees a window
+    std::unique_ptr<desktop::session::ActivationTokens> tokens; // null without a window
     std::unique_ptr<HostedTray> tray;
     std::unique_ptr<desktop::ScriptClock> clock;
     std::unique_ptr<desktop::ScriptRunner> script;
@@ -116,7 +116,7 @@ void Session::Parts::buildScene(const SessionOptions &options)
     scene = options.hasWindow ? desktop::SceneHost::window(*desktop)
                               : desktop::SceneHost::offscreen(*desktop, virtualTime.get(), options.scale);
     if (options.hasWindow && QGuiApplication::platformName() == "xcb"_L1) {
-        // The shortcut works while another program of the session has the keys.
+        // So that the shortcut works while another program of the session has the keyboard.
         const auto window = static_cast<std::uint32_t>(scene->quickWindow()->winId());
         desktop->hotkeys().setGrabber(desktop::X11KeyGrabber::create(window));
         desktop->hotkeys().setModeObserver(
@@ -137,7 +137,7 @@ void Session::Parts::buildScript()
 
 Session::Parts::~Parts()
 {
-    // Workers may be in the middle of a scan or a move: they end before anything that they use does.
+    // Workers may be in the middle of a scan or a move: they must end before what they use goes.
     if (virtualTime)
         virtualTime->stop();
     else

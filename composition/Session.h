@@ -22,7 +22,7 @@ namespace brimshade::composition {
 struct SessionOptions {
     desktop::DesktopDescription description;
     std::unique_ptr<desktop::MemoryDefaults> defaults; // null: empty, in memory
-    bool isScripted = true; // the login item is the description's, not the user's own
+    bool isScripted = true; // its login item is that of the description, not the user's own
     bool hasWindow = false; // on the running session
     bool isRealTime = false; // always, with a window
     bool hostsTray = false;
@@ -31,8 +31,8 @@ struct SessionOptions {
     bool printsLog = false; // to standard error
 };
 
-// One whole Brimshade on one whole desktop: built, launched and taken down in the right order. Any number may live in
-// a process one after the other; two in virtual time not side by side, as a thread has one animation clock. Main
+// One whole Brimshade on one whole desktop: built, launched and taken down in the right order. A process may have any
+// number of them one after another, but not two in virtual time at once, as a thread has only one animation clock. Main
 // thread; needs a QGuiApplication.
 class Session {
 public:

@@ -7,7 +7,7 @@ class AppDelegate;
 
 namespace brimshade::composition {
 
-// What the program itself can tell for inspection: "model" with every field of NotchModel by name, "shown" and
+// What the program itself reports for inspection: "model" with every field of NotchModel by name, "shown" and
 // "divider". Absent values are null. Main thread.
 QJsonObject stateReport(app::AppDelegate &delegate);
 

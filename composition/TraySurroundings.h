@@ -4,7 +4,7 @@
 
 namespace brimshade::composition {
 
-// tokens may be null and outlives what comes out.
+// tokens may be null; if not, it outlives the result.
 inline desktop::tray::Surroundings surroundings(std::function<QPoint(QPointF display)> toScreen,
                                                 desktop::session::ActivationTokens *tokens)
 {

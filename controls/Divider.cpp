@@ -100,7 +100,7 @@ void Divider::setEnabled(bool enabled)
     reanchor();
 }
 
-// A second after the last of several, so that they share one measurement.
+// Measures a second after the last of several changes, so that they share one measurement.
 void Divider::applicationsChanged()
 {
     later(m_applicationChange, kApplicationChangeDelay, &Divider::reanchor);

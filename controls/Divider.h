@@ -28,15 +28,15 @@ public:
                                            std::shared_ptr<platform::StatusItem> item, const platform::Image &symbol);
     ~Divider() override;
 
-    bool isExpanded() const { return m_isExpanded; } // expand() was called last, even where it still has to wait
+    bool isExpanded() const { return m_isExpanded; } // expand() was called last, even if it still has to wait
     bool isEnabled() const { return m_isEnabled; } // divider mode
     void setEnabled(bool enabled); // and measures anew
     // x of the right edge of the item while it has its resting length, screen space; absent until measured.
     std::optional<double> anchor() const { return m_anchor; }
     double slack() const { return m_slack; } // kept free beside the notch after failed clearance checks
 
-    void reanchor(); // collapses, measures 0.3 s later, then expands; while a move has the item, once that is over
-    void expand(); // as far as anchor, slack and notch allow; a measurement that is still to come does it itself
+    void reanchor(); // collapses, measures 0.3 s later, then expands; during a move it waits for release()
+    void expand(); // as far as anchor, slack and notch allow; a pending measurement calls this itself
     void collapse() override; // for a move: nothing widens it until release()
     void release() override;
     void resize(double length);
@@ -44,11 +44,11 @@ public:
     bool isWindowVisible() const override;
 
 private:
-    using Step = std::shared_ptr<platform::DispatchWorkItem>; // one that is still to come; null for none
+    using Step = std::shared_ptr<platform::DispatchWorkItem>; // a scheduled one; null for none
 
     struct Room {
         double length;
-        bool reachesNotch; // there is room beside the notch: worth checking that the bar gave it
+        bool reachesNotch; // there is room beside the notch: worth checking that the bar granted it
     };
 
     Divider(const platform::Platform &platform, std::shared_ptr<menubar::MenuBarAccess> access,

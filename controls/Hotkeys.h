@@ -17,9 +17,9 @@ public:
     Hotkeys(const Hotkeys &) = delete;
     Hotkeys &operator=(const Hotkeys &) = delete;
 
-    // In place of what has that number; the same again changes nothing. False: the system refuses the keys, and what
-    // had the number keeps its own. purpose: what a press does, in the user's language. The action holds weakly what it
-    // needs.
+    // Replaces the hotkey of that number; the same keys again change nothing. False: the system refuses the keys, and
+    // the hotkey keeps those it had. purpose: what a press does, in the user's language. The action should hold what it
+    // needs weakly.
     bool set(std::uint32_t number, const model::KeyCombination &keys, const QString &purpose, platform::Work action);
     void clear(std::uint32_t number);
 
@@ -32,7 +32,7 @@ private:
     using All = std::map<std::uint32_t, Registered>;
 
     platform::HotkeyCenter &m_center;
-    const std::shared_ptr<All> m_all = std::make_shared<All>(); // the centre's handler knows it weakly
+    const std::shared_ptr<All> m_all = std::make_shared<All>(); // the centre's handler holds it weakly
 };
 
 } // namespace brimshade::controls

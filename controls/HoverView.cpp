@@ -7,7 +7,7 @@ namespace brimshade::controls {
 namespace {
 
 constexpr double kRestDelay = 0.18;
-constexpr double kFillAlpha = 0.001; // a window that is clear throughout would let the pointer through
+constexpr double kFillAlpha = 0.001; // a fully transparent window would let the pointer through
 
 } // namespace
 

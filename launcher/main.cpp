@@ -1,5 +1,5 @@
-// What `brimshade` starts: a word for the Brimshade that runs in this session goes there at once; for all else this
-// process becomes the program itself. A key binding thus waits for few libraries.
+// What `brimshade` starts. A request to the Brimshade of this session is sent at once; for anything else this process
+// becomes the program itself. So a key binding does not wait for many libraries to load.
 #include "desktop/session/remote/Remote.h"
 
 #include <algorithm>
@@ -48,7 +48,7 @@ int list(std::string (*written)(const std::vector<remote::Item> &))
     return 0;
 }
 
-// Absent where the arguments are anything else.
+// Absent if the arguments are anything else.
 std::optional<int> sayToTheOneThatRuns(const std::vector<const char *> &arguments)
 {
     const auto are = [&](std::initializer_list<std::string_view> words) {
@@ -65,7 +65,7 @@ std::optional<int> sayToTheOneThatRuns(const std::vector<const char *> &argument
     return {};
 }
 
-// BRIMSHADE_MAIN is relative to the folder of this one.
+// BRIMSHADE_MAIN is relative to the folder of this executable.
 std::string programPath()
 {
     char self[PATH_MAX];
