@@ -23,7 +23,7 @@ platform::AXError pressOrShowMenu(platform::Accessibility &accessibility, const 
 void pressItem(platform::Accessibility &accessibility, platform::Log &log, const MenuExtra &extra)
 {
     const platform::AXError error = pressOrShowMenu(accessibility, extra.element);
-    // An application that is busy with the menu it opened does not answer in time: no failure.
+    // An application busy with the menu it opened does not answer in time: that is no failure.
     if (error != platform::kAXErrorSuccess && error != platform::kAXErrorCannotComplete)
         log.write(platform::LogLevel::error, "press failed for %{public}s: AXError %d", {extra.name, int(error)});
 }

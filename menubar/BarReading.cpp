@@ -21,7 +21,7 @@ const QString kButtonRole = u"AXButton"_s;
 constexpr double kScanTimeout = 0.25;
 constexpr double kButtonTimeout = 0.2;
 
-// Far beyond any real menu bar: ends the walk of a tree that leads back into itself.
+// Far deeper than any real menu bar: stops the walk of a tree that leads back into itself.
 constexpr int kDeepestGroup = 1000;
 
 struct Walk {

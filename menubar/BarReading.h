@@ -6,7 +6,7 @@
 #include <optional>
 #include <vector>
 
-// What one application answers about its extras menu bar. Blocks its thread for that long; any thread.
+// What one application answers about its extras menu bar. Blocks its thread until it has answered; any thread.
 namespace brimshade::menubar {
 
 struct ItemReading {

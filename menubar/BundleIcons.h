@@ -17,7 +17,7 @@ struct TintedIcon {
 
 TintedIcon tinted(const platform::Image &image); // any thread
 
-// The icons of application bundles, 128 × 128 points, each read once. Without a lock: one thread at a time.
+// The icons of application bundles, 128 × 128 points, each read once. It has no lock: one thread at a time.
 class BundleIcons {
 public:
     explicit BundleIcons(platform::Workspace &workspace) : m_workspace(workspace) { }

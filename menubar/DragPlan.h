@@ -11,11 +11,11 @@ namespace brimshade::menubar {
 // Whether a window description is a menu bar, at that window level, with the point in it.
 bool menuBarWindowCovers(const QVariantMap &windowInfo, QPointF point, int mainMenuLevel);
 
-// Whether an item can be dragged from where it is to the visible side. Without a system button nothing bounds it.
+// Whether an item can be dragged from where it is to the visible side. Without a system button there is no limit on the
+// left.
 bool canBeShown(const QRectF &item, const QRectF &divider, const std::optional<QRectF> &systemButton);
 
-// Those items that a moved one can be dropped beside, in their order: all others that show right of the system
-// button.
+// The items beside which the moved one can be dropped, in their order: all others that lie right of the system button.
 std::vector<QRectF> dropCandidates(const ExtraList &extras, const QString &movedID,
                                    const std::optional<QRectF> &systemButton);
 

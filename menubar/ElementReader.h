@@ -10,16 +10,16 @@ using platform::Accessibility;
 using platform::AXUIElement;
 
 // Reads the elements of one application. An attribute whose call fails or whose value is of another kind reads as
-// empty, null or 0: no reader tells those apart. Every element that it comes upon gets a messaging timeout; after the
-// first time-out the application counts as hung and nothing more is asked of it, so that it costs no more than
-// that. Any thread, one at a time.
+// empty, null or 0: no reader tells those apart. Every element that it finds gets a messaging timeout; after the first
+// time-out the application counts as hung and nothing more is asked of it, so that it costs no more time. Any thread,
+// one at a time.
 class ElementReader {
 public:
     explicit ElementReader(Accessibility &accessibility) : m_accessibility(accessibility) { }
 
-    // Of an application element, with that messaging timeout in seconds. Null when there is none.
+    // That of an application, read with this messaging timeout in seconds. Null when it has none.
     AXUIElement extrasMenuBar(int processIdentifier, double messagingTimeout);
-    // An element that was come upon before: it gets the messaging timeout here too.
+    // For an element found by another reader: sets the messaging timeout on it.
     void adopt(const AXUIElement &element);
 
     QString string(const AXUIElement &element, const QString &attribute);

@@ -18,19 +18,19 @@ namespace brimshade::menubar {
 struct BarReading;
 struct ItemReading;
 
-// What the program reads of, and does to, other applications' menu bar items. Each call blocks its thread for what
-// the applications take to answer. scan belongs to the scan queue, where calls never overlap: its
-// cache has no lock. It asks the applications side by side, each for as long as its first time-out at the most, and
-// names and pictures their items on its own thread. The rest may be called on any thread.
+// Reads other applications' menu bar items and presses them. Reading blocks its thread until the applications have
+// answered. scan belongs to the scan queue, where calls never overlap: its cache has no lock. It asks the applications
+// side by side, gives up on each at its first time-out, and adds the items' names and icons on its own thread. The rest
+// may be called on any thread.
 class MenuBarAccess {
 public:
     // The platform's services outlive this object.
     explicit MenuBarAccess(const platform::Platform &platform);
     ~MenuBarAccess();
 
-    // Every item of every other application, left to right. Never fails: an application that cannot be read
-    // contributes none, an attribute that cannot be read its default. dividerFrame is in display space; absent when
-    // no divider tells hidden items from others.
+    // Every item of every other application, left to right. Never fails: an application that cannot be read contributes
+    // none, and an attribute that cannot be read has its default. dividerFrame is in display space; absent when no
+    // divider tells hidden items from others.
     ExtraList scan(const platform::Screen &screen, std::optional<QRectF> dividerFrame);
 
     // Display space; absent when a part of it cannot be read.

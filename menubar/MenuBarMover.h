@@ -10,7 +10,7 @@ namespace brimshade::menubar {
 
 class MenuBarAccess;
 
-// What the mover needs of the divider. Main thread; the mover gets there by itself.
+// What the mover needs of the divider. Main thread; the mover sees to that itself.
 class DividerControl {
 public:
     virtual ~DividerControl() = default;
@@ -26,7 +26,7 @@ public:
     enum class Failure {
         menuBarHidden, // the divider's menu bar is not showing
         noRoom, // the item cannot be reached to be shown
-        didNotMove, // after the drag it was not on the side asked for; or there was no reading where it is
+        didNotMove, // after the drag it was not on the side asked for, or its place could not be read
     };
     using Result = std::expected<void, Failure>;
 

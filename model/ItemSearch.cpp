@@ -21,13 +21,13 @@ QString folded(QString text, bool dotlessI)
 {
     if (dotlessI)
         text.replace(u'I', u'ı').replace(u'İ', u'i');
-    // Decomposed first: a letter and its accent fold like the one letter that stands for both.
+    // Decomposed first: a letter and its accent then fold like the single letter that stands for both.
     text = text.normalized(QString::NormalizationForm_D).toCaseFolded();
-    text.replace(u"ß"_s, u"ss"_s); // the toolkit folds to as many letters as there were
+    text.replace(u"ß"_s, u"ss"_s); // the toolkit never folds one letter to two
     return text.normalized(QString::NormalizationForm_C);
 }
 
-// Ends each text; no text that means anything has it, and no hit reaches across it.
+// Ends each text. No meaningful text contains it, so no hit reaches across it.
 constexpr QChar kEnd = u'\uffff';
 
 // A hit that ends before a combining mark ends in the middle of a character: "x" is not in "x̂".

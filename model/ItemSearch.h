@@ -11,12 +11,12 @@ public:
     ItemSearch() = default;
     explicit ItemSearch(const menubar::ExtraList &extras);
 
-    // Ascending indices of the items whose name or detail contains the query less its outer blanks, without regard to
-    // case and up to canonical equivalence; of all items when nothing is left of the query.
+    // Ascending indices of the items whose name or detail contains the trimmed query, ignoring case and up to canonical
+    // equivalence; of all items when the trimmed query is empty.
     std::vector<int> matches(const QString &query) const;
 
 private:
-    QString m_text; // every item's texts one after the other: one search goes through all
+    QString m_text; // every item's texts, one after another, so that one search covers all
     std::vector<qsizetype> m_ends; // where each item's end in it
 };
 

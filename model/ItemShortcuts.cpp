@@ -21,7 +21,7 @@ std::uint32_t readNumber(const QVariant &value)
     return fits ? static_cast<std::uint32_t>(number) : std::numeric_limits<std::uint32_t>::max();
 }
 
-// Whatever no recorder could have written is dropped.
+// Drops whatever the recorder could not have written.
 std::optional<ItemShortcut> readShortcut(const QVariant &value)
 {
     const QVariantMap map = value.toMap();

@@ -18,8 +18,8 @@ struct ItemShortcut {
     KeyCombination keys;
 };
 
-// Of all items that have some, there or not: read once, written through with each change. No item has two, and no two
-// items the same. Main thread; the defaults outlive it.
+// The shortcuts of all items that have one, present or not: read once, written through at each change. No item has two,
+// and no two items share one. Main thread; the defaults outlive it.
 class ItemShortcuts {
 public:
     static constexpr std::size_t kMost = 200;
@@ -31,7 +31,7 @@ public:
     const ItemShortcut *of(const QString &item) const; // null for none
     const ItemShortcut *with(const KeyCombination &keys) const;
 
-    void set(const ItemShortcut &shortcut); // whose keys no other item has
+    void set(const ItemShortcut &shortcut); // no other item may have its keys
     void remove(const QString &item);
 
 private:

@@ -14,8 +14,8 @@ struct KeyCombination {
 };
 
 KeyCombination keyCombination(const platform::Event &event);
-// Whether it may be taken from every other program: a key that has a name, with Control, Option or Command, or a
-// function key.
+// Whether a global shortcut may take it from all other programs: a key that has a name, with Control, Option or
+// Command, or a function key.
 bool canBeGlobal(const KeyCombination &keys);
 QString displayTitle(const KeyCombination &keys); // "⌃⌥Space"
 

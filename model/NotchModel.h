@@ -23,8 +23,9 @@ using menubar::MenuExtra;
 // The one observable state of the program: written by the coordinator and by the views' bindings, read by every
 // view. Main thread only. objectWillChange comes before every assignment to a published field, the field's own signal
 // after one that changed it (extras: after every one).
-// Ids and the message are empty where absent. Derived lists keep the scanner's order. With a query, or after there was
-// a selection, new extras find a match selected as soon as there is one: the first where the selected one has gone.
+// Ids and the message are empty where absent. Derived lists keep the scanner's order. With a query, or once there has
+// been a selection, a match stays selected when new extras come, provided there is one: the first if the selected one
+// has gone.
 class NotchModel : public QObject {
     Q_OBJECT
     Q_PROPERTY(bool isOpen READ isOpen WRITE setIsOpen NOTIFY isOpenChanged)
@@ -66,7 +67,7 @@ public:
     QString selectedID() const;
     QSizeF notch() const; // points
     QString movingID() const;
-    bool isRecording() const; // the shortcut of an item, in the panel
+    bool isRecording() const; // an item's shortcut, in the panel
     QString message() const;
     bool showVisible() const;
     bool hoverToOpen() const;
@@ -89,7 +90,7 @@ public:
     void setHoverToOpen(bool on);
     void setShortcut(Shortcut shortcut);
     void setDividerEnabled(bool on);
-    void setLaunchAtLogin(bool on); // snaps back to the system's answer when that refuses
+    void setLaunchAtLogin(bool on); // snaps back to the system's answer if it refuses
 
     ItemShortcuts &itemShortcuts() { return m_itemShortcuts; }
     const ItemShortcuts &itemShortcuts() const { return m_itemShortcuts; }
@@ -108,7 +109,7 @@ public:
     const MenuExtra *extraWithID(const QString &id) const; // null when there is none
     const MenuExtra *selectedMatch() const; // null when no match is selected
     void setQuery(const QString &text); // and selects the first match
-    void resetSearch(); // no hover, no query, and nothing selected before a key or the pointer chose
+    void resetSearch(); // no hover, no query, and no selection until a key or the pointer makes one
     void moveSelection(int step);
 
     // Installed once by the coordinator; they do nothing until then.
@@ -166,7 +167,7 @@ private:
     PanelContent content() const;
     int resultCount() const;
     const MenuExtra &result(int position) const; // among the hidden matches, then the visible ones
-    int selectedPosition() const; // -1 when none is
+    int selectedPosition() const; // -1 for none
     void selectFirst(); // nothing where there are no matches
     void reselect();
 
@@ -180,7 +181,7 @@ private:
     QString m_hoveredID;
     QString m_query;
     QString m_selectedID;
-    bool m_wantsSelection = false; // there was one since resetSearch()
+    bool m_wantsSelection = false; // there has been one since resetSearch()
     QSizeF m_notch{200, 32};
     QString m_movingID;
     bool m_isRecording = false;
@@ -193,9 +194,9 @@ private:
     ItemShortcuts m_itemShortcuts;
 
     ItemSearch m_search; // of m_extras
-    QHash<QString, std::size_t> m_places; // in m_extras, by canonical id; of several the first
+    QHash<QString, std::size_t> m_places; // index in m_extras, by canonical id; the first of several
     int m_hiddenCount = 0;
-    mutable std::optional<Derived> m_derived; // what the last read made, until something changes
+    mutable std::optional<Derived> m_derived; // computed by the last read, kept until something changes
 };
 
 } // namespace brimshade::model

@@ -6,7 +6,7 @@ namespace brimshade::model {
 
 struct PanelContent {
     bool trusted = true;
-    bool hasItems = false; // of any kind, also when none matches
+    bool hasItems = false; // any at all, even if none matches
     int hiddenTiles = 0;
     int visibleTiles = 0;
     bool isRecording = false; // the shortcut recorder is shown instead of the tiles

@@ -3,7 +3,7 @@
 
 namespace brimshade::model {
 
-// What the panel's content measures, in points; views have it as a value of QML. The panel's size follows from them.
+// The measures of the panel's content, in points, which the views read in QML. The panel's size follows from them.
 class PanelMetrics : public QObject {
     Q_OBJECT
     Q_PROPERTY(double tileWidth MEMBER tileWidth CONSTANT)
@@ -41,7 +41,7 @@ public:
     static constexpr double bottomMargin = 4; // under the footer
 
     static constexpr double sidePadding = 22; // of the content in the body
-    static constexpr double notchClearance = 24; // that the header leaves beside the notch, both sides together
+    static constexpr double notchClearance = 24; // that the header leaves free beside the notch, both sides together
 
     // The outline's radii: of the flares at the screen's edge, one on either side of the body, and of the lower
     // corners.

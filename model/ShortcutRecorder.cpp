@@ -90,7 +90,7 @@ void ShortcutRecorder::record(const KeyCombination &keys)
     endSoon();
 }
 
-// While they are held down, their repeats would trigger the shortcut just recorded.
+// Not at once: the repeats of keys still held down would trigger the shortcut just recorded.
 void ShortcutRecorder::endSoon()
 {
     const auto endUnlessRenewed = [](ShortcutRecorder &self, int time) {

@@ -20,15 +20,15 @@ class ShortcutRecorder : public QObject {
     Q_OBJECT
     Q_PROPERTY(State state READ state NOTIFY changed)
     Q_PROPERTY(QString name READ name NOTIFY changed) // the item's
-    Q_PROPERTY(QString keys READ keys NOTIFY changed) // those that it has or was just given; empty for none
+    Q_PROPERTY(QString keys READ keys NOTIFY changed) // those it has or has just been given; empty for none
     Q_PROPERTY(QString sentence READ sentence NOTIFY changed) // what to do, or what was wrong
 
 public:
     enum State {
         Off,
         Listening,
-        Refused, // what was pressed; it still listens
-        Recorded, // for a moment, before it goes off
+        Refused, // the keys pressed; it still listens
+        Recorded, // for a moment, before it turns off
         Impossible, // the sentence says what to do instead
     };
     Q_ENUM(State)
@@ -40,7 +40,7 @@ public:
     // advice: what to do where no shortcut can be recorded, else empty.
     void begin(const QString &item, const QString &name, const QString &advice);
     Q_INVOKABLE void end(); // nothing changes
-    Q_INVOKABLE void remove(); // the item has none from now on; ends
+    Q_INVOKABLE void remove(); // the item loses its shortcut; ends
     void handle(const platform::Event &event); // a key down
 
     State state() const { return m_state; }
@@ -66,7 +66,7 @@ private:
     platform::Dispatch &m_dispatch;
     State m_state = Off;
     QString m_item, m_name, m_sentence;
-    int m_timesRecorded = 0; // and the keys still held
+    int m_timesRecorded = 0; // including each repeat of keys still held down
 };
 
 } // namespace brimshade::model

@@ -11,7 +11,7 @@ namespace brimshade::model {
 
 namespace {
 
-// The model may be gone before a menu is.
+// The model may go before a menu does.
 using Model = QPointer<NotchModel>;
 
 platform::MenuItem openEntry(const Model &model, const MenuExtra &extra, const ItemShortcut *shortcut)

@@ -7,8 +7,8 @@
 
 namespace brimshade::panel {
 
-// The footer's line and the one that it replaced. Another item, or none, is another line; another text of the same item
-// is not.
+// The footer's line and the one it replaced. A change to another item, or to none, makes a new line; a changed text of
+// the same item does not.
 class FooterText : public QObject {
     Q_OBJECT
     QML_ELEMENT

@@ -5,8 +5,8 @@ import Brimshade.Notch
 import Brimshade.Panel
 import Brimshade.Ui
 
-// The whole panel: a black tab that hangs from the top edge, as large as the notch when closed, and around it nothing
-// but what takes the click that closes it.
+// The whole panel: a black tab that hangs from the top edge, as large as the notch when closed, in an empty area that
+// takes the click that closes it.
 Item {
     id: root
 
@@ -19,16 +19,16 @@ Item {
     // From the beginning of the opening to the end of the closing. At other times nothing moves or is read out.
     readonly property bool presented: root.open || openness.running || root.rehearsing
 
-    // For whoever shows the panel in a window that is not as large as this: what takes clicks when it is open, what does
-    // now, and how far shadow and springs reach beyond it.
+    // For a host whose window is smaller than this item: the area that takes clicks when open, the one that does now,
+    // and how far shadow and springs reach beyond it.
     readonly property rect openArea: Qt.rect((root.width - geometry.openSize.width) / 2 + 14, 0,
                                              geometry.openSize.width - 28, geometry.openSize.height)
     readonly property rect hitArea: root.open ? root.openArea : Qt.rect(0, 0, 0, 0)
     readonly property real hitRadius: 32 // of its lower corners
     readonly property real drawnMargin: 64
 
-    // For whoever shows it in a window that waits for frames: tiles come a few at a time, and none before the first frame;
-    // and a drawing that nobody sees, ahead of the first opening, has one of everything.
+    // For a host whose window waits for frames. Paced: tiles come a few at a time; unseen: none come yet; rehearsing:
+    // one of everything is drawn out of sight, ahead of the first opening.
     property bool paced: false
     property bool unseen: false
     property bool rehearsing: false
@@ -53,7 +53,7 @@ Item {
     PanelGeometry {
         id: geometry
         source: root.model
-        limit: root.height - 64 // leaves the shadow its room
+        limit: root.height - 64 // leaves room for the shadow
     }
     SpringValue {
         id: openness

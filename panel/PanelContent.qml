@@ -22,7 +22,7 @@ Item {
     readonly property real bodyTop: root.model.notch.height
     readonly property real contentLeft: (root.width - contentWidth.value) / 2
 
-    // Of the highlighted tile, there: the pointer may be anywhere.
+    // Opens the highlighted tile's menu at that tile, wherever the pointer is.
     function showMenu() {
         const id = root.panelState.highlightedID;
         if (id === "" || root.panelState.body !== PanelState.Tiles)
@@ -31,7 +31,7 @@ Item {
         root.actions.showMenuAt(id, Qt.point(root.width / 2 + face.x, root.bodyTop + face.y - body.scrollPosition));
     }
 
-    // Items that come into an empty panel find it in its final width.
+    // Items that come into an empty panel find it at its final width.
     Glide {
         id: contentWidth
         target: root.geometry.openSize.width - 2 * (PanelMetrics.openFlare + PanelMetrics.sidePadding)
@@ -80,7 +80,7 @@ Item {
             width: parent.width + 2
             height: parent.height - y + 1
             depth: 15
-            radius: 7 // and the depth: no more than the padding
+            radius: 7 // no more than the padding, like the depth
         }
     }
     Scroller {

@@ -23,7 +23,7 @@ class PanelGeometry : public QObject {
     Q_PROPERTY(double hiddenSectionY READ hiddenSectionY CONSTANT)
     Q_PROPERTY(double visibleSectionY READ visibleSectionY NOTIFY changed)
     Q_PROPERTY(double contentHeight READ contentHeight NOTIFY changed) // of the sections, or of the sentence instead
-    Q_PROPERTY(double viewportHeight READ viewportHeight NOTIFY changed) // what of it is in view
+    Q_PROPERTY(double viewportHeight READ viewportHeight NOTIFY changed) // the part of it in view
     Q_PROPERTY(double footerY READ footerY NOTIFY changed)
 
 public:
@@ -42,7 +42,7 @@ public:
     double footerY() const;
 
     Q_INVOKABLE double clampedScroll(double scroll) const;
-    // The nearest scroll position at which the whole tile is in view; with it, the title above a first row.
+    // The nearest scroll position at which the whole tile is in view and, for one in a first row, the title above it.
     Q_INVOKABLE double scrollShowing(const QString &id, double scroll) const;
     // Of the tile's face, unscrolled, from the middle of the panel; the origin when there is no such tile.
     Q_INVOKABLE QPointF faceCentre(const QString &id) const;

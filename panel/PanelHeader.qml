@@ -55,7 +55,7 @@ Item {
             StyledText {
                 objectName: "query"
                 width: Math.min(implicitWidth, root.sideWidth - leadingIcon.width - caret.width - 6)
-                text: root.model.query.replace(/\s/g, "\u00a0") // so that blanks at the end have their width, and tabs no more
+                text: root.model.query.replace(/\s/g, "\u00a0") // trailing blanks keep their width, tabs get no more
                 size: 11
                 font.weight: Font.DemiBold
                 color: "white"

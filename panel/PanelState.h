@@ -7,7 +7,7 @@
 
 namespace brimshade::panel {
 
-// The panel's texts and cases, derived from the model; and those of the model's callbacks that no tile calls.
+// The panel's texts and states, derived from the model, and a way to those of the model's callbacks that no tile calls.
 class PanelState : public QObject {
     Q_OBJECT
     QML_ELEMENT

@@ -15,7 +15,7 @@ StyledText {
 
     x: root.parent.width / 2 + across.value
     y: down.value
-    // Of 9.5 points: the toolkit rounds the sizes of fonts.
+    // Half size, for 9.5 points: the toolkit rounds font sizes.
     scale: 0.5
     transformOrigin: Item.TopLeft
     size: 19

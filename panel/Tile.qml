@@ -12,7 +12,7 @@ FadingGroup {
     required property HelpTip helpTip
     required property bool open
     required property bool highlighted
-    required property bool takesWheel // it is not the panel's to scroll with
+    required property bool takesWheel // true when the panel itself does not scroll
     required property int index // across both sections, in reading order
     required property bool isNew
     required property bool isFirst
@@ -25,7 +25,7 @@ FadingGroup {
     required property color tint
     required property bool isHidden
 
-    signal gone // it was leaving, and has faded out
+    signal gone // it was leaving and has now faded out
 
     enabled: !root.isLeaving
     z: root.isLeaving ? -1 : 0
@@ -48,7 +48,7 @@ FadingGroup {
     Accessible.ignored: root.isLeaving
     Accessible.onPressAction: root.actions.open(root.extraID)
 
-    // The first items come in as at every opening.
+    // The first items of all come in as they do at every opening.
     Component.onCompleted: {
         if (root.isNew && root.open)
             (root.isFirst ? entrance : arrival).run(0, 1);
@@ -114,7 +114,7 @@ FadingGroup {
     }
     Item {
         anchors.fill: parent
-        visible: root.shown > 0 // the first frame of an opening does nothing for tiles that come later
+        visible: root.shown > 0 // the first frame of an opening spends no time on tiles that come later
         scale: press.value
 
         TileFace {
@@ -136,7 +136,7 @@ FadingGroup {
             width: parent.width
             height: parent.height - y
             text: root.name
-            opacity: entrance.clamped // beside that of the tile: blurred, little of it would be seen
+            opacity: entrance.clamped // on top of the tile's: blurred, little of it would be seen
             size: 10
             font.weight: Font.Medium
             color: Qt.rgba(1, 1, 1, root.highlighted ? 0.95 : root.isHidden ? 0.62 : 0.45)

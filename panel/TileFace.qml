@@ -3,8 +3,8 @@ import QtQuick
 import Brimshade.Model
 import Brimshade.Ui
 
-// A rounded square with the item's icon or symbol. Every change of look is an opacity: the pictures stay. What is to be
-// seen at rest has its alpha in its colour, which is finer than an item's opacity.
+// A rounded square with the item's icon or symbol. Its look changes only by opacities, so the pictures stay. What shows
+// at rest has its alpha in its colour, which has finer steps than an item's opacity.
 Item {
     id: root
 
@@ -13,7 +13,7 @@ Item {
     required property color tint
     required property bool isHidden
     required property bool hovered
-    required property bool scaled // by whatever it is part of
+    required property bool scaled // by an ancestor
     required property real sharpness // 0: wholly blurred, 1: not at all
     required property var overlay
     required property bool wantsAttention
@@ -22,7 +22,7 @@ Item {
     readonly property bool resampled: root.scaled || root.scale !== 1
     readonly property real restFill: root.isHidden ? 0.06 : 0.035
 
-    // The white that makes one of opacity `rest` that of opacity `highlighted`.
+    // The white that, laid over white of opacity `rest`, gives white of opacity `highlighted`.
     function added(rest: real, highlighted: real): color {
         return Qt.rgba(1, 1, 1, (highlighted - rest) / (1 - rest));
     }

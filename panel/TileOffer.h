@@ -15,7 +15,7 @@ class TileOffer : public QObject {
     Q_PROPERTY(brimshade::model::TileActions *actions READ actions WRITE setActions NOTIFY sourceChanged REQUIRED)
     Q_PROPERTY(QString extraID READ extraID WRITE setExtraID NOTIFY sourceChanged REQUIRED)
     Q_PROPERTY(bool wantsAttention READ wantsAttention NOTIFY changed)
-    Q_PROPERTY(QString toolTip READ toolTip NOTIFY changed) // empty where it says nothing of itself
+    Q_PROPERTY(QString toolTip READ toolTip NOTIFY changed) // empty where the item gives none
     Q_PROPERTY(QVariant overlay READ overlay NOTIFY changed) // an image on its icon; null for none
 
 public:

@@ -4,8 +4,8 @@ import Brimshade.Model
 import Brimshade.Panel
 import Brimshade.Ui
 
-// A title and its grid, of which only the rows in view exist. Both have their places in the panel, not in each other:
-// what stays glides, what leaves stays where it is.
+// A title and its grid, of which only the rows in view exist. Both are placed in the panel, not in this item: what
+// stays glides, what leaves stays where it is.
 Item {
     id: root
 

@@ -188,7 +188,7 @@ QList<int> TilesModel::refresh(Tile &shown, const Tile &wanted)
         roles << NameRole << DetailRole << IconRole << SymbolRole << TintRole << IsHiddenRole;
     const Tile before = shown;
     shown = wanted;
-    shown.isNew = before.isNew; // since it came
+    shown.isNew = before.isNew; // decided when it came
     shown.isFirst = before.isFirst;
     return roles;
 }

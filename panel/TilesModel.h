@@ -11,9 +11,9 @@ namespace brimshade::panel {
 // The tiles of one section that are in view, and one grid row beyond on either side. Rows are kept by id: across
 // searches and scans an item that stays keeps its delegate, which learns its new place. Tiles that a search or a scan
 // takes away stay as leaving ones, last in the list and as they were, until the view has faded and dropped them. When
-// paced, many new ones come a few at each turn of the event loop, so that frames are drawn in between; and none while
-// the view is unseen, so that its first frame does not wait for them. The base is spelled in full: the registrar of QML
-// types finds it by its spelling.
+// paced, new ones come a few at each turn of the event loop, so that frames are drawn in between, and none come while
+// the view is unseen, so that its first frame does not wait for them. The base has its full name: the QML type
+// registrar looks it up by that spelling.
 class TilesModel : public brimshade::ui::ListModel {
     Q_OBJECT
     QML_ELEMENT
@@ -38,7 +38,7 @@ public:
         TintRole,
         IsHiddenRole,
         PositionRole, // in the whole section
-        IsNewRole, // it came with a search or a scan, not into view by scrolling
+        IsNewRole, // it came with a search or a scan, not by scrolling into view
         IsFirstRole, // and there were no items before
         IsLeavingRole
     };
@@ -91,10 +91,11 @@ private:
     double m_viewBottom = 0;
     bool m_isPaced = false;
     bool m_isUnseen = false;
-    bool m_isHolding = false; // some tiles back
+    bool m_isHolding = false; // back some tiles
     bool m_keepsLeaving = false;
     bool m_hasItems = false;
-    // Until the turn of the event loop that brought other matches ends, as the view follows them; or all have come.
+    // From a change of matches until that turn of the event loop, in which the view follows, has ended and all have
+    // come.
     bool m_isRenewing = false;
     bool m_isFirst = false; // the same, and there were no items before
     std::vector<Tile> m_tiles;

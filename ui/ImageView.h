@@ -9,7 +9,7 @@ namespace brimshade::ui {
 
 // A platform image stretched to the item, scaled with high quality once; with `glowRadius`, its blurred silhouette in
 // glowColor instead, which reaches beyond the item by three radii.
-// The base is spelled in full: the registrar of QML types finds it by its spelling.
+// The base has its full name: the QML type registrar looks it up by that spelling.
 class ImageView : public brimshade::ui::DrawnItem {
     Q_OBJECT
     QML_NAMED_ELEMENT(ImageView)

@@ -7,7 +7,7 @@ namespace brimshade::ui {
 
 // A plain rectangle a few device pixels thick or less, exactly as heavy as its size says: where it covers a part of a
 // pixel it gives that part of its colour.
-// The base is spelled in full: the registrar of QML types finds it by its spelling.
+// The base has its full name: the QML type registrar looks it up by that spelling.
 class Line : public brimshade::ui::DrawnItem {
     Q_OBJECT
     QML_ELEMENT

@@ -8,7 +8,7 @@ namespace brimshade::ui {
 
 // A rounded rectangle with a plain or gradient fill and a stroke inside its edge. To fade or highlight it, change
 // opacity rather than a colour: a colour is a new picture.
-// The base is spelled in full: the registrar of QML types finds it by its spelling.
+// The base has its full name: the QML type registrar looks it up by that spelling.
 class RoundedShape : public brimshade::ui::DrawnItem {
     Q_OBJECT
     QML_NAMED_ELEMENT(RoundedShape)

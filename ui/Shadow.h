@@ -8,7 +8,7 @@ namespace brimshade::ui {
 
 // The shadow that a rounded rectangle of the item's size casts around itself; it reaches beyond the item by three blur
 // radii. Place it with y for an offset, and behind what casts it: there is nothing under the middle of the caster.
-// The base is spelled in full: the registrar of QML types finds it by its spelling.
+// The base has its full name: the QML type registrar looks it up by that spelling.
 class Shadow : public brimshade::ui::NinePatchItem {
     Q_OBJECT
     QML_ELEMENT

@@ -7,7 +7,7 @@
 namespace brimshade::ui {
 
 // A system symbol in a square of about the size of text of that point size. An unknown name shows nothing.
-// The base is spelled in full: the registrar of QML types finds it by its spelling.
+// The base has its full name: the QML type registrar looks it up by that spelling.
 class SymbolIcon : public brimshade::ui::DrawnItem {
     Q_OBJECT
     QML_NAMED_ELEMENT(SymbolIcon)

@@ -4,7 +4,7 @@
 namespace brimshade::ui {
 
 // The shadow of the open panel, flares included.
-// The base is spelled in full: the registrar of QML types finds it by its spelling.
+// The base has its full name: the QML type registrar looks it up by that spelling.
 class NotchShadow : public brimshade::ui::Shadow {
     Q_OBJECT
     QML_ELEMENT

@@ -6,7 +6,7 @@ namespace brimshade::windows {
 
 // A list of menu bar extras for a view, a row each, in the scanner's order. Rows keep their identity by the extra's id
 // over rescans. Main thread.
-// The base is spelled in full: the registrar of QML types finds it by its spelling.
+// The base has its full name: the QML type registrar looks it up by that spelling.
 class ExtraRows : public brimshade::ui::ListModel {
     Q_OBJECT
 
