@@ -41,8 +41,8 @@ private:
     Work m_work;
 };
 
-// The clock and every queue. Delays are seconds. Work of the main queue runs in the order of its due
-// time, then of its queueing. Work still queued when the Dispatch is destroyed is dropped, not run.
+// The clock and every queue. Delays are seconds. Work on the main queue runs in order of its due time, then in the
+// order it was queued. Work still queued when the Dispatch is destroyed is dropped, not run.
 class Dispatch {
 public:
     virtual ~Dispatch() = default;
@@ -62,8 +62,8 @@ public:
     virtual std::shared_ptr<SerialQueue> makeSerialQueue(const QString &label, QualityOfService qos) = 0;
     virtual void globalAsync(QualityOfService qos, Work work) = 0; // concurrent; any thread
     // Runs work(0) to work(iterations - 1) side by side and returns when all have ended. They begin in that order, the
-    // first ones on the calling thread, and wait for no work of any queue, however long that hangs. Any thread but the
-    // main one, and not from within such work itself.
+    // first ones on the calling thread, and do not wait for work on any queue, however long that hangs. Any thread but
+    // the main one, and not from within such work.
     virtual void concurrentPerform(std::size_t iterations, const std::function<void(std::size_t)> &work) = 0;
     virtual void sleep(double seconds) = 0; // the calling thread; never the main one
 };

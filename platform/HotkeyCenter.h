@@ -21,8 +21,8 @@ inline std::uint32_t carbonModifiers(std::uint64_t modifierFlags)
         | (modifierFlags & kOptionFlag ? kCarbonOption : 0) | (modifierFlags & kControlFlag ? kCarbonControl : 0);
 }
 
-// Tells hotkeys apart. The same at every launch for the same purpose: a system in which the user has a say
-// in the keys keeps what was said by this.
+// Tells hotkeys apart. The same at every launch for the same purpose: a system that lets the user choose the keys
+// remembers the choice under it.
 struct EventHotKeyID {
     std::uint32_t signature = 0; // a four-character code, big-endian
     std::uint32_t number = 0;
@@ -45,8 +45,8 @@ public:
                                                                    EventHotKeyID id, const QString &purpose) = 0;
     virtual void unregisterEventHotKey(EventHotKeyRef ref) = 0;
 
-    // kHIHotKeyModeAllDisabled: until popped as often, no hotkey presses, of this program or, where the system can do
-    // that, of another. Their keys go to the key window.
+    // kHIHotKeyModeAllDisabled: until popped as often, neither this program's hotkeys fire nor, where the system can do
+    // that, another's. Their keys go to the key window.
     virtual void pushSymbolicHotKeyMode() = 0;
     virtual void popSymbolicHotKeyMode() = 0;
 };

@@ -39,7 +39,7 @@ public:
             m_source->draw(painter, rect);
     }
     QImage bitmap() const { return m_source ? m_source->bitmap() : QImage(); }
-    std::shared_ptr<const void> identity() const { return m_source; } // its address is the image's own while this lives
+    std::shared_ptr<const void> identity() const { return m_source; } // its address stays unique while this lives
 
 private:
     std::shared_ptr<const ImageSource> m_source;

@@ -12,7 +12,7 @@ namespace brimshade::platform {
 struct MenuItem {
     QString title;
     QString keyEquivalent; // with Command; empty for none
-    QString shortcut = {}; // shown in its place: keys that do the same without the menu, as a person reads them
+    QString shortcut = {}; // shown in its place: the keys, in readable form, that do the same without the menu
     bool isEnabled = true;
     bool isSeparator = false;
     Work action;

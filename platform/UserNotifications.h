@@ -3,7 +3,7 @@
 
 namespace brimshade::platform {
 
-// Tells a person something while none of the program's windows has to be open. Main thread.
+// Tells a person something even when none of the program's windows is open. Main thread.
 class UserNotifications {
 public:
     virtual ~UserNotifications() = default;

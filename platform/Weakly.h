@@ -4,9 +4,9 @@
 #include <memory>
 #include <utility>
 
-// Closures for a queue, a timer, a menu or an observer that may outlive the object they are about. Such a closure calls
-// with the object, then what is bound here, then its own arguments, while the object exists, and does nothing once it
-// is gone.
+// Closures for a queue, a timer, a menu or an observer that may outlive the object they are about. While the object
+// exists, such a closure makes its call with the object, what is bound here and its own arguments, in that order; once
+// it is gone, it does nothing.
 namespace brimshade::platform {
 
 // Keeps the object for as long as the call takes.
@@ -19,7 +19,7 @@ template <class Object, class Call, class... Bound> auto weakly(std::weak_ptr<Ob
     };
 }
 
-// Of a QObject that one owner has. Called on the object's thread.
+// For a QObject with a single owner. Called on the object's thread.
 template <class Object, class Call, class... Bound> auto weakly(QPointer<Object> object, Call call, Bound... bound)
 {
     return [object = std::move(object), call = std::move(call),

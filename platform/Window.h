@@ -59,7 +59,7 @@ public:
     virtual void orderFrontRegardless() = 0;
     virtual void makeKeyAndOrderFront() = 0;
     virtual void orderOut() = 0;
-    virtual void close() = 0; // as its close button
+    virtual void close() = 0; // as its close button does
     virtual bool isVisible() const = 0;
     virtual bool isKeyWindow() const = 0;
     virtual bool occlusionStateVisible() const = 0; // some part of it is drawn

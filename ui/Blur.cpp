@@ -26,7 +26,8 @@ void averageLine(std::vector<float> &values, std::size_t first, std::size_t stri
     }
 }
 
-// Three averages make a Gaussian but for a few percent. Their half widths, chosen so that the variances add up.
+// The half widths of three averages, which together differ from a Gaussian by a few percent, chosen so that the
+// variances add up.
 std::array<int, 3> halfWidths(double deviation)
 {
     const double ideal = std::sqrt(12 * deviation * deviation / 3 + 1);

@@ -4,9 +4,9 @@
 
 namespace brimshade::ui {
 
-// What another item draws, blurred, for the moment in which that comes or goes; give this the complement of its
-// opacity. The picture is made once, on a thread of its own, and is small, as a blur has no detail. Until it is there
-// nothing is shown, and nothing is kept while the item is invisible.
+// What another item draws, blurred, for while that comes or goes; give this the complement of its opacity. The picture
+// is made once, on a thread of its own, and is small, as a blur has no detail. Until it is ready nothing is shown, and
+// nothing is kept while the item is invisible.
 class Blurred : public QQuickItem {
     Q_OBJECT
     QML_ELEMENT
@@ -27,7 +27,7 @@ protected:
     void itemChange(ItemChange change, const ItemChangeData &data) override;
 
 private:
-    QImage picture(double scale); // null until it is there
+    QImage picture(double scale); // null until it is ready
     double reach() const; // beyond the source
 
     QPointer<DrawnItem> m_source;

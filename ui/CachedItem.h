@@ -7,7 +7,7 @@
 
 namespace brimshade::ui {
 
-// An item whose picture comes from its window's cache. It is shown anew where its size, window or device pixel ratio
+// An item whose picture comes from its window's cache. It is shown anew when its size, window or device pixel ratio
 // changes.
 class CachedItem : public QQuickItem {
     Q_OBJECT

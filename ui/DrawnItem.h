@@ -7,8 +7,8 @@
 namespace brimshade::ui {
 
 // An item that shows one picture, drawn once for its content, size and device pixel ratio and shared with every equal
-// item of the window. Moving, scaling and fading it never draws again. What is never shown scaled says `smooth: false`:
-// it is then copied and not resampled.
+// item of the window. Moving, scaling and fading it never draws again. One that is never shown scaled should say
+// `smooth: false`: it is then copied, not resampled.
 class DrawnItem : public brimshade::ui::CachedItem {
     Q_OBJECT
     QML_ANONYMOUS
@@ -16,16 +16,16 @@ class DrawnItem : public brimshade::ui::CachedItem {
 public:
     using CachedItem::CachedItem;
 
-    // For whoever shows the picture in another way as well; while the scene graph synchronises.
+    // For those that also show the picture in another way. Call it while the scene graph synchronises.
     QByteArray pictureName() const; // its key with size and scale; empty: there is none
     QImage picture(const QByteArray &name) const;
-    // What the key names by address.
+    // The owner of what the key names by its address.
     virtual std::shared_ptr<const void> pictureOwner() const { return {}; }
     // What the picture covers, in the item's coordinates; by default the item.
     virtual QRectF pictureRect() const;
 
 protected:
-    // Names everything that draw() reads but size and scale. Empty: there is nothing to draw.
+    // Identifies everything that draw() reads besides size and scale. Empty: there is nothing to draw.
     virtual QByteArray pictureKey() const = 0;
     // With the item's coordinates, antialiased. scale: device pixels a point. While the scene graph synchronises.
     virtual void draw(QPainter &painter, double scale) const = 0;

@@ -5,8 +5,8 @@
 
 namespace brimshade::ui {
 
-// Fades what lies under it into a colour towards its own edges, so that nothing is seen to be cut there.
-// The base has its full name: the QML type registrar looks it up by that spelling.
+// Fades what lies under it into a colour towards its own edges, so that nothing looks cut off there. The base has its
+// full name: the QML type registrar looks it up by that spelling.
 class EdgeFade : public brimshade::ui::NinePatchItem {
     Q_OBJECT
     QML_ELEMENT

@@ -34,7 +34,7 @@ public:
     QRectF rect() const final { return m_rect; }
 
 private:
-    // region: what of the rectangle is drawn anew, in the scene.
+    // region: the part of the rectangle that is redrawn, in scene coordinates.
     virtual void paint(QPainter &painter, const QRegion &region, GroundPicture &picture) = 0;
 
     QQuickWindow &m_window;

@@ -6,7 +6,7 @@
 
 namespace brimshade::ui {
 
-// What was drawn before a group, copied while the frame is drawn. Used there only.
+// What was drawn before a group, copied while the frame is drawn, and used only then.
 struct GroundPicture {
     QImage pixels;
     QPointF at; // in the scene, points
@@ -24,7 +24,7 @@ private:
     const std::shared_ptr<GroundPicture> m_picture;
 };
 
-// Drawn after the group, and as large, it lays what was there before over it again, with its own opacity.
+// Drawn after the group, and as large, it covers the group again with what was there before, at its own opacity.
 class FadeVeil : public QQuickItem {
 public:
     FadeVeil(std::shared_ptr<GroundPicture> picture, QQuickItem *parent);

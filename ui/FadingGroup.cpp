@@ -7,7 +7,8 @@ namespace brimshade::ui {
 
 namespace {
 constexpr double kBeyondAll = 1e6; // a z
-// Of the group while it is veiled. The renderer leaves out what lies under something opaque, and that comes through.
+// The group's opacity while it is veiled. What lies under something fully opaque the renderer does not draw at all, but
+// here it shows through.
 constexpr double kNearlyOpaque = 0.998;
 } // namespace
 

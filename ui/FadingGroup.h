@@ -6,16 +6,16 @@
 
 namespace brimshade::ui {
 
-// Fades what it holds as one: what overlaps in it does not show through, as it would with an opacity of the item's own.
-// The software renderer has no layer to be drawn as one. There the group is drawn opaque, and what was there before is
-// laid over it again, which comes to the same; it must be opaque itself. Another renderer gives the group an opacity.
+// Fades its contents as one: overlapping parts do not show through, as they would with the item's own opacity. The
+// software renderer has no layer for that. There the group is drawn opaque and what was there before is laid over it
+// again, with the same result, provided that is opaque itself. Other renderers give the group an opacity.
 class FadingGroup : public QQuickItem {
     Q_OBJECT
     QML_ELEMENT
     Q_PROPERTY(double shown READ shown WRITE setShown NOTIFY shownChanged) // 0 to 1, instead of an opacity
-    Q_PROPERTY(double reach MEMBER m_reach NOTIFY changed) // points beyond the item in which it is drawn, too
+    Q_PROPERTY(double reach MEMBER m_reach NOTIFY changed) // points beyond the item that it also draws in
     Q_PROPERTY(bool asOne MEMBER m_isAsOne NOTIFY changed) // false where nothing overlaps: that is cheaper
-    // For whoever asks what can be seen: the opacities of the item and its ancestors do not say it.
+    // For those who ask what can be seen, which the opacities of the item and its ancestors do not tell.
     Q_PROPERTY(double groupOpacity READ groupOpacity NOTIFY shownChanged)
 
 public:
@@ -42,7 +42,7 @@ private:
     double m_shown = 1;
     double m_reach = 4;
     bool m_isAsOne = true;
-    std::unique_ptr<FadeGround> m_ground; // both while it is veiled
+    std::unique_ptr<FadeGround> m_ground; // this and the veil exist while it is veiled
     std::unique_ptr<FadeVeil> m_veil;
 };
 

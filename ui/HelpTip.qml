@@ -3,7 +3,8 @@ import QtQuick
 import Brimshade.Ui
 
 // The one tooltip of a view, above everything in its parent, which it stays inside. The item under the pointer calls
-// show() and, when the pointer leaves it or presses it, hide(); follow() when its text changes. Assistive programs get the text as the item's own description.
+// show(), follow() when its text changes, and hide() when the pointer leaves or presses it. Assistive programs get the
+// text as the item's own description.
 Item {
     id: root
 
@@ -48,7 +49,7 @@ Item {
     anchors.fill: parent
     z: 100
 
-    // Not a Timer, which goes by the wall clock and not by the animations'.
+    // Not a Timer, which follows the wall clock instead of the animations' clock.
     NumberAnimation {
         id: delay
         target: root

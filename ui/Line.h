@@ -5,8 +5,8 @@
 
 namespace brimshade::ui {
 
-// A plain rectangle a few device pixels thick or less, exactly as heavy as its size says: where it covers a part of a
-// pixel it gives that part of its colour.
+// A plain rectangle at most a few device pixels thick, exactly as heavy as its size says: a pixel that it covers in
+// part gets that share of its colour.
 // The base has its full name: the QML type registrar looks it up by that spelling.
 class Line : public brimshade::ui::DrawnItem {
     Q_OBJECT

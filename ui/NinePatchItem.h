@@ -15,11 +15,11 @@ public:
     using CachedItem::CachedItem;
 
 protected:
-    // Names everything that draw() reads but scale. Empty: there is nothing to draw.
+    // Identifies everything that draw() reads besides scale. Empty: there is nothing to draw.
     virtual QByteArray pictureKey() const = 0;
     virtual double reach() const { return 0; } // of the picture beyond the item, points
     virtual double border() const = 0; // of the picture: everything a corner bends, points
-    // A square of `side` pixels, border and border and a little between them. scale: device pixels a point.
+    // A square of `side` pixels: both borders and a little between them. scale: device pixels a point.
     virtual QImage draw(int side, double scale) const = 0;
 
     QSGNode *updatePaintNode(QSGNode *node, UpdatePaintNodeData *) override;

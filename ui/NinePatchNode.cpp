@@ -22,7 +22,7 @@ QMarginsF onPixels(const QMarginsF &border, double scale)
     return {snapped(border.left()), snapped(border.top()), snapped(border.right()), snapped(border.bottom())};
 }
 
-// The eight outer cells of the rectangle's three by three, of which the border's corners do not overlap.
+// The eight outer cells of a three by three grid over the rectangle, whose corners must not overlap.
 std::array<QRectF, 8> cells(const QRectF &rect, const QMarginsF &border)
 {
     const double left = rect.left() + border.left();
@@ -77,7 +77,7 @@ void NinePatchNode::setTarget(const QRectF &target, const QMarginsF &border, dou
         showPiece(i, from[i], to[i]);
 }
 
-// What is not to be seen leaves the tree: where a node merely became empty the software renderer draws nothing anew.
+// What is hidden leaves the tree: if a node merely became empty, the software renderer would not redraw its place.
 void NinePatchNode::showPiece(std::size_t index, const QRectF &source, const QRectF &rect)
 {
     QSGImageNode *&piece = m_pieces[index];

@@ -14,15 +14,15 @@ namespace brimshade::ui {
 
 // A picture whose four corners keep their size while the sides between them stretch. The inside is left out: what
 // casts a shadow covers it. Scene graph thread.
-// It transforms nothing: the software renderer gives a child that comes later its place only under a node that could.
+// It transforms nothing, but the software renderer puts a child added later in its place only under a node that could.
 class NinePatchNode : public QSGTransformNode {
 public:
     NinePatchNode();
     ~NinePatchNode() override;
 
-    // border: what of the picture are corners, in pixels.
+    // border: how much of the picture belongs to its corners, in pixels.
     void setPicture(QQuickWindow *window, const QImage &picture, const QMarginsF &border);
-    // The corners are `border` points large; of those that would overlap the outer parts are shown. scale: device
+    // The corners are `border` points large; where they would overlap, only their outer parts show. scale: device
     // pixels a point. The pieces meet on whole pixels where the target's edges lie on them.
     void setTarget(const QRectF &target, const QMarginsF &border, double scale);
 
@@ -35,7 +35,7 @@ private:
     std::unique_ptr<QSGTexture> m_texture;
     QRectF m_picture; // pixels
     QMarginsF m_pictureBorder;
-    std::array<QSGImageNode *, kPieces> m_pieces{}; // owned by the tree; null while there is nothing of it
+    std::array<QSGImageNode *, kPieces> m_pieces{}; // owned by the tree; null while it has no extent
 };
 
 } // namespace brimshade::ui

@@ -13,8 +13,8 @@ class PendingPicture : public QObject {
 public:
     using QObject::QObject;
 
-    // While the scene graph synchronises. Null until it is there, which made() tells; where pictures are awaited it is
-    // there at once. `make` runs on another thread; key and owner: see PictureCache.
+    // While the scene graph synchronises. Null until it is ready, which made() tells; where pictures are awaited it is
+    // ready at once. `make` runs on another thread; key and owner: see PictureCache.
     QImage picture(PictureCache &cache, const QByteArray &key, const std::function<QImage()> &make,
                    const std::shared_ptr<const void> &owner = {});
 

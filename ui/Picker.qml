@@ -3,7 +3,7 @@ import QtQuick
 import QtQuick.Templates as T
 import Brimshade.Ui
 
-// A pop-up button as forms have it: one of its titles and grey arrows. It opens a list of the titles over itself. The
+// A pop-up button as used in forms: the chosen title and grey arrows. It opens a list of the titles over itself. The
 // list is an item of the view it belongs to, not a popup of the toolkit, which would lie outside the view. Its text is
 // its name to assistive programs; it is not drawn.
 T.ComboBox {

@@ -15,14 +15,14 @@ class PictureCache : public QObject {
 public:
     static PictureCache *of(QQuickWindow *window); // main thread
 
-    // Whether pictures that are made in the background are waited for: where a frame is to be complete rather than in
-    // time, as for a script.
+    // Whether to wait for pictures made in the background: where a frame must be complete rather than on time, as for a
+    // script.
     bool isAwaited() const { return m_isAwaited; }
     void setAwaited(bool isAwaited) { m_isAwaited = isAwaited; }
 
     const QImage *find(const QByteArray &key) const;
-    // `owner`: whose address the key holds, null where it holds none. The picture is found while the owner lives; it is
-    // not kept for that, as it may be large where the picture is small.
+    // `owner`: the object whose address the key holds, or null. The picture is found only while the owner lives; the
+    // cache does not keep it alive, as it may be large and the picture small.
     void insert(const QByteArray &key, const QImage &picture, const std::shared_ptr<const void> &owner = {});
 
 private:

@@ -10,9 +10,9 @@
 namespace brimshade::ui {
 
 // A number that moves to its target: `opacity: fade.value`. A change of the target while it moves keeps position and,
-// for springs, velocity. The parameters hold from the change of target on that they accompany, in whatever order
-// bindings set them. Before its component is complete it jumps. It follows the animation driver's clock and runs only
-// while it moves. Times are seconds.
+// for springs, velocity. Parameters take effect with the change of target that they accompany, in whatever order the
+// bindings run. Until its component is complete it jumps. It follows the animation driver's clock and runs only while
+// it moves. Times are seconds.
 class SpringValue : public QObject, public QQmlParserStatus {
     Q_OBJECT
     Q_INTERFACES(QQmlParserStatus)
@@ -21,10 +21,10 @@ class SpringValue : public QObject, public QQmlParserStatus {
     Q_PROPERTY(double value READ value NOTIFY valueChanged)
     // The value held between 0 and 1: springs overshoot, light does not.
     Q_PROPERTY(double clamped READ clamped NOTIFY valueChanged)
-    // What may be left of the way when a spring is said to rest. The default is a tenth of a point of a panel's width.
+    // How far from its target a spring counts as at rest. The default is a tenth of a point of a panel's width.
     Q_PROPERTY(double precision MEMBER m_precision NOTIFY parametersChanged)
-    // False: changes of target jump, as nobody sees them. So do those in the turn of the event loop in which it becomes
-    // true: what comes into view appears in its place.
+    // False: it jumps to a new target, as nobody sees it. So it does throughout the turn of the event loop in which
+    // this becomes true: what comes into view appears in its place.
     Q_PROPERTY(bool animated READ isAnimated WRITE setAnimated NOTIFY parametersChanged)
     // True: the value stays where it is, whatever the target; false again, it moves there.
     Q_PROPERTY(bool held READ isHeld WRITE setHeld NOTIFY parametersChanged)
@@ -83,7 +83,7 @@ private:
         double delay = 0;
     };
 
-    // Endless: the value says when it is done.
+    // Endless: the value stops it when the motion is over.
     class Clock : public QAbstractAnimation {
     public:
         explicit Clock(SpringValue &value) : m_value(value) { }

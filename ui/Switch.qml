@@ -3,7 +3,7 @@ import QtQuick
 import QtQuick.Templates as T
 import Brimshade.Ui
 
-// A switch that shows a value owned elsewhere: a change is asked for by valueRequested and seen when the value follows.
+// A switch that shows a value owned elsewhere: valueRequested asks for a change, which shows once the value follows.
 // Its text is its name to assistive programs; it is not drawn.
 T.Switch {
     id: control
@@ -41,7 +41,7 @@ T.Switch {
         width: control.width
         height: control.height
 
-        // Alone is dimmed: it would show through the knob.
+        // Dimmed on its own: under a dimmed knob it would show through.
         Item {
             anchors.fill: parent
             opacity: Theme.presence(control)

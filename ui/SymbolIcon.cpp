@@ -35,7 +35,7 @@ QByteArray SymbolIcon::pictureKey() const
     return key;
 }
 
-// Centred in the item, whatever size that has been given.
+// Centred in the item, whatever its size.
 QRectF SymbolIcon::pictureRect() const
 {
     const double side = std::ceil(symbolExtent(m_pointSize));

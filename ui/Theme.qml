@@ -27,7 +27,7 @@ QtObject {
 
     readonly property real formInset: 12 // of what stands in a row of a form
 
-    // The fade at a scrolled view's end: how high, and its opacity with that many points out of sight beyond it.
+    // The fade at a scrolled view's end: its height, and its opacity with that many points hidden beyond it.
     readonly property real fadeHeight: 28
     function fadeOpacity(beyond: real): real {
         return Math.max(0, Math.min(beyond / 20, 1));
@@ -41,7 +41,7 @@ QtObject {
         return control.enabled || !(control.parent?.enabled ?? true) ? 1 : 0.4;
     }
 
-    // Of secondary things beside text of that ink.
+    // The colour of secondary things beside text in that ink.
     function secondary(ink: color): color {
         return Qt.alpha(ink, 0.5);
     }

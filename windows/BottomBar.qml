@@ -23,7 +23,7 @@ Item {
         }
     }
 
-    // A button that comes can be found and pressed from its first moment; one that goes cannot.
+    // A button that appears can be found and pressed at once; one that disappears cannot.
     component Presence: StepSpring {
         property bool shown
         readonly property real opacity: shown ? Math.max(0.02, clamped) : clamped
@@ -96,7 +96,7 @@ Item {
             Accessible.ignored: root.skips
             onClicked: root.flow.act()
 
-            // Going, it keeps its title.
+            // It keeps its title while it goes.
             Binding on text {
                 value: root.title(root.flow.action)
                 when: !root.skips

@@ -21,7 +21,7 @@ struct Glow {
     float endRadius; // points
 };
 
-constexpr float kStartRadius = 10; // points around the centre that are all of the colour
+constexpr float kStartRadius = 10; // points around the centre in the full colour
 constexpr std::array kGlows{
     Glow{{1, 0.45F, 0.2F}, 0.35F, {0.5, 0.05}, 420},
     Glow{{0.55F, 0.35F, 1}, 0.22F, {0.9, 1}, 380},
@@ -35,7 +35,7 @@ void shine(Light &light, const Glow &glow, float distance)
         light[i] += (glow.color[i] - light[i]) * opacity;
 }
 
-// Noise of 0 to 1 whose neighbours differ much, so that the eye takes their mean.
+// Noise from 0 to 1 in which neighbours differ widely, so that the eye averages them.
 float threshold(int x, int y)
 {
     const float inner = 0.06711056F * float(x) + 0.00583715F * float(y);

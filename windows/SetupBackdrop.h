@@ -7,8 +7,8 @@
 namespace brimshade::windows {
 
 // What lies behind the setup: black with a warm glow from the top and a violet one from the lower right, dithered,
-// since both fall off more slowly than eight bits can follow. A part of it that fades in downwards covers what ends
-// below it.
+// since both fall off more slowly than eight bits can follow. A part that fades in downwards serves as the fade at the
+// end of a scrolled view.
 class SetupBackdrop : public brimshade::ui::DrawnItem {
     Q_OBJECT
     QML_ELEMENT

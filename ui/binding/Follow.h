@@ -4,8 +4,8 @@
 
 namespace brimshade::ui {
 
-// For the setter of what an object follows: disconnects from what it followed until now. False when that is the same.
-// The follower then connects to the new one, which may be null.
+// For a setter of the object that another one follows: disconnects the follower from the old object. False when the new
+// one is the same; otherwise the follower goes on to connect to it, unless it is null.
 template <class T> bool follow(QObject &follower, QPointer<T> &followed, T *next)
 {
     if (followed == next)

@@ -8,7 +8,7 @@
 namespace brimshade::ui {
 
 // A list for a view. A subclass keeps the rows and says what they show; they come, go, move and change one by one, so
-// that a view keeps what it has made for the others. Main thread.
+// that a view keeps what it made for the others. Main thread.
 class ListModel : public QAbstractListModel {
     Q_OBJECT
 public:
@@ -19,12 +19,12 @@ public:
 
 protected:
     virtual int count() const = 0;
-    virtual QVariant value(int row, int role) const = 0; // row: of those that there are
+    virtual QVariant value(int row, int role) const = 0; // row: an existing one
 
     void allChanged(const QList<int> &roles); // of every row
 
-    // Makes the subclass's `rows` those that are wanted. Rows of the same key, a string, are the same: of them
-    // refresh(row, wanted) takes what is new over into the row and answers the roles that show it.
+    // Turns the subclass's `rows` into the wanted ones. Rows with the same key, a string, are the same: for them
+    // refresh(row, wanted) copies what is new into the row and returns the roles that show it.
     template <class Row, class Key, class Refresh>
     void setRows(std::vector<Row> &rows, const std::vector<Row> &wanted, Key key, Refresh refresh)
     {

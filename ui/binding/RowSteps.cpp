@@ -8,7 +8,7 @@ namespace {
 
 using Steps = std::vector<RowStep>;
 
-// Backwards, so that the rows of the steps to come stay what they are.
+// Backwards, so that later steps still find their rows at the same numbers.
 void removeUnwanted(QStringList &shown, const QStringList &wanted, Steps &steps)
 {
     const QSet<QString> keys(wanted.begin(), wanted.end());
@@ -51,7 +51,7 @@ std::vector<RowStep> rowSteps(QStringList shown, const QStringList &wanted)
     removeUnwanted(shown, wanted, steps);
     for (int row = 0; row < wanted.size(); ++row)
         place(row, shown, wanted, steps);
-    if (const int rest = int(shown.size() - wanted.size()); rest > 0) // of keys that repeat
+    if (const int rest = int(shown.size() - wanted.size()); rest > 0) // from repeated keys
         steps.push_back({.kind = RowStep::Kind::remove, .row = int(wanted.size()), .count = rest});
     return steps;
 }

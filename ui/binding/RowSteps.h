@@ -4,7 +4,7 @@
 
 namespace brimshade::ui {
 
-// One step from the rows of a list to others. The wanted list's rows before `row` are in place by then.
+// One step in turning the rows of a list into others. By then the wanted rows before `row` are in place.
 struct RowStep {
     enum class Kind { remove, move, insert };
 
@@ -14,8 +14,8 @@ struct RowStep {
     int from = 0; // where the one that moves is
 };
 
-// The steps that make the keys `shown` those that are `wanted`: what is in both stays or moves. Neighbours come and go
-// in one step. Keys may repeat.
+// The steps that turn the keys `shown` into `wanted`: what is in both stays or moves. Neighbours come and go in one
+// step. Keys may repeat.
 std::vector<RowStep> rowSteps(QStringList shown, const QStringList &wanted);
 
 } // namespace brimshade::ui

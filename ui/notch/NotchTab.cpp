@@ -56,7 +56,8 @@ void NotchTab::place()
     Q_EMIT interiorChanged();
 }
 
-// It loses a little at the sides, which are long, and more below, where the panel has its footer.
+// Smaller than the tab by a little at the sides, which are long, and by more at the bottom, where the panel has its
+// footer.
 QRectF NotchTab::interior() const
 {
     const double radius = m_shape.effectiveBottom(size());

@@ -15,8 +15,8 @@ class NotchTab : public QQuickItem {
     Q_PROPERTY(QSizeF closedSize MEMBER m_closedSize NOTIFY sizesChanged)
     Q_PROPERTY(QSizeF openSize MEMBER m_openSize NOTIFY sizesChanged)
     Q_PROPERTY(double openness MEMBER m_openness NOTIFY sizesChanged) // 0 closed, 1 open; springs overshoot
-    // False: the outline comes with the opening, and down the tab. True: it is always there, all around, inside the
-    // edge.
+    // False: the outline appears as the tab opens, and stronger further down. True: it is always there, all around,
+    // inside the edge.
     Q_PROPERTY(bool bordered MEMBER m_isBordered NOTIFY sizesChanged)
     // The part of the parent that shows content: a rectangle inside the outline, lower corners included.
     Q_PROPERTY(QRectF interior READ interior NOTIFY interiorChanged)

@@ -14,7 +14,7 @@ constexpr double kLineOpacity = 0.12; // of the white at the lower end
 constexpr double kMiterLimit = 10;
 constexpr double kEdge = 1; // points on either side of an edge that its line may touch
 
-// Of the upper edge between the flares: only a border runs along it.
+// How high the piece at the upper edge between the flares is: only a border runs there.
 double upperEdge(const NotchOutline &outline)
 {
     return outline.isBorder ? kEdge : 0;
@@ -94,7 +94,7 @@ void NotchTabNode::show(const NotchShape &shape, QSizeF size, const NotchOutline
                     pieces[i].isValid() ? paintedPiece(pieces[i], path, pen, outline.isBorder, scale) : QImage());
 }
 
-// What is not to be seen leaves the tree: where a node merely became empty the software renderer draws nothing anew.
+// What is hidden leaves the tree: if a node merely became empty, the software renderer would not redraw its place.
 void NotchTabNode::showRectangle(std::size_t index, const QRectF &rect)
 {
     QSGRectangleNode *&node = m_rectangles[index];

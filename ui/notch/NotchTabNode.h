@@ -17,9 +17,9 @@ struct NotchOutline {
     bool isBorder = false;
 };
 
-// The tab in pieces that fit without overlap: plain black rectangles, and small pictures wherever the outline runs. A
-// frame of an animation so draws some thousand antialiased pixels and not the whole tab. Scene graph thread.
-// It transforms nothing: the software renderer gives a child that comes later its place only under a node that could.
+// The tab in pieces that fit without overlap: plain black rectangles, and small pictures wherever the outline runs. So
+// a frame of an animation draws a few thousand antialiased pixels instead of the whole tab. Scene graph thread. It
+// transforms nothing, but the software renderer puts a child added later in its place only under a node that could.
 class NotchTabNode : public QSGTransformNode {
 public:
     explicit NotchTabNode(QQuickWindow &window);

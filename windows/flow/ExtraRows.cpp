@@ -50,7 +50,7 @@ void ExtraRows::setExtras(const ExtraList &extras)
 {
     setRows(m_extras, extras, &MenuExtra::id, [this](MenuExtra &shown, const MenuExtra &wanted) {
         const bool differs = !looksTheSame(shown, wanted);
-        shown = wanted; // its frame and element, too, which no role shows
+        shown = wanted; // with its frame and element, which no role shows
         return differs ? roleNames().keys() : QList<int>();
     });
 }

@@ -4,8 +4,8 @@
 
 namespace brimshade::windows {
 
-// A list of menu bar extras for a view, a row each, in the scanner's order. Rows keep their identity by the extra's id
-// over rescans. Main thread.
+// A list of menu bar extras for a view, one per row, in the scanner's order. Rows keep their identity, the extra's id,
+// across rescans. Main thread.
 // The base has its full name: the QML type registrar looks it up by that spelling.
 class ExtraRows : public brimshade::ui::ListModel {
     Q_OBJECT

@@ -75,7 +75,7 @@ bool MenuBarChoices::hasWidth() const
     return m_preferences.notchStyle() == NotchStyle::given;
 }
 
-// One that was given on the command line is offered, too.
+// A width given on the command line is offered, too.
 QList<double> MenuBarChoices::offeredWidths() const
 {
     QList<double> widths(kWidths.begin(), kWidths.end());

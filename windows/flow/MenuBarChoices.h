@@ -23,7 +23,7 @@ public:
     explicit MenuBarChoices(platform::MenuBarPreferences &preferences);
     ~MenuBarChoices() override;
 
-    QStringList screens() const; // first the automatic choice
+    QStringList screens() const; // the automatic choice first
     int screen() const;
     Q_INVOKABLE void chooseScreen(int index);
 
@@ -43,7 +43,7 @@ Q_SIGNALS:
     void changed();
 
 private:
-    QStringList screenNames() const; // also a chosen one that is not there now
+    QStringList screenNames() const; // including a chosen one that is not there now
     QList<double> offeredWidths() const;
 
     platform::MenuBarPreferences &m_preferences;

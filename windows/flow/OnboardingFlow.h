@@ -43,21 +43,21 @@ public:
     enum Action { GetStarted, Continue, Skip, Finish }; // of the button at the bottom right
     Q_ENUM(Action)
 
-    // What is referred to outlives the flow. onFinish gets every choice, also those that change nothing.
+    // The objects passed in outlive the flow. onFinish gets every choice, even those that change nothing.
     OnboardingFlow(model::NotchModel &model, model::PermissionRequest &permission,
                    platform::Accessibility &accessibility, platform::Dispatch &dispatch, FinishAction onFinish,
                    QObject *parent = nullptr);
     ~OnboardingFlow() override;
 
     int step() const { return m_step; }
-    // Where nothing needs a permission there is no such step.
+    // Where no permission is needed, there is no step for it.
     int steps() const { return Final + (m_asksForPermission ? 1 : 0); }
     int position() const
     {
         return m_step - (m_step > Permission && !m_asksForPermission ? 1 : 0);
     } // from 0, among those
     Action action() const;
-    // True while the view is on screen: set by the view. The permission is then looked at every 1.0 s.
+    // True while the view is on screen: set by the view. It then checks the permission every 1.0 s.
     bool isActive() const { return m_timer != nullptr; }
     void setActive(bool active);
 
@@ -67,13 +67,13 @@ public:
     int stayCount() const;
     int tuckedCount() const;
     int pendingCount() const; // items whose choice differs from where they are now
-    QVariantList heroIcons() const { return m_heroIcons; } // five of platform::Image, null where there are no more
+    QVariantList heroIcons() const { return m_heroIcons; } // five platform::Images, null beyond the last one
 
     Q_INVOKABLE void act(); // the action of the bottom right button
     Q_INVOKABLE void back();
     Q_INVOKABLE void toggle(const QString &extraID); // nothing for an item that cannot move
     Q_INVOKABLE void openAccessibilitySettings();
-    void poll(); // one look at the permission; asks for a scan when it has just been granted
+    void poll(); // checks the permission once; asks for a scan when it has just been granted
 
 Q_SIGNALS:
     void stepChanged();
