@@ -12,17 +12,17 @@ constexpr double kLargestScale = 4;
 constexpr double kWidestScreen = 32767; // points; no display server has a wider one
 
 struct Options {
-    QCommandLineOption session{u"session"_s, u"Be the menu bar of the session that it is started in."_s};
-    QCommandLineOption screen{u"screen"_s, u"With --session: the screen with the bar, \"eDP-1\"."_s, u"name"_s};
+    QCommandLineOption session{u"session"_s, u"Be the menu bar of the session it is started in."_s};
+    QCommandLineOption screen{u"screen"_s, u"With --session: the screen with the bar, such as \"eDP-1\"."_s, u"name"_s};
     QCommandLineOption notch{
         u"notch"_s,
         u"With --session: the notch, <lower,upper> in points from the screen's left edge, \"drawn\" or \"none\"."_s,
         u"notch"_s};
-    QCommandLineOption toggle{u"toggle"_s, u"Open or close the panel of the Brimshade that runs in this session."_s};
+    QCommandLineOption toggle{u"toggle"_s, u"Open or close the panel of the Brimshade running in this session."_s};
     QCommandLineOption settings{u"settings"_s, u"Open its settings."_s};
-    QCommandLineOption quit{u"quit"_s, u"End it."_s};
-    QCommandLineOption open{u"open"_s, u"Open the menu of the item that is named <name> there."_s, u"name"_s};
-    QCommandLineOption list{u"list"_s, u"Print the items there."_s};
+    QCommandLineOption quit{u"quit"_s, u"Quit it."_s};
+    QCommandLineOption open{u"open"_s, u"Open the menu of its item named <name>."_s, u"name"_s};
+    QCommandLineOption list{u"list"_s, u"Print its items."_s};
     QCommandLineOption json{u"json"_s, u"With --list: as JSON."_s};
     QCommandLineOption desktop{u"desktop"_s, u"Use the desktop that <file> describes."_s, u"file"_s};
     QCommandLineOption noTray{u"no-tray"_s, u"Do not host the session's tray items."_s};
@@ -33,7 +33,7 @@ struct Options {
         u"script"_s, u"Carry out the commands in <file>, - for standard input, without a window."_s, u"file"_s};
     QCommandLineOption window{u"window"_s, u"With --script: show the window too, in real time."_s};
     QCommandLineOption realTime{u"real-time"_s, u"With --script: time passes as on a clock."_s};
-    QCommandLineOption scale{u"scale"_s, u"With --script: pixels a point in pictures, 1 to 4."_s, u"number"_s, u"1"_s};
+    QCommandLineOption scale{u"scale"_s, u"With --script: pixels per point in pictures, 1 to 4."_s, u"number"_s, u"1"_s};
     QCommandLineOption debug{u"debug"_s, u"Log to standard error what it does and what it runs on."_s};
     QCommandLineOption help{{u"h"_s, u"help"_s}, u"Print this help."_s};
     QCommandLineOption version{{u"v"_s, u"version"_s}, u"Print the version."_s};

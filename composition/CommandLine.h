@@ -19,7 +19,7 @@ struct CommandLine {
     bool hasWindow = true; // on the running session; for a script only when asked for
     bool hostsTray = true;
     bool isRealTime = true; // always, with a window
-    double scale = 1; // pixels a point, for pictures of a script
+    double scale = 1; // pixels per point, for pictures of a script
     bool printsLog = false; // to standard error
     std::optional<QString> information; // to print instead of starting: the help text or the version
 };

@@ -27,7 +27,7 @@ struct SessionOptions {
     bool isRealTime = false; // always, with a window
     bool hostsTray = false;
     std::optional<QString> stateFile = {}; // keeps the places of the tray's items; absent: they stand as they come
-    double scale = 1; // pixels a point, for pictures of a script
+    double scale = 1; // pixels per point, for pictures of a script
     bool printsLog = false; // to standard error
 };
 

@@ -713,7 +713,7 @@ bindsym Mod4+%2 exec %1</translation>
         <translation>Gezeichnet</translation>
     </message>
     <message>
-        <source>Drawn, of a width</source>
+        <source>Drawn, custom width</source>
         <translation>Gezeichnet, mit Breite</translation>
     </message>
     <message>

@@ -27,7 +27,7 @@ public:
 protected:
     // Identifies everything that draw() reads besides size and scale. Empty: there is nothing to draw.
     virtual QByteArray pictureKey() const = 0;
-    // With the item's coordinates, antialiased. scale: device pixels a point. While the scene graph synchronises.
+    // With the item's coordinates, antialiased. scale: device pixels per point. While the scene graph synchronises.
     virtual void draw(QPainter &painter, double scale) const = 0;
 
     QSGNode *updatePaintNode(QSGNode *node, UpdatePaintNodeData *) override;

@@ -19,7 +19,7 @@ protected:
     virtual QByteArray pictureKey() const = 0;
     virtual double reach() const { return 0; } // of the picture beyond the item, points
     virtual double border() const = 0; // of the picture: everything a corner bends, points
-    // A square of `side` pixels: both borders and a little between them. scale: device pixels a point.
+    // A square of `side` pixels: both borders and a little between them. scale: device pixels per point.
     virtual QImage draw(int side, double scale) const = 0;
 
     QSGNode *updatePaintNode(QSGNode *node, UpdatePaintNodeData *) override;

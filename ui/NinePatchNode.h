@@ -23,7 +23,7 @@ public:
     // border: how much of the picture belongs to its corners, in pixels.
     void setPicture(QQuickWindow *window, const QImage &picture, const QMarginsF &border);
     // The corners are `border` points large; where they would overlap, only their outer parts show. scale: device
-    // pixels a point. The pieces meet on whole pixels where the target's edges lie on them.
+    // pixels per point. The pieces meet on whole pixels where the target's edges lie on them.
     void setTarget(const QRectF &target, const QMarginsF &border, double scale);
 
 private:

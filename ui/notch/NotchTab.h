@@ -38,7 +38,7 @@ protected:
 
 private:
     void place();
-    double scale() const; // device pixels a point
+    double scale() const; // device pixels per point
     double snapped(double length) const;
 
     QSizeF m_closedSize;

@@ -55,7 +55,7 @@ void MenuBarChoices::chooseScreen(int index)
 QStringList MenuBarChoices::notches() const
 {
     return {m_preferences.isMachineKnown() ? tr("The machine’s own") : tr("Automatic"), tr("Drawn"),
-            tr("Drawn, of a width"), tr("None")};
+            tr("Drawn, custom width"), tr("None")};
 }
 
 int MenuBarChoices::notch() const
