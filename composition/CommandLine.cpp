@@ -33,7 +33,8 @@ struct Options {
         u"script"_s, u"Carry out the commands in <file>, - for standard input, without a window."_s, u"file"_s};
     QCommandLineOption window{u"window"_s, u"With --script: show the window too, in real time."_s};
     QCommandLineOption realTime{u"real-time"_s, u"With --script: time passes as on a clock."_s};
-    QCommandLineOption scale{u"scale"_s, u"With --script: pixels per point in pictures, 1 to 4."_s, u"number"_s, u"1"_s};
+    QCommandLineOption scale{u"scale"_s, u"With --script: pixels per point in pictures, 1 to 4."_s, u"number"_s,
+                             u"1"_s};
     QCommandLineOption debug{u"debug"_s, u"Log to standard error what it does and what it runs on."_s};
     QCommandLineOption help{{u"h"_s, u"help"_s}, u"Print this help."_s};
     QCommandLineOption version{{u"v"_s, u"version"_s}, u"Print the version."_s};

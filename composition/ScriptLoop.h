@@ -9,7 +9,7 @@ class QJsonObject;
 
 namespace brimshade::composition {
 
-// Feeds a script, one JSON object a line, to a runner and prints one JSON answer a line. Main thread.
+// Feeds a script, one JSON object per line, to a runner and prints one JSON answer per line. Main thread.
 class ScriptLoop {
 public:
     using Run = std::function<QJsonObject(const QJsonObject &)>;

@@ -26,7 +26,7 @@ struct SessionOptions {
     bool hasWindow = false; // on the running session
     bool isRealTime = false; // always, with a window
     bool hostsTray = false;
-    std::optional<QString> stateFile = {}; // keeps the places of the tray's items; absent: they stand as they come
+    std::optional<QString> stateFile = {}; // keeps the places of the tray's items; absent: they are placed as they come
     double scale = 1; // pixels per point, for pictures of a script
     bool printsLog = false; // to standard error
 };

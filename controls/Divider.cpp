@@ -56,7 +56,7 @@ private:
     const QSizeF m_size;
 };
 
-// A divider that ends where the system's own buttons begin has been pushed past them.
+// A divider whose right edge is not right of a system button's has been pushed past the system's own buttons.
 bool isTooLong(const QRectF &divider, const QRectF &systemButton)
 {
     return menubar::isSameRow(divider, systemButton)

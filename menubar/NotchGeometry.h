@@ -25,7 +25,7 @@ std::optional<NotchExtent> notchExtent(const platform::Screen &screen);
 // The first that has one; absent where none has.
 std::optional<platform::Screen> notchedScreen(const std::vector<platform::Screen> &screens);
 
-// What an item's frame is compared with. All of it in display space, but screenLeft is the same in both.
+// What an item's frame is compared with. All of it is in display space; screenLeft is the same in both spaces.
 struct HidingEdges {
     std::optional<NotchExtent> notch;
     double screenLeft = 0;

@@ -80,7 +80,7 @@ Item {
             width: parent.width + 2
             height: parent.height - y + 1
             depth: 15
-            radius: 7 // no more than the padding, like the depth
+            radius: 7 // plus the depth: no more than the padding
         }
     }
     Scroller {
