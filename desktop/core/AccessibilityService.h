@@ -10,9 +10,9 @@ class Permission;
 // application that hangs or is slow answers there at once.
 class AccessibilityService : public platform::Accessibility {
 public:
-    // On the main thread, after the action was answered.
+    // Called on the main thread, after the action has been answered.
     struct Handlers {
-        std::function<void(const ElementPointer &item)> pressed, pressedInVain; // the latter: it is gone
+        std::function<void(const ElementPointer &item)> pressed, pressedInVain; // the latter: the item is gone
     };
     AccessibilityService(platform::Dispatch &dispatch, SharedState &state, Permission &permission, Handlers handlers);
 

@@ -14,7 +14,7 @@ namespace brimshade::desktop {
 
 namespace {
 
-constexpr int kSize = 128; // points, and pixels: tiles show it smaller
+constexpr int kSize = 128; // in points and in pixels; tiles show it smaller
 constexpr QSizeF kPoints{kSize, kSize};
 
 QImage roundedSquare(const QColor &color, const QString &text)

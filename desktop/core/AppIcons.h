@@ -4,11 +4,11 @@
 
 namespace brimshade::desktop {
 
-// Pictures of applications, 128 × 128 points. Main thread; what comes out may be drawn on any.
+// Pictures of applications, 128 × 128 points. Main thread; the pictures may be drawn on any thread.
 
-// What a description asks for: "#rrggbb" a rounded square with the initial of the name; a picture file; a name in the
-// icon theme. Null where it asks for none; for a file that is no picture, the generic icon and one message on standard
-// error.
+// The icon that a description asks for: a rounded square with the name's initial for "#rrggbb", a picture file, or a
+// name in the icon theme. Null if it asks for none; if the file is not a picture, the generic icon and one message on
+// standard error.
 platform::Image makeIcon(const ApplicationDescription &application);
 platform::Image genericIcon();
 

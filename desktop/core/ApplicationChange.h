@@ -1,11 +1,11 @@
 #pragma once
 #include "ApplicationSpec.h"
 
-// What changes for whoever shows an application when that changes.
+// What a change of an application means to those who show it.
 namespace brimshade::desktop {
 
 bool offerTheSame(const ApplicationSpec &one, const ApplicationSpec &other);
-// The items, their names and where they stand; icons are the same while they are the same object.
+// Compares the items, their names and whether they are away; icons are the same if they are the same object.
 bool listTheSame(const ApplicationSpec &one, const ApplicationSpec &other);
 
 } // namespace brimshade::desktop

@@ -18,13 +18,13 @@ using ItemHandler = std::function<void(ItemGesture gesture, const QRectF &itemFr
 // Scrolls over an item; 120 is a notch of the wheel, up and left.
 using ItemScroller = std::function<void(QPoint by)>;
 
-// By what an item that comes and goes keeps its place.
+// Identifies an item that comes and goes, so that it keeps its place.
 struct ItemOrigin {
-    QString instance; // this very item, whatever it says of itself, as long as it is there
+    QString instance; // this very item for as long as it is there, whatever it says about itself
     QString program, id; // what it is, whenever its program runs
 };
 
-// What a description cannot say of an extra.
+// What a description cannot say about an extra.
 struct ItemSpec {
     platform::Image image = {}; // null: the bar draws the description's symbol or the application's icon
     ItemHandler handler = {}; // null: every gesture but secondary and activate opens the description's menu

@@ -32,11 +32,11 @@ BarEntry::Place placeOf(const ApplicationSpec &application, const ExtraDescripti
     if (extra.frameKind == ExtraDescription::Frame::fixed)
         return BarEntry::Place::fixed;
     const bool isListed =
-        !specOf(application, extra).origin; // no program gets a pinned item by naming itself after one
+        !specOf(application, extra).origin; // no program gets a pinned item by taking a pinned one's name
     return isListed && isPinned(application.description, extra) ? BarEntry::Place::pinned : BarEntry::Place::movable;
 }
 
-// One line each; no program's line is the beginning of another's.
+// Each part on a line of its own, so that no identity runs into another one.
 QString identityOf(const KeptItem &kept)
 {
     const QString item = kept.program + u'\n' + kept.id;
@@ -123,7 +123,6 @@ bool Applications::quit(int pid)
     return true;
 }
 
-// A menu whose item is gone.
 void Applications::dismissOrphanedMenu()
 {
     const auto *menu = qobject_cast<DescribedMenu *>(m_menus.openMenu());
@@ -155,7 +154,7 @@ void Applications::host(Hosted &hosted)
     dismissOrphanedMenu();
 }
 
-// Which it had before: of the same instance, else of the same element.
+// The entry that it had before: that of the same instance, or else of the same element.
 BarEntryPointer Applications::takeEntry(std::vector<Item> &before, const Item &item)
 {
     const auto found = std::ranges::find_if(before, [&item](const Item &earlier) {
@@ -306,7 +305,7 @@ std::pair<const Applications::Hosted *, const Applications::Item *> Applications
 
 void Applications::carryOut(ItemGesture gesture, int pid, const Element *element)
 {
-    if (const auto [hosted, item] = find(pid, element); item) // otherwise it went between the press and its effect
+    if (const auto [hosted, item] = find(pid, element); item) // otherwise it went away between the press and its effect
         carryOut(gesture, *hosted, *item);
 }
 

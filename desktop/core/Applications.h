@@ -19,16 +19,16 @@ public:
     Applications(SharedState &state, MenuBar &menuBar, MenuHost &menus);
     ~Applications() override;
 
-    // As Desktop says; nothing is announced here.
+    // See Desktop; nothing is announced here.
     bool launch(const ApplicationSpec &application);
     bool quit(int pid);
     bool change(int pid, const ApplicationSpec &application);
     bool isRunning(int pid) const;
 
-    void asked(ItemGesture gesture, const ElementPointer &element); // not by a click on it
+    void asked(ItemGesture gesture, const ElementPointer &element); // other than by a click on it
     void askedInVain(const ElementPointer &element); // it is gone
     ItemSpec itemSpec(const ElementPointer &element) const; // empty when it is gone
-    QString identity(const ElementPointer &element) const; // as ItemServices says
+    QString identity(const ElementPointer &element) const; // see ItemServices
 
 Q_SIGNALS:
     void offersChanged();
@@ -40,7 +40,7 @@ private:
     struct Item {
         DescribedExtra extra;
         BarEntryPointer entry; // null: its frame is unreadable, the bar does not have it
-        QString instance; // of its origin; empty without one
+        QString instance; // its origin's; empty without one
     };
     struct Hosted {
         ApplicationSpec given;

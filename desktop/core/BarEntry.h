@@ -16,9 +16,9 @@ struct BarEntry {
 
     int pid = 0;
     Place place = Place::movable;
-    // Of one that comes and goes; the bar fills in the ordinal. Absent: it stands as it was listed.
+    // Only for an item that comes and goes; the bar fills in the ordinal. Absent: it stands as it was listed.
     std::optional<KeptItem> kept;
-    double width = 0; // points; what the next layout takes
+    double width = 0; // points; the next layout uses it
     bool isAway = false; // off-screen in the next layout, whatever room there is
     std::optional<QRectF> frame; // the settled one, display space; absent until the bar has laid the item out
     ElementPointer element; // null for the own item
@@ -29,7 +29,7 @@ struct BarEntry {
     platform::Image image;
     bool wantsAttention = false;
     bool isPressed = false;
-    double dragOffset = 0; // points to the right of its frame, while a hand has it
+    double dragOffset = 0; // points to the right of its frame, while a hand drags it
     double shift = 0; // points to the right of its frame, to make room for another item, until the bar settles
 };
 using BarEntryPointer = std::shared_ptr<BarEntry>;

@@ -24,8 +24,8 @@ struct BarGeometry {
 const platform::Screen *barScreen(const std::vector<platform::Screen> &screens);
 // Every screen has a bar, at its top.
 QRectF barFrame(const platform::Screen &screen, double primaryHeight);
-// Of the bar on that screen. The application menus fill so many points from its left edge: at most 420, and half of the
-// bar.
+// The geometry of the bar on that screen. The application menus fill the given width from its left edge, but at most
+// 420 points and at most half of the bar.
 BarGeometry barGeometry(const platform::Screen &screen, double primaryHeight, double applicationMenusWidth);
 
 double drawnFrom(const BarGeometry &bar); // x
@@ -34,22 +34,22 @@ double drawnFrom(const BarGeometry &bar); // x
 // off-screen, leftwards from x = 0, or from the bar's left edge when that is further left.
 std::vector<QRectF> layOut(const std::vector<double> &widths, const BarGeometry &bar);
 
-// Items that are off-screen whatever room there is: left of all that stand there already.
+// The frames of items that stay off-screen whatever room there is: left of all that stand there already.
 std::vector<QRectF> layOutAway(const std::vector<double> &widths, const std::vector<QRectF> &others,
                                const BarGeometry &bar);
 
-// Points for the items that are drawn.
+// Points available to the items that are drawn.
 double roomFor(const BarGeometry &bar);
 
-// Wholly right of the notch, without one of the application menus: only then is an item drawn and takes clicks.
+// Wholly right of the notch or, without one, of the application menus: only then is an item drawn and takes clicks.
 bool isDrawnAt(const QRectF &frame, const BarGeometry &bar);
 
-// How many of the items, from right to left, belong right of one that is dropped at x: up to the last whose middle is
-// at or right of it.
+// How many of the items, from right to left, belong right of one that is dropped at x: up to the last one whose middle
+// is at x or right of it.
 std::size_t dropIndex(const std::vector<QRectF> &frames, double x);
 
-// How many movable items, from right to left, stand right of the own item that keeps its right edge that far from the
-// bar's right edge.
+// How many movable items, from right to left, stand right of the own item if its right edge is to stay that far from
+// the bar's right edge.
 std::size_t preferredIndex(const std::vector<double> &pinned, const std::vector<double> &movable,
                            double pointsFromRight);
 

@@ -106,7 +106,7 @@ void BarOrder::arrange(const BarEntries &kept)
         insertKept(entry);
 }
 
-// Beside its nearest neighbour in the kept order, the right one if there is any.
+// Puts it beside its nearest neighbour in the kept order, the one on the right if there is one.
 void BarOrder::insertKept(const BarEntryPointer &entry)
 {
     const auto &records = m_kept.records();
@@ -150,7 +150,7 @@ bool BarOrder::drop(const BarEntryPointer &entry, std::size_t index, double room
     return true;
 }
 
-// They stand left of the own item only for want of room; the dropped one goes where it was dropped.
+// Items that stand left of the own one only for want of room. Not the dropped one: it goes where it was dropped.
 BarEntries BarOrder::crowdedOthers(const BarEntryPointer &dropped, double room) const
 {
     BarEntries crowded = crowdedOut(m_laidOut, room);

@@ -4,14 +4,14 @@
 namespace brimshade::desktop {
 
 // The items of the bar from right to left: the pinned ones, then the own item and the movable ones among each other.
-// Items with a fixed frame are kept apart. Where those that come and go stand among each other and around the own item
-// is the kept order's; the others stand as listed. Main thread.
+// Items with a fixed frame are kept apart. The kept order decides where those that come and go stand among each other
+// and around the own item; the others stand as listed. Main thread.
 class BarOrder {
 public:
     // The own item goes next to the pinned ones, a listed one to the left end, one that comes and goes where it stood.
     void add(const BarEntryPointer &entry);
     void remove(const BarEntryPointer &entry);
-    bool rename(const BarEntryPointer &entry, const KeptItem &who); // false when it already was
+    bool rename(const BarEntryPointer &entry, const KeptItem &who); // false if it was that already
 
     const KeptOrder &kept() const { return m_kept; }
     void restore(KeptOrder kept);
@@ -19,16 +19,16 @@ public:
     const BarEntries &laidOut() const { return m_laidOut; }
     const BarEntries &fixed() const { return m_fixed; }
 
-    // As they are shown where there are that many points for what is drawn. The own item always is: of those that come
-    // and go as many as do not fit stand left of it instead, until there is room again.
+    // The order that is shown when there are that many points for what is drawn. The own item is always drawn: of those
+    // that come and go, the ones that do not fit stand left of it until there is room again.
     BarEntries shown(double room) const;
 
-    // After as many of the others as it says, in the order that is shown; that becomes the order. Nothing gets right of
-    // the pinned ones and those do not move. What comes and goes fits where it is put right of the own item: then
-    // another one does not. False when the order that is shown stays as it was.
+    // Puts the item after index others in the shown order, which becomes the order. Pinned items do not move, and
+    // nothing gets to their right. An item that comes and goes always fits where it is put right of the own item:
+    // another one then makes way. False if the shown order stays as it was.
     bool drop(const BarEntryPointer &entry, std::size_t index, double room);
 
-    // The own item, left of the listed ones that fill that many points from the bar's right edge.
+    // Puts the own item left of the listed ones that fill that many points from the bar's right edge.
     void placeOwn(const BarEntryPointer &own, double points);
 
 private:

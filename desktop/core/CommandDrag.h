@@ -7,8 +7,8 @@ namespace brimshade::desktop {
 
 class MenuBar;
 
-// Rearranging the bar's items by hand or by synthetic events: pressed with Command on an item, dragged, released with
-// Command in the bar's row. Main thread; points in display space.
+// Rearranges the bar's items by hand or by synthetic events: a press on an item with Command held, a drag, and a
+// release in the bar's row with Command still held. Main thread; points in display space.
 class CommandDrag {
 public:
     explicit CommandDrag(MenuBar &bar) : m_bar(bar) { }
@@ -23,7 +23,7 @@ public:
 private:
     MenuBar &m_bar;
     BarEntryPointer m_entry;
-    double m_grip = 0; // points from the item's left edge to where it was taken hold of
+    double m_grip = 0; // points from the item's left edge to where it was grabbed
     bool m_wasDragged = false;
 };
 

@@ -3,26 +3,26 @@
 
 #include <vector>
 
-// Which items make way for the own item where the bar is too full to show it. Orders run from right to left, room is
-// the points for what is drawn. Pure functions.
+// Which items make way for the own item when the bar is too full to show it. Orders run from right to left, room is the
+// points for what is drawn. Pure functions.
 namespace brimshade::desktop {
 
 using BarEntries = std::vector<BarEntryPointer>;
 
-// Points that it takes in the bar.
+// The points that the item takes up in the bar.
 double takenBy(const BarEntry &entry);
 
-// The leftmost of those right of the own item that come and go, as many as must go for it to fit; none when it would
-// not fit even then, or when there is no own item.
+// The leftmost items right of the own one that come and go, just enough of them for it to fit; none if it would not fit
+// even then, or if there is no own item.
 BarEntries crowdedOut(const BarEntries &order, double room);
 
-// The order with those left of the own item, beside it.
+// The order with the crowded-out items directly left of the own item.
 BarEntries withoutCrowded(const BarEntries &order, double room);
 
 // Brings those back to the right of the own item.
 void takeIn(BarEntries &order, const BarEntries &crowded);
 
-// Moves an item of the order to the right until it is no longer crowded out; others are instead.
+// Moves an item of the order to the right until others are crowded out instead of it.
 void makeRoomFor(const BarEntryPointer &entry, BarEntries &order, double room);
 
 } // namespace brimshade::desktop

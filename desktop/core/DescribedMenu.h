@@ -7,7 +7,7 @@
 
 namespace brimshade::desktop {
 
-// A menu of mere titles: choosing one reports it.
+// A menu of nothing but titles; choosing one reports it.
 class DescribedMenu : public MenuSource {
     Q_OBJECT
 public:

@@ -32,7 +32,7 @@ namespace brimshade::desktop {
 
 namespace {
 
-// The process's own, or the next one that no described application has taken: a desktop file cannot know this process.
+// This process's own pid, or the next one that no described application has: a desktop file cannot know this process.
 int freePid(const std::vector<ApplicationDescription> &applications)
 {
     auto pid = static_cast<int>(QCoreApplication::applicationPid());
@@ -43,7 +43,7 @@ int freePid(const std::vector<ApplicationDescription> &applications)
 
 } // namespace
 
-// In the order in which they depend on each other; taken down in the opposite one.
+// In the order in which they depend on each other; destroyed in reverse.
 struct Desktop::Parts {
     Parts(Services given, const DesktopDescription &description);
 

@@ -19,9 +19,9 @@ class Permission;
 class ScriptedLoginItem;
 class WindowStack;
 
-// A whole desktop: its display, its running applications and every service of platform/ but Symbols, which the
-// scene's side gives. Any number may exist in one process; each is destroyed after whoever uses its platform(), and
-// before its Dispatch. Main thread.
+// A whole desktop: its display, its running applications and every service of platform/ except Symbols, which comes
+// from the scene's side. Any number may exist in one process; each is destroyed after everything that uses its
+// platform() and before its Dispatch. Main thread.
 class Desktop : public QObject {
     Q_OBJECT
 public:
@@ -34,8 +34,8 @@ public:
         platform::MenuBarPreferences *menuBarPreferences = nullptr; // of a bar that can be chosen; outlives the desktop
         bool printsLog = false; // to standard error, as it is written
     };
-    // The description's applications run and its bar has settled when this returns; what its defaults name is
-    // stored where the store has nothing under that key.
+    // When this returns, the description's applications run and its bar has settled. The description's defaults are
+    // stored under the keys that the store lacks.
     Desktop(Services services, const DesktopDescription &description);
     ~Desktop() override;
 
@@ -54,9 +54,10 @@ public:
 
     int ownPid() const; // this program's, as its running applications list it
 
-    // A pid is used once at a time; false when it is taken, or unknown to quit and change. A change keeps the
-    // elements and the places of the extras that are there before and after: those of the same identifier, or
-    // without one of the same role, title and description. An extra with an origin keeps its place by that.
+    // A pid belongs to one application at a time: launch() is false if it is taken, quit() and change() if it is
+    // unknown. A change keeps the elements and places of extras that are there before and after: those with the same
+    // identifier or, lacking one, the same role, title and description. An extra with an origin keeps its place by
+    // that.
     bool launch(const ApplicationSpec &application);
     bool quit(int pid);
     bool change(int pid, const ApplicationSpec &application);
@@ -73,7 +74,7 @@ Q_SIGNALS:
     void changed(); // screens, permission, prompt, opened pages or applications
     void terminated(); // the program asked to end
     void notified(const QString &application, const QString &what);
-    // Somebody pressed a button, a key or an item: what was asked for before and has not come is no longer wanted.
+    // Somebody pressed a button, a key or an item: what was asked for earlier and has not come yet is no longer wanted.
     void acted();
 
 private:

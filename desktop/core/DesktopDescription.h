@@ -22,7 +22,7 @@ struct ScreenDescription {
 struct ExtraDescription {
     enum class Frame { laidOut, fixed, unreadable };
 
-    QString role; // "AXMenuBarItem" where the file is silent
+    QString role; // "AXMenuBarItem" unless the file says otherwise
     std::optional<QString> title, description, identifier;
     double width = 30;
     Frame frameKind = Frame::laidOut;
@@ -40,7 +40,7 @@ struct ApplicationDescription {
     std::optional<QString> icon; // "#rrggbb", the path of a picture, or an icon theme name
     bool hangs = false;
     double latency = 0; // seconds that each request takes
-    std::optional<std::vector<ExtraDescription>> extras; // absent: no extras menu bar at all
+    std::optional<std::vector<ExtraDescription>> extras; // absent: it has no extras menu bar at all
 };
 
 struct LoginItemDescription {

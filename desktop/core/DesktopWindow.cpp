@@ -45,7 +45,7 @@ double DesktopWindow::titleBarHeight() const
     return isTitled && !(m_attributes.styleMask & kStyleFullSizeContentView) ? kTitleBarHeight : 0;
 }
 
-// The title bar stays where it is, unless the window waits, centred, to be shown for the first time.
+// The title bar stays where it is, unless the window has been centred and not been shown yet.
 void DesktopWindow::setContentSize(QSizeF size)
 {
     const QSizeF whole(size.width(), size.height() + titleBarHeight());

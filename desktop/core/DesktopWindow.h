@@ -20,10 +20,10 @@ public:
     const platform::ContentView &content() const { return m_content; }
     QRectF displayFrame() const; // frame() in display space, title bar included
     double titleBarHeight() const; // above the content; 0 with a full-size content view or without a title bar
-    // What of the window takes clicks, from its top left corner; null, as at first, for all of it.
+    // The part of the window that takes clicks, from its top left corner; null, the initial value, means all of it.
     void setHitArea(const QRectF &area) { m_hitArea = area; }
     bool takesClickAt(QPointF displayPoint) const;
-    void setContentSize(QSizeF size); // the scene: what a hosted view measures, where it sizes the window
+    void setContentSize(QSizeF size); // by the scene: the size of a hosted view that sizes its window
 
     QRectF frame() const override { return m_frame; }
     void setFrame(const QRectF &frame) override;
@@ -52,7 +52,7 @@ private:
     QRectF m_frame;
     QRectF m_hitArea;
     bool m_isVisible = false;
-    bool m_isCentred = false; // by center(), and neither moved nor shown since
+    bool m_isCentred = false; // by center(), and not moved or shown since
 };
 
 } // namespace brimshade::desktop

@@ -4,7 +4,7 @@
 // How an element answers a request. Everything here runs under the SharedState's lock.
 namespace brimshade::desktop {
 
-// Whether a request gets to the application, and after how long its answer comes.
+// Whether a request reaches the application, and how long its answer takes.
 struct Admission {
     platform::AXError error = platform::kAXErrorSuccess; // what the request ends with instead of an answer
     double wait = 0; // seconds until then
@@ -15,7 +15,8 @@ struct Admission {
 };
 
 Admission admit(const DisplayState &state, const Element &element);
-// After the wait: what was admitted then, unless the application quit or the permission went meanwhile.
+// After the wait: the earlier admission still holds, unless the application quit or the permission was revoked
+// meanwhile.
 Admission admitted(const Admission &then, const DisplayState &state, const Element &element);
 
 } // namespace brimshade::desktop

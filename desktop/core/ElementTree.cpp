@@ -34,7 +34,7 @@ void fill(Element &element, const ExtraDescription &extra)
         element.frame.reset();
 }
 
-// The parent's present children, each to be taken once.
+// The parent's current children; each can be taken once.
 class Remaining {
 public:
     explicit Remaining(const std::vector<platform::AXUIElement> &children)

@@ -10,13 +10,13 @@ struct DescribedExtra {
     ElementPointer element;
 };
 
-// Makes or renews the elements below an extras menu bar or a group and answers the items among them, in the order
-// listed. An extra that was there before keeps its element: the one of the same identifier, or without any of the same
-// role, title and description, under the same parent. Elements of extras that are gone die. Run under the SharedState's
+// Makes or renews the elements below an extras menu bar or a group and returns the items among them, in the order
+// listed. An extra that was there before keeps its element: the one under the same parent with the same identifier or,
+// lacking one, the same role, title and description. Elements of extras that are gone die. Runs under the SharedState's
 // lock.
 std::vector<DescribedExtra> describeChildren(Element &parent, const std::vector<ExtraDescription> &extras);
 
-// The application quit: neither it nor anything below it answers any more.
+// The application quit: the element and everything below it no longer answer.
 void killChildren(Element &parent);
 
 } // namespace brimshade::desktop

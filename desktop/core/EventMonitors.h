@@ -17,7 +17,7 @@ public:
     void remove(platform::MonitorToken token);
 
     void tellGlobal(const platform::Event &event) const;
-    std::optional<platform::Event> passLocal(platform::Event event) const; // nothing: one of them took it
+    std::optional<platform::Event> passLocal(platform::Event event) const; // nothing if a monitor took it
 
 private:
     struct Monitor {

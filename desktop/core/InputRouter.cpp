@@ -45,7 +45,7 @@ struct InputRouter::Private : Parts {
     CommandDrag drag;
     PointerTracking tracking;
     std::array<std::optional<Press>, 3> held; // by MouseButton
-    QPointF at; // of the event that is being handled; the pointer may be further when it was posted by a thread
+    QPointF at; // of the event being handled; if a thread posted it, the pointer may have moved on since
 };
 
 InputRouter::InputRouter(const Parts &parts) : m_d(std::make_unique<Private>(parts)) { }
@@ -220,7 +220,7 @@ std::optional<Event> InputRouter::keyDown(const Event &event)
         return std::nullopt;
     if (m_d->windows.keyWindow())
         return m_d->passLocal(event);
-    if (m_d->permission.isTrusted()) // nobody listens to another application's keys without it
+    if (m_d->permission.isTrusted()) // without it nobody can listen to another application's keys
         m_d->monitors().tellGlobal(event);
     return std::nullopt;
 }

@@ -26,14 +26,14 @@ enum class MouseButton { left, right, middle };
 
 // Who takes a pointer event, in the order in which they are asked. A press on an item of the bar with Command held
 // goes to the bar before any window: it begins a drag of the item.
-//   menu          a menu is open: choosing in it and dismissing it are the scene's
+//   menu          a menu is open: the scene handles choosing in it and dismissing it
 //   systemWindow  the permission prompt or the Accessibility page
 //   window        one of the program's windows
 enum class Target { menu, systemWindow, window, menuBar, elsewhere };
 
-// Decides what input does, for a real window and for a script alike: it keeps the pointer, tells event monitors,
-// opens menus of the bar, runs Command-drags and native views' tracking. Main thread; points in display space.
-// The scene passes every event through here first and hands on to its views only what comes back for them.
+// Decides what input does, for a real window and a script alike: it keeps the pointer's position, tells event monitors,
+// opens the bar's menus and runs Command-drags and native views' tracking. Main thread; points in display space. The
+// scene passes every event through here first and hands on to its views only what comes back for them.
 class InputRouter : public QObject {
     Q_OBJECT
 public:
@@ -55,13 +55,13 @@ public:
     Target pressed(MouseButton button, std::uint64_t modifierFlags);
     Target released(MouseButton button, std::uint64_t modifierFlags); // the target of the press
     Target scrolled(QPointF at, QPoint by); // 120 is a notch of the wheel, up and left
-    // Hotkeys, then the local monitors when a window of this program is key. The event comes back when the key
-    // window's view shall have it. While a menu is open the other keys are the scene's: nothing is done with them here.
+    // Offers the key to the hotkeys, then to the local monitors if a window of this program is key. Returns the event
+    // if the key window's view is to get it. While a menu is open, keys other than hotkeys are left to the scene.
     std::optional<platform::Event> keyDown(const platform::Event &event);
     bool takeHotkey(const platform::Event
-                        &event); // asked first; whether it was a hotkey, which presses once however long it is held
+                        &event); // call first; whether it was a hotkey, which fires once however long it is held
 
-    // An event that the program posted, in its turn; the pointer is there already.
+    // Handles an event that the program posted, in its turn; the pointer is there already.
     void synthetic(const platform::CGMouseEvent &event);
 
 Q_SIGNALS:

@@ -16,7 +16,7 @@ struct SyntheticEvent {
     double time = 0; // of Dispatch::now()
 };
 
-// An action asked of an item through Accessibility, refused ones included.
+// An action that was requested of an item through Accessibility, even if it was refused.
 struct PerformedAction {
     int pid = 0;
     QString identifier; // empty where the item has none
@@ -34,7 +34,7 @@ public:
     std::vector<PerformedAction> takeActions();
     QStringList takeOpenedURLs();
     QStringList takeMessages(); // "Relay: Open Relay", as they were shown
-    int promptCount() const; // permission prompts asked for while the permission was missing
+    int promptCount() const; // how often the prompt was asked for while permission was missing
     std::uint64_t requestCount() const; // Accessibility attribute reads since the desktop began
 
 private:

@@ -24,7 +24,7 @@ QDate KeptOrder::currentDay()
     return QDateTime::currentDateTimeUtc().date();
 }
 
-// A clock that was set back makes nothing older.
+// Setting the clock back makes nothing older.
 QDate KeptOrder::lastSeen(const Record &record) const
 {
     return record.isPresent ? std::max(record.seen, m_today()) : record.seen;
@@ -131,7 +131,7 @@ void KeptOrder::forget()
         const auto age = [](const Record &record) { return std::pair(record.isPresent, record.seen); };
         const auto oldest = std::ranges::min_element(m_records, {}, age);
         if (oldest->isPresent)
-            return; // more at once than are kept
+            return; // more are present at once than are kept
         m_records.erase(oldest);
     }
 }

@@ -13,8 +13,8 @@ namespace brimshade::desktop {
 
 class MenuBar;
 
-// Keeps a bar's order in a file, as StoredFile says: it is read in the background, the bar adopts it once it is there,
-// and from then on every change is written. Main thread; the bar and the dispatch outlive it.
+// Keeps a bar's order in a file, by way of StoredFile: the file is read in the background, the bar then adopts the
+// order, and from then on every change is written. Main thread; the bar and the dispatch outlive it.
 class KeptOrderFile : public QObject {
 public:
     KeptOrderFile(const QString &path, MenuBar &bar, platform::Dispatch &dispatch, const Report &report);
@@ -34,7 +34,7 @@ private:
     const StoredFile m_file;
     const Report m_report;
     MenuBar &m_bar;
-    std::unique_ptr<StoredFileWriter> m_writer; // null: it was not read yet, or nothing is written
+    std::unique_ptr<StoredFileWriter> m_writer; // null: the file is not read yet, or is never written
     QByteArray m_content; // what the file holds, or soon will
     Lifetime m_lifetime;
 };

@@ -10,7 +10,7 @@ namespace brimshade::desktop {
 // right to left, of {"program", "id", "ordinal" where it is not 0, "seen": "2026-11-24"}. Pure functions, any thread.
 QByteArray writeKeptOrder(const KeptOrder &order);
 
-// From any bytes. The error says what is wrong with them; no item of the order is present.
+// Accepts any bytes. The error says what is wrong with them; no item of the order counts as present.
 std::expected<KeptOrder, Verdict> readKeptOrder(const QByteArray &json, const KeptOrder::Today &today);
 
 } // namespace brimshade::desktop

@@ -4,8 +4,8 @@
 
 namespace brimshade::desktop {
 
-// For work of an object that may be gone when the work's turn comes, and that nobody shares. The object is destroyed on
-// the thread that runs the work; guard() may be called on any while the object is there.
+// Guards work of an object with a single owner that may be gone when the work's turn comes. The object is destroyed on
+// the thread that runs the work; guard() may be called on any thread while the object exists.
 class Lifetime {
 public:
     template <class Work> auto guard(Work work) const

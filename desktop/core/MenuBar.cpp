@@ -54,12 +54,12 @@ struct MenuBar::Private {
     BarOrder order = {};
     std::optional<BarGeometry> geometry = {}; // absent without a screen
     double applicationMenusWidth = std::numeric_limits<double>::infinity();
-    Layout latest = {}; // what shows once it has settled
+    Layout latest = {}; // shown once it has settled
     std::optional<Held> held = {};
     bool isRearranging = false;
-    bool isCrowded = false; // in what shows
-    int settled = 0; // times that everything showed at once: what waited to show then is outdated
-    int updates = 0; // nesting of update(): what is due waits for its end
+    bool isCrowded = false; // as shown
+    int settled = 0; // how often everything was shown at once; layouts that were waiting then are outdated
+    int updates = 0; // nesting depth of update(), until whose end everything waits
     bool needsLayout = false;
     bool needsSignal = false;
     Lifetime lifetime = {};
@@ -144,7 +144,7 @@ void MenuBar::add(const EntryPointer &entry)
 void MenuBar::remove(const EntryPointer &entry)
 {
     m_d->order.remove(entry);
-    entry->element = nullptr; // layouts that are still to show hold the entry
+    entry->element = nullptr; // layouts yet to be shown hold the entry
     relayout();
     touch(); // it goes at once; the others close the gap when they settle
     if (entry->kept)
@@ -256,7 +256,7 @@ MenuBar::Layout MenuBar::layout(const BarOrder &order) const
     return layout;
 }
 
-// Laid out now, shown later: two changes within the delay show one after the other, each as it was meant.
+// Laid out now, shown later: two changes within the delay are shown one after the other, each as it was meant.
 void MenuBar::relayout()
 {
     if (m_d->updates > 0) {
@@ -355,7 +355,7 @@ void MenuBar::hold(const EntryPointer &entry, QPointF at, double left)
     touch();
 }
 
-// The drag's own rule, by the frames that have settled: so an item does not come back because it has made way.
+// Decides as a drop would, by the settled frames, so that an item does not come back because it has made way.
 void MenuBar::makeWay()
 {
     const auto &[entry, at, left] = *m_d->held;
@@ -387,7 +387,7 @@ bool MenuBar::isRearranging() const
     return m_d->isRearranging;
 }
 
-// Those that will be drawn, before that has settled. One that will not be goes just out of sight.
+// Shows items where the layout will put them before it has settled. One that will not be drawn goes just out of sight.
 void MenuBar::showAt(const Layout &layout)
 {
     for (const auto &[entry, frame] : layout.frames) {

@@ -55,7 +55,7 @@ void MenuHost::dismiss()
         close(nullptr);
 }
 
-// The menu is gone before the entry takes effect, which may open the next one.
+// The menu is gone before the entry takes effect, because that may open the next menu.
 void MenuHost::close(const int *chosen)
 {
     const auto closed = std::move(m_open);

@@ -18,9 +18,9 @@ public:
     explicit MenuHost(const SharedState &state);
     ~MenuHost() override; // an open menu is forgotten: neither its closed() nor its dismissed runs
 
-    // Opens under the anchor (display space; it may lie off the screen: whoever draws the menu clamps it), or at its
-    // corner for an empty rectangle; an open menu is dismissed first. dismissed runs when the menu is gone, after the
-    // entry's own effect. A menu without entries closes at once.
+    // Opens under the anchor, or at its corner if it is empty, after dismissing any open menu. The anchor is in display
+    // space and may lie off the screen: whoever draws the menu clamps it. dismissed runs when the menu is gone, after
+    // the entry's own effect. A menu without entries closes at once.
     void open(std::shared_ptr<MenuSource> source, const QRectF &anchor, platform::Work dismissed = {});
     void popUpContextMenu(const platform::Menu &menu, std::optional<QPointF> at, platform::Work dismissed) override;
     void dismiss();

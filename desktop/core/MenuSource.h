@@ -19,7 +19,7 @@ struct MenuEntry {
     platform::Image icon;
     QString shortcut; // ready to show, "⌘Q"
     bool hasSubmenu = false;
-    std::vector<MenuEntry> submenu; // may come later, after aboutToShow(id)
+    std::vector<MenuEntry> submenu; // may be filled later, after aboutToShow(id)
 };
 
 // The content of one menu, for one opening. Main thread. Hidden entries are not listed.

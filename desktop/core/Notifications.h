@@ -8,7 +8,7 @@ namespace brimshade::desktop {
 class Notifications : public platform::NotificationCenter {
 public:
     void addObserver(const QString &name, const void *object, platform::Work handler) override;
-    // Observers added meanwhile get the next one.
+    // Observers that are added meanwhile get only later notifications.
     void post(const char *name, const void *object = nullptr);
 
 private:

@@ -35,7 +35,7 @@ OwnStatusItem::OwnStatusItem(StatusBarService &bar, double length)
 {
     m_entry->pid = bar.m_parts.pid;
     m_entry->place = BarEntry::Place::own;
-    // It has a place as soon as it exists, so that there is one to measure and to click.
+    // It has a place as soon as it exists, so that it can be measured and clicked.
     bar.m_parts.menuBar.settleNow([&] {
         takeWidth();
         bar.m_parts.menuBar.add(m_entry);
@@ -151,12 +151,12 @@ void OwnStatusItem::send(NSEventType type)
     if (!m_action || !(m_sendOn & (EventMask(1) << type)))
         return;
     const ProgramApplication::Handling handling(m_bar->m_parts.application, type);
-    const Work action = m_action; // it may be replaced by what it does
+    const Work action = m_action; // running it may replace m_action
     action();
 }
 
-// An item that no longer finds room has left its screen, as has one that shows on another screen; so has one that would
-// have left it, had others not made way.
+// An item has left its screen when it no longer finds room or is shown on another screen, and also when it finds room
+// only because others made way.
 void OwnStatusItem::barSettled()
 {
     const auto screen = m_window.screen();

@@ -5,7 +5,7 @@
 
 namespace brimshade::desktop {
 
-// Stands where the item stands, in the frame that has settled. Ordering and placing it is the bar's.
+// Stands where the item stands, in its settled frame. The bar orders and places it.
 class StatusItemWindow : public platform::Window {
 public:
     StatusItemWindow(const SharedState &state, const MenuBar &bar, const BarEntry &entry)
@@ -52,7 +52,7 @@ public:
     const BarEntryPointer &entry() const { return m_entry; }
     void pressed(platform::NSEventType type);
     void released(platform::NSEventType type, bool isInside);
-    void takeWidth(); // of its length and the bar's height
+    void takeWidth(); // from its length and the bar's height
     void barSettled();
     void storePlace(); // after a drag
     void forgetBar() { m_bar = nullptr; }
@@ -73,7 +73,7 @@ private:
     // When the bar last settled:
     std::optional<QString> m_screen; // by name, the one the window was on
     bool m_isDrawn = false;
-    bool m_isCrowded = false; // where it shows, it keeps out items that belong right of it
+    bool m_isCrowded = false; // as shown, it keeps out items that belong right of it
 };
 
 } // namespace brimshade::desktop

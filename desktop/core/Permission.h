@@ -7,7 +7,7 @@ namespace brimshade::desktop {
 class SharedState;
 
 // The Accessibility permission and the two small windows that belong to it. They are the system's, not the program's:
-// they stand above every window, and a press on them is a press in another application. Main thread; frames in
+// they stand above every window, and a press on them counts as a press in another application. Main thread; frames in
 // display space.
 class Permission : public QObject {
     Q_OBJECT
@@ -29,8 +29,8 @@ public:
     void setTrusted(bool trusted); // granting closes the prompt
 
     bool isPromptOpen() const { return m_isPromptOpen; }
-    void openPrompt(); // asking again opens no second one
-    Q_INVOKABLE void closePrompt(); // the prompt's own button: not now
+    void openPrompt(); // does nothing if it is open already
+    Q_INVOKABLE void closePrompt(); // the prompt's own button, "not now"
     Q_INVOKABLE void openSettingsFromPrompt(); // its other button: closes it and opens the page
 
     bool isPageOpen() const { return m_isPageOpen; }
@@ -41,7 +41,7 @@ public:
 
     QRectF promptFrame() const; // on the primary screen, also while closed
     QRectF pageFrame() const;
-    bool takesPoint(QPointF displayPoint) const; // one of the two is open there
+    bool takesPoint(QPointF displayPoint) const; // whether one of the two is open there
 
 Q_SIGNALS:
     void changed();

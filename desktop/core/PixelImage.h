@@ -3,7 +3,7 @@
 
 namespace brimshade::desktop {
 
-// An image of that size in points, drawn from any number of pixels; null where there are none. Any thread.
+// An image of that size in points, drawn from any number of pixels; null if there are none. Any thread.
 platform::Image imageOf(const QImage &pixels, QSizeF size, bool isTemplate = false);
 
 } // namespace brimshade::desktop

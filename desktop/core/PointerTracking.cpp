@@ -45,8 +45,7 @@ void PointerTracking::refresh(DesktopWindow *window)
 
 bool PointerTracking::contains(const DesktopWindow &window, const TrackingArea &area, QPointF point) const
 {
-    // In display space, like every other question of what the pointer is on: of two edges the upper one counts as
-    // inside.
+    // In display space, like all hit-testing of the pointer: of the two edges, the upper one counts as inside.
     const QRectF inScreenSpace = area.rect.translated(window.frame().topLeft());
     return containsPoint(flipped(inScreenSpace, m_state.primaryHeight()), point);
 }

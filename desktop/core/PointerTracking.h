@@ -12,15 +12,15 @@ class DesktopWindow;
 class SharedState;
 class WindowStack;
 
-// Tells native views of the pointer coming into and leaving their tracking areas. As the toolkit does: an area that
-// appears under the pointer counts as entered without being told, a covered view is told like any other, and nothing is
-// told while a button is held. Main thread.
+// Tells native views when the pointer enters and leaves their tracking areas. As in the toolkit, an area that appears
+// under the pointer counts as entered without being told, a covered view is told like any other, and nobody is told
+// while a button is held. Main thread.
 class PointerTracking : public QObject {
     Q_OBJECT
 public:
     PointerTracking(const SharedState &state, WindowStack &windows);
 
-    void pointerMoved(QPointF to); // by an event, in display space: a warp is noticed with the next one
+    void pointerMoved(QPointF to); // in display space; a warp is noticed with the next event
 
 private:
     struct Area {

@@ -8,7 +8,7 @@ namespace brimshade::desktop {
 class SharedState;
 class WindowStack;
 
-// The program as the toolkit's application object. Main thread.
+// The program, seen as the toolkit's application object. Main thread.
 class ProgramApplication : public QObject, public platform::Application {
     Q_OBJECT
 public:

@@ -34,7 +34,7 @@ struct Element final : platform::AXUIElementObject {
     std::optional<QRectF> frame; // display space; absent: unreadable, or not laid out yet
     QStringList actions;
     std::optional<platform::AXError> pressError;
-    QString owner; // the application's name, for telling a person that the element is gone; empty: nobody is told
+    QString owner; // the application's name, to tell a person that the element is gone; empty: nobody is told
     std::vector<platform::AXUIElement> children;
 };
 using ElementPointer = std::shared_ptr<Element>;
@@ -66,8 +66,8 @@ struct DisplayState {
     std::uint64_t attributeReads = 0;
 };
 
-// The one lock over what threads share. The main thread alone writes what the display shows; every thread reads, posts
-// events and asks Accessibility. Nothing of the program is called while it is held.
+// The one lock over everything that threads share. Only the main thread writes what the display shows; any thread reads
+// it, posts events and asks Accessibility. None of the program's code is called while the lock is held.
 class SharedState {
 public:
     template <typename Use> auto read(Use use) const
@@ -85,7 +85,7 @@ public:
     {
         return read([](const DisplayState &state) { return state.pointer; });
     }
-    // Of the primary screen; 0 without one. What turns screen space into display space and back.
+    // The primary screen's height, 0 without one. It converts between screen space and display space.
     double primaryHeight() const
     {
         return read([](const DisplayState &s) { return s.screens.empty() ? 0. : s.screens.front().frame.height(); });
@@ -96,7 +96,7 @@ private:
     DisplayState m_state;
 };
 
-// What was recorded may never be taken: the oldest is dropped.
+// Records may never be taken, so the oldest is dropped.
 template <typename Entry> void record(std::deque<Entry> &entries, Entry entry)
 {
     constexpr std::size_t kMost = 10'000;

@@ -93,7 +93,7 @@ void WindowStack::orderOut(DesktopWindow *window)
     Q_EMIT orderChanged();
 }
 
-// While the program is active its frontmost window that can takes them, else another application does.
+// While the program is active, its frontmost window that can have the keys gets them, else another application does.
 void WindowStack::giveKeysOn(DesktopWindow *from)
 {
     const auto next = std::find_if(m_onScreen.rbegin(), m_onScreen.rend(), [from](const DesktopWindow *window) {

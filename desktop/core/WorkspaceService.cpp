@@ -53,8 +53,8 @@ QString WorkspaceService::displayNameAtPath(const QString &path) const
     });
 }
 
-// The application's own bundle, else the innermost one around the file, else one within the bundle: a helper stands for
-// the application that brought it.
+// The icon of the very bundle, else of the innermost bundle around the file, else of one inside it: a helper stands for
+// the application that it came with.
 Image WorkspaceService::iconForFile(const QString &path) const
 {
     return m_state.read([&](const DisplayState &state) {
@@ -63,7 +63,7 @@ Image WorkspaceService::iconForFile(const QString &path) const
             return exact->second;
         const Image *enclosing = nullptr;
         const Image *enclosed = nullptr;
-        for (const auto &[bundle, icon] : icons) { // a path comes after those that are the beginning of it
+        for (const auto &[bundle, icon] : icons) { // sorted: a path comes after its own prefixes
             if (isInside(path, bundle))
                 enclosing = &icon;
             else if (!enclosed && isInside(bundle, path))

@@ -6,7 +6,7 @@
 
 namespace brimshade::desktop {
 
-// The queries on any thread, the rest on the main one.
+// Queries run on any thread, everything else on the main one.
 class WorkspaceService : public QObject, public platform::Workspace {
     Q_OBJECT
 public:

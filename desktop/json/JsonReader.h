@@ -10,8 +10,8 @@
 #include <utility>
 #include <vector>
 
-// Typed reading of JSON values. Each reader answers nothing on success, or one sentence that starts with the
-// place of the fault. Sizes are bounded: what is read comes from anywhere.
+// Typed reading of JSON values. Each reader returns nothing on success, else one sentence that starts with the place of
+// the fault. Sizes are bounded, because the input may come from anywhere.
 namespace brimshade::desktop {
 
 using namespace Qt::StringLiterals;
@@ -31,7 +31,7 @@ Fault read(const QJsonValue &value, const QString &path, std::optional<QString> 
 Fault read(const QJsonValue &value, const QString &path, bool &into);
 Fault readNumber(const QJsonValue &value, const QString &path, Range range, double &into);
 Fault readInteger(const QJsonValue &value, const QString &path, Range range, int &into);
-// An array of exactly so many finite numbers; shape is how the message calls it, "[x, y]".
+// An array of exactly into.size() finite numbers; shape is what the message calls it, "[x, y]".
 Fault readNumbers(const QJsonValue &value, const QString &path, const QString &shape, std::span<double> into);
 // [x, y, width, height]
 Fault readRectangle(const QJsonValue &value, const QString &path, Range side, QRectF &into);
@@ -60,7 +60,7 @@ Fault readTexts(const QJsonValue &value, const QString &path, qsizetype most, QS
 
 enum class Presence { required, optional };
 
-// One key of an object and what its value sets.
+// One key of an object, and what its value sets.
 template <class T> struct Field {
     QStringView key;
     Presence presence;

@@ -9,7 +9,7 @@ namespace brimshade::desktop {
 
 namespace {
 
-// The parser's offset is that after the offending character.
+// The parser's offset points just past the offending character.
 SyntaxFault faultIn(const QByteArray &text, const QJsonParseError &error)
 {
     const QByteArray before = text.first(std::clamp<qsizetype>(error.offset - 1, 0, text.size()));

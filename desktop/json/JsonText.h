@@ -6,13 +6,13 @@
 
 namespace brimshade::desktop {
 
-// Where a text stops being JSON, and why. From 1, columns in characters.
+// Where a text stops being JSON, and why. Both count from 1, columns in characters.
 struct SyntaxFault {
     qsizetype line = 1, column = 1;
     QString reason;
 };
 
-// The object or list that a text is. Any thread.
+// Parses a text that is one object or list. Any thread.
 std::expected<QJsonValue, SyntaxFault> parseJson(const QByteArray &text);
 
 } // namespace brimshade::desktop
