@@ -30,8 +30,8 @@ public:
 
     bool isPromptOpen() const { return m_isPromptOpen; }
     void openPrompt(); // does nothing if it is open already
-    Q_INVOKABLE void closePrompt(); // the prompt's own button, "not now"
-    Q_INVOKABLE void openSettingsFromPrompt(); // its other button: closes it and opens the page
+    Q_INVOKABLE void closePrompt(); // the prompt's "Deny" button
+    Q_INVOKABLE void openSettingsFromPrompt(); // its other button: closes the prompt and opens the page
 
     bool isPageOpen() const { return m_isPageOpen; }
     void openPage();

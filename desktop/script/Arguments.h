@@ -13,8 +13,8 @@ namespace brimshade::desktop {
 
 using namespace Qt::StringLiterals;
 
-// Typed access to one script command. Readers keep the first fault and answer a default; finish() reports it, or names
-// a field that no reader asked for. A command acts only once finish() has reported nothing.
+// Typed access to one script command. Readers keep the first fault and return a default; finish() reports that fault,
+// or names a field that no reader asked for. A command acts only once finish() has reported nothing.
 class Arguments {
 public:
     explicit Arguments(const QJsonObject &command) : m_command(command) { m_asked.insert(u"do"_s); }

@@ -73,7 +73,7 @@ FoundElement describe(QAccessibleInterface &element, const QQuickItem &item, con
     found.name = element.text(QAccessible::Name);
     found.description = element.text(QAccessible::Description);
     found.frame = exposure.frame;
-    found.isEnabled = item.isEnabled(); // Qt 6.4 tells no disabled state of Quick items
+    found.isEnabled = item.isEnabled(); // Qt 6.4 does not report Quick items as disabled
     found.isCheckable = state.checkable;
     found.isChecked = state.checked;
     found.isInteractive = isInteractive(element.role());

@@ -10,11 +10,11 @@ class ScriptHost;
 
 // One element of the accessibility tree that a person could see now.
 struct FoundElement {
-    QString window; // the name of the program's window that holds it, "desktop" outside of any
+    QString window; // the name of the program's window that holds it, "desktop" outside any
     QString role; // the toolkit's name: "Button", "CheckBox"
     QString name;
     QString description;
-    QRectF frame; // display space, what is not clipped away
+    QRectF frame; // display space; the part that is not clipped away
     bool isEnabled = true;
     bool isCheckable = false;
     bool isChecked = false;

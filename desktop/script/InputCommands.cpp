@@ -13,7 +13,7 @@ namespace {
 
 constexpr int kDragSteps = 10;
 
-// Codes of keys that an ANSI keyboard lacks are 0, as for text from an input method.
+// Keys that an ANSI keyboard lacks have code 0, like text from an input method.
 std::uint16_t keyCodeForCharacter(const QString &character)
 {
     const auto key = static_cast<Qt::Key>(character.at(0).toUpper().unicode());
@@ -114,7 +114,7 @@ ScriptRunner::Result ScriptRunner::drag(Arguments &arguments)
 
 ScriptRunner::Result ScriptRunner::scroll(Arguments &arguments)
 {
-    constexpr double notch = 120, most = 100; // units of the wheel, notches
+    constexpr double notch = 120, most = 100; // wheel units; notches
     const QPointF at = arguments.point(u"at"_s);
     const QPointF by = arguments.point(u"by"_s);
     const auto modifiers = arguments.modifiers();

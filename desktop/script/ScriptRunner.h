@@ -16,7 +16,7 @@ enum class MouseButton;
 // Carries out script commands, one JSON object at a time. docs/DESKTOP.md is the reference. Main thread.
 class ScriptRunner {
 public:
-    // What only the program itself can tell: "model", "shown" and "divider" of the state answer.
+    // The parts of the state answer that only the program itself knows: "model", "shown" and "divider".
     using ProgramState = std::function<QJsonObject()>;
 
     using Result = std::expected<QJsonObject, QString>;
@@ -25,7 +25,7 @@ public:
     // All outlive the runner.
     ScriptRunner(Desktop &desktop, ScriptHost &host, ScriptClock &clock, ProgramState programState);
 
-    // One more command, of the particular desktop that is driven; each name once.
+    // Adds a command of the particular desktop that is driven; each name only once.
     void add(const QString &name, const Command &command);
 
     // The answer, "ok" included. Never throws, never ends the program.

@@ -17,7 +17,7 @@ namespace brimshade::desktop {
 
 namespace {
 
-// As a desktop file describes them.
+// In the way a desktop file describes them.
 QJsonArray screensAnswer(const platform::Screens &screens)
 {
     QJsonArray answer;
@@ -56,7 +56,7 @@ QJsonValue statusItemAnswer(const MenuBar &bar)
     return {};
 }
 
-// A window that was made ahead has no place yet: for a script it is not there.
+// A window that was made in advance has no place yet: to a script it does not exist.
 QJsonArray windowsAnswer(const WindowStack &stack)
 {
     QJsonArray windows;
@@ -72,7 +72,7 @@ QJsonArray windowsAnswer(const WindowStack &stack)
     return windows;
 }
 
-// Before its first opening there is no panel, or one without a frame: both are reported as that.
+// Before its first opening there is no panel, or one without a frame; both are reported with an empty frame.
 QJsonObject panelAnswer(const WindowStack &stack)
 {
     const DesktopWindow *panel = stack.named(u"panel"_s);
@@ -128,7 +128,7 @@ QJsonObject hotkeyAnswer(const HotkeyRegistry::Registered &hotkey)
             {u"modifiers"_s, static_cast<qint64>(hotkey.combination.modifiers)}};
 }
 
-// The panel's, which is the program's first.
+// The panel's hotkey, which is the program's first.
 QJsonValue panelHotkeyAnswer(const HotkeyRegistry &hotkeys)
 {
     const auto registered = hotkeys.registered();

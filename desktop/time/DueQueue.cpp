@@ -50,7 +50,7 @@ std::size_t DueQueue::size() const
 
 void DueQueue::close()
 {
-    // Destroyed after the lock: what the work holds may come back here.
+    // Destroyed after the lock is released, because destroying what the work holds may call back into this queue.
     std::map<Key, platform::Work> dropped;
     const std::lock_guard lock(m_mutex);
     m_closed = true;

@@ -14,17 +14,17 @@ class DueQueue {
 public:
     using Turn = std::uint64_t; // among what is due at the same time
 
-    // True when this work is now the first; once closed, the work is dropped.
+    // True if this work is now the first; once the queue is closed, the work is dropped.
     bool add(Nanoseconds due, platform::Work work);
-    // The same under an order reserved earlier, for work that is scheduled again and again; one piece of work at a time
-    // has it.
+    // The same with a turn reserved earlier, for work that is scheduled again and again; only one piece of work has it
+    // at a time.
     bool add(Nanoseconds due, Turn turn, platform::Work work);
     Turn takeTurns(std::size_t count); // that many, from the one returned on
 
     std::optional<platform::Work> takeDue(Nanoseconds now);
     std::optional<Nanoseconds> nextDue() const;
     std::size_t size() const;
-    void close(); // drops what waits, and all that comes later
+    void close(); // drops what is waiting and all that comes later
 
 private:
     using Key = std::pair<Nanoseconds, Turn>;

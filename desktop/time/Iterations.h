@@ -9,9 +9,9 @@
 
 namespace brimshade::desktop {
 
-// The iterations of one concurrentPerform, shared by the threads that run them. Whoever begins one calls in another
-// thread for the next, one call at a time: work that never waits is done by few threads, work that waits by as many
-// as wait.
+// The iterations of one concurrentPerform, shared by the threads that run them. A thread that begins one calls in
+// another for the next, one call at a time: iterations that never wait are done by few threads, those that wait by as
+// many as are waiting.
 class Iterations : public std::enable_shared_from_this<Iterations> {
 public:
     using Body = std::function<void(std::size_t)>;
@@ -20,7 +20,7 @@ public:
     // The body must live until the last iteration has ended; allEnded is then called, on the thread that ran it.
     Iterations(std::size_t count, const Body &body, CallIn callIn, platform::Work allEnded);
 
-    void run(); // as long as there are iterations that nobody has begun
+    void run(); // until every iteration has been begun
 
 private:
     std::optional<std::size_t> begin();

@@ -11,7 +11,7 @@
 
 namespace brimshade::desktop {
 
-// A queue under virtual time, served by up to `width` workers. Its work starts as an event of the main thread.
+// A queue under virtual time, served by up to `width` workers. Its work starts from an event of the main thread.
 class Lane : public platform::SerialQueue, public std::enable_shared_from_this<Lane> {
 public:
     using Schedule = std::function<void(platform::Work)>; // at the present instant
@@ -23,9 +23,9 @@ public:
 
     std::size_t waiting() const; // pieces of work that have not begun; any thread
 
-    // Main thread. Lends the baton and, when the worker comes back with its work done, gives it the next.
+    // Main thread. Lends the baton and, when the worker gives it back with its work done, hands it the next piece.
     void resume(Worker &worker);
-    // Main thread. What waits is dropped; work under way runs to its end without sleeping.
+    // Main thread. Waiting work is dropped; work under way runs to its end without sleeping.
     void stop();
 
 private:

@@ -10,7 +10,7 @@ using Nanoseconds = std::int64_t;
 
 inline constexpr Nanoseconds kSecond = 1'000'000'000;
 
-// Negative and unordered values count as 0; a century stands for everything longer.
+// Negative values and NaN count as 0; anything longer than a century counts as one.
 inline Nanoseconds toNanoseconds(double seconds)
 {
     constexpr double century = 3.2e9;

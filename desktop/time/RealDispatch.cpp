@@ -10,9 +10,9 @@ namespace brimshade::desktop {
 
 namespace {
 
-// A press may wait seconds for its application; enough that a few hanging ones do not hold up the rest.
+// A press may wait seconds for its application: enough threads that a few hanging ones do not hold up the rest.
 constexpr std::size_t kGlobalThreads = 8;
-// That many can wait at a time; threads are made only for those that do.
+// How many can wait at a time; threads are made only for those that do.
 constexpr std::size_t kConcurrentThreads = 64;
 
 Nanoseconds steadyNow()
@@ -21,13 +21,13 @@ Nanoseconds steadyNow()
     return duration_cast<nanoseconds>(steady_clock::now().time_since_epoch()).count();
 }
 
-// Tells a waiting thread that a piece of work has run or was dropped: it goes with the work.
+// Tells a waiting thread that a piece of work has run or was dropped: destroying the work finishes it.
 class Completion {
 public:
     Completion() = default;
     Q_DISABLE_COPY_MOVE(Completion)
 
-    // The work's share of it.
+    // The work's share of the completion.
     static std::shared_ptr<void> hold(const std::shared_ptr<Completion> &completion)
     {
         return {nullptr, [completion](void *) { completion->finish(); }};
@@ -84,7 +84,7 @@ void RealDispatch::stop()
 {
     m_notifier.setEnabled(false);
     m_timer.stop();
-    // Before any wait ends: what a worker comes back to must not go on to the next piece of work.
+    // Before any wait ends, so that no worker that wakes goes on to the next piece of work.
     dropQueuedWork();
     {
         const std::lock_guard lock(m_mutex);
@@ -106,7 +106,7 @@ void RealDispatch::dropQueuedWork()
     for (const auto &queue : queues)
         queue->pool().close();
     m_global.close();
-    m_concurrent.close(); // whoever waits for its work does the rest of it alone
+    m_concurrent.close(); // a thread that waits for work here does the rest of it alone
 }
 
 double RealDispatch::now() const
@@ -191,11 +191,11 @@ void RealDispatch::schedule(Nanoseconds due, platform::Work work)
         eventfd_write(m_wakeUp, 1);
 }
 
-// One a turn: work that queues more work leaves the event loop its share.
+// One piece per turn, so that work that queues more work does not starve the event loop.
 void RealDispatch::runOne()
 {
     std::optional<platform::Work> work = m_main.takeDue(steadyNow());
-    rearm(); // first, for an event loop that the work runs
+    rearm(); // first, in case the work runs an event loop
     if (work)
         (*work)();
 }
@@ -206,7 +206,7 @@ void RealDispatch::rearm()
     if (!due)
         return m_timer.stop();
     constexpr Nanoseconds millisecond = 1'000'000;
-    constexpr Nanoseconds longest = 86'400'000; // a day, in milliseconds; then it looks again
+    constexpr Nanoseconds longest = 86'400'000; // a day, in milliseconds, after which it looks again
     const Nanoseconds wait = (*due - steadyNow() + millisecond - 1) / millisecond;
     m_timer.start(static_cast<int>(std::clamp<Nanoseconds>(wait, 0, longest)));
 }

@@ -15,16 +15,16 @@
 
 namespace brimshade::desktop {
 
-// The clock on the wall: the main queue runs on the Qt event loop of the thread that makes it, which is also
-// the one that destroys it. Qualities of service are not told apart.
+// Real time: the main queue runs on the Qt event loop of the thread that creates it, which must also destroy it. All
+// qualities of service are treated alike.
 class RealDispatch : public platform::Dispatch {
 public:
     RealDispatch();
     ~RealDispatch() override; // stops
     Q_DISABLE_COPY_MOVE(RealDispatch)
 
-    // Main thread. Ends sleeps, drops what waits and joins every thread; nothing runs after it. For an owner whose
-    // work uses objects that must go before the clock does.
+    // Main thread. Ends sleeps, drops waiting work and joins every thread; nothing runs after it. For an owner whose
+    // work uses objects that must be destroyed before the clock.
     void stop();
 
     double now() const override;
@@ -62,7 +62,7 @@ private:
     bool m_isStopping = false;
     std::vector<std::shared_ptr<Queue>> m_queues; // kept: each has a thread to join
     WorkerPool m_global;
-    WorkerPool m_concurrent; // of concurrentPerform alone
+    WorkerPool m_concurrent; // for concurrentPerform alone
 };
 
 } // namespace brimshade::desktop

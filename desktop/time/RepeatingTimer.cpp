@@ -12,7 +12,7 @@ struct RepeatingTimer::State {
 
 namespace {
 
-// The Mac takes an interval of 0 as 0.1 ms.
+// The Mac treats an interval of 0 as 0.1 ms.
 constexpr Nanoseconds kShortestInterval = kSecond / 10'000;
 
 } // namespace

@@ -13,7 +13,7 @@ struct TimerClock {
     std::function<void(Nanoseconds due, platform::Work work)> schedule;
 };
 
-// Ticks at whole intervals from its start; ticks that a busy main thread missed are not made up for.
+// Ticks at whole intervals from its start; ticks missed by a busy main thread are skipped.
 class RepeatingTimer : public platform::Timer {
 public:
     RepeatingTimer(TimerClock clock, double seconds, platform::Work tick);

@@ -15,7 +15,7 @@ constexpr std::size_t kGlobalWidth = 8;
 constexpr std::size_t kUnlimited = std::numeric_limits<std::size_t>::max();
 constexpr Nanoseconds kFramesPerSecond = 60;
 
-// Rounded down, so that advancing by 1/60 s again and again meets every frame.
+// Rounded down, so that repeatedly advancing by 1/60 s hits every frame.
 Nanoseconds frameAfter(Nanoseconds time)
 {
     const Nanoseconds second = time / kSecond * kSecond;
@@ -25,7 +25,7 @@ Nanoseconds frameAfter(Nanoseconds time)
     return second + index * kSecond / kFramesPerSecond;
 }
 
-// Only they can give the baton back.
+// Only a worker can give the baton back.
 Worker &callingWorker()
 {
     Worker *const worker = Worker::current();
@@ -89,7 +89,7 @@ bool VirtualDispatch::stepTo(Nanoseconds end)
     constexpr Nanoseconds never = std::numeric_limits<Nanoseconds>::max();
     const Nanoseconds frame = m_framesWanted && m_framesWanted() ? frameAfter(m_now) : never;
     const Nanoseconds stop = std::min(m_events.nextDue().value_or(never), frame);
-    m_now = std::max(m_now.load(), std::min(stop, end)); // work may have moved it on itself
+    m_now = std::max(m_now.load(), std::min(stop, end)); // work may itself have advanced the clock
     if (stop > end)
         return false;
     runDue();

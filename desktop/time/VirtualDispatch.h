@@ -14,14 +14,14 @@ namespace brimshade::desktop {
 
 class Lane;
 
-// A clock that moves only when it is told to. Serial and global work runs on threads of its own, but one thread
-// runs at a time: the main thread, or the one it has lent the baton to. A worker keeps the baton until it sleeps,
-// calls mainSync, waits in concurrentPerform or ends, so every run takes the same course. Hence a worker must hold no
-// lock over those calls and must not wait for another worker by any other means. What runs side by side takes as long
-// as the slowest of it; of its iterations that wake at the same instant, the earlier one goes first.
+// A clock that moves only when it is told to. Serial and global work runs on threads of its own, but one thread runs at
+// a time: the main thread, or the one it has lent the baton to. A worker keeps the baton until it sleeps, calls
+// mainSync, waits in concurrentPerform or ends, so every run takes the same course. Hence a worker must hold no lock
+// across those calls and must not wait for another worker by any other means. Concurrent work takes as long as its
+// slowest part; of iterations that wake at the same instant, the earlier one goes first.
 //
-// The main queue, the workers' turns and the frames run inside runDue() and advance() only. The thread that
-// makes it is the main one, and the one that destroys it. mainSync is for the main thread and the workers, sleep and
+// The main queue, the workers' turns and the frames run only inside runDue() and advance(). The thread that creates it
+// is the main one and must also destroy it. mainSync is for the main thread and the workers, sleep and
 // concurrentPerform for the workers alone.
 class VirtualDispatch : public platform::Dispatch {
 public:
@@ -29,20 +29,21 @@ public:
     ~VirtualDispatch() override; // stops
     Q_DISABLE_COPY_MOVE(VirtualDispatch)
 
-    // Drops what waits; workers run to their end without sleeping. For an owner whose workers use what goes before
-    // the dispatch does. Work that comes later is dropped. Destroying does it too.
+    // Drops waiting and later work; workers run to their end without sleeping. For an owner whose workers use objects
+    // that are destroyed before the dispatch. The destructor does it, too.
     void stop();
 
-    // Runs everything that is due now, and what becomes due by it. Qt events (bindings, queued signals, deferred
-    // deletes) are delivered before, between and after. May be called from work that it runs.
+    // Runs everything that is due now, and what becomes due because of that. Qt events (bindings, queued signals,
+    // deferred deletes) are delivered before, between and after. May be called by the work that it runs.
     void runDue();
     // Runs what is due, then moves the clock on, from one due time to the next.
     void advance(double seconds);
-    std::optional<double> nextDue() const; // seconds until the next work is due; 0 or less: it is, nothing: none waits
-    // While wanted() says so, the clock stops at every sixtieth of a second and calls frame() after what is due.
+    std::optional<double> nextDue() const; // seconds until the next work is due, 0 or less if it is now; or nothing
+    // While wanted() is true, the clock stops at every sixtieth of a second and calls frame() after the work that is
+    // due.
     void setFrames(std::function<bool()> wanted, std::function<void()> frame);
 
-    // What waits for its time or its turn, on any queue. Main thread.
+    // How much work waits for its time or its turn, on any queue. Main thread.
     std::size_t queueLength() const;
 
     double now() const override; // 0 at first
@@ -70,7 +71,7 @@ private:
     std::mutex m_mutex;
     bool m_isStopping = false;
     std::vector<std::shared_ptr<Lane>> m_lanes; // all, in the order in which they were made
-    std::shared_ptr<Lane> m_concurrent; // made first and stopped first: the others' work waits for its
+    std::shared_ptr<Lane> m_concurrent; // made and stopped first: work on the others waits for its work
     std::shared_ptr<Lane> m_global;
 };
 

@@ -71,7 +71,7 @@ void Worker::run()
         platform::Work work = std::exchange(m_work, nullptr);
         lock.unlock();
         work();
-        work = nullptr; // what it holds goes with the baton in hand
+        work = nullptr; // destroys what it holds while this thread has the baton
         lock.lock();
         m_isWorking = false;
         if (m_stopping)

@@ -10,7 +10,7 @@ namespace brimshade::desktop {
 
 class Lane;
 
-// A thread that runs only while the main thread has lent it the baton, and waits for it in between.
+// A thread that runs only while the main thread has lent it the baton, and otherwise waits.
 class Worker {
 public:
     explicit Worker(Lane &lane);
@@ -21,17 +21,17 @@ public:
     static Worker *current(); // of the calling thread, or null
     Lane &lane() const { return m_lane; }
 
-    // Main thread, while the baton is there.
+    // Main thread, while it has the baton.
     void assign(platform::Work work);
     void lendBaton(); // returns when it comes back
     bool isWorking() const; // its work has not ended yet
 
-    // The worker's own thread. What decides its place among those that wake at the same instant; absent: when it fell
-    // asleep.
+    // The worker's own thread. Decides its place among workers that wake at the same instant; absent: the order in
+    // which they fell asleep.
     std::optional<DueQueue::Turn> turn() const { return m_turn; }
     void setTurn(std::optional<DueQueue::Turn> turn) { m_turn = turn; }
 
-    // The worker's own thread: gives the baton back and returns with it again, at once when it is being stopped.
+    // The worker's own thread: gives the baton back and returns once it has it again, or at once when being stopped.
     void wait();
 
 private:

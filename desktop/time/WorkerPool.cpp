@@ -51,7 +51,7 @@ void WorkerPool::run()
         m_waiting.pop_front();
         lock.unlock();
         work();
-        work = nullptr; // what it holds goes outside the lock
+        work = nullptr; // destroys what it holds outside the lock
         lock.lock();
     }
 }

@@ -10,8 +10,8 @@
 
 namespace brimshade::desktop {
 
-// Up to `limit` threads, made when work finds none of them free. Work starts in the order it came, so a pool of
-// one thread is a serial queue.
+// Up to `limit` threads, created when work finds none of them free. Work starts in the order of its arrival, so a pool
+// of one thread is a serial queue.
 class WorkerPool {
 public:
     explicit WorkerPool(std::size_t limit);
@@ -20,7 +20,7 @@ public:
     WorkerPool &operator=(const WorkerPool &) = delete;
 
     void async(platform::Work work); // any thread; dropped once closed
-    void close(); // any thread; drops what waits and returns at once
+    void close(); // any thread; drops waiting work and returns at once
     void join(); // closes, then waits for the work that has started
 
 private:

@@ -13,8 +13,8 @@ public:
     Activation(const QDBusConnection &bus, const BusAddress &item, const Surroundings &surroundings,
                platform::Dispatch &dispatch);
 
-    // Gives the program a token where there is one, then runs ask; at once where there never is one, and without a
-    // token when none has come for a while.
+    // Gives the program a token, then runs ask. Without tokens in this session, ask runs at once; if no token comes for
+    // a while, it runs without one.
     void provide(platform::Work ask);
 
 private:

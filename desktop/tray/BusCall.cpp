@@ -37,7 +37,7 @@ void call(const QDBusConnection &bus, const QDBusMessage &message, int timeLimit
     QObject::connect(watcher, &QDBusPendingCallWatcher::finished, context,
                      [bus, handler = std::move(handler)](QDBusPendingCallWatcher *finished) {
                          finished->deleteLater();
-                         if (bus.isConnected()) // otherwise whoever holds the connection learns of its end
+                         if (bus.isConnected()) // otherwise the connection's owner learns that it has ended
                              handler(readReply(*finished));
                      });
 }

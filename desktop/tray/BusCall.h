@@ -28,16 +28,16 @@ struct BusAddress {
     QString service, path, interface;
 };
 
-// Calls and returns at once; the handler runs later on the main thread, at most two seconds later, and never after
-// the context or the connection is gone. No service is started by a call.
+// Calls and returns at once; the handler runs later on the main thread, at most two seconds later, and never after the
+// context or the connection is gone. A call never starts a service.
 void callAsync(const QDBusConnection &bus, const BusAddress &to, const QString &method, const QVariantList &arguments,
                QObject *context, ReplyHandler handler);
 
-// The same without a limit: for an answer that may take as long as a person does.
+// The same without a time limit, for an answer that may have to wait for a person.
 void callPatiently(const QDBusConnection &bus, const BusAddress &to, const QString &method,
                    const QVariantList &arguments, QObject *context, ReplyHandler handler);
 
-// Calls without asking for an answer: what the callee does with it does not matter.
+// Calls without asking for an answer, where the outcome does not matter.
 void notify(const QDBusConnection &bus, const BusAddress &to, const QString &method, const QVariantList &arguments);
 
 // The bus daemon itself.

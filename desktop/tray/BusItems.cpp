@@ -36,13 +36,13 @@ void BusItems::add(const ItemKey &key)
                   if (reply)
                       place(key, reply->value(0).toInt());
                   else
-                      m_registry.drop(key); // gone meanwhile
+                      m_registry.drop(key); // it has gone meanwhile
               });
 }
 
 void BusItems::place(const ItemKey &key, int pid)
 {
-    // It may have been taken back, and even registered again, while the bus was asked.
+    // The item may have been withdrawn, and even registered again, while we were asking the bus.
     if (!m_registry.contains(key) || isPlaced(key))
         return;
     auto client = std::make_unique<ItemClient>(m_bus, key, m_workshop, m_surroundings);

@@ -13,8 +13,8 @@ namespace brimshade::desktop::tray {
 
 class TrayPrograms;
 
-// The tray items on one bus, shown as items of their programs. They go with it. Main thread; all that it is made with
-// outlives it.
+// The tray items on one bus, shown as items of their programs until this is destroyed. Main thread; everything passed
+// to the constructor outlives it.
 class BusItems : public QObject {
     Q_OBJECT
 public:
@@ -46,7 +46,7 @@ private:
     const Workshop &m_workshop;
     const Surroundings &m_surroundings;
     ItemRegistry m_registry;
-    std::vector<Item> m_items; // as they came
+    std::vector<Item> m_items; // in order of arrival
 };
 
 } // namespace brimshade::desktop::tray

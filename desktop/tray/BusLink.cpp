@@ -12,7 +12,7 @@ constexpr double kFirstPause = 1, kLongestPause = 10; // seconds
 
 QString nextName()
 {
-    static std::atomic<int> number = 0; // names are the process's
+    static std::atomic<int> number = 0; // connection names are shared by the whole process
     return u"brimshade.tray.%1"_s.arg(++number);
 }
 

@@ -9,7 +9,7 @@
 
 namespace brimshade::desktop::tray {
 
-// Opens a connection of its own to the bus, of that name. It may take its time: not called on the main thread.
+// Opens a separate connection to the bus, under that name. It may take a while, so it is not called on the main thread.
 using ConnectToBus = std::function<QDBusConnection(const QString &name)>;
 
 // A connection to a bus that may come and go: it is opened off the main thread, and again with growing pauses when it
@@ -21,7 +21,7 @@ public:
 
 Q_SIGNALS:
     void connected(const QDBusConnection &bus);
-    void failed(); // no bus is there; told once until one is
+    void failed(); // there is no bus; emitted once until there is one
     void lost(); // after connected()
 
 private Q_SLOTS:

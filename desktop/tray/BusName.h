@@ -5,7 +5,7 @@
 
 namespace brimshade::desktop::tray {
 
-// Names as the bus's own rules have them; what breaks them never reaches a call.
+// Whether a text is a name by the bus's own rules; one that breaks them is never used in a call.
 bool isBusName(const QString &text); // unique or well-known
 bool isUniqueName(const QString &text);
 bool isObjectPath(const QString &text);
@@ -20,7 +20,7 @@ struct ItemKey {
     bool operator<(const ItemKey &other) const { return std::tie(owner, path) < std::tie(other.owner, other.path); }
 };
 
-// What a registration names: the service may still be a well-known name.
+// What a registration refers to; the service may still be a well-known name.
 struct Registration {
     QString service;
     QString path;
@@ -28,8 +28,8 @@ struct Registration {
     bool operator==(const Registration &) const = default;
 };
 
-// Programs register with a path, a well-known name, a unique name (their own or another connection's) or a name with
-// a path behind it; sender is the connection that called. Nothing when the argument is none of these.
+// Programs register with a path, a well-known name, a unique name (their own or another connection's) or a name
+// followed by a path; sender is the connection that called. Nothing if the argument is none of these.
 std::optional<Registration> parseRegistration(const QString &argument, const QString &sender);
 
 } // namespace brimshade::desktop::tray

@@ -92,7 +92,7 @@ ApplicationSpec describeApplication(int pid, const HostedProgram &program, const
         auto identifier = hosted.item.id;
         if (identifier.isEmpty() || given.items.contains(identifier))
             identifier = hosted.path;
-        if (given.items.contains(identifier)) // the same path on another connection of the program
+        if (given.items.contains(identifier)) // same path, on another connection of the program
             identifier = hosted.instance;
         extras.push_back(describeExtra(hosted.item, identifier));
         given.items.emplace(identifier, specOf(hosted, program.found.name));

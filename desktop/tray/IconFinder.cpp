@@ -11,8 +11,8 @@ namespace {
 
 constexpr int kMostIndices = 16;
 constexpr int kMostKnown = 4096;
-constexpr double kOldIndex = 2, kOldThemes = 60; // seconds after which a missing name may have appeared
-constexpr double kTrustMissing = 10; // seconds in which a name that was nowhere is not looked for again
+constexpr double kOldIndex = 2, kOldThemes = 60; // seconds after which it is read again for a missing name
+constexpr double kTrustMissing = 10; // seconds before a name that was not found is looked for again
 constexpr QSizeF kItemSize{22, 22};
 
 bool isSymbolic(const QString &name)
@@ -70,7 +70,7 @@ QImage IconFinder::findPicture(const QString &name, const QString &themePath)
 
 QString IconFinder::knownPath(const QString &name, const QString &themePath)
 {
-    // Programs that draw their icons put new ones right there.
+    // Programs that draw their own icons put new ones directly into this folder.
     if (const auto *index = m_indices.object(themePath)) {
         if (auto path = index->findNew(name); !path.isEmpty())
             return path;

@@ -15,25 +15,25 @@ struct ItemPictures {
     platform::Image overlay; // null for none
 };
 
-// Pictures by name: in the folder that a program brings along, in the user's icon theme, where programs install their
-// own icons, or at an absolute path. It reads folders and files: not on the main thread, and on one at a time. The
-// pictures may be drawn on any.
+// Finds pictures by name: in the folder that a program brings along, in the user's icon theme, where programs install
+// their own icons, or at an absolute path. It reads folders and files, so it runs off the main thread, on one thread at
+// a time. The pictures may be drawn on any thread.
 class IconFinder {
 public:
     using Clock = std::function<double()>; // seconds
 
     IconFinder(IconThemePlaces places, Clock now);
 
-    // Null when there is none. themePath may be the root of a theme, a bare folder, or empty. A name ending in
+    // Null if there is none. themePath may be the root of a theme, a plain folder, or empty. A name ending in
     // "-symbolic" gives a template.
     platform::Image find(const QString &name, const QString &themePath);
 
-    // The picture of an item as its program wants it to look now, 22 × 22 points, and what lies over it there.
+    // An item's picture as its program wants it to look now, 22 × 22 points, and the overlay that is part of it.
     ItemPictures itemPictures(const TrayItem &item);
 
 private:
     struct Found {
-        QString path; // empty: nowhere
+        QString path; // empty: not found
         double at = 0;
     };
     QImage findPicture(const QString &name, const QString &themePath);

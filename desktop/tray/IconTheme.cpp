@@ -23,7 +23,7 @@ const auto kSharedTheme = u"hicolor"_s; // every theme's last resort
 
 struct Theme {
     QStringList parents;
-    QStringList folders; // inside a base's folder of the theme, best first
+    QStringList folders; // relative to the theme's folder in a base, best first
 };
 
 QStringList namesIn(const QString &value)
@@ -38,7 +38,7 @@ int pixelsOf(const QString &folder, const KeyGroup &about)
     return size > 0 ? size * std::max(1, about.value(u"Scale"_s).toInt()) : number.match(folder).captured(1).toInt();
 }
 
-// Small is good: drawn ones, then those that need not be enlarged, the smallest first, then the largest of the rest.
+// Lower is better: vector pictures, then sizes that need no enlarging, smallest first, then the rest, largest first.
 int rank(const QString &folder, const KeyGroup &about)
 {
     if (about.value(u"Type"_s) == u"Scalable" || folder.contains(u"scalable"))
@@ -47,7 +47,7 @@ int rank(const QString &folder, const KeyGroup &about)
     return pixels >= kWantedPixels ? pixels : 100'000 - pixels;
 }
 
-// Where no index names them: every folder two levels down.
+// For a theme whose index lists no folders: every folder two levels down.
 QStringList listedFolders(const QString &root)
 {
     QStringList folders;

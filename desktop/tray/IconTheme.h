@@ -5,12 +5,12 @@
 namespace brimshade::desktop::tray {
 
 struct IconThemePlaces {
-    QString theme; // the user's; empty for none
+    QString theme; // the user's; empty if there is none
     QStringList bases; // folders that have themes in them, most important first
 };
 IconThemePlaces sessionThemePlaces(); // main thread; reads no folder
 
-// The folders in which icons are looked for, best first: of the user's theme, of those that it inherits from, then
+// The folders to search for icons, best first: those of the user's theme, of the themes that it inherits from, then
 // where programs install their own. Not all need to exist. Reads files.
 QStringList iconFolders(const IconThemePlaces &places);
 

@@ -27,7 +27,7 @@ ItemClient::ItemClient(const QDBusConnection &bus, const ItemKey &key, const Wor
         if (!m_press.isProgramBusy())
             Q_EMIT unanswered();
     });
-    // Without a name: every signal of the interface.
+    // No signal name: this receives every signal of the interface.
     m_bus.connect(key.owner, key.path, m_address.interface, QString(), this, SLOT(signalled()));
     m_refresh.requestNow();
 }
@@ -69,7 +69,8 @@ void ItemClient::receive(const BusReply &reply)
 
 void ItemClient::take(const TrayItem &item, const ItemPictures &pictures)
 {
-    // Some programs draw a new picture into the file that they named before. One that looks the same stays the same.
+    // Some programs redraw the file that they named before, so compare the pixels. A picture that looks the same is
+    // kept.
     const bool isSameOverlay = m_pictures.overlay.bitmap() == pictures.overlay.bitmap();
     if (m_item == item && m_pictures.whole.bitmap() == pictures.whole.bitmap() && isSameOverlay)
         return;
@@ -112,7 +113,7 @@ void ItemClient::lapse()
     m_press.lapse();
 }
 
-// What comes while the program is being asked for a sign of life is sent as one.
+// Scrolling that comes while the program is being asked for a sign of life is sent as one request.
 void ItemClient::scroll(QPoint by)
 {
     m_scrolled += by;

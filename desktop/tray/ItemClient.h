@@ -15,8 +15,8 @@ namespace brimshade::desktop::tray {
 
 class MenuClient;
 
-// One tray item over the bus: it reads the item, follows its changes and presses it. Main thread; nothing it asked for
-// arrives after it is gone. The workshop and the surroundings outlive it.
+// One tray item on the bus: reads it, follows its changes and presses it. Main thread; no answer arrives after it is
+// destroyed. The workshop and the surroundings outlive it.
 class ItemClient : public QObject {
     Q_OBJECT
 public:
@@ -30,19 +30,19 @@ public:
     MenuClient *menu() const { return m_menu.get(); }
 
     void press(ItemGesture gesture, const QRectF &frame); // of the item, in display space
-    void lapse(); // the press under way
+    void lapse(); // drops the press under way
     void scroll(QPoint by); // 120 is a notch of the wheel, up and left
-    bool canBeActivated() const; // it is more than a menu, and the program has not said otherwise
+    bool canBeActivated() const; // it is more than a menu and, as far as known, the program can do it
 
 Q_SIGNALS:
     void changed(); // item(), pictures() or canBeActivated() has changed
     void menuReady(const QRectF &frame); // show menu() at the item that was pressed
-    void gone(); // its program lives on without it; it does nothing more
-    void unanswered(); // a press; the program answers nothing at all
+    void gone(); // its program lives on without the item; this does nothing more
+    void unanswered(); // a press got no answer: the program does not answer anything
     void message(const QString &text);
 
 private Q_SLOTS:
-    void signalled(); // by the program, about any of its properties
+    void signalled(); // the program reports a change of any property
 
 private:
     void fetch();
@@ -62,7 +62,7 @@ private:
     ItemPictures m_pictures;
     LifeSign m_life;
     Activation m_activation;
-    QPoint m_scrolled; // and not told yet
+    QPoint m_scrolled; // not yet sent to the program
     ItemPress m_press;
     std::unique_ptr<MenuClient> m_menu;
     QString m_lastMessage;

@@ -2,7 +2,8 @@
 
 namespace brimshade::desktop::tray {
 
-// Where the items stand in the bar: each where what it is stood before, or as they come, like any that is listed.
+// Where the items stand in the bar: each where it stood in earlier runs of its program, or in order of arrival like
+// listed ones.
 enum class ItemPlaces { kept, listed };
 
 } // namespace brimshade::desktop::tray

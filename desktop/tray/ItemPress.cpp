@@ -70,7 +70,7 @@ void ItemPress::tryNext()
         return;
     if (m_untried.empty()) {
         lapse();
-        if (m_tried != Press::secondaryActivate) // which few programs have
+        if (m_tried != Press::secondaryActivate) // few programs have that one
             Q_EMIT message(u"it has no menu and cannot be activated"_s);
         return;
     }

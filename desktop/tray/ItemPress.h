@@ -10,31 +10,30 @@ namespace brimshade::desktop::tray {
 
 class MenuClient;
 
-// A press of one item under way: it tries one thing after the other until the program takes one. It lapses when the
-// program has not answered for two seconds: nothing comes of it then, whatever the program does when it wakes. Main
-// thread.
+// The press of an item: it tries one request after another until the program accepts one. It lapses when the program
+// has not answered for two seconds: it then has no effect, whatever the program does when it wakes. Main thread.
 class ItemPress : public QObject {
     Q_OBJECT
 public:
-    // All outlive it.
+    // All arguments outlive it.
     ItemPress(const QDBusConnection &bus, const BusAddress &item, LifeSign &life, Activation &activation,
               platform::Dispatch &dispatch);
 
-    // frame is the item's, in display space; a program that shows something itself gets the point, on the screen. The
-    // press before lapses.
+    // frame is the item's, in display space; onScreen is the point for a program that shows something itself. An
+    // earlier press lapses.
     void start(std::vector<Press> order, MenuClient *menu, const QRectF &frame, QPoint onScreen);
     void lapse();
 
     void menuIsReady();
-    void tryNext(); // the program has no such thing
+    void tryNext(); // the program lacks what was tried
 
-    bool canActivate() const { return m_canActivate; } // the program has not said otherwise
-    // Calls whose answer may come when a menu closes that the program itself draws.
+    bool canActivate() const { return m_canActivate; } // as long as the program has not said otherwise
+    // Whether calls are unanswered: an answer may come only when a menu closes that the program itself draws.
     bool isProgramBusy() const { return m_unanswered > 0; }
 
 Q_SIGNALS:
     void menuReady(const QRectF &frame);
-    void learned(); // canActivate() is another one
+    void learned(); // canActivate() has changed
     void message(const QString &text);
 
 private:
@@ -49,9 +48,9 @@ private:
     Activation &m_activation;
     platform::Dispatch &m_dispatch;
 
-    int m_number = 0; // of the press; an answer to another one comes too late
+    int m_number = 0; // of the press; an answer to an earlier one comes too late
     bool m_isUnderWay = false;
-    bool m_canActivate = true; // as far as is known
+    bool m_canActivate = true; // as far as known
     std::vector<Press> m_untried;
     Press m_tried = Press::menu; // last
     QString m_method; // to be called once the program is heard

@@ -35,7 +35,7 @@ ItemRegistry::ItemRegistry(const QDBusConnection &bus) : m_bus(bus)
     connect(&m_owners, &QDBusServiceWatcher::serviceOwnerChanged, this,
             [this](const QString &name, const QString &, const QString &owner) { ownerChanged(name, owner); });
     connect(&m_service, &WatcherService::registrationAsked, this, &ItemRegistry::registerItem);
-    // Before the name is asked for: whoever sees the name finds the object complete.
+    // Before requesting the name, so that a program that sees the name finds the object complete.
     m_bus.registerObject(QString::fromLatin1(kWatcherPath), &m_service,
                          QDBusConnection::ExportScriptableContents | QDBusConnection::ExportAllProperties);
     findWatcher();
@@ -47,7 +47,7 @@ ItemRegistry::~ItemRegistry()
     m_bus.unregisterObject(QString::fromLatin1(kWatcherPath));
 }
 
-// Without flags the bus keeps us in line for the name, and tells everybody when it passes to us.
+// Without flags the bus queues us for the name, and tells everybody when it passes to us.
 void ItemRegistry::findWatcher()
 {
     callAsync(m_bus, busDaemon(), u"RequestName"_s, {watcherName(), 0U}, this, [this](const BusReply &) {
@@ -115,8 +115,8 @@ void ItemRegistry::registerItem(const QString &argument, const QString &sender)
         resolve(*registration, registration->service);
 }
 
-// Asks whose name it is, which starts nothing. A name is watched before it is asked for, so that none that goes away
-// meanwhile is missed: a well-known name therefore takes a second round, for its owner.
+// Asks who owns the name, which starts no service. A name is watched before the question, so that we notice if it goes
+// away meanwhile; a well-known name therefore takes a second round, for its owner.
 void ItemRegistry::resolve(const Registration &registration, const QString &registeredAs)
 {
     watch(registration.service);
@@ -166,7 +166,7 @@ void ItemRegistry::ownerChanged(const QString &name, const QString &newOwner)
     }
     if (newOwner.isEmpty())
         m_owners.removeWatchedService(name);
-    // A program that lets go of the name it registered takes its item back, even if it stays on the bus.
+    // A program that releases the name it registered withdraws its item, even if it stays on the bus.
     dropIf([&](const ItemKey &item, const QString &registeredAs) {
         return item.owner != newOwner && (item.owner == name || registeredAs == name);
     });

@@ -12,8 +12,8 @@ class QDBusMessage;
 
 namespace brimshade::desktop::tray {
 
-// Which tray items the session has. It stands in line for the watcher's name: while another program has it, that one's
-// list is followed; when it goes the bus hands the name on and programs register here. Main thread.
+// Which tray items the session has. It queues for the watcher's name: while another program has it, that program's list
+// is followed; when that one goes, the bus passes the name on and programs register here. Main thread.
 class ItemRegistry : public QObject {
     Q_OBJECT
 public:
@@ -47,8 +47,8 @@ private:
     QDBusConnection m_bus;
     WatcherService m_service;
     QDBusServiceWatcher m_owners;
-    QString m_watcher; // the unique name of the program that has the watcher's name; ours too
-    std::map<ItemKey, QString> m_items; // and the name each was registered by
+    QString m_watcher; // the unique name of the watcher, which may be us
+    std::map<ItemKey, QString> m_items; // each with the name under which it was registered
     bool m_saidFull = false;
 };
 

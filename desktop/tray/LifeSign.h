@@ -7,15 +7,15 @@
 
 namespace brimshade::desktop::tray {
 
-// Whether a program answers at all. A request that would take effect whenever it wakes is held back until it answers.
-// Main thread.
+// Whether a program answers at all. A request that would take effect late, when a sleeping program wakes, waits for
+// this. Main thread.
 class LifeSign : public QObject {
     Q_OBJECT
 public:
     LifeSign(const QDBusConnection &bus, const QString &owner, platform::Dispatch &dispatch);
 
     void ask(); // ends in heard(), or in silent() after two seconds
-    void hear(); // it has answered something else
+    void hear(); // it has answered some other call
     bool isHeard() const { return m_isHeard; } // since it was last asked
 
 Q_SIGNALS:
@@ -29,7 +29,7 @@ private:
     BusAddress m_peer;
     platform::Dispatch &m_dispatch;
     bool m_isHeard = true;
-    bool m_isPinging = false; // one is on its way; a stopped program is sent no more of them
+    bool m_isPinging = false; // one is on its way; a stopped program gets no second one
     bool m_isListening = false;
     Lifetime m_lifetime;
 };

@@ -41,7 +41,7 @@ void MenuClient::forgetOpening()
     m_readsForOpening = false;
 }
 
-// The answer itself is not trusted: programs that fill a menu only now often say that nothing changed.
+// The answer itself is not trusted: programs that only now fill their menu often say that nothing changed.
 void MenuClient::programWasTold(const BusReply &reply)
 {
     if (reply || !reply.error().isTimeout())
@@ -199,7 +199,7 @@ void MenuClient::sendHeld()
     }
 }
 
-// A program that slept is not sent a choice that the person has given up; it is told that its menu has closed.
+// A program that slept does not get a choice that the person has given up on, only the news that its menu has closed.
 void MenuClient::dropChoices()
 {
     for (const auto &event : std::exchange(m_held, {})) {

@@ -15,8 +15,8 @@ class QDBusMessage;
 
 namespace brimshade::desktop::tray {
 
-// One program's menu over com.canonical.dbusmenu. It reads the menu once ahead of the first opening; while nobody
-// looks, a change only marks what it has as old. Main thread.
+// One program's menu over com.canonical.dbusmenu. It reads the menu once before the first opening; while the menu is
+// closed, a change only marks what was read as old. Main thread.
 class MenuClient : public QObject {
     Q_OBJECT
 public:
@@ -28,12 +28,12 @@ public:
     const QString &path() const { return m_address.path; }
     const std::vector<MenuEntry> &entries() const { return m_entries; }
 
-    // Tells the program that its menu is about to be shown and ends in ready() or unusable(), at once when what was
-    // read is still good. Each ready() is followed by one close().
+    // Tells the program that its menu is about to be shown and ends in ready() or unusable(), at once if what was read
+    // is still valid. Each ready() is followed by one close().
     void open();
-    void forgetOpening(); // it is no longer wanted: neither ready() nor unusable() follows
+    void forgetOpening(); // neither ready() nor unusable() follows any more
     void aboutToShow(int id); // a submenu; changed() follows if that brings entries
-    void choose(int id); // dropped when the program has not answered since it was opened, and still does not
+    void choose(int id); // dropped if the program has not answered since the menu was opened, and still does not
     void close();
 
 Q_SIGNALS:
@@ -76,14 +76,14 @@ private:
     Refresh m_refresh;
     std::vector<MenuEntry> m_entries;
     std::optional<int> m_oldParent = 0; // whose children must be read again; 0 is the whole menu
-    // Of an open() that has not ended yet: the program is being told, then its menu is being read.
+    // The stage of an open() that has not ended yet: the program is being told, then its menu is being read.
     enum class Opening { none, telling, reading };
     Opening m_opening = Opening::none;
     bool m_readsForOpening = false; // the read under way began after the program was told
-    int m_opened = 0; // times that it was shown and not yet closed
+    int m_opened = 0; // how often it was shown and not yet closed
     bool m_saidCut = false;
-    std::deque<Event> m_held; // until the program is heard and may bring up its windows
-    bool m_isProviding = false; // for the choice that is sent next
+    std::deque<Event> m_held; // held until the program answers and may bring up its windows
+    bool m_isProviding = false; // a token is on its way, for the choice that is sent next
     std::vector<int> m_shown; // submenus that were announced as shown, and must be announced as closed
     Lifetime m_lifetime;
 };

@@ -7,7 +7,7 @@ namespace brimshade::desktop::tray {
 
 namespace {
 
-constexpr int kPixels = 128; // of a picture that has no size of its own
+constexpr int kPixels = 128; // for a picture without a size of its own
 constexpr int kLargestEdge = 1024;
 constexpr qint64 kMostPictureBytes = 4 << 20;
 constexpr int kMostKilobytes = 8192;
@@ -34,7 +34,7 @@ bool isVectorPicture(const QString &path)
 
 bool isSettled(const QDateTime &modified, const QDateTime &looked)
 {
-    constexpr int coarsest = 2; // seconds by which a file system's times may be off
+    constexpr int coarsest = 2; // seconds; the coarsest resolution of a file system's times
     return modified.secsTo(looked) > coarsest;
 }
 
@@ -43,7 +43,7 @@ PictureFiles::PictureFiles() : m_known(kMostKilobytes) { }
 QImage PictureFiles::read(const QString &path)
 {
     const QFileInfo file(path);
-    if (!file.isFile() || file.size() > kMostPictureBytes) // nor a pipe: reading one could block for ever
+    if (!file.isFile() || file.size() > kMostPictureBytes) // no pipe either: reading one could block for ever
         return {};
     const auto modified = file.lastModified();
     if (const auto *known = m_known.object(path); known && known->modified == modified && known->size == file.size())

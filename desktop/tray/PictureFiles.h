@@ -8,11 +8,11 @@ namespace brimshade::desktop::tray {
 
 bool isVectorPicture(const QString &path);
 
-// Whether a change after the look would show in the modification time.
+// Whether a change after we looked is sure to show in the modification time.
 bool isSettled(const QDateTime &modified, const QDateTime &looked);
 
-// Reads pictures and keeps some of them. Only regular files are opened, and none larger than a picture of an icon can
-// be. One thread at a time.
+// Reads pictures and keeps some of them. Opens only regular files, and none larger than the picture of an icon can be.
+// One thread at a time.
 class PictureFiles {
 public:
     PictureFiles();

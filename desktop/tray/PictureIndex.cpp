@@ -25,7 +25,7 @@ fs::path pathOf(const QString &folder)
     return QFile::encodeName(folder).toStdString();
 }
 
-// Calls with each entry of the folder until so many have been visited.
+// Calls visit with each entry of the folder until the budget is used up.
 template <typename Visit> void visitEntries(const fs::path &folder, int &budget, const Visit &visit)
 {
     std::error_code error;

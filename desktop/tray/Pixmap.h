@@ -8,12 +8,12 @@ namespace brimshade::desktop::tray {
 // The largest edge, in pixels, of any picture that a program may send.
 inline constexpr int kLargestPixmapEdge = 512;
 
-// The largest sound picture of an IconPixmap value, a plain a(iiay): width, height and ARGB pixels, big-endian,
-// straight alpha. Null when there is none; each unsound one adds a complaint. Nothing is allocated before the sizes
-// agree.
+// The largest valid picture of an IconPixmap value, a plain a(iiay): width, height and ARGB pixels, big-endian,
+// straight alpha. Null if there is none; each invalid one adds a complaint. Nothing is allocated before the sizes are
+// checked.
 QImage largestPixmap(const QVariant &pixmaps, QStringList &complaints);
 
-// A PNG that came as bytes; null where it is not one, or larger than a pixmap may be.
+// Decodes a PNG; null if the bytes are not one, or if it is larger than a pixmap may be.
 QImage decodePng(const QByteArray &bytes);
 
 } // namespace brimshade::desktop::tray

@@ -13,7 +13,7 @@ namespace brimshade::desktop::tray {
 namespace {
 
 constexpr qint64 kMostCommandLineBytes = 8192;
-constexpr double kTrustSeconds = 10; // a session's programs all start at once
+constexpr double kTrustSeconds = 10; // saves reading again while a session's programs all start at once
 
 bool isInterpreter(const QString &name)
 {
@@ -36,7 +36,7 @@ QString scriptOf(const QStringList &arguments)
     return {};
 }
 
-// How sure it is that the entry is that program's: its id counts more than what it runs, which several may share.
+// How likely the entry belongs to that program: its id counts more than the command it runs, which several may share.
 int score(const DesktopEntry &entry, const QStringList &names)
 {
     const auto lastPart = entry.id.section(u'.', -1);

@@ -5,28 +5,28 @@
 
 namespace brimshade::desktop::tray {
 
-// A running process, as far as that says which program it is.
+// What identifies the program that a running process belongs to.
 struct Process {
-    QString executable; // the file it runs; empty when it may not be seen
+    QString executable; // the file it runs; empty if we may not see it
     QStringList arguments; // its command line, the program's own name first
 };
 
 Process readProcess(int pid);
 
-// The file names that the program may be known by: for a script its own, not its interpreter's.
+// The file names that the program may be known by: a script's own name, not its interpreter's.
 QStringList programNames(const Process &process);
 
-// The desktop entry that belongs to a process; nothing when there is none.
+// The desktop entry that belongs to a process; nothing if there is none.
 std::optional<DesktopEntry> findDesktopEntry(const Process &process, const std::vector<DesktopEntry> &entries);
 
-// What tells a program from others.
+// What distinguishes a program from others.
 struct FoundProgram {
     std::optional<DesktopEntry> entry;
-    QString name; // the same whenever it runs: its entry, else the file that it runs; empty when neither is known
+    QString name; // the same in every run: its entry, else the file that it runs; empty if neither is known
 };
 
-// Finds programs by the entries in the user's and the system's folders, which it reads again when it has not for a
-// while. Reads files: not on the main thread, and on one at a time.
+// Finds programs by the entries in the user's and the system's folders, which it reads again after a while. It reads
+// files, so it runs off the main thread, on one thread at a time.
 class ProgramFinder {
 public:
     explicit ProgramFinder(std::function<double()> now); // seconds

@@ -23,7 +23,8 @@ void Refresh::request()
         fetchAfter(delay(), State::waiting);
 }
 
-// Items that change all the time are read together: moving icons are then drawn in one frame, not each in its own.
+// Items that change all the time are read on a common beat, so that moving icons are drawn in one frame, not each in
+// its own.
 double Refresh::delay() const
 {
     const double now = m_dispatch.now();

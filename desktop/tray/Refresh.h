@@ -7,13 +7,13 @@
 namespace brimshade::desktop::tray {
 
 // Reads something again after a burst of change signals: a moment after the first one, one read at a time, and once
-// more when a signal came during the read. After reads that failed it tries again, with growing pauses. Main thread.
+// more if a signal came during the read. A failed read is repeated, with growing pauses. Main thread.
 class Refresh {
 public:
-    // fetch starts a read that ends in finished() or failed(); nothing of it runs after the Refresh is gone.
+    // fetch starts a read that ends in finished() or failed(); it is not called after the Refresh is gone.
     Refresh(platform::Dispatch &dispatch, platform::Work fetch);
 
-    void request(); // after 10 ms; less than a second after the last read with the next beat, ten a second
+    void request(); // after 10 ms or, within a second of the last read, at the next tenth of a second
     void requestNow();
     void finished();
     void failed();
@@ -27,8 +27,8 @@ private:
     platform::Dispatch &m_dispatch;
     platform::Work m_fetch;
     State m_state = State::idle;
-    int m_turn = 0; // of waiting; an older one is outdated
-    double m_readAt = -std::numeric_limits<double>::infinity(); // the last time; Dispatch seconds
+    int m_turn = 0; // of waiting; earlier turns are outdated
+    double m_readAt = -std::numeric_limits<double>::infinity(); // when it was last read; Dispatch seconds
     double m_pause = 0; // seconds; 0 after a read that succeeded
     Lifetime m_lifetime;
 };

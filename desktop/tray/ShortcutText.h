@@ -4,8 +4,8 @@
 
 namespace brimshade::desktop::tray {
 
-// A menu's shortcut, [["Control", "Shift", "q"]] as plain values, in the way a menu shows it: "⌃⇧Q". Only the first one
-// is shown; empty for anything else.
+// A menu entry's shortcut, [["Control", "Shift", "q"]] as plain values, the way a menu shows it: "⌃⇧Q". Only the first
+// shortcut counts; empty for anything else.
 QString shortcutText(const QVariant &shortcuts);
 
 } // namespace brimshade::desktop::tray

@@ -11,12 +11,12 @@ namespace tray {
 class TrayPrograms;
 }
 
-// The tray items of the Linux session as applications of the desktop. A process that owns items is launched when
-// its first item has been read, changed whenever one of them changes, and quit with its last one. When the bus
-// goes its items go, and come back with the next one.
+// The tray items of the Linux session as applications of the desktop. A process that owns items is launched when its
+// first item has been read, changed whenever one of them changes, and quit with its last one. When the bus goes away,
+// so do its items; they come back with the next bus.
 //
-// It is the session's StatusNotifierWatcher, or a host of the one that is there until that one goes. Main thread;
-// construction returns at once, nothing here waits for the bus. The Dispatch and the Desktop outlive it.
+// It is the session's StatusNotifierWatcher or, until an existing watcher goes away, a host that follows it. Main
+// thread; construction returns at once, and nothing here waits for the bus. The Dispatch and the Desktop outlive it.
 class TrayHost : public QObject {
     Q_OBJECT
 public:
@@ -24,11 +24,11 @@ public:
              tray::Surroundings surroundings = {});
     ~TrayHost() override;
 
-    // For items that come another way than over the bus; they go before it does.
+    // For items that do not come over the bus; they must be removed before this is destroyed.
     tray::TrayPrograms &programs();
 
 Q_SIGNALS:
-    // One line, without a line break, about an item or a menu that could not be shown as its program asked.
+    // A single line about an item or a menu that could not be shown as its program asked.
     void message(const QString &text);
 
 private:

@@ -15,7 +15,7 @@ namespace {
 constexpr int kLongestPath = 4096;
 constexpr int kLongestLabel = 48;
 
-// Tool tips may be written in markup; what people see is plain.
+// Tool tips may contain markup; people see plain text.
 QString withoutMarkup(QString text)
 {
     static const QRegularExpression tag(u"<[^<>]{0,200}>"_s);
@@ -131,7 +131,7 @@ QPoint takeScroll(const TrayItem &item, QPoint &by)
     constexpr int notch = 120;
     if (!item.isIndicator)
         return std::exchange(by, {});
-    const QPoint notches(by.x() / notch, by.y() / notch); // the rest waits for more
+    const QPoint notches(by.x() / notch, by.y() / notch); // the rest waits until it makes up a notch
     by -= notches * notch;
     return -notches;
 }

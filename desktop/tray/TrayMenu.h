@@ -5,7 +5,7 @@
 
 namespace brimshade::desktop::tray {
 
-// A program's menu for one opening. It outlives the program: then it is empty.
+// A program's menu for one opening. It may outlive the program, and is then empty.
 class TrayMenu : public MenuSource {
     Q_OBJECT
 public:
@@ -17,7 +17,7 @@ public:
     void closed() override;
 
 private:
-    void follow(); // takes the client's entries over
+    void follow(); // copies the client's entries
 
     QPointer<MenuClient> m_client;
     std::vector<MenuEntry> m_entries;

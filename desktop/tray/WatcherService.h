@@ -5,8 +5,8 @@
 
 namespace brimshade::desktop::tray {
 
-// What the bus sees of the watcher. It keeps the list that it shows and hands every registration on. Programs look at
-// the properties before they register, so the host is there from the start.
+// What the bus sees of the watcher. It keeps the list that it publishes and passes on every registration. Programs look
+// at the properties before they register, so it reports a host from the start.
 class WatcherService : public QObject, protected QDBusContext {
     Q_OBJECT
     Q_CLASSINFO("D-Bus Interface", "org.kde.StatusNotifierWatcher")

@@ -56,7 +56,7 @@ QVariantMap plainValues(QVariantMap map, int &budget)
     return map;
 }
 
-// The bus bounds the nesting of a message to 64 levels, so this cannot recurse without end.
+// The bus limits the nesting of a message to 64 levels, so this cannot recurse endlessly.
 QVariant plain(const QVariant &value, int &budget)
 {
     if (--budget < 0)

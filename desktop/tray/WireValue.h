@@ -3,12 +3,12 @@
 #include <QVariant>
 #include <optional>
 
-// Values from the bus, unpacked once into what Qt holds without the bus: an array or a structure is a QVariantList, an
-// array of strings a QStringList, an array of bytes a QByteArray, a map a QVariantMap, a path or signature a QString.
-// Whoever reads them on needs no bus, and trusts none of them.
+// Values from the bus, unpacked once into plain Qt types: an array or a structure is a QVariantList, an array of
+// strings a QStringList, an array of bytes a QByteArray, a map a QVariantMap, a path or signature a QString. Their
+// readers need no bus, and trust none of them.
 namespace brimshade::desktop::tray {
 
-// One message holds at most this many values; what comes behind is left out.
+// At most this many values of one message are read; the rest is left out.
 inline constexpr int kMostWireValues = 200'000;
 
 QVariantList plainArguments(const QVariantList &arguments);

@@ -7,8 +7,8 @@
 
 namespace brimshade::desktop::tray {
 
-// The tray's work off the main thread: what reads files or takes apart what programs sent, one piece after the other.
-// Main thread; the Dispatch outlives it, the work that is under way may not.
+// The tray's work off the main thread: reading files and parsing what programs sent, one piece after another. Main
+// thread; the Dispatch outlives it, and the work under way may outlive it, too.
 class Workshop {
 public:
     struct Tools {
@@ -19,7 +19,7 @@ public:
 
     platform::Dispatch &dispatch() const { return m_dispatch; }
 
-    // Runs make(Tools &) off the main thread and use(its result) on it, whoever is gone by then: guard it.
+    // Runs make(Tools &) off the main thread, then use(its result) on it. The caller may be gone by then: guard use.
     template <class Make, class Use> void run(Make make, Use use) const
     {
         m_queue->async([make = std::move(make), use = std::move(use), tools = m_tools, &dispatch = m_dispatch] {

@@ -7,7 +7,7 @@ Item {
     id: root
 
     required property real origin // of the bar, in display space
-    required property bool glides // its movement is shown, rather than being there at once
+    required property bool glides // whether it moves visibly instead of jumping
     required property rect frame
     required property real place
     required property string name
@@ -30,7 +30,7 @@ Item {
     width: root.frame.width
     height: root.frame.height
 
-    // It follows the hand; let go, it glides from there.
+    // It follows the hand; once let go, it glides from there.
     onDragOffsetChanged: {
         if (root.dragOffset !== 0)
             hand.jumpTo(root.dragOffset);

@@ -19,7 +19,7 @@ namespace {
 
 constexpr double kTextMargin = 6; // left and right of an item's text
 
-// The program draws its own image in the right size; others come in any.
+// The program draws its own image at the right size; other images come in any size.
 QSizeF imageSize(const BarItem &item)
 {
     return item.isOwn ? item.image.size() : QSizeF(kItemPicture, kItemPicture);

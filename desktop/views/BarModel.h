@@ -11,7 +11,7 @@ class WallClock;
 QString barItemName(const BarItem &item); // for people
 
 // The bar with status items as the views show it: the items that are drawn or dragged, left to right. Display space.
-// The base is spelled in full: the registrar of QML types finds it by its spelling.
+// The base class is spelled out in full because the QML type registrar looks it up by its spelling.
 class BarModel : public brimshade::ui::ListModel {
     Q_OBJECT
     QML_ELEMENT
@@ -25,7 +25,7 @@ class BarModel : public brimshade::ui::ListModel {
     Q_PROPERTY(double menusEnd READ menusEnd NOTIFY changed)
 
 public:
-    // Text is what is drawn as such, of the clock; name is what the item is called.
+    // Text is only the clock's, which is drawn as text; name is what the item is called.
     enum Role {
         FrameRole = Qt::UserRole + 1,
         PlaceRole,

@@ -40,7 +40,7 @@ private:
     const MenuBar &m_bar;
     platform::Dispatch &m_dispatch;
     MenuBar::EntryPointer m_item; // the one under the pointer; null for none
-    int m_visit = 0; // to an item; what was begun in an older one is outdated
+    int m_visit = 0; // counts visits to items; what was begun in an earlier one is outdated
     bool m_isShown = false;
     QString m_text;
     QRectF m_itemFrame;

@@ -10,12 +10,12 @@ namespace brimshade::desktop {
 
 class DesktopWindow;
 
-// An instance of a module's type; null, with a warning, where it cannot be made.
+// An instance of a module's type; null, with a warning, if it cannot be created.
 std::unique_ptr<QQuickItem> createItem(QQmlEngine &engine, const QString &module, const QString &type,
                                        const QVariantMap &properties);
 
-// What one of the program's windows shows, in an item that stands for the window's content area. A view either fills
-// it or, where the window's attributes say so, sizes the window. Main thread; goes before the holder and the window.
+// What one of the program's windows shows, in an item that stands for the window's content area. A view either fills it
+// or, if the window's attributes say so, sizes the window. Main thread; destroyed before the holder and the window.
 class HostedContent {
 public:
     HostedContent(DesktopWindow &window, QQmlEngine &engine, QQuickItem &holder);
@@ -30,7 +30,7 @@ private:
     void measure();
 
     DesktopWindow &m_window;
-    QObject m_context; // of the connections
+    QObject m_context; // ends the connections
     std::unique_ptr<QQuickItem> m_view;
     std::unique_ptr<QQuickItem> m_native;
 };

@@ -15,7 +15,7 @@ struct KeyCode {
     VirtualKey code;
 };
 
-// Of several keys with one code, the first is what keyFor() answers.
+// Of several keys with one code, keyFor() returns the first.
 constexpr std::array kKeys = std::to_array<KeyCode>({
     {Qt::Key_A, kVK_ANSI_A},
     {Qt::Key_S, kVK_ANSI_S},
@@ -92,7 +92,7 @@ constexpr std::array kKeys = std::to_array<KeyCode>({
     {Qt::Key_Right, kVK_RightArrow},
     {Qt::Key_Down, kVK_DownArrow},
     {Qt::Key_Up, kVK_UpArrow},
-    // What Shift makes of them.
+    // The same keys with Shift.
     {Qt::Key_Exclam, kVK_ANSI_1},
     {Qt::Key_At, kVK_ANSI_2},
     {Qt::Key_NumberSign, kVK_ANSI_3},
@@ -222,7 +222,7 @@ std::optional<platform::Event> keyDownFor(const QKeyEvent &event)
 {
     if (isModifier(event.key()))
         return {};
-    constexpr std::uint16_t unassigned = 0x7f; // typed by a key that an ANSI keyboard lacks
+    constexpr std::uint16_t unassigned = 0x7f; // for keys that an ANSI keyboard lacks
     const auto code = keyCodeFor(Qt::Key(event.key()), event.modifiers().testFlag(Qt::KeypadModifier));
     if (!code && event.text().isEmpty())
         return {};

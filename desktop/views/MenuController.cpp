@@ -52,7 +52,7 @@ void MenuController::reopen()
     endInsertRows();
 }
 
-// A list whose entry is gone closes; the others keep their chosen row.
+// A list closes if the entry that opened it is gone; the others keep their chosen row.
 void MenuController::refresh()
 {
     const std::vector<MenuEntry> *entries = &m_source->entries();

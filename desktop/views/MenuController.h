@@ -10,8 +10,8 @@
 namespace brimshade::desktop {
 
 // What pointer and keys do to the open menu: the lists that are open, from the menu itself to the deepest submenu.
-// Points are in display space. Main thread.
-// The base is spelled in full: the registrar of QML types finds it by its spelling.
+// Points are in display space. Main thread. The base class is spelled out in full because the QML type registrar looks
+// it up by its spelling.
 class MenuController : public brimshade::ui::ListModel {
     Q_OBJECT
     QML_ELEMENT

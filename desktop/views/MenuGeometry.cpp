@@ -75,7 +75,7 @@ QRectF placeMenu(const QRectF &anchor, const QSizeF &size, const QRectF &screen)
     const double lowest = screen.bottom() - kScreenMargin;
     const double x =
         clampedStart(anchor.x(), size.width(), screen.left() + kScreenMargin, screen.right() - kScreenMargin);
-    // A menu of the bar keeps clear of it and scrolls; a menu at a point goes up until it fits.
+    // A menu of the bar does not cover it and scrolls if need be; a menu at a point moves up until it fits.
     const double y = anchor.isEmpty() ? clampedStart(anchor.y(), size.height(), screen.top() + kScreenMargin, lowest)
                                       : std::max(anchor.bottom(), screen.top());
     return {x, y, size.width(), std::min(size.height(), lowest - y)};

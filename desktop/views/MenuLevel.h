@@ -6,10 +6,9 @@
 
 namespace brimshade::desktop {
 
-// One opened list of a menu tree: its rows, where it is, which row is chosen and how far it is scrolled. Views see the
-// rows of it that are in its frame.
-// Display space; rows are counted from 0 and none is -1.
-// The base is spelled in full: the registrar of QML types finds it by its spelling.
+// One open list of a menu tree: its rows, where it is, which row is chosen and how far it is scrolled. Views see only
+// the rows inside its frame. Display space; rows count from 0, and -1 means none. The base class is spelled out in full
+// because the QML type registrar looks it up by its spelling.
 class MenuLevel : public brimshade::ui::ListModel {
     Q_OBJECT
     QML_ELEMENT
@@ -57,8 +56,8 @@ public:
 
     int rowAt(QPointF point) const; // -1 outside of the rows
     QRectF rowFrame(int row) const;
-    int neighbour(int row, int step) const; // the next row that can be chosen; the same row when there is none
-    int rowStartingWith(const QString &text) const; // after the chosen one, around the end
+    int neighbour(int row, int step) const; // the next row that can be chosen; the same row if there is none
+    int rowStartingWith(const QString &text) const; // searching from after the chosen one, wrapping at the end
     static bool isChoosable(const MenuEntry &entry) { return entry.isEnabled && !entry.isSeparator; }
 
     QHash<int, QByteArray> roleNames() const override;
@@ -85,7 +84,7 @@ private:
 
     const int m_owner;
     std::vector<MenuEntry> m_entries;
-    std::vector<double> m_tops; // of the rows, and last the end; unscrolled
+    std::vector<double> m_tops; // of the rows, then the end of the last one; unscrolled
     MenuColumns m_columns;
     QRectF m_frame;
     double m_scroll = 0;

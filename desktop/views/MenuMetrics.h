@@ -4,7 +4,7 @@
 
 namespace brimshade::desktop {
 
-// What an open menu measures, in points, for C++ and QML.
+// The measurements of an open menu, in points, for C++ and QML.
 class MenuMetrics : public QObject {
     Q_OBJECT
     QML_ELEMENT

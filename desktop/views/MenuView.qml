@@ -3,7 +3,7 @@ import QtQuick
 import Brimshade.Desktop
 import Brimshade.Ui
 
-// One open list of the menu. Pointer and keys are the menu controller's.
+// One open list of the menu. The menu controller handles pointer and keys.
 Item {
     id: root
 

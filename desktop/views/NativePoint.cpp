@@ -14,7 +14,7 @@ QPoint nativePoint(QPointF global)
         screen = QGuiApplication::primaryScreen();
     if (!screen || QGuiApplication::platformName() != "xcb"_L1)
         return global.toPoint();
-    const QPointF origin = screen->geometry().topLeft(); // where screens begin is in pixels already
+    const QPointF origin = screen->geometry().topLeft(); // a screen's origin is already in pixels
     return (origin + (global - origin) * screen->devicePixelRatio()).toPoint();
 }
 

@@ -4,8 +4,8 @@
 
 namespace brimshade::desktop {
 
-// A global point of the toolkit's in the units in which the session's programs exchange points: pixels on X11,
-// the compositor's own points on Wayland. Main thread.
+// Converts one of the toolkit's global points into the units that the session's programs exchange: pixels on X11, the
+// compositor's own points on Wayland. Main thread.
 QPoint nativePoint(QPointF global);
 
 } // namespace brimshade::desktop

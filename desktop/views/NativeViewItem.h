@@ -6,7 +6,7 @@
 
 namespace brimshade::desktop {
 
-// Shows a view that draws itself. Pointer tracking is the input router's.
+// Shows a view that draws itself. The input router does the pointer tracking.
 class NativeViewItem : public QQuickPaintedItem {
     Q_OBJECT
 public:

@@ -13,7 +13,7 @@ void preferSoftwareRenderer()
         useSoftwareRenderer();
         return;
     }
-    // The other renderers, too, shall give text no coloured edges.
+    // The other renderers must not give text coloured edges either.
     constexpr auto edges = "QSG_DISTANCEFIELD_ANTIALIASING";
     if (!qEnvironmentVariableIsSet(edges))
         qputenv(edges, "gray");
@@ -24,7 +24,7 @@ void useSoftwareRenderer()
     QQuickWindow::setGraphicsApi(QSGRendererInterface::Software);
 }
 
-// Qt turns it on for a blending with gamma correction that text in Qt Quick does not get.
+// Qt turns it on because it expects gamma-corrected blending, which text in Qt Quick does not get.
 void disableStemDarkening()
 {
     FT_Bool off = true;

@@ -7,15 +7,15 @@ namespace brimshade::desktop {
 class ScriptHands {
 public:
     struct Aim {
-        WindowInput *input = nullptr; // null: none of this program's windows is there
+        WindowInput *input = nullptr; // null: the point is over none of this program's windows
         QPointF inWindow;
     };
-    // grab: the window that was pressed, whose points are wanted until every button is up; null for the one that is
-    // there.
+    // grab: the window that was pressed, which gets every point until all buttons are up; null: the window at the
+    // point.
     using AimAt = std::function<Aim(QPointF display, WindowInput *grab)>;
-    using KeyTarget = std::function<WindowInput *()>; // the one that the session gives keys to; null for none
+    using KeyTarget = std::function<WindowInput *()>; // the window that the session gives keys to; or null
 
-    // The router hears of what happens outside of every window, as the session would tell it.
+    // The router is told what happens outside all windows, as the session would tell it.
     ScriptHands(AimAt aimAt, KeyTarget keyTarget, InputRouter &router);
 
     void movePointer(QPointF to, std::uint64_t modifierFlags);

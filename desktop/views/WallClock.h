@@ -8,7 +8,7 @@
 
 namespace brimshade::desktop {
 
-// The time of day as the menu bar tells it: wakes once a minute, on the minute. Main thread.
+// The time of day as the menu bar shows it; wakes once a minute, on the minute. Main thread.
 class WallClock : public QObject {
     Q_OBJECT
 public:
@@ -16,7 +16,7 @@ public:
 
     WallClock(platform::Dispatch &dispatch, Now now);
 
-    // The longest of the usual forms that is no wider than that, in points.
+    // The longest of the usual formats that is no wider than this, in points.
     QString text(double width) const;
 
 Q_SIGNALS:

@@ -71,7 +71,7 @@ bool WindowInput::takeMove(const QMouseEvent &event)
     const QPointF to = m_toDisplay(event.position());
     m_router.pointerMoved(to, modifierFlagsFor(event.modifiers()));
     Q_EMIT handMoved();
-    if (m_menu.isOpen()) { // also while the button that opened it is held
+    if (m_menu.isOpen()) { // even while the button that opened it is held
         m_menu.pointerMoved(to);
         return true; // what is under the menu stays as it is
     }
@@ -134,7 +134,7 @@ void WindowInput::hoverAnew()
         return;
     QMouseEvent move(QEvent::MouseMove, *m_hand, *m_hand, m_window.mapToGlobal(*m_hand), Qt::NoButton, Qt::NoButton,
                      Qt::NoModifier);
-    m_window.removeEventFilter(this); // nothing has moved: the router is not asked
+    m_window.removeEventFilter(this); // nothing has moved, so the router is not asked
     QCoreApplication::sendEvent(&m_window, &move);
     m_window.installEventFilter(this);
 }

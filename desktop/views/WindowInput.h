@@ -15,8 +15,8 @@ namespace brimshade::desktop {
 
 class MenuController;
 
-// Takes every input event of one of the toolkit's windows before Qt Quick does: asks the router what it means, and lets
-// through what is for a view. Also sends such events, for a script. Main thread.
+// Sees every input event of one of the toolkit's windows before Qt Quick does: asks the router what it means, and lets
+// events for a view through. Also sends such events, for a script. Main thread.
 class WindowInput : public QObject {
     Q_OBJECT
 public:
@@ -25,19 +25,19 @@ public:
 
     WindowInput(QQuickWindow &window, ToDisplay toDisplay, InputRouter &router, MenuController &menu);
 
-    // button: none for a move; held: those that are down after the event.
+    // button: none for a move; held: the buttons that are down after the event.
     void send(QEvent::Type type, QPointF inWindow, Qt::MouseButton button, Qt::MouseButtons held,
               std::uint64_t modifierFlags);
     void sendWheel(QPointF inWindow, QPoint by, std::uint64_t modifierFlags); // 120 is a notch, up and left
-    void sendKey(const platform::Event &event); // down and up; code and characters arrive as they stand here
+    void sendKey(const platform::Event &event); // down and up; code and characters arrive exactly as given
 
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 Q_SIGNALS:
-    void handMoved(); // the pointer is the hand's again
+    void handMoved(); // the pointer follows the hand again
 
 private:
-    // Each answers whether to keep the event from Qt Quick.
+    // Each returns whether to keep the event from Qt Quick.
     bool takeMove(const QMouseEvent &event);
     bool takePress(const QMouseEvent &event);
     bool takeRelease(const QMouseEvent &event);
@@ -51,8 +51,8 @@ private:
     InputRouter &m_router;
     MenuController &m_menu;
     Target m_pressTarget = Target::elsewhere;
-    std::optional<QPointF> m_hand; // where the hand left the pointer, in the window; absent: it was not here, or left
-    std::optional<platform::Event> m_verbatim; // of the script's key that is being sent
+    std::optional<QPointF> m_hand; // where the hand left the pointer in the window; absent: it never came, or has left
+    std::optional<platform::Event> m_verbatim; // the script's key that is being sent
 };
 
 } // namespace brimshade::desktop
