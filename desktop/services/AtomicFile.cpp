@@ -21,7 +21,7 @@ QString systemText(int error)
     return QString::fromStdString(std::generic_category().message(error));
 }
 
-// Every process writes to a file of its own, so that no two write to the same one.
+// Every process writes to a draft of its own, so that no two write to the same file.
 QString draftOf(const QString &path, const QString &process)
 {
     return u"%1.%2.new"_s.arg(path, process);

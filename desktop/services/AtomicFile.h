@@ -5,11 +5,11 @@
 
 namespace brimshade::desktop {
 
-// Replaces the file as a whole: whoever reads it, and whatever ends this process, finds the old content or the new
-// one. Makes missing folders; follows a symbolic link. The error is the system's own text. Any thread.
+// Replaces the file as a whole: a reader finds either the old content or the new, even if this process is killed.
+// Creates missing folders; follows a symbolic link. The error is the system's own text. Any thread.
 std::expected<void, QString> writeAtomically(const QString &path, const QByteArray &content);
 
-// Removes what processes left behind that died while they wrote this file.
+// Removes what processes left behind when they died while writing this file.
 void removeLeftovers(const QString &path);
 
 } // namespace brimshade::desktop

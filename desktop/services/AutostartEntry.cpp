@@ -9,7 +9,7 @@ namespace brimshade::desktop {
 
 namespace {
 
-// One argument of Exec. This quoting comes before that of the string.
+// Quotes one argument of Exec. The escaping of the whole string comes on top of this.
 QString quotedArgument(const QString &argument)
 {
     QString quoted = argument;
@@ -23,7 +23,7 @@ QString quotedArgument(const QString &argument)
 
 QByteArray autostartEntry(const QString &program, bool hasUnit)
 {
-    // It does not wait: the unit comes after the session that this entry is a part of.
+    // It must not wait: the unit starts only after the session, which this entry is a part of.
     const QString throughUnit = u"sh -c "_s
         + quotedArgument(uR"(systemctl --user --no-block start brimshade.service || exec "$0" --session)"_s);
     const QString quoted = quotedArgument(program);

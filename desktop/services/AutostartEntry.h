@@ -4,10 +4,10 @@
 
 namespace brimshade::desktop {
 
-// The autostart entry of this program, as desktop entry files are written: it starts as the session's menu bar. Where
-// it has a unit, by the user's systemd if that runs.
+// The content of this program's autostart entry, which starts it as the session's menu bar: if it has a unit, through
+// the user's systemd if that is running.
 QByteArray autostartEntry(const QString &program, bool hasUnit);
-QByteArray hiddenAutostartEntry(); // in the user's folder: switches off the system's
+QByteArray hiddenAutostartEntry(); // in the user's folder, it switches off the system's entry
 
 struct AutostartState {
     bool isEnabled = false; // neither hidden nor switched off

@@ -13,7 +13,7 @@ public:
         QString userFolder; // where entries are written
         QStringList systemFolders; // most important first
         QString program; // absolute path of what people start
-        bool hasUnit = false; // of the user's systemd, which starts that program
+        bool hasUnit = false; // whether the user's systemd has a unit for that program
     };
     AutostartLoginItem(); // of this session and this process
     explicit AutostartLoginItem(Places places);

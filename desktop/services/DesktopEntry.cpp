@@ -26,7 +26,7 @@ QString localized(const KeyGroup &values, const QString &key, const QString &loc
     return values.value(key);
 }
 
-// The arguments of a command line, where quotes may stand around spaces and backslashes before quotes.
+// The arguments of a command line, in which spaces may be quoted and quotes escaped with backslashes.
 QStringList argumentsOf(const QString &exec)
 {
     QStringList arguments{QString()};
@@ -43,7 +43,7 @@ QStringList argumentsOf(const QString &exec)
     return arguments;
 }
 
-// The program of "env GDK_BACKEND=x11 /usr/bin/copyq show".
+// The program in a line like "env GDK_BACKEND=x11 /usr/bin/copyq show".
 QString executableOf(const QString &exec)
 {
     for (const auto &word : argumentsOf(exec)) {

@@ -4,8 +4,8 @@
 
 namespace brimshade::desktop {
 
-// The store in one JSON file: read when it is created, since everything at start needs it, and written after every
-// change, as StoredFile says. Keys in the file that are not ours are kept.
+// A store in one JSON file: read on construction, since everything needs it at the start, and written after every
+// change by a StoredFileWriter. Keys in the file that are not ours are kept.
 class FileDefaults : public MemoryDefaults {
 public:
     using Report = desktop::Report;

@@ -12,9 +12,9 @@ struct HotkeyCombination {
     auto operator<=>(const HotkeyCombination &) const = default;
 };
 
-// What a grabbed combination is for, where the session asks the user.
+// What a grabbed combination is for, in case the session asks the user.
 struct KeyUse {
-    std::uint32_t number = 0; // the same at every launch for the same purpose
+    std::uint32_t number = 0; // for the same purpose the same in every run
     QString purpose = {}; // in the user's language
 };
 
@@ -23,8 +23,8 @@ class GlobalKeyGrabber {
 public:
     virtual ~GlobalKeyGrabber() = default;
     virtual void setPressed(std::function<void(HotkeyCombination)> pressed) = 0; // called on the main thread
-    // False: another program has it, or no keyboard has such a key. One that the present keyboard lacks is grabbed once
-    // a keyboard has it.
+    // False if another program has it, or if no keyboard has such a key. A key that the current keyboard lacks is
+    // grabbed once a keyboard has it.
     virtual bool grab(HotkeyCombination combination, const KeyUse &use) = 0;
     virtual void release(HotkeyCombination combination) = 0;
 };

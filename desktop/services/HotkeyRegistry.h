@@ -27,15 +27,15 @@ public:
     void pushSymbolicHotKeyMode() override;
     void popSymbolicHotKeyMode() override;
 
-    // True when the combination is registered and hotkeys are on; the handler has run then.
+    // True if the combination is registered and hotkeys are on; the handler has then run.
     bool press(std::uint32_t keyCode, std::uint32_t carbonModifiers);
     void setObserver(platform::Work observer); // runs before the handler, at each press
-    // Runs as hotkeys go off and on; whoever can do so lets the key window have all keys meanwhile.
+    // Runs when hotkeys go off or on; while they are off, the observer lets the key window have all keys, if it can.
     void setModeObserver(std::function<void(bool areOff)> observer);
     std::vector<Registered> registered() const; // by their numbers
 
-    // Grabs what is registered now and later; null lets go. A combination that the session refuses later on keeps
-    // working inside the desktop.
+    // Grabs everything registered now and later; null releases it all. A combination that the session refuses
+    // afterwards keeps working inside the desktop.
     void setGrabber(std::unique_ptr<GlobalKeyGrabber> grabber);
 
     bool takes(HotkeyCombination combination) const; // pressing it would press a hotkey
@@ -46,7 +46,7 @@ private:
 
     std::map<platform::EventHotKeyRef, Registered> m_registered;
     platform::EventHotKeyRef m_lastRef = 0;
-    int m_timesOff = 0; // pushed and not popped yet
+    int m_timesOff = 0; // modes pushed and not yet popped
     Handler m_handler;
     platform::Work m_observer;
     std::function<void(bool)> m_modeObserver;

@@ -8,12 +8,12 @@ namespace brimshade::desktop {
 // One group's values by key, as strings: escapes like "\s" and "\n" are undone.
 using KeyGroup = QMap<QString, QString>;
 
-// The groups by name of a file like a desktop entry or an icon theme's index: "[Group]" lines, "Key=Value" lines. Lines
-// that are neither are skipped. The later of two equal keys wins.
+// The groups, by name, of a file like a desktop entry or an icon theme's index: "[Group]" lines and "Key=Value" lines.
+// Other lines are skipped. The later of two equal keys wins.
 QMap<QString, KeyGroup> readKeyFile(const QByteArray &content);
 KeyGroup readDesktopEntry(const QByteArray &content); // the group that every desktop entry has
 
-// A string as such a file holds it.
+// A string in the form that such a file holds.
 QString escaped(const QString &text);
 
 } // namespace brimshade::desktop

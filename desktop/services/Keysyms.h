@@ -3,8 +3,8 @@
 
 namespace brimshade::desktop {
 
-// What X calls the key of a virtual key code (platform/KeyCodes.h): by what it types unshifted on an ANSI keyboard.
-// 0 for a code that no key has.
+// X's name for the key of a virtual key code (platform/KeyCodes.h): what it types unshifted on an ANSI keyboard. 0 for
+// a code that no key has.
 std::uint32_t keysymOf(std::uint32_t keyCode);
 
 } // namespace brimshade::desktop

@@ -19,7 +19,7 @@ public:
 
     void write(platform::LogLevel level, const char *format,
                std::initializer_list<platform::LogArgument> arguments) override;
-    std::vector<LogEntry> take(); // what came since the last time, oldest first
+    std::vector<LogEntry> take(); // the lines since the last call, oldest first
 
 private:
     const bool m_prints;

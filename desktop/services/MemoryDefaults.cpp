@@ -23,7 +23,7 @@ bool textAsBool(const QString &text)
     return !rest.isEmpty() && QStringView(u"YyTt123456789").contains(rest.front());
 }
 
-// QVariant finds true and 1 equal; the store does not.
+// To QVariant, true and 1 are equal; to the store they are not.
 bool isSame(const QVariant &a, const QVariant &b)
 {
     return a.metaType() == b.metaType() && a == b;

@@ -3,8 +3,8 @@
 
 namespace brimshade::desktop {
 
-// A store that ends with the process. Reads convert as the Mac's do: numbers and some strings read as a Bool,
-// numbers but no Bool as a string.
+// A store that ends with the process. Reads convert as on the Mac: numbers and some strings can be read as a Bool;
+// numbers, but not Bools, as a string.
 class MemoryDefaults : public platform::UserDefaults {
 public:
     explicit MemoryDefaults(QVariantMap values = {});
@@ -17,7 +17,7 @@ public:
     void setObject(const QString &value, const QString &key) override;
     void setArray(const QVariantList &value, const QString &key) override;
 
-    void fill(const QVariantMap &values); // keys that are absent
+    void fill(const QVariantMap &values); // sets only keys that are absent
     QVariantMap all() const; // every stored key
 
 protected:

@@ -8,7 +8,7 @@ namespace brimshade::desktop {
 // A login service that answers as a script tells it to. Main thread.
 class ScriptedLoginItem : public platform::LoginItems {
 public:
-    // failure: what registering and unregistering answer; without one they succeed and change the status.
+    // failure: the error of registering and unregistering; without one they succeed and change the status.
     void answer(platform::LoginItemStatus status, std::optional<QString> failure);
     const std::optional<QString> &failure() const { return m_failure; }
 

@@ -7,6 +7,6 @@ namespace brimshade::desktop {
 
 // The settings as one JSON object. Pure functions, any thread.
 QByteArray writeSettings(const QVariantMap &values);
-std::optional<QVariantMap> readSettings(const QByteArray &json); // absent where the text is not one
+std::optional<QVariantMap> readSettings(const QByteArray &json); // absent if the text is not one JSON object
 
 } // namespace brimshade::desktop

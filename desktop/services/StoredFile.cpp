@@ -14,9 +14,9 @@ namespace brimshade::desktop {
 
 namespace {
 
-constexpr qint64 kLargestFile = 1 << 20; // bytes; ours have some hundreds
+constexpr qint64 kLargestFile = 1 << 20; // bytes; ours have a few hundred
 
-// The new name, empty where the file cannot be renamed. Never replaces an earlier one.
+// Returns the new name, empty if the file cannot be renamed. Never replaces an earlier one.
 QString moveAside(const QString &path)
 {
     constexpr int most = 1000;
@@ -25,7 +25,7 @@ QString moveAside(const QString &path)
         if (QFile::rename(path, aside))
             return aside;
         if (!QFile::exists(aside))
-            break; // the folder refuses, not the name
+            break; // the name is free, so it is the folder that refuses
     }
     return {};
 }
@@ -123,7 +123,7 @@ private:
     std::condition_variable m_changed;
     std::optional<QByteArray> m_next;
     bool m_isStopping = false;
-    std::thread m_thread; // last: it uses the rest
+    std::thread m_thread; // last: it uses the other members
 };
 
 StoredFileWriter::StoredFileWriter(StoredFile file, Report report)

@@ -7,7 +7,7 @@
 // Small files that the program keeps for itself.
 namespace brimshade::desktop {
 
-using Report = std::function<void(const QString &message)>; // on the thread that reads, or on the writing one
+using Report = std::function<void(const QString &message)>; // called on the reading or the writing thread
 
 // Which file it is, and what messages call its content, in the plural: "settings".
 struct StoredFile {
@@ -15,16 +15,16 @@ struct StoredFile {
     QString what;
 };
 
-// What was found in the file. A file of another version is a newer program's, and stays as it is.
+// What was found in the file. A file of another version comes from a newer program and stays as it is.
 enum class Verdict { good, damaged, otherVersion };
 
-// Reads the file and has its content judged; a missing one is not read. A damaged file is renamed to "<path>.damaged"
-// (or ".damaged-2", …) and reported; one that can neither be read nor moved away is reported and left alone. Answers
-// whether it may be written from here on. Also removes what processes that died while they wrote have left. Any thread.
+// Reads the file, if there is one, and has its content judged. A damaged file is renamed to "<path>.damaged" (or
+// ".damaged-2", …) and reported; one that cannot be read or cannot be renamed is reported and left alone. Returns
+// whether it may be written from now on. Also removes drafts of processes that died while writing. Any thread.
 bool readStored(const StoredFile &file, const Report &report, const std::function<Verdict(const QByteArray &)> &judge);
 
-// Replaces the file as a whole, by a thread of its own. Contents that come while it writes supersede each other;
-// destroying it waits for the last one. Main thread.
+// Replaces the file as a whole, on a thread of its own. Contents that arrive during a write supersede each other; the
+// destructor waits until the last one is written. Main thread.
 class StoredFileWriter {
 public:
     StoredFileWriter(StoredFile file, Report report);

@@ -82,7 +82,7 @@ private:
     const xcb_window_t m_window; // 0 for none
     const xcb_atom_t m_activeWindow;
     QSocketNotifier m_notifier;
-    std::map<HotkeyCombination, Key> m_grabbed; // a key without a code waits for another mapping
+    std::map<HotkeyCombination, Key> m_grabbed; // a key without a code waits for a mapping that has it
     std::pair<xcb_keycode_t, xcb_timestamp_t> m_released; // the latest
 };
 
@@ -101,7 +101,8 @@ bool X11KeyGrabber::Private::grab(HotkeyCombination combination)
     const bool granted = isKey && (!key.code || grabKey(key));
     if (granted)
         m_grabbed.emplace(combination, key);
-    // What came while we waited for the answer is in the connection's queue; its descriptor does not tell.
+    // Events that came while we waited for the answer are already in the connection's queue, so its descriptor stays
+    // silent.
     QMetaObject::invokeMethod(
         &m_notifier, [this] { readEvents(); }, Qt::QueuedConnection);
     return granted;
@@ -119,7 +120,7 @@ auto X11KeyGrabber::Private::keyOf(HotkeyCombination combination) const -> Key
     return keysym ? Key{keycodeOf(keysym), x11Modifiers(combination.modifiers)} : Key();
 }
 
-// The first column counts most: other groups have the letter too on a keyboard of another script.
+// Column by column, because on a keyboard of another script other groups have the letter, too.
 xcb_keycode_t X11KeyGrabber::Private::keycodeOf(xcb_keysym_t keysym) const
 {
     const xcb_setup_t *setup = xcb_get_setup(m_connection);
@@ -176,7 +177,7 @@ void X11KeyGrabber::Private::readEvents()
 
 void X11KeyGrabber::Private::handle(const xcb_generic_event_t &event)
 {
-    switch (event.response_type & 0x7f) { // the high bit says that a client sent it
+    switch (event.response_type & 0x7f) { // the high bit marks events sent by a client
     case XCB_KEY_PRESS:
         return keyPressed(reinterpret_cast<const xcb_key_press_event_t &>(event));
     case XCB_KEY_RELEASE: {
@@ -193,7 +194,7 @@ void X11KeyGrabber::Private::handle(const xcb_generic_event_t &event)
 
 void X11KeyGrabber::Private::keyPressed(const xcb_key_press_event_t &event)
 {
-    // Auto-repeat releases and presses at one and the same time.
+    // Auto-repeat sends a release and a press with the same time.
     if (std::pair(event.detail, event.time) == m_released)
         return;
     const Key key{event.detail, static_cast<std::uint16_t>(event.state & kNoLocks)};
@@ -201,12 +202,12 @@ void X11KeyGrabber::Private::keyPressed(const xcb_key_press_event_t &event)
         if (grabbed != key || !pressed)
             continue;
         activateWindow(event.time);
-        const HotkeyCombination found = combination; // what it points into may be gone by then
+        const HotkeyCombination found = combination; // the handler may remove the map's entry
         return pressed(found);
     }
 }
 
-// With the time of the press: a window manager refuses the keys to a window that no person asked for.
+// With the time of the press, since window managers refuse the keys to a window that no person asked for.
 void X11KeyGrabber::Private::activateWindow(xcb_timestamp_t time) const
 {
     constexpr std::uint32_t kFromApplication = 1;

@@ -6,13 +6,13 @@
 
 namespace brimshade::desktop {
 
-// Grabs on an X server, through a connection of its own: Command is Super (Mod4), Option Alt (Mod1). The state of
-// Caps Lock and Num Lock (Mod2) does not matter, a key that is held presses once, and a changed keyboard mapping is
-// followed. grab and release wait for one answer of the server. A lost connection ends all presses, silently.
-// The window manager is asked to activate the window with each press, so that what the press opens gets the keys.
+// Grabs keys on an X server, through a connection of its own: Command is Super (Mod4), Option is Alt (Mod1). The state
+// of Caps Lock and Num Lock (Mod2) does not matter, a held key fires once, and changes of the keyboard mapping are
+// followed. grab and release wait for one answer of the server. If the connection is lost, presses silently stop. The
+// window manager is asked to activate the window with each press, so that what the press opens gets the keys.
 class X11KeyGrabber : public GlobalKeyGrabber {
 public:
-    // window: 0 for none. Of the DISPLAY where none is named; null when there is no server.
+    // window: 0 for none. Without a display name, DISPLAY is used; null if there is no server.
     static std::unique_ptr<X11KeyGrabber> create(std::uint32_t window, const QByteArray &display = {});
     ~X11KeyGrabber() override;
 

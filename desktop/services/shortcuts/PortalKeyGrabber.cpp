@@ -15,8 +15,8 @@ namespace brimshade::desktop {
 
 namespace {
 
-constexpr auto kTimeLimit = 5s; // of what the portal does without asking the user
-constexpr uint kBindsAnew = 2; // from this version on shortcuts of an earlier run sleep until they are bound
+constexpr auto kTimeLimit = 5s; // for calls that the portal answers without asking the user
+constexpr uint kBindsAnew = 2; // from this version on, an earlier run's shortcuts are inactive until bound again
 
 const QString kSession = u"org.freedesktop.portal.Session"_s;
 
@@ -67,7 +67,7 @@ void PortalKeyGrabber::release(HotkeyCombination combination)
         renewSoon();
 }
 
-// First our name, by which the portal keeps what the user chose; an older portal knows no such call.
+// Introduces us first: the portal stores the user's choice under our name. An older portal lacks this call.
 void PortalKeyGrabber::inquire()
 {
     m_isInquiring = true;
@@ -97,10 +97,10 @@ void PortalKeyGrabber::setAvailable(uint version)
     renewSoon();
 }
 
-// With the old one its sessions have gone.
+// The old portal's sessions have gone with it.
 void PortalKeyGrabber::ownerChanged(const QString &newOwner)
 {
-    if (m_isInquiring) // which has started it
+    if (m_isInquiring) // it was our own question that started the portal
         return;
     m_session.clear();
     m_request.reset();
@@ -120,14 +120,14 @@ void PortalKeyGrabber::renew()
 {
     m_isRenewing = false;
     const bool isCreating = m_request && m_session.isEmpty();
-    if (isCreating) // the shortcuts are read after that
+    if (isCreating) // it reads the shortcuts when it is done
         return;
     closeSession();
     if (m_isAvailable && !m_grabbed.empty())
         createSession();
 }
 
-// Its name is always the same: some portals keep what the user chose by it.
+// Its name is always the same, because some portals store the user's choice under it.
 void PortalKeyGrabber::createSession()
 {
     request(u"CreateSession"_s, {}, {{u"session_handle_token"_s, u"brimshade"_s}}, kTimeLimit,
@@ -147,7 +147,7 @@ void PortalKeyGrabber::sessionCreated(const Results &results)
         bindShortcuts();
 }
 
-// What an older portal lists is in force already; asked to bind it, one or the other shows its settings.
+// Shortcuts that an older portal lists are active already; asked to bind them again, some portals open their settings.
 void PortalKeyGrabber::listShortcuts()
 {
     request(u"ListShortcuts"_s, {QVariant::fromValue(QDBusObjectPath(m_session))}, {}, kTimeLimit,
@@ -202,7 +202,7 @@ void PortalKeyGrabber::activated(const QDBusObjectPath &session, const QString &
     const auto found = m_grabbed.find(id);
     if (session.path() != m_session || found == m_grabbed.end() || !m_pressed)
         return;
-    const HotkeyCombination combination = found->second.combination; // the map may change by it
+    const HotkeyCombination combination = found->second.combination; // m_pressed may change the map
     m_pressed(combination);
 }
 

@@ -9,20 +9,20 @@
 
 namespace brimshade::desktop {
 
-// Asks the desktop portal of a Wayland session for its shortcuts. The user has the last word there, and may say it
-// later or change it, so grab only ever refuses a key that has no name. Main thread, which never waits.
+// Asks the desktop portal of a Wayland session for its shortcuts. The user has the last word there, and may decide
+// later or change the decision, so grab refuses only keys that have no name. Main thread, which never waits.
 class PortalKeyGrabber : public QObject, public GlobalKeyGrabber {
     Q_OBJECT
 public:
-    // bindsNothing: the session's portal only pretends to, see there.
+    // bindsNothing: the session's portal only pretends to bind, see isPlasma5().
     explicit PortalKeyGrabber(const QDBusConnection &bus, bool bindsNothing = isPlasma5());
     ~PortalKeyGrabber() override; // gives the shortcuts back
 
-    // The portal of Plasma 5 takes shortcuts, binds none and opens a page of the system's settings each time.
+    // The portal of Plasma 5 accepts shortcuts, but binds none and opens a page of the system's settings each time.
     static bool isPlasma5();
 
-    // Whether the session's portal has shortcuts; not before it has answered. Where it has none, the user has to bind
-    // `brimshade --toggle`.
+    // Whether the session's portal offers shortcuts; false until it has answered. If it offers none, the user has to
+    // bind `brimshade --toggle`.
     bool isAvailable() const { return m_isAvailable; }
 
     void setPressed(std::function<void(HotkeyCombination)> pressed) override { m_pressed = std::move(pressed); }
@@ -45,7 +45,7 @@ private:
     void inquire();
     void setAvailable(uint version);
     void ownerChanged(const QString &newOwner);
-    void renewSoon(); // once a turn: a changed shortcut is released and then grabbed
+    void renewSoon(); // once per turn: a changed shortcut is released, then grabbed
     void renew();
     void createSession();
     void sessionCreated(const Results &results);
@@ -61,11 +61,11 @@ private:
 
     QDBusConnection m_bus;
     std::function<void(HotkeyCombination)> m_pressed;
-    std::map<QString, Grabbed> m_grabbed; // by their ids at the portal
+    std::map<QString, Grabbed> m_grabbed; // by the ids that the portal knows
     uint m_version = 0; // of the portal's interface
     bool m_isAvailable = false;
     bool m_isInquiring = false;
-    bool m_isRenewing = false; // on a later turn
+    bool m_isRenewing = false; // it will run on a later turn
     QString m_session; // empty for none
     std::unique_ptr<PortalRequest, Later> m_request; // the one under way, null for none
 };

@@ -12,7 +12,8 @@ namespace {
 
 const QString kRequest = u"org.freedesktop.portal.Request"_s;
 
-// The portal makes the object's path of the caller's name and this, so that the signal can be awaited before the call.
+// The portal builds the object's path from the caller's name and this token, so we can listen for the signal before the
+// call.
 QString newToken()
 {
     return u"brimshade%1"_s.arg(QRandomGenerator::global()->generate64());

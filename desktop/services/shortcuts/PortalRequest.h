@@ -18,19 +18,20 @@ inline const QString kPath = u"/org/freedesktop/portal/desktop"_s;
 inline const QString kGlobalShortcuts = u"org.freedesktop.portal.GlobalShortcuts"_s;
 } // namespace portal
 
-// One call whose outcome the portal tells later, by a signal of a request object. Main thread; starts the portal where
-// it does not run. Once it is destroyed, its handler is not called.
+// One call whose outcome the portal reports later, by a signal of a request object. Main thread; starts the portal if
+// it is not running. The handler is not called after this is destroyed.
 class PortalRequest : public QObject {
     Q_OBJECT
 public:
-    // No results: it was refused, cancelled by the user, or not answered. Called once; may destroy the request later.
+    // No results means refused, cancelled by the user, or not answered. Called once; may destroy the request with
+    // deleteLater().
     using Handler = std::function<void(std::optional<QVariantMap> results)>;
 
-    // options: the last argument. limit: absent where the user is asked.
+    // options: the last argument. limit: absent if the portal asks the user.
     PortalRequest(const QDBusConnection &bus, const QString &method, const QVariantList &arguments, QVariantMap options,
                   std::optional<std::chrono::milliseconds> limit, Handler handler);
 
-    void withdraw(); // what it shows to the user goes away; the handler is not called
+    void withdraw(); // closes what it shows to the user; the handler is not called
 
 private Q_SLOTS:
     void answered(uint response, const QVariantMap &results);

@@ -24,7 +24,7 @@ const QDBusArgument &operator>>(const QDBusArgument &argument, PortalShortcut &s
 
 void registerPortalTypes()
 {
-    qRegisterMetaType<QDBusObjectPath>(); // by its name: a slot with one is not found otherwise
+    qRegisterMetaType<QDBusObjectPath>(); // under its name; otherwise a slot with such an argument is not found
     qDBusRegisterMetaType<PortalShortcut>();
     qDBusRegisterMetaType<QList<PortalShortcut>>();
 }

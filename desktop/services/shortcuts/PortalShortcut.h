@@ -17,7 +17,7 @@ QDBusArgument &operator<<(QDBusArgument &argument, const PortalShortcut &shortcu
 const QDBusArgument &operator>>(const QDBusArgument &argument, PortalShortcut &shortcut);
 void registerPortalTypes();
 
-// Of a list that came from the portal; empty for anything else.
+// The ids in a list from the portal; empty for anything else.
 QStringList shortcutIds(const QVariant &list);
 
 } // namespace brimshade::desktop

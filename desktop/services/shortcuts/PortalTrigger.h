@@ -5,7 +5,7 @@
 
 namespace brimshade::desktop {
 
-// A combination of keys as the portal reads it, "CTRL+ALT+space"; empty for a key code that no key has.
+// A key combination in the portal's notation, "CTRL+ALT+space"; empty for a key code that no key has.
 QString portalTrigger(HotkeyCombination combination);
 
 } // namespace brimshade::desktop
