@@ -11,7 +11,7 @@ namespace brimshade::desktop::session {
 
 namespace {
 
-constexpr qsizetype kMostNames = 1024; // of one session; a program may call its windows anything
+constexpr qsizetype kMostNames = 1024; // in one session; a program may call its windows anything
 
 // The last word of "org.keepassxc.KeePassXC"; anything else as it is.
 QString wordOf(const QString &id)
@@ -51,7 +51,7 @@ QString ApplicationNames::nameOf(const QString &id)
         return *known;
     if (m_names.size() >= kMostNames)
         m_names.clear();
-    m_names[id] = wordOf(id); // and never asked for again
+    m_names[id] = wordOf(id); // which also marks it as asked for
     const auto then = platform::weakly(QPointer(this), &ApplicationNames::keep);
     m_dispatch.globalAsync(platform::QualityOfService::userInitiated, [&dispatch = m_dispatch, then, id] {
         const QString name = readName(id);

@@ -19,7 +19,7 @@ public:
     BarState(const MenuBar &bar, const WallClock &clock) : m_items(bar, clock) { }
 
     BarModel *items() { return &m_items; }
-    QString applicationName() const { return m_applicationName; } // of the one with the focus; empty for none
+    QString applicationName() const { return m_applicationName; } // of the focused one; empty for none
     double nameMargin() const { return kNameMargin; }
     bool isTranslucent() const { return m_isTranslucent; } // what is behind it shows through
 

@@ -51,7 +51,7 @@ void MenuPanes::List::place()
 {
     const QRect list = m_level.frame().toAlignedRect();
     QScreen *screen = m_parts.screens.screenAt(list.center());
-    if (!screen || list.isEmpty()) { // its entries are still to come, or there is nowhere to show it
+    if (!screen || list.isEmpty()) { // it has no entries yet, or there is nowhere to show it
         m_surface->hide();
         return;
     }
@@ -84,7 +84,7 @@ void MenuPanes::add(int first, int last)
         m_lists.push_back(std::make_unique<List>(m_parts, m_parts.menu.level(depth), depth == 0));
 }
 
-// A choice closes the menu in the middle of an event of its window: that window goes in a later turn.
+// A choice closes the menu in the middle of an event of its window, so the window is destroyed in a later turn.
 void MenuPanes::truncate(int count)
 {
     while (m_lists.size() > std::size_t(count)) {

@@ -82,7 +82,7 @@ void OtherHosts::looked(const QStringList &names)
             asked(isOther ? programOf(pid.value()) : QString());
         });
     }
-    asked({}); // the present round itself
+    asked({}); // this round's own share of m_open
 }
 
 void OtherHosts::asked(const QString &program)

@@ -6,7 +6,7 @@
 namespace brimshade::desktop::session {
 
 // Other programs of the session that show tray items: bars and tray hosts. It follows the names on the bus, one round
-// of questions at a time; nothing is waited for. Main thread; the connection outlives it.
+// of questions at a time, without waiting for anything. Main thread; the connection outlives it.
 class OtherHosts : public QObject {
     Q_OBJECT
 public:
@@ -27,8 +27,8 @@ private:
 
     QDBusConnection m_bus;
     QStringList m_programs;
-    QStringList m_found; // in the present round
-    int m_open = 0; // its questions that are not answered yet
+    QStringList m_found; // in the current round
+    int m_open = 0; // questions of that round not yet answered
     bool m_isLooking = false;
     bool m_needsAnother = false;
 };

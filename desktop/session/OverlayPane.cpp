@@ -9,8 +9,8 @@ namespace brimshade::desktop::session {
 
 namespace {
 
-constexpr QSizeF kRehearsedSize(640, 480); // about a panel's
-const QRegion kNoInput(-2, -2, 1, 1); // an empty region would be the whole window
+constexpr QSizeF kRehearsedSize(640, 480); // about the size of a panel
+const QRegion kNoInput(-2, -2, 1, 1); // an empty region would mean the whole window
 
 // The rectangle with its lower corners rounded.
 QRegion roundedBelow(const QRect &rect, int radius)
@@ -48,7 +48,7 @@ OverlayPane::OverlayPane(DesktopWindow &window, const Parts &parts)
 
 OverlayPane::~OverlayPane() = default;
 
-// Most of what the first frame would take: the native window, the scene and its texts.
+// Does in advance most of what would slow down the first frame: the native window, the scene and its texts.
 void OverlayPane::rehearse()
 {
     if (!m_content->view() || m_window.isVisible())
@@ -113,7 +113,7 @@ void OverlayPane::update()
         tellView("unseen", true);
         m_surface->show();
     }
-    if (isNew) // once it is shown: clicks beside it are watched for as soon as it is seen
+    if (isNew) // after it is shown, since clicks beside it are watched for once it is seen
         Q_EMIT takesInputChanged();
 }
 
@@ -149,7 +149,7 @@ bool OverlayPane::takeInput(bool takes)
     return did != takes;
 }
 
-// Without the focus no caret blinks on in a window that is not shown.
+// A window that is not shown loses the focus, so that no caret keeps blinking in it.
 void OverlayPane::giveKeys()
 {
     m_surface->setTakesKeyboard(takesKeyboard());

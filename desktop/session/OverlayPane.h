@@ -7,17 +7,17 @@ namespace brimshade::desktop::session {
 
 class SessionScreens;
 
-// A window over everything, as the panel is. The session's window covers only that part of the frame in which the
-// view draws: little is copied at each frame. The view says which by properties of its root item, in its points:
-//   rect hitArea       what takes clicks now, and empty while the view takes no input, keys neither; a click beside it
+// A window over everything, like the panel. The session's window covers only the part of the frame in which the view
+// draws, so that little is copied at each frame. Properties of the view's root item, in its points, say which part:
+//   rect hitArea       what takes clicks now; empty while the view takes no input, not even keys; a click beside it
 //                      is a click outside
-//   rect openArea      the same for when it takes input: the window is as large from the start
-//   real hitRadius     of the area's lower corners, where the window has to be cut to it
+//   rect openArea      what hitArea will be once it takes input: the window has that size from the start
+//   real hitRadius     of the area's lower corners, in case the window has to be cut to it
 //   real drawnMargin   how far around it shadows and moves reach
-// Without them the window is as large as its frame. Other properties, which it may have, are set for it:
-//   bool paced         true: it creates what takes long in pieces, with frames in between
-//   bool unseen        true until its first frame has been drawn, which waits for nothing that takes long
-//   bool rehearsing    true while it is drawn where nobody sees it, ahead of its first opening
+// Without them the window is as large as its frame. These properties are set on the view if it has them:
+//   bool paced         true: it creates slow things piece by piece, with frames in between
+//   bool unseen        true until its first frame has been drawn, which must not wait for anything slow
+//   bool rehearsing    true while it is drawn out of sight before its first opening
 class OverlayPane : public WindowPane {
     Q_OBJECT
 public:
@@ -53,13 +53,13 @@ private:
     std::optional<QRectF> area(const char *property) const; // absent: the view has none
     std::optional<QRectF> hitArea() const { return area("hitArea"); }
     void place(QScreen &screen);
-    bool takeInput(bool takes); // whether that is new
+    bool takeInput(bool takes); // returns whether that changed
     void giveKeys();
 
     DesktopWindow &m_window;
     const Parts m_parts;
     Pane m_pane;
-    QQuickItem m_holder; // as large as the window's frame, and placed as that is within the session's window
+    QQuickItem m_holder; // matches the window's frame, within the session's window
     std::unique_ptr<HostedContent> m_content;
     std::unique_ptr<ShellSurface> m_surface;
     bool m_takesInput = false;

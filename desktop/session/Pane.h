@@ -8,8 +8,8 @@
 
 namespace brimshade::desktop::session {
 
-// One of the toolkit's windows as a piece of the display: where its points are, and its input on the way to the router.
-// Main thread. Whoever shows it keeps the frame; what it shows is in its contentItem() and goes before it.
+// One of the toolkit's windows as a piece of the display: where its points are, and how its input reaches the router.
+// Main thread. Its owner keeps the frame; what it shows is in its contentItem() and is destroyed before it.
 class Pane {
 public:
     Pane(const QString &name, InputRouter &router, MenuController &menu);
@@ -25,7 +25,7 @@ public:
     QPointF toDisplay(QPointF inWindow) const { return m_origin + inWindow; }
     QPointF toWindow(QPointF display) const { return display - m_origin; }
 
-    // What of it takes clicks, display space.
+    // The part that takes clicks, in display space.
     QRectF hitFrame() const { return m_hitArea.isNull() ? frame() : m_hitArea.translated(m_origin); }
     void setHitArea(const QRectF &inWindow) { m_hitArea = inWindow; }
 
@@ -37,7 +37,7 @@ private:
     std::unique_ptr<WindowInput> m_input;
 };
 
-// Without a background: for what is drawn over other programs.
+// Removes the background, for windows that are drawn over other programs.
 void makeTransparent(QQuickWindow &window);
 
 } // namespace brimshade::desktop::session

@@ -41,10 +41,10 @@ std::optional<Notch> notchOf(const ScreenFacts &screen, const ScreenChoice &choi
     case NotchChoice::Kind::given:
         if (choice.notch.upper <= width)
             return Notch{.lower = choice.notch.lower, .upper = choice.notch.upper};
-        break; // it was chosen for a wider screen
+        break; // chosen for a wider screen
     case NotchChoice::Kind::machine:
         if (choice.machine && isBuiltIn(screen.name)) {
-            const double scale = width / choice.machine->screenWidth; // points a pixel
+            const double scale = width / choice.machine->screenWidth; // points per pixel
             return Notch{.lower = std::floor(choice.machine->left * scale),
                          .upper = std::ceil(choice.machine->right * scale),
                          .height = std::ceil(choice.machine->height * scale)};
@@ -115,7 +115,7 @@ std::optional<NotchChoice> parseNotchChoice(const QString &text)
         return {};
     const double lower = edges[0].toDouble(&isLower);
     const double upper = edges[1].toDouble(&isUpper);
-    if (!isLower || !isUpper || !std::isfinite(upper) || !(lower >= 0 && lower < upper)) // no NaN passes
+    if (!isLower || !isUpper || !std::isfinite(upper) || !(lower >= 0 && lower < upper)) // also rejects NaN
         return {};
     return NotchChoice{.kind = Kind::given, .lower = lower, .upper = upper};
 }

@@ -14,11 +14,11 @@ namespace brimshade::desktop::session {
 // The notch that the person asked for.
 struct NotchChoice {
     enum class Kind {
-        machine, // the machine's own where it is known, else drawn
+        machine, // the machine's own if known, else drawn
         drawn, // a black tab in the middle of the bar
         none, // items stop at the focused application's name instead
         given, // lower to upper, from the screen's left edge
-        centred, // as drawn, of a width: upper
+        centred, // like drawn, with a given width: upper
     };
     Kind kind = Kind::machine;
     double lower = 0;

@@ -36,7 +36,7 @@ SessionBar::SessionBar(const Parts &parts)
     const auto fill = [this] { m_view->setSize(m_pane.window().size()); };
     connect(&window, &QWindow::widthChanged, this, fill);
     connect(&window, &QWindow::heightChanged, this, fill);
-    window.installEventFilter(this); // after the pane's own, so it is asked before that
+    window.installEventFilter(this); // installed after the pane's own filter, so it is asked first
     connect(&parts.menuBar, &MenuBar::changed, this, &SessionBar::update);
     connect(&parts.screens, &SessionScreens::changed, this, &SessionBar::update);
     update();

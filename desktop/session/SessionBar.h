@@ -14,8 +14,8 @@ namespace brimshade::desktop::session {
 
 class SessionScreens;
 
-// The bar's window: at the top edge of its screen, its height kept free, shown while the menu bar shows and there is a
-// screen. Main thread.
+// The bar's window: at the top edge of its screen, which it keeps free of other windows; shown while the menu bar shows
+// and there is a screen. Main thread.
 class SessionBar : public QObject {
     Q_OBJECT
 public:
@@ -34,7 +34,7 @@ public:
     Pane &pane() { return m_pane; }
     bool isShown() const { return m_surface->isShown(); }
 
-    // A hand's presses wait while an item is dragged by the program: what they hit would be pulled away under them.
+    // A hand's presses wait while the program drags an item, which would pull their target away.
     void setWaiting(bool waiting);
     bool eventFilter(QObject *watched, QEvent *event) override;
 

@@ -36,7 +36,7 @@ void launchClock(Desktop &desktop)
     ApplicationDescription agent;
     agent.pid = kPid;
     agent.name = u"Menu Bar"_s;
-    agent.bundleIdentifier = u"com.apple.MenuBarAgent"_s; // whose clock is pinned
+    agent.bundleIdentifier = u"com.apple.MenuBarAgent"_s; // this application's clock is pinned
     agent.bundlePath = u"/System/Library/CoreServices/MenuBarAgent.app"_s;
     agent.extras = {{clock}};
     ItemSpec item;

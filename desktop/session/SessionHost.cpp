@@ -29,7 +29,7 @@ namespace brimshade::desktop::session {
 
 namespace {
 
-// Where the pointer is taken to be while it is on no window of this program: the session does not say.
+// The pointer's assumed place while it is on no window of this program: the session does not say where it is.
 constexpr QPointF kNowhere(-10'000, -10'000);
 
 } // namespace
@@ -43,7 +43,7 @@ SessionHost::SessionHost(Desktop &desktop, SessionScreens &screens, ShellBackend
       m_unusedMemory(*m_engine, desktop.platform().dispatch)
 {
     m_engine->addImportPath(u"qrc:/qt/qml"_s);
-    // Before the bar learns of it: it asks the desktop where it is.
+    // Connected before the bar's own handler, because the bar asks the desktop where it is.
     connect(&screens, &SessionScreens::changed, this, [this] {
         m_desktop.setScreens(m_screens.descriptions());
         followForeground();
@@ -79,7 +79,7 @@ SessionHost::SessionHost(Desktop &desktop, SessionScreens &screens, ShellBackend
 SessionHost::~SessionHost()
 {
     m_hands.reset();
-    m_windows.clear(); // the views go before what they show
+    m_windows.clear(); // views are destroyed before what they show
     m_tip.reset();
     m_menus.reset();
     m_bar.reset();
@@ -88,7 +88,7 @@ SessionHost::~SessionHost()
 void SessionHost::addWindow(DesktopWindow *window)
 {
     if (!std::holds_alternative<platform::HostedView>(window->content()))
-        return; // the hover strip: a part of the bar, which tells the router of every move
+        return; // the hover strip, which is part of the bar: that reports every move
     std::unique_ptr<WindowPane> pane;
     if (window->attributes().styleMask & platform::kStyleTitled) {
         pane = std::make_unique<TitledPane>(
@@ -166,7 +166,7 @@ void SessionHost::followForeground()
     const QScreen *screen = m_screens.barScreen();
     const QString id = foreground.applicationId();
     const bool isOwn = id == QGuiApplication::desktopFileName() || id == QCoreApplication::applicationName();
-    // No desktop entry may be installed for it.
+    // There may be no desktop entry installed for this program.
     const QString name = isOwn ? u"Brimshade"_s : m_applicationNames.nameOf(id);
     m_barState.setApplicationName(name);
     m_desktop.menuBar().setApplicationMenusWidth(barNameWidth(name));
@@ -174,7 +174,7 @@ void SessionHost::followForeground()
     m_desktop.setMenuBarShowing(screen && !foreground.coversScreen(screen));
 }
 
-// The router is told where the pointer came in, and that it left: no move event says so.
+// Tells the router where the pointer entered, and that it left: no move event does.
 bool SessionHost::eventFilter(QObject *watched, QEvent *event)
 {
     if (event->type() != QEvent::Enter && event->type() != QEvent::Leave)
@@ -193,7 +193,7 @@ bool SessionHost::eventFilter(QObject *watched, QEvent *event)
     return false;
 }
 
-// It may come into another window in the same instant; while a button is held the window keeps the pointer.
+// The pointer may enter another window at the same instant; while a button is held, the window keeps the pointer.
 void SessionHost::pointerLeft(QObject *window)
 {
     QMetaObject::invokeMethod(

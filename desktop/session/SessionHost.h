@@ -36,16 +36,16 @@ public:
     SessionHost(Desktop &desktop, SessionScreens &screens, ShellBackend &shell);
     ~SessionHost() override;
 
-    QPoint toScreen(QPointF display) const; // as other programs count
-    bool takesKeyboard() const; // all keys of the session come to this program: panel or menu are open
-    // On X11: those that other programs have grabbed come to the window that has the keys now, too.
+    QPoint toScreen(QPointF display) const; // in other programs' coordinates
+    bool takesKeyboard() const; // the panel or a menu is open, so all of the session's keys come to this program
+    // On X11, keys that other programs have grabbed also go to the window that has the keys now.
     void takeEveryKey(bool take);
     bool hearsOutside() const { return m_shell.hearsOutside(); } // a press elsewhere would close what is open
-    QString windowWithKeys() const; // the session's keys come to it by now; empty while another program has them
+    QString windowWithKeys() const; // that gets the session's keys now; empty while another program has them
 
     void settle() override;
     std::vector<View> views() const override;
-    QImage picture() override; // this program's part of what is on the screens, on a transparent ground
+    QImage picture() override; // what this program shows on the bar's screen, on a transparent background
     std::optional<QImage> picture(const QString &windowName) override; // also of "bar" and "menu"
     void movePointer(QPointF to, std::uint64_t modifierFlags) override;
     void press(MouseButton button, std::uint64_t modifierFlags) override;
@@ -62,7 +62,7 @@ private:
     void addWindow(DesktopWindow *window);
     void removeWindow(DesktopWindow *window);
     void giveKeys();
-    void update(); // what follows from the panel or a menu being open
+    void update(); // applies what follows from the panel or a menu being open
     void pressedOutside();
     void followForeground();
     void pointerLeft(QObject *window);

@@ -14,7 +14,7 @@ void showNotices(Desktop &desktop)
         const auto service = u"org.freedesktop.Notifications"_s;
         auto call = QDBusMessage::createMethodCall(service, u"/org/freedesktop/Notifications"_s, service, u"Notify"_s);
         constexpr uint replacesNone = 0;
-        constexpr int serviceDecides = -1; // how long it stays
+        constexpr int serviceDecides = -1; // for how long it stays
         call.setArguments({u"Brimshade"_s, replacesNone, u"org.brimshade.Brimshade"_s, application, what, QStringList(),
                            QVariantMap(), serviceDecides});
         QDBusConnection::sessionBus().send(call);

@@ -6,7 +6,7 @@ class Desktop;
 
 namespace brimshade::desktop::session {
 
-// Hands the desktop's messages to the session's notification service, where there is one; nothing waits for it. Main
+// Passes the desktop's messages to the session's notification service, if there is one, without waiting for it. Main
 // thread; owned by the desktop.
 void showNotices(Desktop &desktop);
 

@@ -35,7 +35,7 @@ QString adviceToBind(const QString &command, QChar key)
         .arg(command, key);
 }
 
-// One word of a command line.
+// Quotes one word of a command line.
 QString forShell(QString word)
 {
     const auto isPlain = [](QChar c) { return c.isLetterOrNumber() || u"-_."_s.contains(c); };

@@ -9,7 +9,8 @@
 namespace brimshade::desktop::session {
 
 // The session's menu bar as the user wants it, kept in the defaults. What the command line says holds for this run,
-// until the user chooses otherwise. Main thread; what is referred to outlives it, the defaults until the last call.
+// until the user chooses otherwise. Main thread; everything it refers to outlives it, the defaults at least until the
+// last call.
 class SessionPreferences : public QObject, public platform::MenuBarPreferences {
     Q_OBJECT
 public:

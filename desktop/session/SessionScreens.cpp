@@ -8,7 +8,7 @@ namespace brimshade::desktop::session {
 
 namespace {
 
-// While there is no screen at all the toolkit has one without a name.
+// While there is no screen at all, the toolkit has a placeholder without a name.
 bool isReal(const QScreen &screen)
 {
     return !screen.name().isEmpty() && !screen.geometry().isEmpty();

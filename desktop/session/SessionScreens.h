@@ -9,7 +9,7 @@ class QTimer;
 
 namespace brimshade::desktop::session {
 
-// The screens of the session as the desktop describes its own, and the way between display space and the toolkit's.
+// The session's screens, described as the desktop's own, and the conversion between display space and the toolkit's.
 // Main thread; needs the application object.
 class SessionScreens : public QObject {
     Q_OBJECT
@@ -22,11 +22,11 @@ public:
 
     std::vector<ScreenDescription> descriptions() const; // the one with the bar first; none while there is no screen
     QScreen *barScreen() const; // null while there is none
-    QScreen *screenAt(QPointF display) const; // the bar's where no screen holds the point
+    QScreen *screenAt(QPointF display) const; // the bar's screen if none holds the point
     QPointF originOf(const QScreen *screen) const; // its top left corner in display space
 
 Q_SIGNALS:
-    void changed(); // once a turn of the event loop, however many changes there were
+    void changed(); // once per turn of the event loop, however many changes there were
 
 private:
     void watch(QScreen *screen);

@@ -11,7 +11,7 @@ namespace brimshade::desktop::session {
 namespace {
 
 constexpr int kShadowRoom = 12; // around the bubble, for its shadow
-constexpr QRect kNowhere(-2, -2, 1, 1); // outside of the window: every click goes through
+constexpr QRect kNowhere(-2, -2, 1, 1); // outside the window, so every click goes through
 
 } // namespace
 

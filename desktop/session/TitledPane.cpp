@@ -20,7 +20,7 @@ TitledPane::TitledPane(DesktopWindow &window, const Parts &parts)
     const platform::WindowAttributes &attributes = window.attributes();
     shown.setFlags(Qt::Window | Qt::WindowTitleHint | Qt::WindowSystemMenuHint | Qt::WindowCloseButtonHint);
     shown.setTitle(attributes.title.isEmpty() ? u"Brimshade"_s : attributes.title);
-    shown.setIcon(QIcon(u":/qt/qml/Brimshade/Session/icon.svg"_s)); // a compositor asks the desktop entry
+    shown.setIcon(QIcon(u":/qt/qml/Brimshade/Session/icon.svg"_s)); // for X11; Wayland uses the desktop entry's
     shown.setColor(QColor::fromRgba(attributes.darkAppearance ? kDarkPlate : kLightPlate));
     m_holder.setParentItem(shown.contentItem());
     m_holder.setFlag(QQuickItem::ItemIsFocusScope);
@@ -75,7 +75,7 @@ bool TitledPane::eventFilter(QObject *, QEvent *event)
 {
     if (event->type() != QEvent::Close)
         return false;
-    event->ignore(); // it is ordered out instead, and may come back
+    event->ignore(); // it is only ordered out, and may come back
     m_window.close();
     return true;
 }

@@ -5,7 +5,7 @@
 
 namespace brimshade::desktop::session {
 
-// A window with a title: an ordinary one of the session, which decorates, places and stacks it.
+// A window with a title: an ordinary window, which the session decorates, places and stacks.
 class TitledPane : public WindowPane {
     Q_OBJECT
 public:

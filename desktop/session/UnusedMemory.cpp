@@ -10,7 +10,7 @@ namespace brimshade::desktop::session {
 
 namespace {
 
-constexpr double kPause = 2; // seconds: whoever opens again at once is not held up
+constexpr double kPause = 2; // seconds, so that reopening at once is not held up
 
 } // namespace
 

@@ -12,9 +12,8 @@ class DispatchWorkItem;
 
 namespace brimshade::desktop::session {
 
-// Gives back what an open panel or menu has used and no longer needs, two seconds after it was closed: what JavaScript
-// has not collected, and what the allocator keeps for later. Otherwise both grow a little with every opening. Main
-// thread.
+// Two seconds after the panel or a menu was closed, frees what it used: JavaScript's garbage, and the memory that the
+// allocator keeps for later. Otherwise both grow a little with every opening. Main thread.
 class UnusedMemory {
 public:
     UnusedMemory(QQmlEngine &engine, platform::Dispatch &dispatch); // both outlive it

@@ -4,7 +4,7 @@
 
 namespace brimshade::desktop::session {
 
-// How one of the program's windows is shown in the session. Main thread; goes before the window.
+// How one of the program's windows is shown in the session. Main thread; destroyed before the window.
 class WindowPane : public QObject {
     Q_OBJECT
 public:
@@ -14,7 +14,7 @@ public:
     virtual bool isOverlay() const = 0; // over everything; the session does not manage it
     virtual bool takesInput() const = 0;
     virtual bool takesKeyboard() const = 0; // from every program of the session
-    virtual void setKey(bool key) = 0; // it has got the program's keys, or lost them
+    virtual void setKey(bool key) = 0; // it has got or lost the program's keys
 };
 
 } // namespace brimshade::desktop::session

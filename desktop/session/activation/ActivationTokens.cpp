@@ -10,7 +10,7 @@ namespace brimshade::desktop::session {
 
 namespace {
 
-// A start-up notification's id: the part that counts is the time of the person's action, by the X server's clock.
+// The id of a startup notification, in which only the time of the person's action counts, by the X server's clock.
 class X11Tokens : public ActivationTokens {
 public:
     void request(Give give) override

@@ -12,7 +12,7 @@ struct xdg_activation_v1;
 
 namespace brimshade::desktop::session {
 
-// The compositor's, by xdg-activation. Qt reads the connection and calls all listeners on the main thread.
+// The compositor's tokens, through xdg-activation. Qt reads the connection and calls all listeners on the main thread.
 class WaylandTokens : public ActivationTokens {
 public:
     explicit WaylandTokens(wl_display *display);

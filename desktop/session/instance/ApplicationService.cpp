@@ -32,7 +32,7 @@ void ApplicationService::ActivateAction(const QString &name, const QVariantList 
         sendErrorReply(QDBusError::InvalidArgs, u"no such action; there are toggle, settings and quit"_s);
 }
 
-// On a later turn: whoever asked has the answer by then, even if the program ends.
+// On a later turn, so that the caller has its answer even if the action ends the program.
 void ApplicationService::run(Action action)
 {
     const auto later = [this, action] { QMetaObject::invokeMethod(this, m_actions.*action, Qt::QueuedConnection); };

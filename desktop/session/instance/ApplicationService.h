@@ -9,7 +9,7 @@
 
 namespace brimshade::desktop::session {
 
-// This program on the bus, as desktop entries, key bindings and other programs ask for it. Main thread.
+// This program on the bus, for desktop entries, key bindings and other programs. Main thread.
 class ApplicationService : public QObject, protected QDBusContext {
     Q_OBJECT
     Q_CLASSINFO("D-Bus Interface", "org.freedesktop.Application")
@@ -19,7 +19,7 @@ public:
     };
     explicit ApplicationService(Waiting &waiting) : m_waiting(waiting) { } // outlives it
 
-    void setActions(const Actions &actions) { m_actions = actions; } // first what has waited so far
+    void setActions(const Actions &actions) { m_actions = actions; } // call before Waiting::end()
 
 public Q_SLOTS:
     Q_SCRIPTABLE void Activate(const QVariantMap &platformData);

@@ -10,7 +10,7 @@ Instance::Instance(const QDBusConnection &bus) : m_bus(bus), m_items(new ItemsSe
 
 Instance::~Instance()
 {
-    if (!m_bus.isConnected()) // Qt follows a null pointer then
+    if (!m_bus.isConnected()) // otherwise Qt follows a null pointer
         return;
     m_bus.unregisterService(QString::fromLatin1(remote::kService));
     m_bus.unregisterObject(QString::fromLatin1(remote::kPath));
@@ -20,7 +20,7 @@ Instance::Claim Instance::claim()
 {
     if (!m_bus.isConnected())
         return Claim::noBus;
-    // The object first: once the name is there, calls come.
+    // The object first, because calls come as soon as we have the name.
     m_bus.registerObject(QString::fromLatin1(remote::kPath), &m_service,
                          QDBusConnection::ExportScriptableSlots | QDBusConnection::ExportAdaptors);
     if (m_bus.registerService(QString::fromLatin1(remote::kService)))

@@ -6,7 +6,8 @@
 
 namespace brimshade::desktop::session {
 
-// The one Brimshade of a session: whoever has the name on its message bus. Main thread; needs an application object.
+// Claims to be the one Brimshade of its session: the one that has the name on the message bus. Main thread; needs an
+// application object.
 class Instance {
 public:
     explicit Instance(const QDBusConnection &bus);
@@ -15,12 +16,12 @@ public:
 
     enum class Claim {
         ours,
-        anothers, // ask that one: desktop/session/remote
+        anothers, // ask that one, see desktop/session/remote
         noBus, // there is no bus to ask over
     };
     Claim claim();
 
-    // Once everything can be done: what the session has asked for since the claim has been waiting.
+    // Call it once everything can be done; what the session has asked for since the claim has been waiting.
     void serve(const ApplicationService::Actions &actions, const ItemsService::Actions &items);
 
 private:

@@ -37,7 +37,7 @@ QList<ListedItem> ItemsService::List(const QDBusMessage &call)
             bus.send(call.createReply(QVariant::fromValue(items)));
         });
     });
-    return {}; // nobody sees it: the answer is on its way
+    return {}; // not sent: the real answer comes later
 }
 
 void ItemsService::Open(const QString &name, const QDBusMessage &call)

@@ -23,14 +23,14 @@ class ItemsService : public QDBusAbstractAdaptor {
     Q_OBJECT
     Q_CLASSINFO("D-Bus Interface", "org.brimshade.Brimshade.Items")
 public:
-    // Both answer later. The error is for whoever asked for the opening.
+    // Both answer later. The error is for the caller of Open.
     struct Actions {
         std::function<void(std::function<void(const QList<ListedItem> &)>)> list;
         std::function<void(const QString &name, std::function<void(const std::expected<void, QString> &)>)> open;
     };
     ItemsService(const QDBusConnection &bus, Waiting &waiting, QObject *of); // waiting outlives it
 
-    void setActions(const Actions &actions) { m_actions = actions; } // first what has waited so far
+    void setActions(const Actions &actions) { m_actions = actions; } // call before Waiting::end()
 
 public Q_SLOTS:
     QList<brimshade::desktop::session::ListedItem> List(const QDBusMessage &call);

@@ -6,13 +6,13 @@
 
 namespace brimshade::desktop::session {
 
-// Requests that come before the program can carry them out, a moment later in the same start: the bus may have started
-// it for that very call. Main thread.
+// Holds requests that come, during startup, before the program can carry them out: the bus may have started it for that
+// very call. Main thread.
 class Waiting {
 public:
     using Work = std::function<void()>;
 
-    // Now, or when all is ready; false when too much waits already.
+    // Runs it now, or once everything is ready; false if too many are waiting already.
     bool run(Work work)
     {
         if (m_isReady)
@@ -24,7 +24,7 @@ public:
         return true;
     }
 
-    void end() // in the order in which it came
+    void end() // runs them in order of arrival
     {
         m_isReady = true;
         for (const Work &work : std::exchange(m_works, {}))
@@ -32,7 +32,7 @@ public:
     }
 
 private:
-    static constexpr std::size_t kMost = 16; // nobody asks for more than that in earnest
+    static constexpr std::size_t kMost = 16; // nobody seriously asks for more
 
     bool m_isReady = false;
     std::vector<Work> m_works;

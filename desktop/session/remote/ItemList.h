@@ -10,7 +10,7 @@ struct Item {
     bool isHidden = false;
 };
 
-std::string asTable(const std::vector<Item> &items); // a line of headings, then a line for each
+std::string asTable(const std::vector<Item> &items); // a line of headings, then one line per item
 std::string asJson(const std::vector<Item> &items); // an array of objects, ends with a new line
 
 } // namespace brimshade::desktop::session::remote

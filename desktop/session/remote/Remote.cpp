@@ -56,7 +56,7 @@ std::string describe(const Error &error)
 std::expected<Message, std::string> ask(const Message &call)
 {
     Error error;
-    // A connection of its own, not one that others in this process share and that ends the process with the bus.
+    // A private connection: the shared one ends the process when the bus goes.
     const Connection bus(dbus_bus_get_private(DBUS_BUS_SESSION, &error));
     if (!bus)
         return Fault(std::string("no message bus: ") + error.message);
@@ -127,7 +127,7 @@ std::expected<std::vector<Item>, std::string> listItems()
 
 std::expected<void, std::string> openItem(const char *name)
 {
-    if (!dbus_validate_utf8(name, nullptr)) // libdbus ends a program that sends other text
+    if (!dbus_validate_utf8(name, nullptr)) // libdbus aborts a program that sends anything else
         return Fault("the name is not UTF-8");
     const Message call = makeCall(kItemsInterface, "Open");
     dbus_message_append_args(call.get(), DBUS_TYPE_STRING, &name, DBUS_TYPE_INVALID);

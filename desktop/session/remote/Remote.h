@@ -4,7 +4,7 @@
 #include <expected>
 #include <string>
 
-// The Brimshade that runs in this session, as other programs reach it on the session's message bus.
+// Reaches the Brimshade that runs in this session, over the session's message bus.
 namespace brimshade::desktop::session::remote {
 
 inline constexpr char kService[] = "org.brimshade.Brimshade";
@@ -17,8 +17,8 @@ inline constexpr char kToggle[] = "toggle"; // opens the panel or closes it
 inline constexpr char kSettings[] = "settings";
 inline constexpr char kQuit[] = "quit";
 
-// All wait for the answer, for at most five seconds, and never start a Brimshade. The error is for standard error. Any
-// thread.
+// All of these wait at most five seconds for the answer, and never start a Brimshade. The error is for standard error.
+// Any thread.
 std::expected<void, std::string> activate(); // opens the panel
 std::expected<void, std::string> activateAction(const char *action);
 std::expected<std::vector<Item>, std::string> listItems();

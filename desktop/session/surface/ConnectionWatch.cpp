@@ -26,8 +26,8 @@ bool isMainProcessOfUnit()
     return qEnvironmentVariableIntValue("SYSTEMD_EXEC_PID") == getpid();
 }
 
-// By whichever finds out first, the watch or Qt; the other one waits here for the end, as does every thread that
-// writes.
+// Called by whichever finds out first, the watch or Qt; the other then waits here for the end, as does every thread
+// that writes to stderr.
 [[noreturn]] void endAtOnce()
 {
     flockfile(stderr);
@@ -35,7 +35,8 @@ bool isMainProcessOfUnit()
     _exit(isMainProcessOfUnit() ? kGoneInUnit : EXIT_FAILURE);
 }
 
-// The application's own, whichever display it is on; -1 without one. A message handler cannot be given it. Any thread.
+// The application's own connection, X11 or Wayland; -1 without one. Looked up because a message handler cannot be
+// passed it. Any thread.
 int connectionOfApplication()
 {
     auto *native = QCoreApplication::instance() ? QGuiApplication::platformNativeInterface() : nullptr;
@@ -53,8 +54,7 @@ bool isGone(int connection)
     return poll(&state, 1, 0) > 0;
 }
 
-// Qt complains before it ends the process, and about what no longer works before it notices why: none of that is
-// passed on.
+// Qt complains before it ends the process, and about things that fail before it notices why: none of that is passed on.
 void handleMessage(QtMsgType type, const QMessageLogContext &context, const QString &text)
 {
     if (isGone(connectionOfApplication()))
@@ -71,7 +71,7 @@ void waitForEnd(int connection, int stop)
     endAtOnce();
 }
 
-// Qt's own answer to a broken X connection is exit(), which would run destructors under the event loop's feet.
+// Qt itself reacts to a broken X connection with exit(), which would run destructors inside the event loop.
 void leaveAtOnce(int, void *)
 {
     if (QCoreApplication::instance())

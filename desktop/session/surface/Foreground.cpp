@@ -7,7 +7,7 @@ namespace brimshade::desktop::session {
 
 namespace {
 
-// While the focus goes from one window to another, window managers report none for a moment.
+// While the focus moves from one window to another, window managers briefly report no focused window.
 constexpr std::chrono::milliseconds kBetweenWindows{100};
 
 } // namespace

@@ -8,13 +8,12 @@ class QScreen;
 
 namespace brimshade::desktop::session {
 
-// What the other programs of the session show. Main thread. Where the compositor does not say, there is no application
-// and no screen is covered. While a surface of Brimshade's has the keys, the application that had them stays the
-// focused one.
+// What the session's other programs show. Main thread. If the compositor does not say, there is no application and no
+// screen is covered. While one of Brimshade's surfaces has the keys, the application that had them counts as focused.
 class Foreground : public QObject {
     Q_OBJECT
 public:
-    // What the windows of the application with the focus call it: their app_id or, on X11, class; empty for none.
+    // What the focused application's windows call it: their app_id or, on X11, class; empty for none.
     QString applicationId() const { return m_applicationId; }
     bool coversScreen(const QScreen *screen) const { return m_covered.contains(screen); } // by a full-screen window
 

@@ -43,7 +43,7 @@ std::unexpected<QString> noDisplay()
 
 std::expected<void, QString> ShellBackend::prepareEnvironment()
 {
-    // Windows with Qt::BypassWindowManagerHint get no role from Qt then, so they can get that of a layer surface.
+    // With this, Qt gives windows with Qt::BypassWindowManagerHint no role, so that they can become layer surfaces.
     qputenv("QT_WAYLAND_USE_BYPASSWINDOWMANAGERHINT", "1");
     const QByteArray wanted = qgetenv(kPlatform);
     if (!wanted.isEmpty() && !wanted.startsWith("wayland") && wanted != "xcb")

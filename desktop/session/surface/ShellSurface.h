@@ -10,14 +10,14 @@ class QQuickWindow;
 namespace brimshade::desktop::session {
 
 // A window's place on the desktop: the bar at the top edge of a screen, or something over everything, full-screen
-// windows included. Main thread. The window is not owned and outlives this; it is shown and hidden by this alone.
-// Lengths are points, from the top left corner of the screen (the place) or of the window (the regions). Everything may
-// be set before it is shown and while it is.
+// windows included. Main thread. The window is not owned and outlives this; only this shows and hides it. Lengths are
+// points, from the top left corner of the screen (geometry) or of the window (regions). Everything may be set before
+// and while it is shown.
 class ShellSurface : public QObject {
     Q_OBJECT
 public:
     enum class Kind {
-        Bar, // as wide as the screen; of its geometry the height counts
+        Bar, // as wide as the screen; only the height of its geometry counts
         Overlay, // panel, menu: where its geometry says
     };
 
@@ -27,39 +27,39 @@ public:
     QQuickWindow &window() const { return m_window; }
     Kind kind() const { return m_kind; }
     QScreen *screen() const { return m_screen; } // null once that screen is gone
-    QRect geometry() const; // of a bar: the width of its screen, and the height that was set
-    QRegion inputRegion() const; // never empty: the whole window where none was set
+    QRect geometry() const; // a bar's has the width of its screen and the height that was set
+    QRegion inputRegion() const; // never empty: the whole window if none was set
     bool takesKeyboard() const { return m_takesKeyboard; }
-    bool isShown() const { return m_isShown; } // it was asked for; the window is visible once configured came
+    bool isShown() const { return m_isShown; } // show() was called; the window is visible after configured
 
     void setScreen(QScreen *screen);
     void setGeometry(const QRect &geometry);
     void setZone(int height); // kept free of other windows at the screen's top edge; 0 for none
     void setInputRegion(const QRegion &region); // clicks elsewhere go through; empty: the whole window
-    // Where nothing mixes windows (X11 without a compositing manager) the window is cut to this; empty: not cut.
+    // Without a compositing manager (on X11) the window is cut to this region; empty: not cut.
     void setDrawnRegion(const QRegion &region);
-    // Takes all keys while it is shown; hidden, it gives them back to whoever had them.
+    // While shown, it takes all keys; when hidden, it gives them back to the window that had them.
     void setTakesKeyboard(bool takes);
 
-    // Needs a screen. Where the compositor decides, configured comes later.
+    // Needs a screen. On Wayland configured comes later, when the compositor has decided.
     void show();
     void hide(); // at once, and without a signal
 
 Q_SIGNALS:
     void configured(const QSize &size); // the window is visible and has this size
-    void closed(); // hidden because its screen went or the compositor said so; may be shown again
-    void changed(); // whether it is shown, where, what it takes
+    void closed(); // hidden because its screen went away or the compositor said so; may be shown again
+    void changed(); // whether or where it is shown, or what input it takes
 
 protected:
     ShellSurface(QQuickWindow &window, Kind kind);
     int zone() const { return m_zone; }
     const QRegion &wantedInputRegion() const { return m_inputRegion; } // empty: the whole window
     const QRegion &drawnRegion() const { return m_drawnRegion; }
-    void close(); // hides and says so
+    void close(); // hides and emits closed
 
 private:
     template <class Value> void set(Value &member, const Value &value, void (ShellSurface::*apply)());
-    // After map everything that was set must be in force; the others are called only while it is mapped.
+    // map() must apply everything that was set; the others are called only while it is mapped.
     virtual void map() = 0;
     virtual void unmap() = 0;
     virtual void applyGeometry() = 0; // and the zone

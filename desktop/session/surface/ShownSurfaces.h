@@ -11,9 +11,9 @@ class ShownSurfaces : public QObject {
 public:
     void add(ShellSurface &surface); // until it is destroyed
 
-    QRegion inputRegion(const QScreen *screen) const; // of all there, in points of the screen
+    QRegion inputRegion(const QScreen *screen) const; // of all surfaces on it, in the screen's points
     bool haveKeyboard() const;
-    const std::vector<ShellSurface *> &inOrder() const { return m_shown; } // the last that was shown at the end
+    const std::vector<ShellSurface *> &inOrder() const { return m_shown; } // the one shown last comes last
 
 Q_SIGNALS:
     void changed();

@@ -15,7 +15,7 @@ namespace brimshade::desktop::session {
 
 namespace {
 
-// Of i3's protocol: the magic word, the length and the type of what follows, both in the machine's byte order.
+// A header of i3's protocol: the magic word, then the length and the type of what follows, in the machine's byte order.
 constexpr std::array<char, 6> kMagic{'i', '3', '-', 'i', 'p', 'c'};
 constexpr std::uint32_t kGetVersion = 7;
 constexpr qsizetype kHeaderBytes = kMagic.size() + 2 * sizeof(std::uint32_t);
@@ -80,7 +80,7 @@ void SwayVersion::read()
         end();
 }
 
-// Not while the notifier calls: it is deleted later.
+// The notifier is deleted later, because it may be calling us right now.
 void SwayVersion::end()
 {
     if (m_notifier) {

@@ -9,15 +9,15 @@ namespace brimshade::desktop::session {
 // Sway's version, asked on its own socket without waiting. Main thread.
 class SwayVersion {
 public:
-    // The path that SWAYSOCK names, and the connection to the compositor: another one may run inside sway and have that
-    // variable from it.
+    // The path in SWAYSOCK, and the connection to the compositor, which tells whether that is sway: another compositor
+    // running inside sway inherits the variable.
     SwayVersion(const QString &socketPath, int compositor);
     ~SwayVersion();
     Q_DISABLE_COPY_MOVE(SwayVersion)
 
-    // Of the surfaces of one layer the one that came last is the lowest and the last to get the keys; every other
-    // compositor, and sway from 1.10 on, does it the other way round. The protocol leaves this open. False until the
-    // answer is there.
+    // Whether, within a layer, the newest surface is the lowest and the last to get the keys; every other compositor,
+    // and sway from 1.10 on, does it the other way round. The protocol leaves this open. False until the answer has
+    // come.
     bool stacksDownwards() const { return m_stacksDownwards; }
 
 private:

@@ -41,7 +41,7 @@ std::unique_ptr<ShellSurface> WaylandBackend::createSurface(QQuickWindow &window
     return surface;
 }
 
-// The one that was shown last lies over the others and has the keys before them.
+// The surface that was shown last lies over the others and gets the keys before them.
 void WaylandBackend::stack(const ShellSurface *last)
 {
     if (!m_sway.stacksDownwards())

@@ -8,7 +8,7 @@
 
 namespace brimshade::desktop::session {
 
-// A compositor with layer-shell, through Qt's own connection.
+// Talks to a compositor with layer-shell, over Qt's own connection.
 class WaylandBackend : public ShellBackend {
     Q_OBJECT
 public:

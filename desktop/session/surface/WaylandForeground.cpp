@@ -25,7 +25,7 @@ public:
     const QString &id() const { return m_id; }
     bool isActive() const { return m_isActive; }
     bool isFullScreen() const { return m_isFullScreen; }
-    std::uint64_t activation() const { return m_activation; } // the greater the later; 0 for never
+    std::uint64_t activation() const { return m_activation; } // higher is later; 0 for never
     bool isOn(const wl_output *output) const { return std::ranges::find(m_outputs, output) != m_outputs.end(); }
 
 private:

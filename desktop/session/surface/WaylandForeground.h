@@ -13,8 +13,8 @@ namespace brimshade::desktop::session {
 class ShownSurfaces;
 class WaylandGlobals;
 
-// From wlr-foreign-toplevel-management. It does not say which windows are visible: a full-screen one may be on another
-// workspace. So a screen is covered when the window on it that was activated last is a full-screen one, and some window
+// Uses wlr-foreign-toplevel-management, which does not say which windows are visible: a full-screen one may be on
+// another workspace. So a screen counts as covered if the last window activated on it is full-screen, and some window
 // of the session is still activated, or was until Brimshade took the keys.
 class WaylandForeground : public Foreground {
     Q_OBJECT

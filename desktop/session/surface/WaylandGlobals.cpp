@@ -16,7 +16,7 @@ namespace brimshade::desktop::session {
 
 namespace {
 
-// The versions whose events are listened to.
+// The versions whose events we handle.
 constexpr std::uint32_t kLayerShellVersion = 4;
 constexpr std::uint32_t kToplevelVersion = 3;
 constexpr std::uint32_t kOutputVersion = 2; // at least

@@ -21,13 +21,13 @@ class QScreen;
 
 namespace brimshade::desktop::session {
 
-inline constexpr int kIgnoresZones = -1; // of a layer surface, as its exclusive zone
+inline constexpr int kIgnoresZones = -1; // as a layer surface's exclusive zone
 
-// What the compositor offers, bound anew beside what Qt has bound on the same connection. Qt reads the connection and
+// The compositor's globals, bound again, in addition to Qt's own, on the same connection. Qt reads the connection and
 // calls all listeners on the main thread.
 class WaylandGlobals {
 public:
-    // Waits for one answer of the compositor.
+    // Waits for one answer from the compositor.
     static std::expected<std::unique_ptr<WaylandGlobals>, QString> bind(wl_display *display);
     ~WaylandGlobals();
     Q_DISABLE_COPY_MOVE(WaylandGlobals)
@@ -37,13 +37,13 @@ public:
     wl_shm *shm() const { return m_shm; }
     wp_viewporter *viewporter() const { return m_viewporter; }
     zwlr_layer_shell_v1 *layerShell() const { return m_layerShell; }
-    // Reports all windows once it is bound, so whoever wants it binds it when the listener is there. The caller's; may
-    // be null.
+    // It reports all windows as soon as it is bound, so bind it when the listener is ready. The caller owns it; may be
+    // null.
     zwlr_foreign_toplevel_manager_v1 *bindToplevelManager() const;
 
-    // Called with the surface that a button was pressed on or a finger put down on.
+    // Called with the surface on which a button was pressed or a finger was put down.
     void setPressed(std::function<void(wl_surface *)> pressed) { m_pressed = std::move(pressed); }
-    // Called when an output has changed, which Qt knows by then.
+    // Called when an output has changed, after Qt has learned of it.
     void setOutputChanged(std::function<void()> changed) { m_outputChanged = std::move(changed); }
 
 private:
@@ -51,7 +51,7 @@ private:
     void addOutput(std::uint32_t name, std::uint32_t version);
     void add(std::uint32_t name, const char *interface, std::uint32_t version);
     void remove(std::uint32_t name);
-    QString missing() const; // the name of a protocol, or empty
+    QString missing() const; // the name of a missing protocol, or empty
 
     wl_display *const m_display;
     wl_registry *const m_registry;
@@ -61,16 +61,15 @@ private:
     zwlr_layer_shell_v1 *m_layerShell = nullptr;
     std::pair<std::uint32_t, std::uint32_t> m_toplevelManager; // name and version; 0 for none
     std::vector<std::unique_ptr<WaylandSeat>> m_seats;
-    // Those that were unplugged too: a surface may still be told that it leaves one, and Qt does not expect that to be
-    // gone already.
+    // Including unplugged ones: a surface may still be told that it leaves one, and Qt does not expect it to be
+    // destroyed by then.
     std::vector<wl_output *> m_outputs;
     std::function<void(wl_surface *)> m_pressed;
     std::function<void()> m_outputChanged;
 };
 
-// Until the compositor has done what it was asked for before. Qt's threads read the connection meanwhile:
-// wl_display_roundtrip() would be a third reader, and of three that read side by side all have been seen waiting for
-// each other for good.
+// Waits until the compositor has done everything requested so far. Qt's threads read the connection meanwhile:
+// wl_display_roundtrip() would be a third reader, and three concurrent readers have been seen to deadlock.
 void waitForAnswer(wl_display *display);
 
 // The output that Qt knows as that screen, which is one of ShellBackend::screens().

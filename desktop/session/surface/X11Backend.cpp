@@ -11,7 +11,7 @@ namespace brimshade::desktop::session {
 
 namespace {
 
-constexpr std::uint32_t kXFixesVersion = 2; // of the selection's events
+constexpr std::uint32_t kXFixesVersion = 2; // for the selection's events
 
 } // namespace
 

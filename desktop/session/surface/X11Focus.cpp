@@ -23,11 +23,13 @@ void X11Focus::giveBack(xcb_window_t window)
     const auto found = std::ranges::find(m_takers, window);
     if (found == m_takers.end())
         return;
-    // Nothing can happen between the look and the change: a window that was just clicked keeps the keys.
+    // Nothing may happen between reading the focus and changing it, so that a window that was just clicked keeps the
+    // keys.
     xcb_grab_server(m_connection);
     const bool isOurs = std::ranges::find(m_takers, focused()) != m_takers.end();
     m_takers.erase(found);
-    // The server keeps the latest by its time: the window manager's, which has the press's, wins over this.
+    // The server honours the request with the latest time: the window manager's, which has the press's time, beats this
+    // one.
     const xcb_timestamp_t time = m_pressed == XCB_CURRENT_TIME ? XCB_CURRENT_TIME : m_pressed - 1;
     if (isOurs)
         focus(m_takers.empty() ? m_before : m_takers.back(), time);
@@ -42,7 +44,7 @@ xcb_window_t X11Focus::focused() const
     return reply ? reply->focus : xcb_window_t(XCB_INPUT_FOCUS_POINTER_ROOT);
 }
 
-// The window may be gone by then: that error is ignored, and the keys go to what is under the pointer.
+// The window may be gone by then; the error is ignored, and the keys go to whatever is under the pointer.
 void X11Focus::focus(xcb_window_t window, xcb_timestamp_t time) const
 {
     const auto cookie = xcb_set_input_focus_checked(m_connection, XCB_INPUT_FOCUS_POINTER_ROOT, window, time);

@@ -5,17 +5,17 @@
 namespace brimshade::desktop::session {
 
 // Takes the keys for windows that the window manager does not manage, and gives them back to the window that had them
-// before the first of them did. A window that was given the keys otherwise meanwhile keeps them. Main thread; on Qt's
-// connection, so that requests stay in order with those that map and unmap the windows. Waits for one answer of the
+// before the first one took them. If another window has got the keys meanwhile, it keeps them. Main thread; on Qt's
+// connection, so that requests stay in order with those that map and unmap the windows. Waits for one answer from the
 // server.
 class X11Focus {
 public:
     explicit X11Focus(xcb_connection_t *connection) : m_connection(connection) { }
 
-    void take(xcb_window_t window); // which is mapped
-    void giveBack(xcb_window_t window); // before it is unmapped; nothing when it took none
-    // A hand has pressed another program's window, at that time of the server's: the window manager gives that one the
-    // keys, now or in a moment, and what is given back may not come after it.
+    void take(xcb_window_t window); // must be mapped
+    void giveBack(xcb_window_t window); // call before it is unmapped; does nothing if it took none
+    // A hand has pressed another program's window at that server time: the window manager gives it the keys, now or in
+    // a moment, and our giving them back must not override that.
     void pressedElsewhere(xcb_timestamp_t time) { m_pressed = time; }
 
 private:
@@ -24,7 +24,7 @@ private:
 
     xcb_connection_t *const m_connection;
     std::vector<xcb_window_t> m_takers; // the latest last
-    xcb_timestamp_t m_pressed = XCB_CURRENT_TIME; // since the keys were taken; XCB_CURRENT_TIME for never
+    xcb_timestamp_t m_pressed = XCB_CURRENT_TIME; // last press since the keys were taken; XCB_CURRENT_TIME for none
     xcb_window_t m_before = XCB_INPUT_FOCUS_POINTER_ROOT;
 };
 

@@ -62,7 +62,7 @@ void X11Foreground::handle(const xcb_generic_event_t &event)
     }
 }
 
-// A window manager changes several properties at a time.
+// Combines updates, because a window manager changes several properties at a time.
 void X11Foreground::updateSoon()
 {
     if (std::exchange(m_isStale, true))
@@ -149,7 +149,7 @@ X11Foreground::Client X11Foreground::read(const Reads &reads, std::uint32_t desk
             .isFullScreen = contains(states, m_connection.atom(X11Atom::NetWmStateFullscreen))};
 }
 
-// Clients from the lowest to the uppermost.
+// clients: from bottom to top.
 bool X11Foreground::covers(const QScreen *screen, const std::vector<Client> &clients, xcb_window_t active) const
 {
     const QRect area = nativeGeometry(screen);
@@ -165,7 +165,7 @@ bool X11Foreground::covers(const QScreen *screen, const std::vector<Client> &cli
     return uppermost.value_or(false);
 }
 
-// WM_CLASS is two strings: this instance, and the class.
+// WM_CLASS holds two strings: the instance and the class.
 QString X11Foreground::className(xcb_window_t window) const
 {
     const auto value = m_connection.bytes(m_connection.requestText(window, XCB_ATOM_WM_CLASS));

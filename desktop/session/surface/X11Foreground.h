@@ -9,8 +9,8 @@ namespace brimshade::desktop::session {
 
 class ShownSurfaces;
 
-// From what the window manager says about its clients. A screen is covered when a full-screen window on it has the
-// focus, or is the uppermost there.
+// Uses what the window manager says about its clients. A screen is covered if a full-screen window on it has the focus
+// or is the topmost one there.
 class X11Foreground : public Foreground {
     Q_OBJECT
 public:
@@ -32,7 +32,7 @@ private:
 
     X11Connection &m_connection;
     const ShownSurfaces &m_shown;
-    QSet<xcb_window_t> m_followed; // their properties
+    QSet<xcb_window_t> m_followed; // windows whose properties are followed
     bool m_isStale = false;
 };
 

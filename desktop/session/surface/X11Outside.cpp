@@ -10,7 +10,7 @@ namespace brimshade::desktop::session {
 
 namespace {
 
-// Raw events come while another program has the pointer grabbed since 2.1.
+// From 2.1 on, raw events come even while another program has grabbed the pointer.
 constexpr std::uint16_t kMajorVersion = 2;
 constexpr std::uint16_t kMinorVersion = 2;
 constexpr std::uint32_t kFirstWheelButton = 4;

@@ -5,8 +5,7 @@ namespace brimshade::desktop::session {
 
 class ShownSurfaces;
 
-// Presses anywhere on the display, as the devices report them: without a grab, so that they also arrive where they were
-// aimed.
+// Presses anywhere on the display, as reported by the devices: without a grab, so that they also reach their target.
 class X11Outside : public QObject {
     Q_OBJECT
 public:
@@ -15,7 +14,7 @@ public:
     bool isOn() const { return m_isOn; }
 
 Q_SIGNALS:
-    void pressed(xcb_timestamp_t time); // of the server's
+    void pressed(xcb_timestamp_t time); // the server's time
 
 private:
     void handle(const xcb_generic_event_t &event);

@@ -45,7 +45,7 @@ void X11Surface::map()
 {
     window().setScreen(screen());
     window().create();
-    // A dock has no shadow of the compositing manager's.
+    // Compositing managers draw no shadow around a dock.
     writeNumbers(m_backend, window(), X11Atom::NetWmWindowType, XCB_ATOM_ATOM,
                  {m_backend.atom(X11Atom::NetWmWindowTypeDock)});
     applyGeometry();
@@ -78,7 +78,7 @@ void X11Surface::applyGeometry()
     xcb_flush(m_backend.connection());
 }
 
-// Both count from the edges of the root window, which holds all screens.
+// Both properties count from the edges of the root window, which spans all screens.
 void X11Surface::applyZone(const QRect &bar)
 {
     const auto height = std::uint32_t(zone() ? bar.y() + toNative(QRect(0, 0, 1, zone()), screen()).height() : 0);

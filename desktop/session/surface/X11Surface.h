@@ -5,8 +5,8 @@ namespace brimshade::desktop::session {
 
 class X11Backend;
 
-// The bar is a dock that the window manager manages, so that it keeps the zone free; the others are unmanaged windows,
-// which open sooner and lie over everything.
+// The bar is a dock managed by the window manager, which keeps the zone free; the others are unmanaged windows, which
+// open faster and lie over everything.
 class X11Surface : public ShellSurface {
     Q_OBJECT
 public:

@@ -3,8 +3,8 @@
 
 namespace brimshade::desktop::session {
 
-// For how long there has been no answer, in seconds, counted by the ticks of whoever waits. Between two ticks at most
-// one tick counts: where more time has passed, this process did not run either.
+// For how many seconds there has been no answer, counted at the waiter's ticks. Between two ticks at most one tick is
+// counted: if more time has passed, this process was not running either.
 class Silence {
 public:
     Silence(double tick, double now) : m_tick(tick), m_last(now) { }

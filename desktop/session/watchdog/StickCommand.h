@@ -6,7 +6,7 @@ class ScriptRunner;
 
 namespace brimshade::desktop::session {
 
-// {"do":"stick","seconds":N}: the main thread hangs that long and does nothing else.
+// Adds {"do":"stick","seconds":N}: the main thread hangs that long.
 void addStickCommand(ScriptRunner &script);
 
 } // namespace brimshade::desktop::session

@@ -38,7 +38,7 @@ void Watchdog::endProcess()
     constexpr std::string_view message =
         "brimshade: it hung while it had the keyboard, and ended to give that back; start it again with: brimshade "
         "--session\n";
-    // Nothing here may be held up by a lock or a full pipe.
+    // Nothing here may block on a lock or a full pipe.
     pollfd standardError{STDERR_FILENO, POLLOUT, 0};
     if (poll(&standardError, 1, 0) == 1 && write(STDERR_FILENO, message.data(), message.size()) < 0) { }
     _exit(1);
@@ -65,7 +65,7 @@ void Watchdog::watch(bool on)
     {
         const std::lock_guard lock(m_mutex);
         m_watches = on;
-        *m_answered = true; // this is the main thread
+        *m_answered = true; // runs on the main thread
     }
     m_changed.notify_one();
 }

@@ -8,17 +8,17 @@
 
 namespace brimshade::desktop::session {
 
-// Ends the process when its main thread hangs while all keys of the session come to it: the keyboard would be of no
-// use again. The main thread is asked a few times a second, on a thread of the watchdog's own, which sleeps while there
-// is nothing to watch. A process that is stopped and continued lives on.
+// Ends the process if its main thread hangs while it takes all of the session's keys, which would leave the keyboard
+// useless. A thread of its own asks the main thread a few times a second, and sleeps while there is nothing to watch. A
+// process that is stopped and continued lives on.
 class Watchdog {
 public:
-    // How its thread sees time.
+    // The time as the watchdog's thread sees it.
     class Clock {
     public:
         virtual ~Clock() = default;
         virtual double now() const = 0; // seconds, monotonic
-        // Until `changed` is notified or so much time has passed; may return earlier.
+        // Waits until `changed` is notified or that much time has passed; may return earlier.
         virtual void wait(std::condition_variable &changed, std::unique_lock<std::mutex> &lock, double seconds) = 0;
     };
     static std::unique_ptr<Clock> steadyClock();
@@ -36,7 +36,7 @@ public:
     Watchdog(const Watchdog &) = delete;
     Watchdog &operator=(const Watchdog &) = delete;
 
-    void watch(bool on); // main thread; off at first
+    void watch(bool on); // main thread; initially off
 
 private:
     void run();
@@ -45,12 +45,12 @@ private:
 
     const Hooks m_hooks;
     const std::unique_ptr<Clock> m_clock;
-    const std::shared_ptr<std::atomic<bool>> m_answered; // outlives us in questions that are under way
+    const std::shared_ptr<std::atomic<bool>> m_answered; // may outlive us, in questions under way
     std::mutex m_mutex;
     std::condition_variable m_changed;
     bool m_watches = false;
     bool m_isEnding = false;
-    std::thread m_thread; // after all that it uses
+    std::thread m_thread; // last: it uses the other members
 };
 
 } // namespace brimshade::desktop::session

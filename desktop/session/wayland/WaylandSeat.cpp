@@ -8,7 +8,7 @@ namespace brimshade::desktop::session {
 
 namespace {
 
-constexpr std::uint32_t kReleaseVersion = 3; // of the seat: earlier ones cannot release devices
+constexpr std::uint32_t kReleaseVersion = 3; // the seat's; earlier versions cannot release devices
 
 template <class Device> void giveBack(Device *device, void (*release)(Device *), void (*destroy)(Device *))
 {

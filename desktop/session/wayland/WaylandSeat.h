@@ -11,12 +11,13 @@ struct wl_touch;
 
 namespace brimshade::desktop::session {
 
-// What a seat's devices give this program: where presses go, and the serial of the last press or key. Main thread.
+// What this program learns from a seat's devices: where presses go, and the serial of the last press or key. Main
+// thread.
 class WaylandSeat {
 public:
     using Pressed = std::function<void(wl_surface *)>;
 
-    static constexpr std::uint32_t kVersion = 3; // whose events are listened to
+    static constexpr std::uint32_t kVersion = 3; // the version whose events we handle
 
     WaylandSeat(wl_seat *seat, std::uint32_t name, Pressed pressed = {}); // owns the seat
     ~WaylandSeat();
@@ -39,7 +40,7 @@ private:
     wl_pointer *m_pointer = nullptr;
     wl_keyboard *m_keyboard = nullptr;
     wl_touch *m_touch = nullptr;
-    wl_surface *m_under = nullptr; // the pointer; only to compare, it may be gone
+    wl_surface *m_under = nullptr; // the pointer is on it; only for comparison, it may be gone
     std::uint32_t m_lastSerial = 0;
 };
 

@@ -7,8 +7,8 @@ namespace brimshade::desktop::session {
 
 namespace {
 
-constexpr std::uint32_t kMostNumbers = 4096; // of one property
-constexpr std::uint32_t kLongestText = 64; // words of four bytes
+constexpr std::uint32_t kMostNumbers = 4096; // read of one property
+constexpr std::uint32_t kLongestText = 64; // in words of four bytes
 
 std::array<std::string, std::size_t(X11Atom::Count)> atomNames(int screenNumber)
 {
@@ -69,8 +69,8 @@ X11Connection::X11Connection(xcb_connection_t *connection, int screenNumber)
         m_atoms[i] = reply ? reply->atom : xcb_atom_t(XCB_ATOM_NONE);
     }
     connect(&m_notifier, &QSocketNotifier::activated, this, &X11Connection::readEvents);
-    // Waiting for an answer takes events off the socket without the notifier's knowledge; and requests that
-    // were made meanwhile go out.
+    // Waiting for an answer takes events off the socket without the notifier noticing, so look for them here. This also
+    // sends pending requests.
     connect(QAbstractEventDispatcher::instance(), &QAbstractEventDispatcher::aboutToBlock, this,
             &X11Connection::readEvents);
 }
@@ -112,7 +112,7 @@ bool X11Connection::isEventOf(const xcb_generic_event_t &event, const xcb_extens
 {
     auto *known = const_cast<xcb_extension_t *>(&extension);
     const xcb_query_extension_reply_t *data = xcb_get_extension_data(m_connection, known);
-    const int type = event.response_type & 0x7f; // the high bit says that a client sent it
+    const int type = event.response_type & 0x7f; // the high bit marks events sent by a client
     if (!data || !data->present)
         return false;
     if (type != XCB_GE_GENERIC)

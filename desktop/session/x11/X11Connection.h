@@ -33,18 +33,18 @@ enum class X11Atom {
     NetWmWindowTypeDock,
     XEmbed,
     XEmbedInfo,
-    CompositingManager, // the selection that the compositing manager of the screen owns
-    SystemTray, // the one whose owner shows the icons that programs dock there
+    CompositingManager, // the selection owned by the screen's compositing manager
+    SystemTray, // the selection whose owner shows the icons that programs dock
     Count,
 };
 
-// A connection to the X server of Qt's own, to watch what other programs do without Qt's event queue: Qt selects events
-// on the root window, too, and the masks of two clients do not meet. On the thread that it was opened on, which has an
-// event loop. Reads wait for one answer of the server.
+// A separate connection to Qt's X server, to watch what other programs do without going through Qt's event queue: Qt
+// selects events on the root window, too, and two clients' masks do not interfere. Used on the thread that opened it,
+// which has an event loop. Reads wait for one answer from the server.
 class X11Connection : public QObject {
     Q_OBJECT
 public:
-    static std::unique_ptr<X11Connection> open(); // null when the server does not answer
+    static std::unique_ptr<X11Connection> open(); // null if the server does not answer
     ~X11Connection() override;
 
     xcb_connection_t *xcb() const { return m_connection; }
@@ -52,7 +52,7 @@ public:
     xcb_window_t root() const { return m_screen->root; }
     xcb_atom_t atom(X11Atom atom) const { return m_atoms[std::size_t(atom)]; }
 
-    // Of a property read under way: its 32-bit numbers, or its bytes; none when the window or the property is gone.
+    // The answer to a property request: its 32-bit numbers, or its bytes; empty if the window or the property is gone.
     std::vector<std::uint32_t> numbers(xcb_get_property_cookie_t cookie) const;
     QByteArray bytes(xcb_get_property_cookie_t cookie) const;
     xcb_get_property_cookie_t requestNumbers(xcb_window_t window, X11Atom property) const;

@@ -8,7 +8,7 @@ namespace brimshade::desktop::session {
 
 namespace {
 
-constexpr int kDeepest = 8; // windows in one another
+constexpr int kDeepest = 8; // levels of nested windows
 
 bool wantsPresses(const X11Connection &x11, xcb_window_t window)
 {
@@ -18,7 +18,8 @@ bool wantsPresses(const X11Connection &x11, xcb_window_t window)
     return reply && (reply->all_event_masks & XCB_EVENT_MASK_BUTTON_PRESS);
 }
 
-// The innermost window there that wants presses; absent where none does: then its program reads devices instead.
+// The innermost window at that point that wants presses; absent if none does, because its program reads the devices
+// instead.
 std::optional<xcb_window_t> listener(const X11Connection &x11, xcb_window_t outer, QPoint inside)
 {
     std::optional<xcb_window_t> found;
@@ -53,7 +54,7 @@ xcb_button_press_event_t pressAt(const X11Connection &x11, const ButtonTarget &t
     return event;
 }
 
-// The pointer comes into a window or leaves it where it is pressed.
+// The pointer enters or leaves the window at the point of the press.
 xcb_enter_notify_event_t crossing(const xcb_button_press_event_t &press, std::uint8_t type)
 {
     xcb_enter_notify_event_t event{};
@@ -77,7 +78,7 @@ template <class Event> void send(const X11Connection &x11, const Event &event, s
     xcb_send_event(x11.xcb(), false, event.event, mask, reinterpret_cast<const char *>(&event));
 }
 
-// Some toolkits take a press only where they know the pointer to be.
+// Enters the window first: some toolkits accept a press only where they know the pointer to be.
 void sendEvents(const X11Connection &x11, const ButtonTarget &target, xcb_window_t window, std::uint8_t button,
                 xcb_timestamp_t time)
 {
@@ -103,8 +104,8 @@ void place(const X11Connection &x11, xcb_window_t frame, QPoint corner)
                          values);
 }
 
-// The frame comes to the pointer, has a shape there for as long as the server takes to make the click, and is back
-// before anybody sees it or the program asks where it is.
+// Moves the frame under the pointer, gives it a shape only while the server makes the click, and moves it back before
+// anybody sees it or the program asks where it is.
 void clickWithDevice(const X11Connection &x11, const ButtonTarget &target, std::uint8_t button)
 {
     xcb_connection_t *connection = x11.xcb();

@@ -6,7 +6,7 @@ namespace brimshade::desktop::session {
 
 namespace {
 
-// Raw events come while another program has the pointer grabbed since 2.1.
+// From 2.1 on, raw events come even while another program has grabbed the pointer.
 constexpr std::uint16_t kMajorVersion = 2;
 constexpr std::uint16_t kMinorVersion = 2;
 constexpr std::size_t kMostWaiting = 32;
@@ -35,7 +35,7 @@ void DockedClicks::lapse()
 
 void DockedClicks::proceed()
 {
-    watchReleases(true); // before the look: none is missed
+    watchReleases(true); // before looking, so that no release is missed
     if (isAnyHeld())
         return;
     watchReleases(false);
@@ -45,7 +45,7 @@ void DockedClicks::proceed()
 void DockedClicks::makeAt(xcb_timestamp_t time)
 {
     if (m_isWatching)
-        return; // a button was pressed again meanwhile
+        return; // a button has been pressed again meanwhile
     for (const DockedClick &click : std::exchange(m_waiting, {}))
         Q_EMIT due(click, time);
 }

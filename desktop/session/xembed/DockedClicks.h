@@ -6,20 +6,20 @@
 
 namespace brimshade::desktop::session {
 
-// Clicks that wait until they can be made: no button of a pointer is held, since no other menu gets the pointer while
-// one is, and the server has told its time, without which programs' windows do not come to the front. On the
-// connection's thread.
+// Clicks that wait until they can be made. First every pointer button must be released, since a menu cannot get the
+// pointer before that. Then the server must tell its time, without which programs' windows do not come to the front. On
+// the connection's thread.
 class DockedClicks : public QObject {
     Q_OBJECT
 public:
     explicit DockedClicks(X11Connection &x11);
 
     void ask(const DockedClick &click);
-    void lapse(); // those that wait are not made
+    void lapse(); // drops the waiting ones
     void makeAt(xcb_timestamp_t time);
 
 Q_SIGNALS:
-    void timeNeeded(); // makeAt() follows
+    void timeNeeded(); // answer with makeAt()
     void due(const DockedClick &click, xcb_timestamp_t time);
 
 private:

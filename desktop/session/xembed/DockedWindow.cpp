@@ -28,7 +28,7 @@ std::unique_ptr<DockedWindow> DockedWindow::dock(X11Connection &x11, xcb_window_
 {
     if (window == x11.root() || isOwn(x11.xcb(), window))
         return nullptr;
-    // Before it is read, so that no change is missed.
+    // Selected before reading, so that no change is missed.
     const std::uint32_t mask = XCB_EVENT_MASK_STRUCTURE_NOTIFY | XCB_EVENT_MASK_PROPERTY_CHANGE;
     xcb_change_window_attributes(x11.xcb(), window, XCB_CW_EVENT_MASK, &mask);
     const auto cookie = xcb_get_window_attributes(x11.xcb(), window);
@@ -55,7 +55,7 @@ DockedWindow::DockedWindow(X11Connection &x11, xcb_window_t window, int side, co
     followWish();
 }
 
-// Requests about a destroyed window do nothing.
+// If the window was destroyed, these requests do nothing.
 DockedWindow::~DockedWindow()
 {
     xcb_connection_t *connection = m_x11.xcb();
@@ -72,14 +72,14 @@ DockedWindow::~DockedWindow()
     xcb_free_colormap(connection, m_colours);
 }
 
-// Without a background nothing of it is painted where a click needs its shape for an instant; windows without alpha may
-// show their frame's, which is dark, as the bar is.
+// Without a background, nothing is painted during the instant in which a click needs the frame's shape; for windows
+// without alpha, the frame's background may show: dark, like the bar.
 void DockedWindow::makeFrame(xcb_visualid_t visual)
 {
     xcb_connection_t *connection = m_x11.xcb();
     xcb_create_colormap(connection, XCB_COLORMAP_ALLOC_NONE, m_colours, m_x11.root(), visual);
     const std::uint32_t back = m_layout.hasAlpha() ? XCB_CW_BACK_PIXMAP : XCB_CW_BACK_PIXEL;
-    const std::uint32_t values[] = {0, // the back: none, or black
+    const std::uint32_t values[] = {0, // the background: none, or black
                                     0,
                                     true,
                                     XCB_EVENT_MASK_SUBSTRUCTURE_REDIRECT,
@@ -105,7 +105,7 @@ void DockedWindow::embed()
                          XCB_CONFIG_WINDOW_X | XCB_CONFIG_WINDOW_Y | XCB_CONFIG_WINDOW_WIDTH | XCB_CONFIG_WINDOW_HEIGHT
                              | XCB_CONFIG_WINDOW_BORDER_WIDTH,
                          geometry);
-    // No part of it goes to the screen.
+    // Nothing of it is drawn on the screen.
     xcb_composite_redirect_window(connection, m_window, XCB_COMPOSITE_REDIRECT_MANUAL);
     xcb_damage_create(connection, m_damage, m_window, XCB_DAMAGE_REPORT_LEVEL_NON_EMPTY);
     xcb_client_message_event_t message{};
@@ -132,7 +132,7 @@ void DockedWindow::followWish()
 
 void DockedWindow::readTexts()
 {
-    const auto classRead = m_x11.requestText(m_window, XCB_ATOM_WM_CLASS); // this instance, and the class
+    const auto classRead = m_x11.requestText(m_window, XCB_ATOM_WM_CLASS); // the instance and the class
     const auto nameRead = m_x11.requestText(m_window, m_x11.atom(X11Atom::NetWmName));
     const auto oldNameRead = m_x11.requestText(m_window, XCB_ATOM_WM_NAME);
     const auto classes = m_x11.bytes(classRead).split('\0');

@@ -7,28 +7,28 @@
 
 namespace brimshade::desktop::session {
 
-// A window that a program has docked, in a frame of ours: a window that is mapped, so that the program draws, and has
-// no shape, so that nobody sees or hits it. What the program draws goes into a picture. On the connection's thread;
-// waits for answers of the server, never for the program.
+// A window that a program has docked, inside a frame of ours: a window that is mapped, so that the program draws, and
+// has an empty shape, so that nobody sees or hits it. What the program draws goes into a picture. On the connection's
+// thread; waits for the server, never for the program.
 class DockedWindow {
 public:
-    // Null for a window that cannot be docked. It gets that size, in pixels a side, and keeps it.
+    // Null for a window that cannot be docked. It gets and keeps that size, in pixels per side.
     static std::unique_ptr<DockedWindow> dock(X11Connection &x11, xcb_window_t window, int side);
-    ~DockedWindow(); // the program has its window back
+    ~DockedWindow(); // gives the program its window back
     Q_DISABLE_COPY_MOVE(DockedWindow)
 
     xcb_window_t frame() const { return m_frame; }
     const DockedItem &item() const { return m_item; }
     bool isShown() const { return m_isMapped; }
 
-    void taken() { m_isInFrame = false; } // by its program, or destroyed: it is left where it is
+    void taken() { m_isInFrame = false; } // its program took it away or destroyed it; it is left alone
     void mapped(bool isMapped) { m_isMapped = isMapped; }
-    void followWish(); // maps or unmaps it, as the program says in a property
+    void followWish(); // maps or unmaps it as the program's property says
     void readTexts();
-    void readPicture(); // what is drawn from here on damages it anew
+    void readPicture(); // later drawing is reported as new damage
     void refuseGeometry() const; // tells the program that its window stays as it is
 
-    // Where its item is, so that what the program opens comes up there.
+    // The click is made at its item's place, so that what the program opens comes up there.
     void click(const DockedClick &click, xcb_timestamp_t time);
 
 private:

@@ -13,16 +13,16 @@ namespace brimshade::desktop::session {
 namespace {
 
 constexpr std::size_t kMostWindows = 64;
-constexpr std::uint32_t kRequestDock = 0; // the opcode; the others are of balloons
+constexpr std::uint32_t kRequestDock = 0; // the opcode; the others concern balloons
 constexpr auto kBeat = 100ms; // windows that draw all the time are looked at together
-constexpr int kMostEmptyLooks = 5; // at a new window before it is shown without a picture
+constexpr int kMostEmptyLooks = 5; // at a new window, before it is shown without a picture
 
 template <class Event> const Event &as(const xcb_generic_event_t &event)
 {
     return reinterpret_cast<const Event &>(event);
 }
 
-// An extension answers only after it was asked for its version.
+// An extension works only after its version has been asked for.
 void askVersions(xcb_connection_t *connection)
 {
     xcb_discard_reply(connection, xcb_composite_query_version(connection, 0, 4).sequence);
@@ -30,8 +30,8 @@ void askVersions(xcb_connection_t *connection)
     xcb_discard_reply(connection, xcb_res_query_version(connection, 1, 2).sequence);
 }
 
-// Waits until the server has done everything that was asked of it: a connection that is closed with events unread may
-// take with it what the server has not read.
+// Waits until the server has carried out every request: if a connection is closed with unread events, requests that the
+// server has not read may be lost.
 void finish(xcb_connection_t *connection)
 {
     const X11Reply<xcb_get_input_focus_reply_t> done(

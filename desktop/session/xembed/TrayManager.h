@@ -9,13 +9,13 @@
 
 namespace brimshade::desktop::session {
 
-// The tray of an X server's screen, as programs know it that dock a window there: it owns the selection while nobody
-// else does, has their windows, and reports what each of them shows. On a thread of its own with an event loop, since
-// it waits for the server.
+// The tray of an X server's screen, into which programs dock windows: it owns the selection while nobody else does,
+// holds the windows, and reports what each one shows. It runs on a thread of its own with an event loop, because it
+// waits for the server.
 class TrayManager : public QObject {
     Q_OBJECT
 public:
-    explicit TrayManager(int side); // of each window, in pixels
+    explicit TrayManager(int side); // each window's, in pixels
     ~TrayManager() override;
 
     void begin();
@@ -23,14 +23,14 @@ public:
     void lapseClicks();
 
 Q_SIGNALS:
-    void changed(const DockedItem &item); // a new one too
+    void changed(const DockedItem &item); // also for a new one
     void gone(std::uint32_t window);
     void message(const QString &text);
 
 private:
     struct Docked {
         std::unique_ptr<DockedWindow> window;
-        DockedItem told; // of which changed() was last said; of no window when it was not
+        DockedItem told; // as last reported by changed(); without a window if never
         int emptyLooks = 0;
         bool areTextsOld = true;
     };
@@ -53,7 +53,7 @@ private:
     Windows m_windows;
     std::unique_ptr<TraySelection> m_selection;
     std::unique_ptr<DockedClicks> m_clicks;
-    QSet<xcb_window_t> m_unseen; // what they have drawn
+    QSet<xcb_window_t> m_unseen; // those with new drawing that we have not looked at
     std::unique_ptr<QTimer> m_look;
     bool m_saidFull = false;
 };

@@ -8,7 +8,7 @@ namespace brimshade::desktop::session {
 
 namespace {
 
-constexpr std::uint32_t kXFixesVersion = 2; // of the selection's events
+constexpr std::uint32_t kXFixesVersion = 2; // for the selection's events
 constexpr std::uint32_t kHorizontal = 0;
 
 } // namespace
@@ -53,7 +53,7 @@ void TraySelection::follow()
         prepare();
 }
 
-// The selection is taken at a time of the server's, which the change of a property reveals.
+// Taking the selection needs the server's time, which the change of a property reveals.
 void TraySelection::prepare()
 {
     m_window = xcb_generate_id(m_x11.xcb());

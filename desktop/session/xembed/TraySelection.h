@@ -3,19 +3,19 @@
 
 namespace brimshade::desktop::session {
 
-// The selection of the screen's tray: whoever owns it shows the windows that programs dock. It is taken as soon as
-// nobody has it, and left to whoever takes it. On the connection's thread.
+// The selection of the screen's tray: its owner shows the windows that programs dock. It is taken as soon as nobody has
+// it, and given up to anyone who takes it. On the connection's thread.
 class TraySelection : public QObject {
     Q_OBJECT
 public:
     explicit TraySelection(X11Connection &x11);
     ~TraySelection() override;
 
-    xcb_window_t window() const { return m_window; } // that programs send their wishes to; XCB_WINDOW_NONE without
-    void askTime(); // the server's, which timeCame reports; does nothing without a window
+    xcb_window_t window() const { return m_window; } // gets the programs' requests; XCB_WINDOW_NONE if there is none
+    void askTime(); // the answer is timeCame; does nothing without a window
 
 Q_SIGNALS:
-    void lost(); // while the window is there: programs turn to the next owner when it goes
+    void lost(); // the window still exists: programs turn to the next owner when it goes
     void timeCame(xcb_timestamp_t time);
 
 private:

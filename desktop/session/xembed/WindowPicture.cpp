@@ -43,7 +43,7 @@ int bitsPerPixel(const xcb_setup_t &setup, int depth)
     return 0;
 }
 
-// Colours are weighted with alpha already; a program may break that.
+// Colours should be premultiplied with alpha, but a program may violate that.
 QRgb soundPixel(QRgb pixel)
 {
     const int alpha = qAlpha(pixel);

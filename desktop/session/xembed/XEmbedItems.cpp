@@ -14,7 +14,7 @@ namespace brimshade::desktop::session {
 
 namespace {
 
-constexpr double kIconPoints = 22; // a side, as the pictures of other tray items
+constexpr double kIconPoints = 22; // per side, like the pictures of other tray items
 constexpr int kSmallestIcon = 16, kLargestIcon = 96; // pixels
 constexpr int kNotch = 120;
 
@@ -23,7 +23,7 @@ int sideFor(double pixelsPerPoint)
     return std::clamp(int(std::lround(kIconPoints * pixelsPerPoint)), kSmallestIcon, kLargestIcon);
 }
 
-// Programs show their menu on the right button.
+// Programs show their menu at a press of the right button.
 std::uint8_t buttonOf(ItemGesture gesture)
 {
     switch (gesture) {
@@ -44,13 +44,13 @@ QString instanceOf(std::uint32_t window)
     return u"window 0x%1"_s.arg(window, 0, 16);
 }
 
-// An unknown process counts as one that has this window alone.
+// An unknown process counts as one that has only this window.
 int processOf(const DockedItem &item)
 {
     return item.pid > 0 ? item.pid : -int(item.window);
 }
 
-// Takes the whole notches out of what was scrolled.
+// Subtracts the whole notches from what was scrolled.
 int takeNotches(int &scrolled)
 {
     const int notches = scrolled / kNotch;
@@ -114,7 +114,7 @@ tray::HostedItem XEmbedItems::hosted(const Shown &shown)
             .canBeActivated = true};
 }
 
-// An item that is not in the bar has its menu at the bar's left end.
+// The menu of an item that is not in the bar opens at the bar's left end.
 void XEmbedItems::click(std::uint32_t window, ItemGesture gesture, const QRectF &frame)
 {
     const QPointF below(std::max(0.0, frame.center().x()), frame.bottom());

@@ -18,16 +18,16 @@ namespace brimshade::desktop::session {
 
 class TrayManager;
 
-// The icons that programs dock into the tray of an X server, as tray items of those programs. Where another program
-// owns the tray it shows none, until that one goes. What a person does to an item is done to the docked window, so the
-// program opens its own menu. Main thread, which never waits for the server; the desktop and the programs outlive it.
+// The icons that programs dock into the tray of an X server, as tray items of those programs. While another program
+// owns the tray, it shows none. What a person does to an item is done to the docked window, so the program opens its
+// own menu. Main thread, which never waits for the server; the desktop and the programs outlive it.
 class XEmbedItems : public QObject {
     Q_OBJECT
 public:
     using ToScreen = std::function<QPoint(QPointF display)>; // pixels of the root window
 
     XEmbedItems(Desktop &desktop, tray::TrayPrograms &programs, ToScreen toScreen, double pixelsPerPoint);
-    ~XEmbedItems() override; // the programs have their windows back
+    ~XEmbedItems() override; // gives the programs their windows back
 
 Q_SIGNALS:
     void message(const QString &text);
@@ -36,7 +36,7 @@ private:
     struct Shown {
         DockedItem item;
         platform::Image picture;
-        QPoint scrolled; // and not passed on; 120 is a notch
+        QPoint scrolled; // not yet passed on; 120 is a notch
     };
 
     void show(const DockedItem &item);

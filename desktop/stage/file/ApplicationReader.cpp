@@ -17,8 +17,8 @@ namespace {
 constexpr qsizetype kMostExtras = 2000; // in one list
 constexpr qsizetype kMostActions = 20;
 constexpr qsizetype kMostMenuEntries = 200;
-constexpr int kDeepestGroup = 200; // of the 1024 levels that the parser takes, two a group
-constexpr int kLargestIcon = 4096; // pixels a side
+constexpr int kDeepestGroup = 200; // the parser allows 1024 levels, and each group takes two
+constexpr int kLargestIcon = 4096; // pixels per side
 constexpr Range kWidth{0, 32768}; // points
 constexpr Range kLatency{0, 3600}; // seconds
 constexpr Range kPid{1, std::numeric_limits<int>::max()};
@@ -27,7 +27,7 @@ constexpr Range kCode{std::numeric_limits<int>::min(), std::numeric_limits<int>:
 using Extras = std::vector<ExtraDescription>;
 Fault readExtras(const QJsonValue &value, const QString &path, Extras &into);
 
-// null: position and size cannot be read.
+// null means that position and size cannot be read.
 Fault readFrame(const QJsonValue &value, const QString &path, ExtraDescription &into)
 {
     into.frameKind = value.isNull() ? ExtraDescription::Frame::unreadable : ExtraDescription::Frame::fixed;
@@ -67,7 +67,7 @@ Fault readExtras(const QJsonValue &value, const QString &path, Extras &into)
     return readList(value, path, kMostExtras, into, readExtra);
 }
 
-// Before anything recurses into groups. 0 for anything but a list.
+// Checked before anything recurses into groups. Anything but a list has depth 0.
 bool isDeeper(const QJsonValue &extras, int levels)
 {
     const QJsonArray list = extras.toArray();
@@ -77,7 +77,7 @@ bool isDeeper(const QJsonValue &extras, int levels)
     });
 }
 
-// By its header: its pixels are read when it is drawn. Anything but a regular file could keep a reader waiting.
+// Checks only its header: the pixels are read when it is drawn. Reading anything but a regular file could block.
 bool isPicture(const QString &path)
 {
     const QSize size = QFileInfo(path).isFile() ? QImageReader(path).size() : QSize();

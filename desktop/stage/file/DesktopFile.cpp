@@ -12,10 +12,10 @@ namespace brimshade::desktop {
 namespace {
 
 constexpr qsizetype kMostApplications = 500;
-constexpr qsizetype kMostKeys = 1000; // of displayNames and of defaults
+constexpr qsizetype kMostKeys = 1000; // in displayNames and in defaults
 constexpr qint64 kLargestFile = 16 << 20; // bytes
 
-// A piece's own parser as a reader.
+// Makes a reader of a piece's own parser.
 template <class T> Fault take(std::expected<T, QString> parsed, T &into)
 {
     if (!parsed)
@@ -43,7 +43,7 @@ Fault readApplications(const QJsonValue &value, const QString &path, Application
     return {};
 }
 
-// readValue(value, path, key) for each key of an object that may have any.
+// Calls readValue(value, path, key) for each key of an object whose keys are free.
 template <class Read> Fault readKeys(const QJsonValue &value, const QString &path, Read readValue)
 {
     if (!value.isObject())

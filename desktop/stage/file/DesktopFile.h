@@ -12,7 +12,7 @@ namespace brimshade::desktop {
 std::expected<DesktopDescription, QString> readDesktopFile(const QString &path); // errors start with the path
 std::expected<DesktopDescription, QString> parseDesktop(const QByteArray &json);
 
-// path: of the value, for messages.
+// path: the value's, for messages.
 std::expected<ApplicationDescription, QString> parseApplication(const QJsonValue &value, const QString &path);
 std::expected<std::vector<ScreenDescription>, QString> parseScreens(const QJsonValue &value, const QString &path);
 

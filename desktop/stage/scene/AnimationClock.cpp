@@ -6,7 +6,7 @@ namespace brimshade::desktop {
 AnimationClock::AnimationClock(VirtualDispatch &clock) : m_clock(clock)
 {
     install();
-    // By the time of a frame all may have ended; advancing then would start the toolkit's clock for nothing.
+    // When a frame comes, all animations may have ended; advancing would then start the toolkit's clock for nothing.
     m_clock.setFrames([this] { return isRunning(); }, [this] { catchUp(); });
 }
 
@@ -18,7 +18,7 @@ AnimationClock::~AnimationClock()
 
 qint64 AnimationClock::elapsed() const
 {
-    constexpr double half = 0.0005; // rounded: a sixtieth of a second is no whole number of milliseconds
+    constexpr double half = 0.0005; // for rounding: a sixtieth of a second is not a whole number of milliseconds
     return static_cast<qint64>((m_clock.now() - m_startTime + half) * 1000);
 }
 

@@ -5,8 +5,8 @@ namespace brimshade::desktop {
 
 class VirtualDispatch;
 
-// Animations of this thread follow a virtual clock while this exists; one at a time in a thread. Frames are asked of
-// the clock only while an animation runs.
+// While this exists, this thread's animations follow a virtual clock; only one at a time per thread. It requests frames
+// from the clock only while an animation runs.
 class AnimationClock : public QAnimationDriver {
     Q_OBJECT
 public:
@@ -14,7 +14,7 @@ public:
     ~AnimationClock() override;
 
     qint64 elapsed() const override; // milliseconds since the driver started
-    void catchUp(); // brings running animations to the present instant, which may lie between two frames
+    void catchUp(); // advances running animations to the present, which may lie between two frames
 
 protected:
     void start() override;

@@ -7,7 +7,7 @@ Item {
     id: root
 
     required property bool isPrimary
-    required property real barHeight // 0 where there is none
+    required property real barHeight // 0 if there is none
     required property var images // of the dock
 
     clip: true

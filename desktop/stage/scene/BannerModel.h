@@ -11,8 +11,8 @@ namespace brimshade::desktop {
 
 class Desktop;
 
-// Applications' messages, each shown for three seconds; the latest first. Main thread.
-// The base is spelled in full: the registrar of QML types finds it by its spelling.
+// Applications' messages, each shown for three seconds; the latest first. Main thread. The base class is spelled out in
+// full because the QML type registrar looks it up by its spelling.
 class BannerModel : public brimshade::ui::ListModel {
     Q_OBJECT
     QML_ELEMENT

@@ -3,8 +3,8 @@ import QtQuick
 import Brimshade.Desktop
 import Brimshade.Stage
 
-// The whole desktop. The order of what lies over what is the z of the children of `space`; the program's windows join
-// them at their window levels, the bar is at level 24.
+// The whole desktop. What lies over what follows from the z of the children of `space`; the program's windows are among
+// them at their window levels, the bar at level 24.
 FocusScope {
     id: root
 

@@ -1,5 +1,5 @@
 #pragma once
-// The desktop's own types under their names in QML: the desktop itself knows nothing of QML.
+// Gives the desktop's own types their names in QML: the desktop itself knows nothing about QML.
 #include "desktop/core/Permission.h"
 
 #include <qqml.h>

@@ -13,9 +13,9 @@ namespace brimshade::desktop {
 namespace {
 
 constexpr double kDeviation = 18; // points
-constexpr double kGrain = 6; // points a pixel while it is blurred: it has no detail then
+constexpr double kGrain = 6; // points per pixel while it is blurred, when it has no detail
 
-// Beyond its edges the picture counts as continuing: there is nothing to average with there.
+// Beyond its edges the picture is treated as continuing, since there is nothing there to average with.
 QImage blurredWallpaper(const QSizeF &whole)
 {
     QImage small((whole / kGrain).toSize().expandedTo({1, 1}), QImage::Format_ARGB32_Premultiplied);
@@ -28,7 +28,7 @@ QImage blurredWallpaper(const QSizeF &whole)
     return ui::blurred(small, kDeviation / kGrain).convertToFormat(unweighted).convertToFormat(QImage::Format_RGB32);
 }
 
-// part: of the wallpaper, points.
+// part: the part of the wallpaper, in points.
 QImage frosted(const QSizeF &whole, const QRectF &part, double radius, double scale)
 {
     const QImage blurred = blurredWallpaper(whole);

@@ -6,8 +6,8 @@
 
 namespace brimshade::desktop {
 
-// What is seen of the wallpaper through the bar or the dock: a part of it, blurred. As it stands still, it is made
-// once, on another thread; nothing is shown until then.
+// The part of the wallpaper seen through the bar or the dock, blurred. As it never moves, it is made once, on another
+// thread; nothing is shown until it is ready.
 class FrostedWallpaper : public QQuickItem {
     Q_OBJECT
     QML_ELEMENT

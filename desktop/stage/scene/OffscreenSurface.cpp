@@ -15,21 +15,21 @@ OffscreenSurface::OffscreenSurface()
 {
     m_window->setColor(Qt::transparent);
     ui::PictureCache::of(m_window.get())->setAwaited(true);
-    // No window system ever makes it the active window, and without that no item gets a key.
+    // No window system ever makes it the active window, and without being active no item gets a key.
     QFocusEvent focus(QEvent::FocusIn, Qt::ActiveWindowFocusReason);
     QCoreApplication::sendEvent(m_window.get(), &focus);
 }
 
 OffscreenSurface::~OffscreenSurface()
 {
-    m_window.reset(); // documented to go first, but the window still uses it
+    m_window.reset(); // the control is documented to go first, but the window still uses it
 }
 
 void OffscreenSurface::setSize(QSize size, double scale)
 {
     const QSize pixels = (QSizeF(size) * scale).toSize();
     if (m_image.size() == pixels && m_image.devicePixelRatio() == scale)
-        return; // what was drawn stays: a frame draws only what has changed since the last
+        return; // keep what was drawn: a frame draws only what has changed since the last one
     m_image = QImage(pixels, QImage::Format_ARGB32_Premultiplied);
     m_image.setDevicePixelRatio(scale);
     auto target = QQuickRenderTarget::fromPaintDevice(&m_image);
@@ -48,7 +48,7 @@ QImage OffscreenSurface::render()
 {
     m_control->polishItems();
     if (m_image.isNull())
-        return {}; // there is no memory for one of this size
+        return {}; // there was not enough memory for this size
     m_control->beginFrame();
     m_control->sync();
     m_control->render();

@@ -6,15 +6,15 @@
 
 namespace brimshade::desktop {
 
-// A Qt Quick window that no screen shows: laid out at once, drawn when a picture is asked for. Software renderer only,
-// whatever else there is to draw with.
+// A Qt Quick window that is on no screen: laid out at once, drawn when a picture is asked for. Always uses the software
+// renderer.
 class OffscreenSurface {
 public:
     OffscreenSurface();
     ~OffscreenSurface();
 
     QQuickWindow &window() const { return *m_window; }
-    void setSize(QSize size, double scale); // points; pixels a point
+    void setSize(QSize size, double scale); // points; pixels per point
     void layOut();
     QImage render();
 

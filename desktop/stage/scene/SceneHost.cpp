@@ -22,13 +22,13 @@ namespace brimshade::desktop {
 
 namespace {
 
-constexpr double kLargestShare = 0.94; // of the session's screen
+constexpr double kLargestShare = 0.94; // of the real screen
 
 WallClock::Now clockOf(VirtualDispatch *clock)
 {
     if (!clock)
         return [] { return QDateTime::currentDateTime(); };
-    // The same for every run, as the pictures are.
+    // The same in every run, so that the pictures are the same, too.
     static const QDateTime start(QDate(2026, 6, 9), QTime(9, 41));
     return [clock] { return start.addMSecs(qint64(clock->now() * 1000)); };
 }
@@ -38,7 +38,7 @@ std::unique_ptr<QQuickWindow> sessionWindow(QSize desktop)
     auto window = std::make_unique<QQuickWindow>();
     window->setTitle(u"Brimshade"_s);
     window->setColor(Qt::black);
-    // In its own size where the session's screen has room for that, else as large as a window manager leaves room for.
+    // At its own size if the real screen has room for that, else as large as a window manager leaves room for.
     const QScreen *screen = QGuiApplication::primaryScreen();
     const QSize room = screen ? screen->availableGeometry().size() : desktop;
     const bool hasRoom = desktop.width() <= room.width() && desktop.height() <= room.height();
@@ -67,7 +67,7 @@ public:
     std::unique_ptr<QQmlEngine> engine;
     SceneState state;
     std::unique_ptr<QQuickItem> root;
-    QQuickItem *space = nullptr; // laid out in display space; the root's
+    QQuickItem *space = nullptr; // belongs to the root; laid out in display space
     std::unique_ptr<WindowHosts> windows;
     std::unique_ptr<WindowInput> input;
     std::unique_ptr<ScriptHands> hands;
@@ -103,7 +103,7 @@ SceneHost::Private::Private(Desktop &desktop_, VirtualDispatch *clock, std::opti
 
 SceneHost::Private::~Private()
 {
-    // Views go before what they show, and items before their window.
+    // Views are destroyed before what they show, and items before their window.
     hands.reset();
     input.reset();
     windows.reset();
@@ -143,7 +143,7 @@ QPointF SceneHost::Private::toDisplay(QPointF inWindow) const
     return {std::clamp(point.x(), bounds.left(), bounds.right()), std::clamp(point.y(), bounds.top(), bounds.bottom())};
 }
 
-// Offscreen the surface is as large as the desktop; in a window the desktop is scaled to fit and centred.
+// Off screen, the surface is as large as the desktop; in a window, the desktop is scaled to fit and centred.
 void SceneHost::Private::fit()
 {
     const QSizeF size = state.bounds().size();
@@ -164,11 +164,11 @@ QImage SceneHost::Private::whole()
 QImage SceneHost::Private::partOf(const QImage &whole, const QQuickItem &item) const
 {
     const QRectF rect = item.mapRectToScene(QRectF({}, item.size())) & QRectF({}, window().size());
-    const double pixels = double(whole.width()) / window().width(); // a unit of the scene
+    const double pixels = double(whole.width()) / window().width(); // per unit of the scene
     return whole.copy(QRectF(rect.topLeft() * pixels, rect.size() * pixels).toAlignedRect());
 }
 
-// With everything beside it invisible, but present: what has focus or is hovered stays so.
+// Everything else is made transparent but stays present, so that what has the focus or is hovered stays so.
 QImage SceneHost::Private::onlyFrame(const QQuickItem &frame)
 {
     std::vector<std::pair<QQuickItem *, double>> hidden;
@@ -210,7 +210,7 @@ QQmlEngine &SceneHost::engine() const
 
 void SceneHost::settle()
 {
-    // Laying out asks for events and events for laying out: two rounds reach the end.
+    // Layout causes events, and events cause layout: two rounds are enough to settle both.
     for (int round = 0; round < 2; ++round) {
         QCoreApplication::sendPostedEvents();
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
@@ -240,7 +240,7 @@ std::optional<QImage> SceneHost::picture(const QString &windowName)
         return {};
     settle();
     return m_d->surface ? m_d->onlyFrame(*frame)
-                        : m_d->partOf(m_d->whole(), *frame); // nothing may vanish while a person looks
+                        : m_d->partOf(m_d->whole(), *frame); // nothing may vanish while a person is looking
 }
 
 QQuickItem *SceneHost::contentOf(const DesktopWindow *window) const

@@ -69,7 +69,7 @@ QVariantList SceneState::dockImages() const
     QVariantList images;
     for (const platform::RunningApplication &each : m_desktop.platform().workspace.runningApplications()) {
         const bool isProgram = each.bundlePath && each.bundlePath->startsWith(u"/Applications/"_s)
-            && !each.bundlePath->contains(u".app/"_s); // a helper of one has its icon, too
+            && !each.bundlePath->contains(u".app/"_s); // a helper has its application's icon, too
         if (isProgram && !each.icon.isNull() && images.size() < most)
             images.append(QVariant::fromValue(each.icon));
     }

@@ -31,7 +31,7 @@ class SceneState : public QObject {
     Q_PROPERTY(bool isPointerDrawn READ isPointerDrawn NOTIFY pointerChanged)
 
 public:
-    // alwaysDrawsPointer: no hand shows where it is.
+    // alwaysDrawsPointer: there is no real pointer to show where it is.
     SceneState(Desktop &desktop, WallClock::Now now, bool alwaysDrawsPointer);
 
     QRectF bounds() const; // of all screens together
@@ -45,7 +45,7 @@ public:
     QPointF pointer() const;
     bool isPointerDrawn() const { return m_alwaysDrawsPointer || m_wasWarped; }
 
-    void handMoved(); // the pointer is the hand's again
+    void handMoved(); // the pointer follows the hand again
 
 Q_SIGNALS:
     void screensChanged();

@@ -11,7 +11,7 @@ namespace brimshade::desktop {
 
 namespace {
 
-// Everything is in units of the picture: 0 to 1 from left to right and from top to bottom.
+// All coordinates are relative to the picture: 0 to 1 from left to right and from top to bottom.
 constexpr double kHorizon = 0.66;
 constexpr QPointF kSun{0.615, 0.595};
 

@@ -20,7 +20,7 @@ public:
 private:
     WindowState m_state;
     std::unique_ptr<QQuickItem> m_frame;
-    std::unique_ptr<HostedContent> m_content; // goes before the frame that holds it
+    std::unique_ptr<HostedContent> m_content; // destroyed before the frame that holds it
 };
 
 WindowHosts::Host::Host(DesktopWindow &window, QQmlEngine &engine, QQuickItem &space)
@@ -59,7 +59,7 @@ void WindowHosts::remove(DesktopWindow *window)
     m_hosts.erase(window);
 }
 
-// A level apart is at least one apart; within a level the order counts.
+// Windows of different levels are at least 1 apart in depth; within a level the order counts.
 void WindowHosts::arrange()
 {
     constexpr double step = 1.0 / 1024;
@@ -71,7 +71,7 @@ void WindowHosts::arrange()
     }
 }
 
-// The keys go to what had the focus in the key window last. Without one no item has it.
+// The focus goes to the item of the key window that last had it. Without a key window, no item has it.
 void WindowHosts::focusKeyWindow()
 {
     QQuickItem *frame = frameOf(m_stack.keyWindow());

@@ -12,15 +12,15 @@ namespace brimshade::desktop {
 
 class WindowStack;
 
-// The program's windows in the scene: a frame for each, with its content in it, from its creation to its end.
-// The frames are children of `space`, which is laid out in display space. Main thread.
+// The program's windows in the scene: a frame with the content for each, from its creation to its destruction. The
+// frames are children of `space`, which is laid out in display space. Main thread.
 class WindowHosts : public QObject {
     Q_OBJECT
 public:
     WindowHosts(WindowStack &stack, QQmlEngine &engine, QQuickItem &space);
     ~WindowHosts() override;
 
-    QQuickItem *frameOf(const DesktopWindow *window) const; // null when it is not known
+    QQuickItem *frameOf(const DesktopWindow *window) const; // null if it is unknown
     QQuickItem *contentOf(const DesktopWindow *window) const; // the view's root; null for a native view
 
 private:

@@ -7,7 +7,7 @@
 
 namespace brimshade::desktop {
 
-// One of the program's windows as its frame in the scene shows it. Display space. Main thread.
+// One of the program's windows, as shown by its frame in the scene. Display space. Main thread.
 class WindowState : public QObject {
     Q_OBJECT
     QML_ELEMENT
