@@ -2,8 +2,8 @@
 #include <benchmark/benchmark.h>
 #include <chrono>
 
-// Times a piece of work and its reference in turns, so that a noisy machine disturbs both alike. The time of the
-// row is the work's own; beside it stand the reference's and how many times the reference the work took.
+// Times a piece of work and its reference in turns, so that a noisy machine disturbs both alike. The row's time is the
+// work's own; beside it stand the reference's time and the ratio of the two.
 namespace brimshade::bench {
 
 template <typename Work> double secondsOf(const Work &work)
@@ -13,7 +13,7 @@ template <typename Work> double secondsOf(const Work &work)
     return std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
 }
 
-// The benchmark says UseManualTime(). Both are called with the number of the turn.
+// The benchmark must use UseManualTime(). Both functions are called with the number of the turn.
 template <typename Work, typename Reference>
 void runPaired(benchmark::State &state, const Work &work, const Reference &reference)
 {

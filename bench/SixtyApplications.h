@@ -3,7 +3,7 @@
 
 namespace brimshade::bench {
 
-// With one item each, and onboarding behind them.
+// Sixty applications with one item each; onboarding is done.
 inline desktop::DesktopDescription sixtyApplications(const desktop::ScreenDescription &screen)
 {
     using namespace Qt::StringLiterals;

@@ -1,5 +1,5 @@
-// Frames of the panel's opening and closing on the software renderer, beside a scene of plain moving rectangles and
-// text of the same number and size: what the toolkit itself costs.
+// Frames of the panel's opening and closing on the software renderer, compared with a scene of as many plain moving
+// rectangles and texts of the same size: what the toolkit itself costs.
 #include "OffscreenScene.h"
 #include "PanelScene.h"
 
@@ -16,12 +16,12 @@ using namespace brimshade;
 
 namespace {
 
-constexpr int kFrames = 72; // of a 60th of a second: every spring of the opening has ended by then
+constexpr int kFrames = 72; // of 1/60 s each: by then every spring of the opening has ended
 constexpr int kClosingFrames = 24; // the same
 constexpr int kRounds = 12;
 
 struct Canvas {
-    const char *name; // as an argument
+    const char *name; // on the command line
     QSize size; // points
     double scale;
 };
@@ -29,7 +29,8 @@ struct Canvas {
 // The panel's own window at both scales, and one as large as a screen of 3840 by 2160 pixels.
 constexpr Canvas kCanvases[] = {{"1", {1000, 720}, 1}, {"2", {1000, 720}, 2}, {"4k", {1920, 1080}, 2}};
 
-// Milliseconds of each frame: on the clock, and of this process's processor time, which a busy machine hardly changes.
+// Milliseconds of each frame: by the clock, and of this process's processor time, which hardly depends on how busy the
+// machine is.
 struct Times {
     std::vector<double> clock;
     std::vector<double> processor;
@@ -54,7 +55,7 @@ double percentile(std::vector<double> times, double share)
     return times[std::min(times.size() - 1, std::size_t(share * double(times.size())))];
 }
 
-// Advances the clock by one frame, then evaluates, synchronises and renders it; all of that is timed.
+// Advances the clock by one frame, then evaluates, synchronises and renders it; times all of that.
 Times renderFrames(ui::OffscreenScene &scene, int frames = kFrames)
 {
     Times times;
@@ -86,7 +87,7 @@ Motions motions(const Canvas &canvas)
         panel.model.setIsOpen(false);
         const Times closing = renderFrames(panel.scene, kClosingFrames);
         panel.finishMotion();
-        if (round == 0) // draws every picture once
+        if (round == 0) // which draws every picture once
             continue;
         motions.opening.append(opening);
         motions.closing.append(closing);

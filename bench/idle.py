@@ -1,7 +1,7 @@
 #!/usr/bin/env python3
 """bench/idle.py PROGRAM [SECONDS]: what the program costs while its panel is closed and nothing happens.
 
-The reference is a process of cat that waits for input over the same time: it is woken by nothing at all."""
+The reference is a cat process that waits for input during the same time: nothing ever wakes it."""
 import subprocess
 import sys
 import time
@@ -9,7 +9,7 @@ import time
 from display import private_display
 from usage import cpu_seconds, wakeups, wakeups_between
 
-SETTLE = 5  # seconds for start-up: launch, first frames, the divider's measurements
+SETTLE = 5  # seconds for startup: launch, first frames, the divider's measurements
 
 
 def main(program, seconds=60.0):

@@ -1,5 +1,5 @@
-// From a key to the new lists and the new size of the panel, for many items. The reference is the toolkit's own filter
-// model over the same names, given the same words.
+// From a keystroke to the panel's new lists and size, with many items. The reference is the toolkit's own filter model
+// over the same names, with the same words.
 #include "Paired.h"
 #include "model/NotchModel.h"
 #include "platform/LoginItems.h"
@@ -42,7 +42,7 @@ menubar::ExtraList manyItems(int count)
     return extras;
 }
 
-// A person who types: from many results to few, to none, and back to all.
+// What a person types: from many results to few, to none, and back to all.
 const QString &typed(int turn)
 {
     static const QStringList queries{u"b"_s, u"ba"_s, u"bat"_s, u"batt"_s, u"café"_s, u"status"_s, u"zzz"_s, u""_s};

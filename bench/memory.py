@@ -1,7 +1,7 @@
 #!/usr/bin/env python3
 """bench/memory.py PROGRAM: resident memory over 100 openings of the panel, in virtual time.
 
-The reference is the same process after its tenth opening: what grows from there on is a leak."""
+The reference is the same process after its tenth opening: any growth after that is a leak."""
 import json
 import subprocess
 import sys

@@ -1,6 +1,6 @@
 // One move of an item across the divider, shown and hidden in turn, from the request to the model's all-clear, in real
-// time and with a window that draws every jump of the pointer. The reference sleeps the move's prescribed pauses, one
-// by one, as nothing can be faster.
+// time and with a window that draws every jump of the pointer. The reference sleeps for the move's prescribed pauses,
+// one by one, since no move can be faster.
 #include "Paired.h"
 #include "SixtyApplications.h"
 #include "app/AppDelegate.h"
@@ -21,7 +21,7 @@ constexpr int kDragSteps = 40;
 
 desktop::DesktopDescription dividedDesktop()
 {
-    // Wide enough that all items find room right of the notch, so that each can be hidden and shown.
+    // Wide enough for all items right of the notch, so that each can be hidden and shown.
     auto description =
         bench::sixtyApplications({u"Built-in Display"_s, QRectF(0, 0, 5120, 1440), 37, 37, std::pair(2467.0, 2653.0)});
     description.defaults.insert(u"dividerEnabled"_s, true);
@@ -49,7 +49,7 @@ void waitUntil(model::NotchModel &model, void (model::NotchModel::*changed)(), c
 void sleepPrescribedPauses()
 {
     const auto sleep = [](double seconds) { std::this_thread::sleep_for(std::chrono::duration<double>(seconds)); };
-    for (const double seconds : {0.35, 0.45, 0.04, 0.35}) // the panel's leave, the collapse, the first two events
+    for (const double seconds : {0.35, 0.45, 0.04, 0.35}) // the panel's closing, the collapse, the first two events
         sleep(seconds);
     for (int i = 0; i < kDragSteps; ++i)
         sleep(0.02);
@@ -96,7 +96,7 @@ private:
     QString m_id;
 };
 
-// On a thread of its own, as the mover's are: meanwhile the desktop settles for the next move.
+// On a thread of its own, like the mover's pauses; meanwhile the desktop settles for the next move.
 void reference()
 {
     QEventLoop loop;

@@ -1,7 +1,7 @@
-// From the click on the icon to the first frame that has the tiles of 60 items in it, in a real window. The tiles' own
-// entrance, which begins 0.07 s after the opening by design, is not waited for: the frame counts in which all of them
-// are laid out and drawn in their first state. Prints milliseconds, one opening a line, the first after the launch
-// first.
+// From the click on the icon to the first frame that has the tiles of 60 items in it, in a real window. It does not
+// wait for the tiles' own entrance, which by design begins 0.07 s after the opening: the frame that counts is the one
+// in which all of them are laid out and drawn in their first state. Prints milliseconds, one line per opening, the
+// first one after the launch first.
 #include "SixtyApplications.h"
 #include "app/AppDelegate.h"
 #include "composition/Session.h"

@@ -1,8 +1,8 @@
 #!/usr/bin/env python3
 """bench/open_latency.py BUILD: from the click to the first frame with the tiles of 60 items, beside rofi.
 
-The reference is `rofi -dmenu` with 60 lines, from its start to its mapped window, on the same display. Each is
-measured several times, in turns. The first opening after a launch is told apart."""
+The reference is `rofi -dmenu` with 60 lines, from its start to its mapped window, on the same display. Each is measured
+several times, in turns. The first opening after a launch is reported separately."""
 import pathlib
 import statistics
 import subprocess

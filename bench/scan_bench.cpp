@@ -1,6 +1,6 @@
-// A scan of a full menu bar. The reference is the bare attribute reads that a scan cannot do without, in the same order
-// and with nothing made of them, one application after the other. Of applications that hang or are slow, a scan's time
-// is that of one of them, and its limit.
+// A scan of a full menu bar. The reference is the bare attribute reads that a scan cannot do without, in the same
+// order, one application after the other, with their results unused. With applications that hang or are slow, a scan
+// should take as long as one of them does, which is its limit.
 #include "Paired.h"
 #include "desktop/core/Desktop.h"
 #include "desktop/time/RealDispatch.h"
@@ -67,7 +67,7 @@ desktop::DesktopDescription fullBar(double latency)
     return description;
 }
 
-// The reads of a scan, as a scan makes them, and nothing else.
+// The reads of a scan in a scan's order, and nothing else.
 class BareReads {
 public:
     explicit BareReads(const platform::Platform &platform) : m_platform(platform) { }
@@ -122,8 +122,8 @@ void check(benchmark::State &state, std::size_t found, std::size_t expected)
         state.SkipWithError("the scan did not find every item");
 }
 
-// latency is what each read takes besides, in seconds: none shows the scan's own work, a tenth of a millisecond how it
-// stands beside reads that cross to another process.
+// latency is the extra time of each read, in seconds: without any, the scan's own work shows; with a tenth of a
+// millisecond, how it compares with reads that cross to another process.
 void scan(benchmark::State &state, double latency)
 {
     desktop::RealDispatch dispatch;
@@ -133,7 +133,7 @@ void scan(benchmark::State &state, double latency)
     menubar::MenuBarAccess access(platform);
     BareReads reads(platform);
     const platform::Screen screen = platform.screens.screens().front();
-    // The main thread never waits for an answer.
+    // Off the main thread, whose reads never wait for an answer.
     std::jthread([&] {
         check(state, access.scan(screen, std::nullopt).size(), kApplications * kItemsEach); // and fills the icon cache
         bench::runPaired(
@@ -147,7 +147,7 @@ BENCHMARK_CAPTURE(scan, process, 0.0001)->UseManualTime()->Iterations(5)->Unit(b
 struct Trouble {
     desktop::DesktopDescription desktop;
     double limit; // seconds
-    std::size_t items; // that are found nevertheless
+    std::size_t items; // found nevertheless
 };
 
 Trouble eightThatHang()
@@ -158,7 +158,7 @@ Trouble eightThatHang()
     return trouble;
 }
 
-// A tenth of a second for each read: the bar, its children, and six for an item.
+// A tenth of a second for each read: the bar, its children, and six per item.
 Trouble fourThatAreSlow()
 {
     Trouble trouble{notchedDesktop(), 2, 12};
@@ -169,8 +169,8 @@ Trouble fourThatAreSlow()
     return trouble;
 }
 
-// Runs a scan off the main thread; turn gives the main thread and the clock their turn until it is done. Answers the
-// seconds of the dispatch's own clock.
+// Runs a scan off the main thread, and calls turn until it is done to run the main thread and the clock. Returns the
+// seconds by the dispatch's own clock.
 template <typename Turn>
 double scanTroubled(benchmark::State &state, platform::Dispatch &dispatch, const Trouble &trouble, const Turn &turn)
 {

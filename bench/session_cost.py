@@ -14,7 +14,7 @@ from lib.sway import Sway
 
 ITEMS = 20
 OPENINGS = 100
-ESCAPE = 53  # as a virtual key code
+ESCAPE = 53  # the Mac's virtual key code
 WAYBAR = '{"modules-right": ["tray", "clock"]}'
 
 
@@ -23,7 +23,8 @@ def memory(pid):
 
 
 def cpu_of(brimshade, command, arguments, shown):
-    """Until the panel has come to rest; asking for the state afterwards costs as much as some frames and is not counted."""
+    """CPU seconds until the panel is at rest; asking for the state afterwards costs as much as some frames and is not
+    counted."""
     before = cpu_seconds(brimshade.pid)
     brimshade.do(command, **arguments)
     brimshade.do("advance", seconds=1)
@@ -38,7 +39,7 @@ def measure_openings(brimshade, pid):
         opening.append(cpu_of(brimshade, "click", {"at": brimshade.icon()}, True))
         closing.append(cpu_of(brimshade, "key", {"code": ESCAPE}, False))  # the panel covers the icon
         if number in (10, OPENINGS):
-            brimshade.do("advance", seconds=3)  # it gives memory back once it has been closed for a while
+            brimshade.do("advance", seconds=3)  # it frees memory once it has been closed for a while
             sizes[number] = (resident_kib(pid), private_dirty_kib(pid))
     for name, of in (("resident", 0), ("private dirty", 1)):
         tenth, last = sizes[10][of], sizes[OPENINGS][of]

@@ -1,9 +1,9 @@
 #!/usr/bin/env python3
-"""bench/session_latency.py BUILD [ROUNDS]: from the D-Bus call to the first frame of the display that shows the panel, with 60
-tray items: under sway at 240 Hz beside fuzzel and tofi, under openbox beside rofi.
+"""bench/session_latency.py BUILD [ROUNDS]: from the D-Bus call to the first frame of the display that shows the panel,
+with 60 tray items: under sway at 240 Hz beside fuzzel and tofi, under openbox beside rofi.
 
-All are measured in turns, the references from their start to the first frame that shows them, with 60 lines to choose from.
-The first opening after a launch is told apart."""
+All are measured in turns, the references from their start to the first frame that shows them, with 60 lines to choose
+from. The first opening after a launch is reported separately."""
 import contextlib
 import json
 import os
@@ -21,7 +21,7 @@ from lib.x11 import X11
 
 ITEMS = 60
 LAUNCHES = 5
-MODE = "1512x982@240Hz"  # the frame clock is not what is measured
+MODE = "1512x982@240Hz"  # so fast that the frame clock is not what is measured
 
 
 def start(session, *command, **options):
@@ -49,14 +49,14 @@ class Meter:
 
 @contextlib.contextmanager
 def living(session, build, count=ITEMS):
-    """Brimshade with so many items in its bar, and its end."""
+    """Runs Brimshade with that many items in its bar, and ends it afterwards."""
     brimshade = Brimshade(session, build / "bin" / "brimshade")
     brimshade.until("the bar", lambda state: state["statusItem"])
     items, lines = start(session, "/usr/bin/python3", root / "tests/support/mock_item.py", json.dumps({"count": count}),
                          stdin=subprocess.PIPE)
     lines.next("the items")
     brimshade.until("all items", lambda state: len(state["menuBar"]) >= count + 1)
-    brimshade.do("advance", seconds=2)  # a person does not open it sooner
+    brimshade.do("advance", seconds=2)  # no person would open it sooner
     yield brimshade
     brimshade.process.stdin.close()
     session.wait_for_end(brimshade.process, "the end of Brimshade")

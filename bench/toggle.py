@@ -1,8 +1,8 @@
 #!/usr/bin/env python3
-"""bench/toggle.py BUILD: what a key binding waits for, `brimshade --toggle` until it is answered.
+"""bench/toggle.py BUILD: how long a key binding takes, that is `brimshade --toggle` until it is answered.
 
-The reference is the start of the whole program, as far as its version: what --toggle would cost without a launcher. Both
-are measured in turns; a stand-in on a bus of its own answers."""
+The reference is starting the whole program up to printing its version: what --toggle would cost without a launcher.
+Both are measured in turns; a stand-in on a bus of its own answers."""
 import os
 import pathlib
 import statistics

@@ -1,8 +1,8 @@
 #!/usr/bin/env python3
-"""bench/tray_answers.py PROGRAM: how long a script waits for an answer while the icons of a tray item are looked for.
+"""bench/tray_answers.py PROGRAM: how long a script waits for an answer while a tray item's icons are looked for.
 
-The item names a folder as large as /usr for its icon, or /usr/share for 200 icons of its menu that are nowhere. No answer
-may take longer than a tenth of a second; the reference is the same wait before the item comes."""
+The item names a folder as large as /usr for its icon, or /usr/share for 200 icons of its menu that do not exist. No
+answer may take longer than a tenth of a second; the reference is the same wait before the item appears."""
 import pathlib
 import subprocess
 import sys

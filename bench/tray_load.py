@@ -1,9 +1,9 @@
 #!/usr/bin/env python3
-"""bench/tray_load.py PROGRAM: what busy tray items cost a session's bar whose panel is closed, and what 200 openings of a
-tray item's menu leave in memory.
+"""bench/tray_load.py PROGRAM: what busy tray items cost a session's bar whose panel is closed, and what 200 openings of
+a tray item's menu leave in memory.
 
 Ten items of our own draw a new icon ten times a second each: items of the bus, then windows docked into the X server's
-tray. The reference is the same program with ten items that rest, and for the memory the process after its twentieth
+tray. The reference is the same program with ten items at rest and, for the memory, the process after its twentieth
 opening."""
 import json
 import pathlib

@@ -27,10 +27,11 @@ def cpu_seconds(pid):
 
 
 def wakeups(pid):
-    """Voluntary context switches by thread: each is one time that something woke it."""
+    """Voluntary context switches by thread: each means that something woke it."""
     return {thread: status(f"{pid}/task/{thread}", "voluntary_ctxt_switches") for thread in os.listdir(f"/proc/{pid}/task")}
 
 
 def wakeups_between(before, after):
-    """By thread, as a thread that ended takes its count with it: a new one counts whole, an ended one not at all."""
+    """Compared by thread, because an ended thread's count is lost: a new thread counts in full, an ended one not at
+    all."""
     return sum(count - before.get(thread, 0) for thread, count in after.items())

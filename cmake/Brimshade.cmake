@@ -1,19 +1,18 @@
-# What every target of the project shares. One folder is one library; another folder's headers are found as
-# "folder/Header.h", and only by those that link it: a library's public include path is a folder that holds nothing but a
-# link to its sources.
+# What all targets of the project share. One folder is one library; its headers are found as "folder/Header.h", and only
+# by those that link it: a library's public include path is a folder that holds nothing but a link to its sources.
 #
-# The link lines are the one table of who may use whom. A folder links what its sources include: PUBLIC what a header of
-# its own includes, PRIVATE the rest. They are written to links.json in the build folder, where tools/rules reads them.
+# The link lines are the only table of who may use whom. A folder links what its sources include: PUBLIC what its own
+# headers include, PRIVATE the rest. They are written to links.json in the build folder, where tools/rules reads them.
 
 add_library(brimshade_options INTERFACE)
-# What a newer Qt deprecates may be all that the oldest one has.
+# Deprecation is no error: the oldest Qt may have nothing but what a newer one deprecates.
 target_compile_options(brimshade_options INTERFACE -Wall -Wextra -Wpedantic
   $<$<BOOL:${BRIMSHADE_WARNINGS_ARE_ERRORS}>:-Werror> -Wno-error=deprecated-declarations -Wnon-virtual-dtor
   -Woverloaded-virtual)
 target_compile_definitions(brimshade_options INTERFACE QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII QT_NO_KEYWORDS
                                                        QT_NO_FOREACH QT_STRICT_ITERATORS)
 if(BRIMSHADE_SANITIZER)
-  # The linker is asked for what only the sanitizer's library calls.
+  # Keeps our options in the program although only the sanitizer's library calls them.
   target_compile_options(brimshade_options INTERFACE -fsanitize=${BRIMSHADE_SANITIZER} -fno-sanitize-recover=undefined
                          $<$<CXX_COMPILER_ID:GNU>:-Wno-maybe-uninitialized>)
   target_link_options(brimshade_options INTERFACE -fsanitize=${BRIMSHADE_SANITIZER} LINKER:-u,__asan_default_options)
@@ -44,7 +43,7 @@ function(_brimshade_note_links owner target module public private)
     "  { \"owner\": \"${owner}\", \"target\": \"${target}\", \"module\": \"${module}\",\n    \"public\": [${public}], \"private\": [${private}] }")
 endfunction()
 
-# After the last library.
+# Call it after the last library.
 function(brimshade_write_links)
   get_property(links GLOBAL PROPERTY BRIMSHADE_LINKS)
   list(JOIN links ",\n" text)
@@ -52,7 +51,7 @@ function(brimshade_write_links)
 endfunction()
 
 # brimshade_library(desktop/time MOC SOURCES … PUBLIC … PRIVATE …): the library of that folder, brimshade_desktop_time.
-# MOC where a class of it has Q_OBJECT, Q_GADGET or a like macro.
+# MOC if one of its classes has Q_OBJECT, Q_GADGET or a similar macro.
 function(brimshade_library folder)
   cmake_parse_arguments(arg "MOC" "" "SOURCES;PUBLIC;PRIVATE" ${ARGN})
   string(REPLACE "/" "_" name ${folder})
@@ -65,14 +64,14 @@ function(brimshade_library folder)
 endfunction()
 
 # brimshade_qml_module(panel URI Brimshade.Panel QML_FILES … SOURCES … PUBLIC … PRIVATE …): the same as a static QML
-# module. Whoever runs it links brimshade_panelplugin and says Q_IMPORT_QML_PLUGIN(Brimshade_PanelPlugin).
+# module. A program that uses it links brimshade_panelplugin and has Q_IMPORT_QML_PLUGIN(Brimshade_PanelPlugin).
 function(brimshade_qml_module folder)
   cmake_parse_arguments(arg "" "URI" "SOURCES;PUBLIC;PRIVATE;QML_FILES;IMPORTS;RESOURCES" ${ARGN})
   string(REPLACE "." "/" path ${arg_URI})
   string(REPLACE "/" "_" name ${folder})
   set(cachegen)
   if(NOT CMAKE_BUILD_TYPE STREQUAL "Release")
-    set(cachegen NO_CACHEGEN) # ahead-of-time compilation of QML is for the program that people run
+    set(cachegen NO_CACHEGEN) # only the program that people run needs QML compiled ahead of time
   endif()
   set(target brimshade_${name})
   qt_add_library(${target} STATIC)
@@ -97,7 +96,8 @@ function(brimshade_program name source)
   _brimshade_note_links(${source} ${name} "" "" "${arg_LINK}")
 endfunction()
 
-# Every test has the build folder's home instead of the user's, and none of the session in which it is started.
+# Every test has a home in the build folder instead of the user's, and sees nothing of the session in which it is
+# started.
 set(BRIMSHADE_TEST_HOME ${CMAKE_BINARY_DIR}/tests/home)
 file(MAKE_DIRECTORY ${BRIMSHADE_TEST_HOME}/runtime)
 file(CHMOD ${BRIMSHADE_TEST_HOME}/runtime PERMISSIONS OWNER_READ OWNER_WRITE OWNER_EXECUTE)
@@ -109,11 +109,11 @@ function(_brimshade_test_properties name)
       "XDG_CACHE_HOME=unset:;XDG_CONFIG_HOME=unset:;XDG_DATA_HOME=unset:;XDG_STATE_HOME=unset:;DISPLAY=unset:;WAYLAND_DISPLAY=unset:;DBUS_SESSION_BUS_ADDRESS=unset:")
 endfunction()
 
-# Those that the thread sanitizer runs.
+# The tests that run under the thread sanitizer.
 add_custom_target(threaded_tests)
 
-# brimshade_test(model MOC SOURCES … LINK …): a GoogleTest program "model_test", which is one ctest entry.
-# NO_MAIN when the sources bring a main of their own. THREADED where threads meet in real time.
+# brimshade_test(model MOC SOURCES … LINK …): a GoogleTest program "model_test", which is one ctest entry. NO_MAIN if
+# the sources have a main of their own. THREADED if threads meet in real time.
 function(brimshade_test name)
   cmake_parse_arguments(arg "MOC;NO_MAIN;THREADED" "" "SOURCES;LINK" ${ARGN})
   add_executable(${name}_test ${arg_SOURCES})

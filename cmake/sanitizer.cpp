@@ -1,5 +1,5 @@
-// What a sanitized program goes by in whatever environment it is started: many tests start it in one of their own,
-// where nobody reads its errors.
+// A sanitized program's options, whatever environment it is started in: many tests give it one of their own, where
+// nobody reads its errors.
 #ifdef BRIMSHADE_REPORTS
 #define LOG "log_path=" BRIMSHADE_REPORTS "/report"
 #else
@@ -28,7 +28,7 @@ const char *__lsan_default_options()
     return "print_suppressions=0";
 }
 
-// None of our own.
+// None of these is ours.
 const char *__lsan_default_suppressions()
 {
     // Qt 6.4 keeps the surface with which a render control looks for OpenGL before it settles for the software

@@ -4,7 +4,7 @@
 
 namespace brimshade::fuzz {
 
-// What holds for every input. libFuzzer takes an abort for a crash and keeps the input.
+// Checks what must hold for every input. libFuzzer treats an abort as a crash and keeps the input.
 inline void expect(bool holds, const char *what)
 {
     if (holds)

@@ -5,8 +5,8 @@
 
 namespace brimshade::fuzz {
 
-// Any plain value of the bus (desktop/tray/WireValue.h), written as CBOR: it is as easily broken as the bus's own
-// format, and no bus is needed to read it.
+// Any plain value of the bus (desktop/tray/WireValue.h), written as CBOR: it can be corrupted as easily as the bus's
+// own format, and reading it needs no bus.
 inline QVariant plainValue(const QCborValue &value)
 {
     if (value.isInteger()) {
@@ -28,7 +28,7 @@ inline QVariant plainValue(const QCborValue &value)
     return value.toVariant();
 }
 
-// Nothing of what is no CBOR.
+// Invalid for anything that is not CBOR.
 inline QVariant plainValue(const std::uint8_t *data, std::size_t size)
 {
     QCborParserError error;

@@ -1,4 +1,4 @@
-// The bar file. What it says is taken into a bar, whose order is then written.
+// The bar file. Its content is restored into a bar, whose order is then written.
 #include "Expect.h"
 #include "desktop/core/KeptOrderFormat.h"
 

@@ -1,4 +1,4 @@
-// Desktop entries as they are read of installed programs and of the session's autostart folders.
+// Desktop entries, read as those of installed programs and as those in the session's autostart folders.
 #include "Expect.h"
 #include "desktop/services/AutostartEntry.h"
 #include "desktop/services/DesktopEntry.h"
@@ -9,7 +9,7 @@ using namespace brimshade;
 
 namespace {
 
-// Of one line, as a value is.
+// text: one line, as values are.
 bool comesBack(const QString &text)
 {
     const QByteArray content = "[Desktop Entry]\nName=" + desktop::escaped(text).toUtf8();

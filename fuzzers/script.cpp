@@ -1,4 +1,4 @@
-// Scripts of any number of lines, carried out before a small desktop of their own that nobody draws.
+// Scripts of any number of lines, each run against a small desktop of its own that is never drawn.
 #include "Expect.h"
 #include "desktop/core/Desktop.h"
 #include "desktop/core/InputRouter.h"
@@ -22,7 +22,7 @@ constexpr auto kDesktop = R"({
     "screens": [{"frame": [0, 0, 1512, 982], "menuBarHeight": 37, "notch": [664, 848]}],
     "applications": [{"pid": 100, "name": "One", "extras": [{"width": 30, "menu": ["About", "-", "Quit"]}]}]})";
 
-// Hands without a window: what they do goes to the desktop as it is.
+// Hands without a window: what they do goes straight to the desktop.
 class Hands : public desktop::ScriptHost {
 public:
     explicit Hands(desktop::InputRouter &input) : m_input(input) { }

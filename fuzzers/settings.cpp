@@ -1,4 +1,4 @@
-// The settings file, and the settings as the program takes them from it.
+// The settings file, and the settings that the program reads from it.
 #include "Expect.h"
 #include "desktop/services/MemoryDefaults.h"
 #include "desktop/services/ScriptedLoginItem.h"

@@ -1,5 +1,5 @@
-// Whole messages of the bus: what libdbus lets through goes over a real connection, is unpacked, and is read as the
-// properties of an item and as a menu.
+// Whole messages of the bus: those that libdbus accepts go over a real connection, are unpacked, and are read as an
+// item's properties and as a menu.
 #include "Expect.h"
 #include "desktop/tray/MenuLayout.h"
 #include "desktop/tray/Pixmap.h"
@@ -22,7 +22,7 @@ using namespace brimshade;
 
 namespace {
 
-constexpr auto kMarker = "/marker"; // behind every message; libdbus keeps their order
+constexpr auto kMarker = "/marker"; // sent after every message; libdbus keeps their order
 constexpr int kDeadline = 5000; // milliseconds
 
 void read(const QVariantList &wire)
@@ -37,7 +37,7 @@ void read(const QVariantList &wire)
     }
 }
 
-// Takes every call.
+// Accepts every call.
 class Receiver : public QDBusVirtualObject {
 public:
     std::function<void()> onMarker;

@@ -1,6 +1,6 @@
-"""Looks at sources as a build folder compiles them, those of a library that are compiled alike together, as one
-translation unit: most of the time goes into Qt's headers, which are read once then. A group that passed is not looked at
-again until it, a header, or what it is looked at with changes."""
+"""Checks sources with the options that a build folder compiles them with. Sources of a library that share their options
+are checked together, as one translation unit: most of the time goes into Qt's headers, which are then read only once. A
+group that has passed is not checked again until it, a header, or the check itself changes."""
 import collections
 import concurrent.futures
 import hashlib
@@ -10,7 +10,7 @@ import pathlib
 import re
 import subprocess
 
-LARGEST = 12  # sources in a group
+LARGEST = 12  # most sources in a group
 
 
 def tracked(root, *patterns):
@@ -20,14 +20,14 @@ def tracked(root, *patterns):
 
 
 def command_of(entry):
-    """Without the source and its object, in clang's words."""
+    """The command without the source and its object, in clang's spelling."""
     command = re.sub(r" -o \S+ -c \S+", "", entry["command"])
     return command.replace("-std=c++23", "-std=c++2b")
 
 
 def groups(build, wanted):
-    """(command, files) of those sources."""
-    alike = collections.defaultdict(set)  # one that several programs compile counts once
+    """Yields (command, files) for those sources."""
+    alike = collections.defaultdict(set)  # a source that several programs compile counts once
     for entry in json.loads((build / "compile_commands.json").read_text()):
         if entry["file"] in wanted:
             alike[command_of(entry)].add(entry["file"])
@@ -45,7 +45,7 @@ def digest_of(*paths):
 
 
 def look(work, command, files, common, prelude, find_faults):
-    """What find_faults(unit, command) says of the group's one source; nothing when it has passed before."""
+    """What find_faults(unit, command) says about the group as one source; nothing if it has passed before."""
     key = common.copy()
     key.update(command.encode())
     for path in files:
@@ -63,7 +63,7 @@ def look(work, command, files, common, prelude, find_faults):
 
 
 def look_at_all(work, all_groups, common, prelude, find_faults):
-    """Prints the faults; the exit status."""
+    """Prints the faults and returns the exit status."""
     with concurrent.futures.ThreadPoolExecutor(os.cpu_count()) as pool:
         texts = list(pool.map(lambda group: look(work, *group, common, prelude, find_faults), all_groups))
     print("".join(texts), end="")

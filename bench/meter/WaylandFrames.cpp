@@ -32,7 +32,7 @@ private:
     wl_output *m_output = nullptr;
     zwlr_screencopy_manager_v1 *m_manager = nullptr;
     wl_buffer *m_buffer = nullptr;
-    bool m_isAsked = false; // the compositor answers with the next frame that differs
+    bool m_isAsked = false; // the compositor will answer with the next frame that differs
     bool m_hasCome = false;
     long m_area = 0;
 };
@@ -89,7 +89,7 @@ void WaylandFrames::ask()
             static_cast<WaylandFrames *>(self)->m_hasCome = true;
             zwlr_screencopy_frame_v1_destroy(frame);
         },
-        [](void *self, zwlr_screencopy_frame_v1 *frame) { // the output changed in between: the whole frame came
+        [](void *self, zwlr_screencopy_frame_v1 *frame) { // failed, as the output changed meanwhile: a frame
             static_cast<WaylandFrames *>(self)->m_hasCome = true;
             zwlr_screencopy_frame_v1_destroy(frame);
         },
@@ -102,7 +102,7 @@ void WaylandFrames::ask()
     m_area = 0;
     zwlr_screencopy_frame_v1_add_listener(zwlr_screencopy_manager_v1_capture_output(m_manager, 0, m_output), &kListener,
                                           this);
-    wl_display_roundtrip(m_display); // the buffer's size has come, and the copy is asked for
+    wl_display_roundtrip(m_display); // the buffer's size has come and the copy has been requested
     wl_display_roundtrip(m_display);
 }
 

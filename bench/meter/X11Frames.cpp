@@ -36,7 +36,7 @@ private:
     xcb_connection_t *m_connection = nullptr;
     xcb_damage_damage_t m_damage = 0;
     std::uint8_t m_notify = 0;
-    Box m_changed; // since the screen was still: one frame comes in several pieces
+    Box m_changed; // since the screen was last still: a frame comes in several pieces
 };
 
 bool X11Frames::connect()

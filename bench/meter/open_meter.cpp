@@ -1,9 +1,9 @@
-// Measures how long a launcher or a panel takes until it is seen on a display, $WAYLAND_DISPLAY or else $DISPLAY. Reads
-// one command a line and answers with milliseconds, or with "never":
+// Measures how long it takes until a launcher or a panel is seen on a display, $WAYLAND_DISPLAY or else $DISPLAY. Reads
+// one command per line and answers with milliseconds, or with "never":
 //     call ACTION      asks the Brimshade of the session's message bus
-//     exec WORDS…      starts a program, with the file $METER_INPUT as its standard input, and ends it when it was seen
-// What it takes begins once the display has been still for a while, and ends with the first frame that changes a part
-// of some size: one that shows next to nothing does not count.
+//     exec WORDS…      starts a program, with the file $METER_INPUT as its standard input, and ends it once it is seen
+// The time starts once the display has been still for a while, and ends with the first frame that changes a sizeable
+// part: one that shows next to nothing does not count.
 #include "Frames.h"
 
 #include <chrono>
@@ -56,7 +56,7 @@ pid_t start(const std::string &line)
         arguments.push_back(word.data());
     arguments.push_back(nullptr);
     const char *input = std::getenv("METER_INPUT");
-    // It warns of what a bare session lacks.
+    // Hides the program's warnings about what a bare session lacks.
     if (std::freopen(input ? input : "/dev/null", "r", stdin) && std::freopen("/dev/null", "w", stderr))
         execvp(arguments[0], arguments.data());
     _exit(127);
@@ -78,7 +78,7 @@ int main()
     auto frames = std::getenv("WAYLAND_DISPLAY") ? waylandFrames() : x11Frames();
     DBusConnection *bus = dbus_bus_get_private(DBUS_BUS_SESSION, nullptr);
     if (!frames || !bus) {
-        std::cerr << "no display that tells of its frames, or no message bus\n";
+        std::cerr << "no display that reports its frames, or no message bus\n";
         return 1;
     }
     for (std::string line; std::getline(std::cin, line);) {

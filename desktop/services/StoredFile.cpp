@@ -69,7 +69,7 @@ bool readStored(const StoredFile &stored, const Report &report, const std::funct
     case Verdict::damaged:
         return putAside(stored, report);
     case Verdict::otherVersion:
-        say(stored, report, u"are another version's; they are left alone and changes are not saved"_s);
+        say(stored, report, u"are from another version; they are left alone and changes are not saved"_s);
         return false;
     }
     return false;

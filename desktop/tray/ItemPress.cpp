@@ -55,7 +55,7 @@ void ItemPress::timeOut()
     const bool isWaiting = m_isUnderWay;
     lapse();
     if (isWaiting && m_life.isHeard() && !isProgramBusy())
-        Q_EMIT message(u"its menu does not come"_s);
+        Q_EMIT message(u"its menu did not open in time"_s);
 }
 
 void ItemPress::menuIsReady()

@@ -55,7 +55,7 @@ void ItemRegistry::findWatcher()
             if (reply)
                 watcherChanged(reply->value(0).toString());
             else
-                Q_EMIT message(u"Tray: the bus does not give out the watcher's name"_s);
+                Q_EMIT message(u"Tray: the bus does not say who has the watcher's name"_s);
         });
     });
 }

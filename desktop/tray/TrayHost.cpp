@@ -40,7 +40,7 @@ TrayHost::TrayHost(Desktop &desktop, ConnectToBus connect, platform::Dispatch &d
         Q_EMIT message(text);
     });
     QObject::connect(&m_parts->bus, &BusLink::failed, this,
-                     [this] { Q_EMIT message(u"Tray: there is no session bus; its items come when there is one"_s); });
+                     [this] { Q_EMIT message(u"Tray: there is no session bus; items appear once there is one"_s); });
 }
 
 TrayHost::~TrayHost() = default;

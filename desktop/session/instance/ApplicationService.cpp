@@ -29,7 +29,7 @@ void ApplicationService::ActivateAction(const QString &name, const QVariantList 
     else if (name == QLatin1String(remote::kQuit))
         run(&Actions::quit);
     else
-        sendErrorReply(QDBusError::InvalidArgs, u"no such action; there are toggle, settings and quit"_s);
+        sendErrorReply(QDBusError::InvalidArgs, u"no such action; the actions are toggle, settings and quit"_s);
 }
 
 // On a later turn, so that the caller has its answer even if the action ends the program.

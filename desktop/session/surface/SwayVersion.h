@@ -9,7 +9,7 @@ namespace brimshade::desktop::session {
 // Sway's version, asked on its own socket without waiting. Main thread.
 class SwayVersion {
 public:
-    // The path in SWAYSOCK, and the connection to the compositor, which tells whether that is sway: another compositor
+    // The path in SWAYSOCK, and the connection to our compositor, which must be that very sway: another compositor
     // running inside sway inherits the variable.
     SwayVersion(const QString &socketPath, int compositor);
     ~SwayVersion();

@@ -72,7 +72,7 @@ std::expected<std::unique_ptr<WaylandGlobals>, QString> WaylandGlobals::bind(wl_
         return globals;
     return std::unexpected(
         u"this Wayland compositor does not offer %1, without which there is no menu bar; an X11 session "
-        "does without, and sway, labwc, Hyprland, river, wayfire and KWin offer it"_s.arg(missing));
+        "does not need it, and sway, labwc, Hyprland, river, wayfire and KWin offer it"_s.arg(missing));
 }
 
 void WaylandGlobals::add(std::uint32_t name, const char *interface, std::uint32_t version)

@@ -66,7 +66,7 @@ void TrayManager::begin()
     if (!m_x11)
         return; // without a display there is nothing left at all
     if (!hasExtensions(m_x11->xcb())) {
-        Q_EMIT message(u"Tray: the X server lacks what icons of the XEmbed tray need"_s);
+        Q_EMIT message(u"Tray: the X server lacks an extension that XEmbed tray icons need"_s);
         return;
     }
     askVersions(m_x11->xcb());

@@ -110,7 +110,7 @@ TEST_F(KeptOrderFileTest, ADamagedFileIsMovedAsideAndAnotherVersionsLeftAlone)
         EXPECT_EQ(bar.order(), u"| relay"_s);
         EXPECT_EQ(bar.messages,
                   QStringList{path
-                              + u": places of tray items are another version's; they are left alone "
+                              + u": places of tray items are from another version; they are left alone "
                                 "and changes are not saved"_s});
     }
     EXPECT_EQ(readFile(path), newer);

@@ -123,7 +123,7 @@ TEST_F(InstanceTest, RefusesWhatItCannotDo)
     run();
     EXPECT_EQ(call(kInterface, u"Open"_s, {QStringList{u"file:///x"_s}, QVariantMap()}).errorMessage(),
               u"Brimshade opens no files"_s);
-    EXPECT_EQ(activateAction(u"Quit"_s).errorMessage(), u"no such action; there are toggle, settings and quit"_s);
+    EXPECT_EQ(activateAction(u"Quit"_s).errorMessage(), u"no such action; the actions are toggle, settings and quit"_s);
     EXPECT_EQ(activateAction(u"quit"_s, {1}).errorMessage(), u"actions take no parameter"_s);
     EXPECT_EQ(call(kInterface, u"ActivateAction"_s, {u"quit"_s}).type(), QDBusMessage::ErrorMessage);
     EXPECT_THAT(done, ElementsAre());
