@@ -23,7 +23,7 @@ TEST(ItemName, MeansTheOneItemThatIsNamedSoTheClearestFirst)
         return found ? (*found)->id : found.error();
     };
     EXPECT_EQ(meant(u"keepassxc"_s), u"KeePassXC - locked"_s);
-    EXPECT_EQ(meant(u"network"_s), u"Network"_s); // whole before the part of another one
+    EXPECT_EQ(meant(u"network"_s), u"Network"_s); // a whole name beats a part of another one
     EXPECT_EQ(meant(u"usage"_s), u"Network Usage"_s);
     EXPECT_EQ(meant(u"Monitor"_s), u"several items are named \"Monitor\": Network Usage (Monitor), CPU (Monitor)"_s);
     EXPECT_EQ(meant(u"wifi"_s), u"no item is named \"wifi\""_s);

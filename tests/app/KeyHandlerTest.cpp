@@ -11,7 +11,7 @@ protected:
     int closings = 0;
     KeyHandler keys{model, [this] { ++closings; }};
 
-    // Whether the key was taken.
+    // Returns whether the key was taken.
     bool press(std::uint16_t code, const QString &characters = {}, std::uint64_t flags = 0)
     {
         return !keys.handle({platform::keyDown, flags, code, characters}).has_value();
@@ -30,10 +30,10 @@ protected:
 
 TEST_F(Keys, TypesLettersMarksNumbersPunctuationAndBlanks)
 {
-    // A letter beyond the basic plane among them.
+    // Including a letter beyond the basic plane.
     const QStringList taken{u"a"_s, u"e\u0301"_s, u"٣"_s, u"½"_s,      u"\U00010400"_s,
                             u"-"_s, u"…"_s,       u" "_s, u"\u3000"_s, u"\t"_s};
-    // A function key, half a character, and all of a text or nothing.
+    // A function key and half a character; a text is taken as a whole or not at all.
     const QStringList refused{
         u"\n"_s, u"\u2028"_s, u"a\n"_s, u"+"_s, u"€"_s, u"😀"_s, u"\uF704"_s, QString(QChar(0xD800)), u""_s};
     const auto expect = [&](const QString &characters, std::uint64_t flags, bool isTaken) {

@@ -18,7 +18,7 @@ TEST(ScanQueue, JoinsWaitingScansButNeverAcrossAMove)
         };
     };
     queue.scan(lasting("a"));
-    dispatch.runDue(); // it has begun
+    dispatch.runDue(); // the scan has begun
     queue.scan(lasting("b"));
     queue.scan(lasting("c"));
     queue.move(lasting("move"));

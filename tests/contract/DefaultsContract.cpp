@@ -23,7 +23,7 @@ TEST_F(DefaultsContract, TellsTypesApartAndWritesAreVisibleAtOnce)
     EXPECT_EQ(defaults.objectForKey(u"place"_s).toLongLong(), 5);
     defaults.setObject(u"optionCommandN"_s, u"shortcut"_s);
     EXPECT_EQ(defaults.stringForKey(u"shortcut"_s), u"optionCommandN"_s);
-    EXPECT_FALSE(defaults.boolForKey(u"shortcut"_s)) << "text that says nothing about yes or no";
+    EXPECT_FALSE(defaults.boolForKey(u"shortcut"_s)) << "the text means neither yes nor no";
     defaults.setObject(u"text"_s, u"flag"_s);
     EXPECT_EQ(defaults.objectForKey(u"flag"_s).typeId(), QMetaType::QString) << "the latest value's type";
 }
@@ -42,7 +42,7 @@ TEST_F(DefaultsContract, KeepsListsOfMapsAsTheyWere)
 
 TEST_F(DefaultsContract, ObserversHearOnlyWhatTheyAskedForInOrder)
 {
-    // Posted by nobody but the system: the order shows with an arrangement of screens.
+    // Only the system posts notifications, so a new arrangement of screens serves to show the order.
     std::string order;
     const auto name = QLatin1StringView(kNSApplicationDidChangeScreenParametersNotification);
     platform.notificationCenter.addObserver(name, nullptr, [&] { order += 'a'; });

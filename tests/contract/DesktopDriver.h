@@ -6,7 +6,7 @@
 
 namespace brimshade::contract {
 
-// The desktop of our own, in virtual time.
+// Our own desktop, in virtual time.
 class DesktopDriver : public Driver {
 public:
     platform::Platform platform() override { return m_on.desktop.platform(); }

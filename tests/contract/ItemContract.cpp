@@ -18,7 +18,7 @@ protected:
 
 TEST_F(ItemContract, WhatAnItemIsOutlivesItsProgramAndTellsItFromEveryOther)
 {
-    ASSERT_TRUE(platform.itemServices) << "of a system that knows more of items than Accessibility";
+    ASSERT_TRUE(platform.itemServices) << "a system that knows more about items than Accessibility has these";
     const int pid = driver->launch({{u"clip"_s}, {u"paste"_s}});
     driver->settleMenuBar();
     const auto elements = items(pid);

@@ -1,5 +1,5 @@
-// The suite in a real session: screens, windows and the hands that use them are the session's. Time is virtual there
-// too.
+// Runs the suite in a real session: screens, windows and the hands that use them are the session's. Time is virtual
+// here, too.
 #include "DesktopDriver.h"
 #include "desktop/session/SessionHost.h"
 #include "desktop/session/SessionScreens.h"
@@ -32,7 +32,7 @@ std::unique_ptr<ShellBackend> connected()
     return std::move(*shell);
 }
 
-// Before the desktop, which is described by them.
+// Created before the desktop, which they describe.
 struct SessionParts {
     std::unique_ptr<ShellBackend> shell = connected();
     SessionScreens screens{session::ScreenChoice()};

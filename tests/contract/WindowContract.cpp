@@ -76,7 +76,7 @@ TEST_F(WindowContract, MonitorsSeeOtherApplicationsEventsOrThisOnesByKind)
     late = platform.application.addGlobalMonitor(kLeftMouseDownMask, [&](const Event &) { heard << u"late"_s; });
     platform.application.removeMonitor(global);
     driver->click(emptySpot());
-    EXPECT_EQ(heard.size(), 3) << "not one that was removed meanwhile either";
+    EXPECT_EQ(heard.size(), 3) << "a monitor that was removed meanwhile does not hear it either";
     EXPECT_FALSE(platform.application.currentEventType());
 }
 
@@ -104,7 +104,7 @@ TEST_F(WindowContract, DescribesScreensConsistentlyAndAnnouncesAnotherArrangemen
     driver->changeScreens();
     driver->runDue();
     EXPECT_EQ(told, 1);
-    EXPECT_NE(whenTold, screens) << "it is in force when it is announced";
+    EXPECT_NE(whenTold, screens) << "the change is in force when it is announced";
 }
 
 TEST_F(WindowContract, PointerIsWhereEventsAndWarpsPutIt)

@@ -16,7 +16,7 @@ namespace brimshade::features {
 desktop::ApplicationDescription application(int pid, const QString &name, double width = 30);
 // The system's agent: the clock from 1372 to 1504, the control centre left of it from 1332.
 desktop::ApplicationDescription systemAgent();
-// A plain button of the system's agent at a fixed place, at which its other items seem to begin.
+// The agent with a plain button at a fixed place, where its other items seem to begin.
 desktop::ApplicationDescription agentWithButton(const QRectF &frame);
 
 // The notched screen, the agent, Brimshade's item left of it, then Relay, Vault and Quill leftwards from 1304. The
@@ -32,8 +32,8 @@ enum Key { returnKey = 36, escape = 53, enter = 76 };
 inline constexpr QPointF kEmptySpot(100, 800); // of the display, top-left origin: no window of the program is there
 inline constexpr QPointF kOnNotch(756, 10);
 
-// One running Brimshade and the hands and eyes of the person before it. What the views would call is called on
-// the model, as they do. Positions have their origin at the top left.
+// One running Brimshade, with the hands and eyes of the person who uses it. Calls that views would make are made on the
+// model directly. Positions have their origin at the top left.
 class Brimshade {
 public:
     explicit Brimshade(const desktop::DesktopDescription &description = notchedDesktop());
@@ -44,7 +44,7 @@ public:
     void click(QPointF at, desktop::MouseButton button);
     void drag(QPointF from, QPointF to, std::uint64_t flags) { m_on.drag(from, to, flags), wait(1); }
     void clickStatusItem() { click(symbol(), desktop::MouseButton::left); }
-    void clickStatusItemNow() { m_on.click(symbol()); } // and nothing that is due runs
+    void clickStatusItemNow() { m_on.click(symbol()); } // without running what is due
     void rightClickStatusItem() { click(symbol(), desktop::MouseButton::right); }
     void clickElsewhere() { click(kEmptySpot, desktop::MouseButton::left); }
     void open(); // with a click, until the views are open and the list is there
@@ -56,22 +56,22 @@ public:
     void hide(const QString &name) { move(name, true); }
     void show(const QString &name) { move(name, false); }
     void finishSetup(const QHash<QString, bool> &hiddenByName);
-    void vanish() { m_delegate.reset(); } // the coordinator goes, whatever is under way
+    void vanish() { m_delegate.reset(); } // destroys the coordinator, whatever is under way
 
     model::NotchModel &model() { return m_delegate->model(); }
     app::AppDelegate &delegate() { return *m_delegate; }
     desktop::Desktop &desktop() { return m_on.desktop; }
     const controls::Divider &divider() { return *m_delegate->divider(); }
-    const menubar::MenuExtra &item(const QString &name); // of the last scan
+    const menubar::MenuExtra &item(const QString &name); // from the last scan
 
     bool isOnScreen(const QString &window) { return frameOf(window).has_value(); }
     bool hasKeys(const QString &window);
     std::optional<QRectF> frameOf(const QString &window); // screen space; absent while it is not on screen
     int windowCount(const QString &name);
     QRectF statusItem();
-    bool isDrawn(const QString &identifier); // of an item of the bar; Brimshade's own by its autosave name
+    bool isDrawn(const QString &identifier); // by an item's identifier; Brimshade's own by its autosave name
     QString bar(); // left to right, without the system's items; Brimshade's own is "|"
-    QString hiddenItems(); // as a fresh scan lists them
+    QString hiddenItems(); // listed by a new scan
     int dragCount(); // since last asked
     QStringList pressedItems(); // since last asked
     QStringList log(); // since last asked

@@ -21,7 +21,7 @@ TEST(BulkMove, BringsEveryItemWhereItWasChosenToBeAndThenOpensThePanel)
     EXPECT_EQ(brimshade.hiddenItems(), u"Quill Relay"_s);
 }
 
-// At any moment: before the first move, in the middle of a drag and between two.
+// At any moment: before the first move, in the middle of a drag and between two drags.
 TEST(BulkMove, IsNotDisturbedByAnApplicationThatComes)
 {
     for (int tenths = 0; tenths < 80; tenths += 2) {
@@ -32,7 +32,7 @@ TEST(BulkMove, IsNotDisturbedByAnApplicationThatComes)
         brimshade.wait(kLong);
         EXPECT_EQ(brimshade.model().message(), QString()) << tenths;
         EXPECT_TRUE(brimshade.bar().endsWith(u'|')) << tenths;
-        EXPECT_EQ(brimshade.dragCount(), 2) << tenths << ": each at the first try";
+        EXPECT_EQ(brimshade.dragCount(), 2) << tenths << ": each succeeds at the first try";
     }
 }
 
@@ -47,7 +47,7 @@ TEST(BulkMove, KeepsThePanelClosedWhenAMoveThatWasUnderWayEnds)
     brimshade.wait(2.5); // the single move has ended, the first of the others is under way
     EXPECT_EQ(brimshade.model().movingID(), u"onboarding"_s);
     brimshade.model().onSetHidden(brimshade.item(u"Quill"_s), true);
-    brimshade.pressShortcut(); // no click, which would disturb the drag
+    brimshade.pressShortcut(); // not a click, which would disturb the drag
     EXPECT_FALSE(brimshade.delegate().shown());
     brimshade.wait(kLong);
     EXPECT_EQ(brimshade.model().movingID(), QString());
@@ -92,7 +92,7 @@ TEST(BulkMove, GathersWhatFailedInOrderOfTheMessages)
     brimshade.wait(kLong);
     const QString sentence = u": macOS didn't accept the move. Try again, or Cmd-drag it across the divider."_s;
     EXPECT_EQ(brimshade.model().message(), u"Some items didn't move. Relay"_s + sentence + u" Vault"_s + sentence);
-    EXPECT_EQ(brimshade.dragCount(), 2); // none is tried twice
+    EXPECT_EQ(brimshade.dragCount(), 2); // no item is tried twice
     EXPECT_TRUE(brimshade.hasKeys(u"settings"_s));
     EXPECT_FALSE(brimshade.delegate().shown());
 }
@@ -107,7 +107,7 @@ TEST(BulkMove, EndsAtOnceWhenTheBarIsNotShowing)
     EXPECT_EQ(brimshade.model().message().count(u"the menu bar isn't showing"_s), 1);
 }
 
-// An item of another row counts as moved, yet the next scan finds it as it was.
+// An item in another row counts as moved, yet the next scan finds it where it was.
 TEST(BulkMove, GivesUpOnAnItemThatMovesAreWithoutEffectOn)
 {
     auto desktop = notchedDesktop();

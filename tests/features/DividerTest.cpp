@@ -2,7 +2,7 @@
 
 namespace brimshade::features {
 
-// The widths that the status item takes from now on, each with the time at which the bar shows it.
+// The widths of the status item from now on, each with the time at which the bar shows it.
 QStringList widthsOver(Brimshade &brimshade, double seconds)
 {
     QStringList widths;
@@ -38,7 +38,7 @@ TEST(Divider, GrowsAsFarAsRoomAndReserveAllow)
         double width;
     };
     for (const auto &[notchUpper, width] : {Case{1274, 28}, // exactly no room
-                                            Case{1273, 28}, // a point more is not worth a change
+                                            Case{1273, 28}, // one more point is not worth a change
                                             Case{1272, 30}, Case{900, 402}}) {
         EXPECT_EQ(Brimshade(with(dividedDesktop(), notchUpper)).statusItem().width(), width) << notchUpper;
     }
@@ -96,7 +96,7 @@ TEST(Divider, IsMeasuredOnceForApplicationsThatComeAndGoTogether)
     EXPECT_EQ(widthsOver(brimshade, 5), QStringList({u"28 at 1.1"_s, u"453 at 1.4"_s}));
 }
 
-// Between the notch and the divider 30 points stay free.
+// 30 points stay free between the notch and the divider.
 TEST(Divider, TucksAwayWhatIsWiderThanItsGap)
 {
     for (int width = 22; width <= 64; ++width) {
@@ -141,13 +141,13 @@ TEST(Divider, ComesBackFromBehindTheNotch)
     EXPECT_TRUE(brimshade.delegate().shown());
 }
 
-// A button of the system right of it means that it was pushed out of its place: 40 points shorter, five times.
+// A system button right of it means that it was pushed out of its place: it gets 40 points shorter, up to five times.
 TEST(Divider, GivesWayInFiveSteps)
 {
     auto desktop = dividedDesktop();
     desktop.applications[0] = agentWithButton({1400, 0, 20, 37});
     Brimshade brimshade(desktop);
-    brimshade.desktop().setScreens({notchedScreen()}); // begins anew
+    brimshade.desktop().setScreens({notchedScreen()}); // starts again
     brimshade.wait(0);
     EXPECT_EQ(brimshade.divider().slack(), 0);
     EXPECT_EQ(widthsOver(brimshade, 10),
@@ -172,7 +172,7 @@ TEST(Divider, GivesWayOnlyToAButtonOfItsRowAtItsRightEdge)
         SCOPED_TRACE(name);
         auto desktop = dividedDesktop();
         desktop.applications[0] = agentWithButton(button);
-        Brimshade brimshade(desktop); // looked once, at 0.7
+        Brimshade brimshade(desktop); // has looked once, at 0.7
         EXPECT_EQ(brimshade.divider().slack(), slack);
     }
 }

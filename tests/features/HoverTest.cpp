@@ -20,7 +20,7 @@ TEST_F(Hover, OpensOnceThePointerHasRestedOnTheNotch)
     brimshade.movePointer(kOnNotch);
     brimshade.wait(0.179);
     brimshade.movePointer(kEmptySpot);
-    brimshade.wait(1); // less than a panel that opened by hover would stay
+    brimshade.wait(1); // less than a panel opened by hovering would stay
     EXPECT_FALSE(brimshade.delegate().shown());
 
     brimshade.movePointer(kOnNotch);
@@ -28,7 +28,7 @@ TEST_F(Hover, OpensOnceThePointerHasRestedOnTheNotch)
     EXPECT_FALSE(brimshade.delegate().shown());
     brimshade.wait(0.001);
     EXPECT_TRUE(brimshade.delegate().shown());
-    EXPECT_FALSE(brimshade.hasKeys(u"panel"_s)); // typing goes on where it went
+    EXPECT_FALSE(brimshade.hasKeys(u"panel"_s)); // typing still goes where it went before
 }
 
 TEST_F(Hover, ReachesFromTheTopEdgeOfTheScreenToTheEndOfTheBar)
@@ -120,7 +120,7 @@ TEST_F(Hover, StaysWithTheKeysOnceTheProgramWasAskedForItsPanel)
     EXPECT_TRUE(brimshade.delegate().shown());
 
     brimshade.type(u"rel"_s);
-    brimshade.delegate().openPanel(); // it is
+    brimshade.delegate().openPanel(); // it is open already
     EXPECT_EQ(brimshade.model().query(), u"rel"_s);
     brimshade.delegate().togglePanel();
     EXPECT_FALSE(brimshade.delegate().shown());

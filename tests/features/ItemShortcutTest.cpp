@@ -8,7 +8,7 @@ using namespace platform;
 
 constexpr std::uint64_t kHeld = kControlFlag | kOptionFlag;
 
-// A person who gives items shortcuts, and what they are told.
+// A person who gives shortcuts to items, and the messages they get.
 class ItemShortcut : public testing::Test {
 protected:
     void start(const desktop::DesktopDescription &description = notchedDesktop())
@@ -30,7 +30,7 @@ protected:
         brimshade->model().onRecordShortcut(brimshade->item(item));
         ASSERT_TRUE(brimshade->model().isRecording());
     }
-    // Everything that comes of it has come, and the panel is closed.
+    // Returns once everything that follows has happened and the panel is closed.
     void record(const QString &item, int key)
     {
         beginToRecord(item);
@@ -145,7 +145,7 @@ TEST_F(ItemShortcut, ARefusalLeavesTheOneThatTheItemHad)
     press(kVK_ANSI_K);
     brimshade->press(kVK_Escape);
     EXPECT_FALSE(brimshade->model().isRecording());
-    EXPECT_TRUE(brimshade->delegate().shown()) << "Escape takes back one thing";
+    EXPECT_TRUE(brimshade->delegate().shown()) << "Escape takes back one thing at a time";
     brimshade->clickElsewhere();
     press(kVK_ANSI_V);
     EXPECT_EQ(opened(), QStringList(u"vault.main"_s));
@@ -214,7 +214,7 @@ TEST_F(ItemShortcut, IsNotTakenByThePanelsOwnWhichSaysWhoHasIt)
     EXPECT_EQ(brimshade->model().message(), u"⌃⌥Space already opens the menu of Relay."_s);
     brimshade->model().setMessage({});
     brimshade->model().setHoverToOpen(true);
-    EXPECT_EQ(brimshade->model().message(), QString()) << "told once";
+    EXPECT_EQ(brimshade->model().message(), QString()) << "it is told only once";
     press(kVK_Space);
     EXPECT_EQ(opened(), QStringList(u"relay.main"_s));
     EXPECT_FALSE(brimshade->delegate().shown());

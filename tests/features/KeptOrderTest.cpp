@@ -5,7 +5,7 @@ namespace brimshade::features {
 
 namespace {
 
-// A program that comes and goes with one item, which is what it is called.
+// A program that comes and goes with one item, both with that name.
 desktop::ApplicationSpec program(int pid, const QString &name, const QString &id = u"main"_s)
 {
     const QString identifier = name.toLower() + u'.' + id;
@@ -95,7 +95,7 @@ TEST(KeptOrder, WhatWasTuckedAwayIsSoAgainWhoeverComesFirst)
     before.putAside(u"Vault"_s);
     QStringList order = names;
     std::ranges::sort(order);
-    int early = 0; // so many have come when the order is known
+    int early = 0; // how many have come when the order becomes known
     do {
         Bar bar({{u"dividerEnabled"_s, true}});
         for (const QString &name : order.first(early))
@@ -105,7 +105,7 @@ TEST(KeptOrder, WhatWasTuckedAwayIsSoAgainWhoeverComesFirst)
         EXPECT_EQ(bar.bar(), u"vault | quill relay"_s);
         EXPECT_EQ(bar.hiddenItems(), u"Vault"_s);
         bar.desktop().quit(bar.lastPid());
-        bar.launchAll(order.last(1)); // the program alone was restarted
+        bar.launchAll(order.last(1)); // only the program was restarted
         EXPECT_EQ(bar.bar(), u"vault | quill relay"_s);
         EXPECT_EQ(bar.hiddenItems(), u"Vault"_s);
         early = (early + 1) % 4;
@@ -118,7 +118,7 @@ TEST(KeptOrder, TheOwnItemShowsHoweverManyThereAre)
         Bar bar({{u"dividerEnabled"_s, divided}});
         bar.launchAll(many(20));
         EXPECT_TRUE(bar.isOwnDrawn());
-        // 483 points right of the notch: 13 of 34 and the icon.
+        // 483 points right of the notch: 13 items of 34 points and the icon.
         EXPECT_EQ(bar.bar().section(u'|', 1), u" n12 n11 n10 n09 n08 n07 n06 n05 n04 n03 n02 n01 n00"_s);
         EXPECT_EQ(bar.hiddenItems().split(u' ').size(), 7);
         bar.desktop().quit(bar.lastPid() - 19);

@@ -62,7 +62,7 @@ TEST(Launch, AsksOnceForAMissingPermission)
     EXPECT_EQ(brimshade.desktop().inspection().promptCount(), 1);
     EXPECT_TRUE(brimshade.desktop().permission().isPromptOpen());
     brimshade.desktop().setTrusted(true);
-    EXPECT_FALSE(brimshade.desktop().permission().isPromptOpen()) << "it is answered";
+    EXPECT_FALSE(brimshade.desktop().permission().isPromptOpen()) << "it has been answered";
 }
 
 } // namespace brimshade::features

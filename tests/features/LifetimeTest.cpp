@@ -2,7 +2,7 @@
 
 namespace brimshade::features {
 
-// Whatever was under way when the coordinator went comes to nothing, and harms nothing.
+// Whatever was under way when the coordinator was destroyed has no effect and does no harm.
 TEST(Lifetime, NothingHappensOnceTheCoordinatorIsGone)
 {
     auto desktop = dividedDesktop();
@@ -36,11 +36,11 @@ TEST(Lifetime, NothingHappensOnceTheCoordinatorIsGone)
         brimshade.movePointer(kOnNotch);
         brimshade.desktop().setScreens({notchedScreen(800)});
         brimshade.wait(30);
-        EXPECT_LE(brimshade.dragCount(), 1); // the one under way is finished, no other begun
+        EXPECT_LE(brimshade.dragCount(), 1); // the one under way is finished, and no other is begun
     }
 }
 
-// The one step of an opening that holds what it needs: the views are not left closed on an open panel.
+// The one step of an opening that keeps what it needs alive, so that no open panel is left with closed views.
 TEST(Lifetime, AnOpeningIsFinishedByItsNextTurn)
 {
     Brimshade brimshade;

@@ -54,7 +54,7 @@ TEST(LiveItems, TakeTheirOpenMenuWithThem)
         brimshade.wait(1);
         EXPECT_EQ(brimshade.desktop().menus().titles(), QStringList{u"About"_s}) << name;
         brimshade.desktop().quit(812);
-        EXPECT_TRUE(brimshade.desktop().menus().openMenu()) << "of another application";
+        EXPECT_TRUE(brimshade.desktop().menus().openMenu()) << "it belongs to another application";
         end(brimshade.desktop());
         EXPECT_FALSE(brimshade.desktop().menus().openMenu()) << name;
     }

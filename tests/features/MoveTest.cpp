@@ -38,7 +38,7 @@ TEST_F(Move, ShowsAnItemAndHidesItAgain)
     EXPECT_EQ(brimshade.dragCount(), 2);
 }
 
-// The bar takes a drag for what it is only when it comes like a hand's.
+// The bar recognizes a drag only if it looks like a hand's.
 TEST_F(Move, DragsAsAHandWould)
 {
     const double start = brimshade.desktop().platform().dispatch.now() + 0.35 + 0.45;
@@ -103,7 +103,7 @@ TEST_F(Move, LetsAScanWaitAndSeeTheBarAfterIt)
     brimshade.wait(1);
     brimshade.model().onRefresh();
     brimshade.wait(1);
-    EXPECT_FALSE(brimshade.divider().isExpanded()); // the scan leaves it as the move needs it
+    EXPECT_FALSE(brimshade.divider().isExpanded()); // the scan leaves it in the state that the move needs
     EXPECT_TRUE(brimshade.item(u"Vault"_s).isHidden);
     brimshade.wait(kMove - 2);
     EXPECT_FALSE(brimshade.item(u"Vault"_s).isHidden);
@@ -167,7 +167,7 @@ TEST(WideMove, LeavesTheIconInTheBar)
     ASSERT_EQ(b.model().movingID(), QString());
     for (int hundredths = 0; hundredths < 200; ++hundredths) {
         if (hundredths == 10)
-            b.model().onRefresh(); // as an opening does
+            b.model().onRefresh(); // like an opening
         ASSERT_TRUE(b.isDrawn(u"BrimshadeButton"_s)) << hundredths;
         b.wait(0.01);
     }
@@ -209,7 +209,7 @@ TEST(FailedMove, SaysWhyAndLetsTheDividerGrowAgain)
     }
 }
 
-// Nobody knows where to drag from, or whether it went.
+// Nobody knows where to drag it from, or whether it moved.
 TEST(FailedMove, DragsNothingThatCannotBeRead)
 {
     const auto unreadable = [] {
@@ -220,7 +220,7 @@ TEST(FailedMove, DragsNothingThatCannotBeRead)
     struct Case {
         const char *name;
         std::function<void(Brimshade &)> strike;
-        double timeout; // what a scan or the reading of a frame costs then
+        double timeout; // what a scan or reading a frame then costs
         std::vector<double> moments; // before the first scan, before the drag, in the middle of it and after it
     };
     const Case cases[] = {
@@ -271,7 +271,7 @@ TEST_F(Move, LeavesAVisibleSettingsWindowWhereItIsAndBringsAClosedOneBack)
     brimshade.wait(1.1);
     EXPECT_EQ(brimshade.model().message(), u"Vault: "_s + kDidNotMove);
     EXPECT_FALSE(brimshade.hasKeys(u"settings"_s));
-    EXPECT_EQ(brimshade.model().extras().size(), 4u) << "the list is read anew, whether or not the move went well";
+    EXPECT_EQ(brimshade.model().extras().size(), 4u) << "the list is read again, whether or not the move succeeded";
 
     brimshade.desktop().windows().named(u"settings"_s)->close();
     brimshade.show(u"Quill"_s);

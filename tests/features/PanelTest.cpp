@@ -20,7 +20,7 @@ TEST(Panel, IsClosedForTheViewsUntilTheNextTurn)
     brimshade.clickStatusItemNow();
     EXPECT_TRUE(brimshade.isOnScreen(u"panel"_s));
     EXPECT_FALSE(brimshade.model().isOpen());
-    brimshade.clickStatusItemNow(); // closed again before that turn
+    brimshade.clickStatusItemNow(); // closes it again before that turn
     brimshade.wait(0);
     EXPECT_FALSE(brimshade.model().isOpen());
 }
@@ -99,7 +99,7 @@ TEST(Panel, StartsAfreshAtEachOpening)
     brimshade.model().setHoveredID(u"some"_s);
     brimshade.clickStatusItem();
     EXPECT_EQ(brimshade.model().hoveredID(), QString());
-    EXPECT_EQ(brimshade.model().query(), u"rel"_s); // the closing panel keeps its look
+    EXPECT_EQ(brimshade.model().query(), u"rel"_s); // the closing panel keeps its appearance
     brimshade.open();
     EXPECT_EQ(brimshade.model().query(), QString());
     EXPECT_EQ(brimshade.model().selectedID(), QString());

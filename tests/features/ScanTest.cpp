@@ -25,7 +25,7 @@ private:
     const QMetaObject::Connection m_connection;
 };
 
-constexpr double kScan = 0.25; // of a desktop with applications that hang
+constexpr double kScan = 0.25; // on a desktop with applications that hang
 
 TEST(Scans, ThatHaveNotBegunAreOne)
 {
@@ -41,7 +41,7 @@ TEST(Scans, ThatHaveNotBegunAreOne)
     brimshade.show(u"Vault"_s);
     brimshade.wait(2 * kScan);
     EXPECT_EQ(deliveries.count, 2) << "the one that ran, and one for the other five";
-    // The move finds the queue free: it looks where the item is, lets the bar settle, and begins its drag.
+    // Once the queue is free, the move looks where the item is, lets the bar settle, and begins its drag.
     const double begin = 2 * kScan + kScan + 0.45 + kScan + 0.04;
     brimshade.wait(begin - 2 * kScan - 0.001);
     EXPECT_EQ(brimshade.dragCount(), 0);
@@ -55,7 +55,7 @@ TEST(Scans, ThatWaitTogetherUseWhatHoldsAtTheLastOfThem)
     desktop.applications.push_back(application(820, u"Wide"_s, 300)); // from 914 to 1214
     Brimshade brimshade(desktop);
     brimshade.model().onRefresh();
-    brimshade.wait(0); // it runs
+    brimshade.wait(0); // the scan is under way
     brimshade.model().onRefresh();
     brimshade.desktop().setScreens({notchedScreen(950)});
     brimshade.model().onRefresh();

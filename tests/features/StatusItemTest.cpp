@@ -11,7 +11,7 @@ TEST(StatusMenu, OpensOnARightClickAndLeavesThePanelAsItIs)
     EXPECT_FALSE(brimshade.delegate().shown());
     brimshade.desktop().menus().dismiss();
     brimshade.wait(0);
-    brimshade.open(); // the left click is the panel's again
+    brimshade.open(); // a left click opens the panel again
     brimshade.rightClickStatusItem();
     EXPECT_NE(brimshade.desktop().menus().openMenu(), nullptr);
     EXPECT_TRUE(brimshade.delegate().shown());
@@ -52,7 +52,7 @@ TEST(Settings, OneShortcutAtATimeTogglesThePanel)
     brimshade.model().setShortcut(Shortcut::controlOptionSpace);
     brimshade.pressShortcut();
     EXPECT_TRUE(brimshade.hasKeys(u"panel"_s));
-    EXPECT_EQ(brimshade.model().query(), QString()); // its space is not typed
+    EXPECT_EQ(brimshade.model().query(), QString()); // the shortcut's space is not typed
     brimshade.pressShortcut();
     EXPECT_FALSE(brimshade.delegate().shown());
 

@@ -53,7 +53,7 @@ TEST(Tint, IsTheTrueAverageMadeVivid)
         {"dull and dark", filled(8, 8, QColor(100, 50, 50)), QColor(191, 57, 57)},
         // 200, 100, 150: saturation 0.7, the hue's middle component stays in the middle.
         {"dull and bright", filled(8, 8, QColor(200, 100, 150)), QColor(200, 60, 130)},
-        // Half of it covered in half-transparent blue: its own colour, not a darker one.
+        // Half of it covered in half-transparent blue: the colour stays, instead of getting darker.
         {"half-transparent", split({8, 8}, 4, QColor(0, 0, 255, 128), Qt::transparent), Qt::blue},
         // One pixel in 64: a sample of a few pixels would miss it. (4, 0, 0) of alpha 4.
         {"one dot", split({64, 1}, 1, Qt::red, Qt::transparent), Qt::red},

@@ -7,7 +7,7 @@ namespace brimshade::menubar::tests {
 using desktop::ApplicationDescription;
 using desktop::ExtraDescription;
 
-// A desktop in virtual time with a scan queue, and the shortest way to what tests ask.
+// A desktop in virtual time with a scan queue, and shortcuts to what tests ask for.
 class MenuBarContext : public TestDesktop {
 public:
     explicit MenuBarContext(std::vector<ApplicationDescription> applications)
@@ -19,12 +19,12 @@ public:
     {
     }
 
-    // Runs work on the scan queue and answers how many seconds it took there.
+    // Runs work on the scan queue and returns how many seconds it took there.
     double onScanQueue(const platform::Work &work);
 
     ExtraList scan(std::optional<QRectF> dividerFrame = std::nullopt);
     double secondsOfLastScan = 0;
-    MenuExtra found(const QString &identifier); // by a scan; fails the test when there is none
+    MenuExtra found(const QString &identifier); // by a scan; fails the test if there is none
 
     const std::shared_ptr<MenuBarAccess> access;
 };

@@ -46,7 +46,7 @@ TEST(Scan, LeavesOutThisProgramAndASecondInstanceOfIt)
     EXPECT_EQ(ids(bar.scan()), QStringList{u"7-0-relay"_s});
 }
 
-// A button hides what ends left of it, whichever application it belongs to and whenever it is met.
+// A button hides what ends left of it, whichever application it belongs to and whenever it is encountered.
 TEST(Scan, HidesByTheLastButtonMetOverAllApplications)
 {
     const auto one = application(1, u"One"_s, {extraAt(u"left"_s, {900, 0, 30, 37}), button({1100, 0, 20, 37})});
@@ -142,7 +142,7 @@ TEST(Scan, TakesAsLongAsTheSlowestApplication)
     hanging.push_back(application(9, u"Well"_s, {extra(u"y"_s)}));
     const std::tuple<std::vector<ApplicationDescription>, double, std::uint64_t, std::size_t> cases[] = {
         {hanging, 0.25, 8 + 2 + 1 + 5, 1},
-        {{sluggish(1)}, 2, 2 + 3 + 15, 3}, // a tenth for each read
+        {{sluggish(1)}, 2, 2 + 3 + 15, 3}, // a tenth of a second for each read
         {{sluggish(1), sluggish(2), sluggish(3), sluggish(4)}, 2, 4 * 20, 12},
     };
     for (const auto &[applications, seconds, reads, items] : cases) {
@@ -167,7 +167,8 @@ TEST(Scan, AsksNoMoreOfAnApplicationThatHangsInTheMiddle)
     EXPECT_DOUBLE_EQ(bar.secondsOfLastScan, 0.24 + 0.25);
 }
 
-// Whoever answers first, the workspace's order decides: of items that look alike, and of buttons which is the last.
+// No matter who answers first, the workspace's order decides between items that look alike, and which button is the
+// last.
 TEST(Scan, MergesInTheOrderOfTheWorkspace)
 {
     const auto each = [](int pid, double edge, double latency) {

@@ -7,8 +7,8 @@
 
 namespace brimshade::menubar::tests {
 
-// Only the reads leave the scan queue: names and icons are made there, without a lock. The thread sanitizer sees
-// whether that holds.
+// Only the reads leave the scan queue; names and icons are made on it, without a lock. The thread sanitizer checks
+// that.
 TEST(Scan, ReadsOnThreadsOfItsOwnAndNamesOnTheScanQueue)
 {
     std::vector<desktop::ApplicationDescription> applications;

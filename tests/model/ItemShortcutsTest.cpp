@@ -21,7 +21,7 @@ TEST(KeyCombinations, AreReadAsTheyAreHeldAndTakenOnlyWhereNobodyTypesThem)
         {{kVK_ANSI_F, 0}, u"F"_s, false},
         {{kVK_ANSI_K, kCarbonShift}, u"⇧K"_s, false},
         {{kVK_Return, 0}, u"↩"_s, false},
-        {{0x7f, kHeld}, u"⌃⌥"_s, false}, // a key that no keyboard of ours has
+        {{0x7f, kHeld}, u"⌃⌥"_s, false}, // a key that none of our keyboards has
     };
     for (const auto &[keys, title, allowed] : cases) {
         EXPECT_EQ(displayTitle(keys), title);
@@ -57,7 +57,7 @@ TEST(ItemShortcutsKept, TakeNothingFromAFileThatTheyWouldNotWrite)
     const QVariantList good{kept(u"a"_s, kVK_ANSI_K, kHeld)};
     const QVariantList bad{u"text"_s,
                            QVariantMap(),
-                           kept(u"a"_s, kVK_ANSI_V, kHeld), // a second one of a
+                           kept(u"a"_s, kVK_ANSI_V, kHeld), // a second shortcut of a
                            kept(u"b"_s, kVK_ANSI_K, kHeld), // the same keys
                            kept({}, kVK_ANSI_V, kHeld),
                            kept(QString(301, u'x'), kVK_ANSI_V, kHeld),
@@ -73,7 +73,7 @@ TEST(ItemShortcutsKept, TakeNothingFromAFileThatTheyWouldNotWrite)
     EXPECT_TRUE(ItemShortcuts(context.defaults).all().empty());
 }
 
-// What only other systems and no desktop of ours do: see the features for the rest.
+// What only other systems do, and none of our desktops: the rest is in tests/features.
 TEST(Recorder, SaysWhatToDoWhereNothingCanBeRecorded)
 {
     ModelContext context;

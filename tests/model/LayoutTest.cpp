@@ -49,7 +49,7 @@ TEST(Layout, AnnouncesTheSizeOnceForEachChangeOfWhatItDependsOn)
     EXPECT_EQ(announced([&] { model.setQuery(u"a"_s); }), Counts(1, 3));
     EXPECT_EQ(announced([&] { model.setNotch({180, 24}); }), Counts(1, 0)); // not a published field
     EXPECT_EQ(announced([&] { model.setHoveredID(u"a"_s); }), Counts(0, 1));
-    EXPECT_EQ(announced([&] { model.setTrusted(false); }), Counts(0, 1)); // unchanged, yet assigned
+    EXPECT_EQ(announced([&] { model.setTrusted(false); }), Counts(0, 1)); // assigned, though unchanged
 }
 
 } // namespace brimshade::model::tests

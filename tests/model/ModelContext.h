@@ -14,7 +14,7 @@ inline MenuExtra item(const QString &id, bool isHidden = false, const QString &n
     return extra;
 }
 
-// h0, h1, … hidden, then v0, v1, … visible ones.
+// Hidden items h0, h1, …, then visible ones v0, v1, …
 inline ExtraList items(int hidden, int visible)
 {
     ExtraList extras;
@@ -25,7 +25,7 @@ inline ExtraList items(int hidden, int visible)
     return extras;
 }
 
-// A model on services whose stored values a test sets before its first use of the model.
+// A model on services; a test sets stored values before it first uses the model.
 struct ModelContext : FakeSystem {
     NotchModel &model()
     {

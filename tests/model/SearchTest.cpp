@@ -10,7 +10,7 @@ ExtraList library()
     return {item(u"cal"_s, true, u"Calendar"_s, u"3 events"_s),
             item(u"bat"_s, false, u"Battery"_s, u"80 %"_s),
             item(u"pwr"_s, true, u"Power"_s, u"Low bat"_s),
-            item(u"cafe"_s, false, u"Cafe\u0301 Timer"_s, u"Straße"_s), // the accent as a mark of its own
+            item(u"cafe"_s, false, u"Cafe\u0301 Timer"_s, u"Straße"_s), // the accent is a separate combining mark
             item(u"math"_s, false, u"x\u0302 Plot"_s, u"İstanbul Ilgaz"_s),
             item(u"line"_s, true, u"Two\nLines"_s, u"end\n"_s),
             item(u"quad"_s, true, u"q\u0302 by q"_s)};
@@ -22,17 +22,17 @@ TEST(Search, FindsNamesAndDetailsAsAPersonTypesThem)
         {u""_s, {u"cal"_s, u"bat"_s, u"pwr"_s, u"cafe"_s, u"math"_s, u"line"_s, u"quad"_s}},
         {u" \t\u3000"_s, {u"cal"_s, u"bat"_s, u"pwr"_s, u"cafe"_s, u"math"_s, u"line"_s, u"quad"_s}}, // only blanks
         {u"  cal  "_s, {u"cal"_s}},
-        {u"BAT"_s, {u"bat"_s, u"pwr"_s}}, // in a name, and in a detail alone
+        {u"BAT"_s, {u"bat"_s, u"pwr"_s}}, // in a name, and only in a detail
         {u"caf\u00e9"_s, {u"cafe"_s}},
         {u"CAF\u00c9"_s, {u"cafe"_s}},
-        {u"cafe"_s, {}}, // an accent is a difference
+        {u"cafe"_s, {}}, // accents matter
         {u"STRASSE"_s, {u"cafe"_s}},
-        {u"x"_s, {}}, // half of a character that no single code stands for
+        {u"x"_s, {}}, // half of a character that has no single code
         {u"x\u0302"_s, {u"math"_s}},
-        {u"q"_s, {u"quad"_s}}, // the whole one behind such a half
+        {u"q"_s, {u"quad"_s}}, // a whole one after such a half
         {u"pwr"_s, {}}, // ids are not searched
         {u"o\nl"_s, {u"line"_s}},
-        {u"end\n"_s, {u"line"_s}}, // a line break is no blank: it stays in the query
+        {u"end\n"_s, {u"line"_s}}, // a line break is not a blank: it stays in the query
         {u"\nend"_s, {}},
     };
     for (const auto &[query, expected] : cases) {
@@ -61,7 +61,7 @@ TEST(Search, ShowsVisibleItemsByTheQueryAsTyped)
     const std::tuple<bool, QString, QStringList, QStringList> cases[] = {
         {true, u""_s, {u"h0"_s, u"h1"_s}, {u"v0"_s}},
         {false, u""_s, {u"h0"_s, u"h1"_s}, {}},
-        {false, u" "_s, {u"h0"_s, u"h1"_s}, {u"v0"_s}}, // filters nothing, yet is a query
+        {false, u" "_s, {u"h0"_s, u"h1"_s}, {u"v0"_s}}, // filters nothing, but is a query
         {false, u"visi"_s, {}, {u"v0"_s}},
         {true, u"hid"_s, {u"h0"_s, u"h1"_s}, {}},
     };
@@ -77,7 +77,7 @@ TEST(Search, ShowsVisibleItemsByTheQueryAsTyped)
     }
 }
 
-// What is remembered between reads must never show: any course of changes reads as if computed on the spot.
+// What is cached between reads must never show: after any sequence of changes, results are as if computed on the spot.
 TEST(Search, ReadsAsIfComputedAnewAfterAnyChange)
 {
     QRandomGenerator random(7);

@@ -67,7 +67,7 @@ protected:
     NotchTab *tab = nullptr;
 };
 
-// The pieces that the tab is drawn in meet without a gap and without an overlap.
+// The pieces in which the tab is drawn meet without gaps or overlaps.
 TEST_F(NotchTabTest, LooksLikeTheWholeOutlinePaintedAtOnce)
 {
     for (const double openness : {0.0, 0.13, 0.5, 0.77, 1.0, 1.04}) {

@@ -89,7 +89,7 @@ protected:
     PanelGeometry geometry;
 };
 
-// The model's size leaves the footer four points above the lower edge whenever there are tiles.
+// The model's size leaves four points between the footer and the lower edge whenever there are tiles.
 TEST_F(PanelGeometryTest, StacksTheSectionsAndTheFooter)
 {
     const std::tuple<int, int, double, double> cases[] = {

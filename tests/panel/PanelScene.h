@@ -11,10 +11,10 @@ namespace brimshade::panel {
 
 // An item of an application with an icon.
 model::MenuExtra makeExtra(const QString &name, bool isHidden);
-// The first `hidden` behind the notch; the agent's symbols among the visible ones.
+// The first `hidden` of them are behind the notch; the visible ones include the agent's symbols.
 model::ExtraList makeExtras(int hidden, int visible);
 
-// A model; what its callbacks were told is in the journal, too: "select Relay", "dismiss", "settings".
+// A model; the journal also has the calls of its callbacks: "select Relay", "dismiss", "settings".
 struct ModelFixture : FakeSystem {
     ModelFixture();
 
@@ -26,10 +26,10 @@ class PanelScene : public ModelFixture {
 public:
     explicit PanelScene(int hidden = 3, int visible = 2, double scale = 1, QSize window = {1000, 720});
 
-    void open(); // and lets every motion end
+    void open(); // and lets all motion end
     void finishMotion() { scene.advance(3000); }
-    QList<QQuickItem *> tiles() const; // those that are not leaving
-    QQuickItem *tile(const QString &name) const; // null when it has no delegate
+    QList<QQuickItem *> tiles() const; // without those that are leaving
+    QQuickItem *tile(const QString &name) const; // null if it has no delegate
     QStringList tileNames() const; // in reading order
     QRectF frame(const QString &objectName) const;
 

@@ -126,7 +126,7 @@ TEST(Panel, TheFooterIsNeverSeenOutsideTheTab)
     }
 }
 
-// Pieces of shadow and tab come, go and change size: whatever a frame does not draw anew must be as it was.
+// Pieces of shadow and tab come, go and change size: whatever a frame does not redraw must look as before.
 TEST(Panel, NoFrameLeavesAnythingBehind)
 {
     for (const double scale : {1.0, 2.0}) {
@@ -180,7 +180,7 @@ TEST(Panel, TheGearsTipWaitsOnTheScenesClock)
     ASSERT_TRUE(tip->isVisible());
     panel.model.setIsOpen(false);
     panel.finishMotion();
-    EXPECT_FALSE(tip->isVisible()) << "goes with the panel";
+    EXPECT_FALSE(tip->isVisible()) << "it goes away with the panel";
 }
 
 TEST(Panel, ALongOrBrokenQueryKeepsTheWordsAroundIt)
@@ -198,7 +198,7 @@ TEST(Panel, ALongOrBrokenQueryKeepsTheWordsAroundIt)
     EXPECT_LE(sentence->implicitWidth(), sentence->width());
 }
 
-// The window itself is never shown here, so the elements' own states do not say it.
+// The window itself is never shown here, so the elements' own states do not tell.
 bool isSeen(const QQuickItem *item)
 {
     double opacity = 1;
@@ -222,7 +222,7 @@ QStringList spoken(QQuickWindow *window)
         for (int i = 0; i < element->childCount(); ++i)
             visit(element->child(i));
     };
-    QAccessibleInterface *root = QAccessible::queryAccessibleInterface(window); // itself off screen
+    QAccessibleInterface *root = QAccessible::queryAccessibleInterface(window); // which is itself off screen
     for (int i = 0; i < root->childCount(); ++i)
         visit(root->child(i));
     return result;

@@ -57,7 +57,7 @@ TEST_P(PanelTexts, HaveRoomInTheNarrowestPanel)
     }
 }
 
-// Fonts are not everywhere as wide as here.
+// Fonts may be wider elsewhere than here.
 TEST_P(PanelTexts, SayTheHintInFewerWordsWhereItHasNoRoom)
 {
     PanelScene panel(3, 2);

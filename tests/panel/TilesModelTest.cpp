@@ -105,7 +105,7 @@ TEST_F(TilesModelTest, ScrollingBringsRowsThatAreNotNew)
 {
     model.setExtras(makeExtras(400, 0));
     const int columns = model.columns();
-    EXPECT_EQ(tiles.rowCount(), 6 * columns); // 400 points touch five rows; one beyond
+    EXPECT_EQ(tiles.rowCount(), 6 * columns); // 400 points touch five rows; one more is created
     EXPECT_EQ(tiles.index(0).data(TilesModel::IsNewRole), true);
     QCoreApplication::processEvents(); // the turn in which the view follows the items
     tiles.setProperty("viewBottom", 400 + 840);

@@ -1,4 +1,4 @@
-// A Wayland compositor with the least that Qt starts on, and without layer-shell. Prints its socket's name.
+// A Wayland compositor with the bare minimum on which Qt starts, and without layer-shell. Prints its socket's name.
 #include <cstdint>
 #include <cstdio>
 #include <wayland-server.h>

@@ -1,9 +1,9 @@
-// A virtual pointer and keyboard for wlroots compositors. Reads one command a line and answers "ok" once the compositor
-// has taken it:
+// A virtual pointer and keyboard for wlroots compositors. Reads one command per line and answers "ok" once the
+// compositor has processed it:
 //     move X Y WIDTH HEIGHT    a point of the layout, and the layout's size
 //     button CODE 0|1          Linux button codes; 1 is down
 //     key CODE 0|1             Linux key codes on a US keyboard
-// Started with "keyboard" it makes no pointer, with "pointer" no keyboard.
+// Started with "keyboard" it creates no pointer, with "pointer" no keyboard.
 #include <cstdint>
 #include <cstring>
 #include <ctime>
@@ -70,7 +70,7 @@ public:
         xkb_context_unref(context);
     }
 
-    // The compositor is told the modifiers beside the keys that make them.
+    // The compositor must be told the modifiers in addition to their keys.
     void press(std::uint32_t code, bool down)
     {
         constexpr std::uint32_t kFromLinux = 8;
@@ -145,7 +145,7 @@ int main(int argc, char **argv)
     wl_registry_add_listener(wl_display_get_registry(display), &kListener, &globals);
     wl_display_roundtrip(display);
     if (!globals.seat || !globals.pointers || !globals.keyboards) {
-        std::cerr << "inject: the compositor lets nobody inject\n";
+        std::cerr << "inject: the compositor does not support virtual devices\n";
         return 1;
     }
     const auto pointer = only == "keyboard" ? nullptr : std::make_unique<Pointer>(globals);

@@ -1,6 +1,6 @@
-// A bar and a panel on the desktop, driven and watched from outside: one JSON object a line on standard input, each
-// answered by one on standard output; what happens comes as lines with "event"_L1 in between. See surface_test.py for
-// the commands.
+// A bar and a panel on the desktop, driven and watched from outside: one JSON object per line on standard input, each
+// answered by one on standard output; events come as lines with "event" in between. See surface_cases.py for the
+// commands.
 #include "desktop/session/surface/ShellBackend.h"
 #include "desktop/session/surface/WaylandGlobals.h"
 
@@ -228,7 +228,7 @@ QJsonObject Probe::stateOf(const ShellSurface &surface)
             {"screen"_L1, surface.screen() ? surface.screen()->name() : QString()}};
 }
 
-// What was asked of the display server before has been done when this returns.
+// When this returns, the display server has done everything that was requested before.
 void Probe::sync()
 {
     if (auto *x11 = qGuiApp->nativeInterface<QNativeInterface::QX11Application>()) {
@@ -241,9 +241,9 @@ void Probe::sync()
 
 int run(int argc, char **argv)
 {
-    QLoggingCategory::setFilterRules(u"qt.qpa.wayland.info=false"_s); // of having no screen
+    QLoggingCategory::setFilterRules(u"qt.qpa.wayland.info=false"_s); // warnings about having no screen
     qInstallMessageHandler([](QtMsgType, const QMessageLogContext &, const QString &message) {
-        if (!message.startsWith("QStandardPaths"_L1)) // of the runtime folder, which belongs to the compositor's user
+        if (!message.startsWith("QStandardPaths"_L1)) // about the runtime folder, which is the compositor's user's
             std::cerr << qUtf8Printable(message) << std::endl;
     });
     if (const auto prepared = ShellBackend::prepareEnvironment(); !prepared) {
@@ -252,7 +252,7 @@ int run(int argc, char **argv)
     }
     QQuickWindow::setGraphicsApi(QSGRendererInterface::Software);
     QQuickWindow::setDefaultAlphaBuffer(true);
-    new QGuiApplication(argc, argv); // for good, see ShellBackend::end
+    new QGuiApplication(argc, argv); // never destroyed, see ShellBackend::end
     QGuiApplication::setQuitOnLastWindowClosed(false);
     const auto backend = ShellBackend::create();
     if (!backend) {

@@ -5,7 +5,7 @@
 #include <unistd.h>
 
 #if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__)
-extern "C" std::size_t __sanitizer_get_current_allocated_bytes(); // Debian has its header with clang only
+extern "C" std::size_t __sanitizer_get_current_allocated_bytes(); // Debian ships its header only with clang
 #else
 #include <malloc.h>
 #endif
@@ -22,7 +22,7 @@ std::size_t heapInUse()
 
 std::size_t residentSize()
 {
-    return 0; // a sanitizer keeps what was freed for a while: its pages say nothing
+    return 0; // a sanitizer holds on to freed memory, so its pages mean nothing
 }
 #else
 std::size_t heapInUse()

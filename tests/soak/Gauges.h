@@ -3,7 +3,7 @@
 
 namespace brimshade::soak {
 
-// What this process holds at one moment.
+// What this process holds at a given moment.
 struct Gauges {
     std::size_t heap = 0; // bytes handed out by the allocator
     std::size_t resident = 0; // bytes

@@ -25,8 +25,8 @@ constexpr int kRightArrow = 124;
 constexpr int kSpace = 49;
 constexpr double kScan = 0.3; // with applications that hang, and some that are slow
 constexpr double kAnimation = 0.6;
-constexpr double kMove = 5; // with what the divider does after it
-constexpr int kMostShown = 6; // there is room for so many beside the notch, and for more
+constexpr double kMove = 5; // including what the divider does afterwards
+constexpr int kMostShown = 6; // there is room for more than that beside the notch
 
 } // namespace
 
@@ -105,7 +105,7 @@ void Person::openAndClose(int way)
     closeAndCheck();
 }
 
-// Without a notch there is nothing to rest on.
+// Without a notch there is nothing to rest the pointer on.
 void Person::hover()
 {
     const auto screens = m_session.desktop().platform().screens.screens();
@@ -129,14 +129,14 @@ void Person::opened()
     expect(m_model.itemCount() > 10, "the items");
     if (m_openings % 10 == 0)
         m_session.scene().picture();
-    run(u"state"_s); // and takes what was recorded
+    run(u"state"_s); // which also empties the records
 }
 
 void Person::chooseFirstMatch()
 {
     expect(m_model.selectedMatch(), "a selected match");
     key(kReturn, u"\r"_s);
-    wait(kAnimation + 0.6); // it may be one that hangs since
+    wait(kAnimation + 0.6); // it may belong to one that hangs by now
     if (!run(u"state"_s).value(u"menu"_s).isNull())
         run(u"choose"_s, {{u"title"_s, u"About"_s}});
 }
@@ -167,7 +167,7 @@ const menubar::MenuExtra *Person::itemToMove()
 
 void Person::moveAnItem()
 {
-    m_model.onRefresh(); // what came since the last opening may stand elsewhere
+    m_model.onRefresh(); // items that came since the last opening may stand elsewhere
     wait(kScan);
     const menubar::MenuExtra *item = itemToMove();
     expect(item, "an item to move");

@@ -12,8 +12,8 @@ class NotchModel;
 
 namespace brimshade::soak {
 
-// Who sits before the desktop: opens the panel in every way, searches, chooses, hides and shows items, looks into the
-// windows. What does not come out as it should is said, and counted.
+// The person in front of the desktop: opens the panel in every way, searches, chooses, hides and shows items, looks
+// into the windows. Reports and counts whatever does not turn out as it should.
 class Person {
 public:
     explicit Person(composition::Session &session);
@@ -43,7 +43,7 @@ private:
 
     composition::Session &m_session;
     model::NotchModel &m_model;
-    std::mt19937 m_random; // always the same
+    std::mt19937 m_random; // the same in every run
     int m_openings = 0;
     int m_moves = 0;
     int m_faults = 0;

@@ -1,6 +1,6 @@
-// soak_test [HOURS]: so many hours of use in virtual time, a day being 10,000 openings of the panel and 1,000 moves.
-// Says what the process held after each tenth of it. Fails when something did not come out as it should, or when
-// anything had grown since the first tenth and stayed so through the last three.
+// soak_test [HOURS]: that many hours of use in virtual time, where a day is 10,000 openings of the panel and 1,000
+// moves. Prints what the process holds after each tenth. Fails if something did not turn out as it should, or if
+// anything had grown since the first tenth and stayed that way through the last three.
 #include "Gauges.h"
 #include "Person.h"
 #include "World.h"
@@ -19,11 +19,11 @@ namespace brimshade::soak {
 namespace {
 
 constexpr double kSecondsARound = 24 * 3600. / 10'000; // one opening each
-constexpr double kShort = 4; // hours, where none are said: less than a minute
-constexpr int kRoundsACycle = 40; // after which everything has happened, and begins again
+constexpr double kShort = 4; // the default, in hours: takes less than a minute
+constexpr int kRoundsACycle = 40; // after these everything has happened, and starts over
 constexpr int kTenths = 10;
 
-// A picture being read on another thread counts while it is, and gives its memory back. What leaks never does.
+// A picture that is being read on another thread takes memory for a while and then frees it; a leak never does.
 constexpr int kLasting = 3; // tenths
 
 // Caches fill and are emptied, and the allocator keeps some pages for itself.
@@ -74,7 +74,7 @@ private:
             m_person.lookIntoSetup();
     }
 
-    // Pictures are blurred, and frames drawn, in real time: by now they are, however busy the machine is.
+    // Pictures are blurred, and frames drawn, in real time: wait until they are, however busy the machine is.
     Gauges read()
     {
         m_session.scene().engine().collectGarbage();
@@ -109,7 +109,7 @@ private:
     Person m_person{m_session};
     QElapsedTimer m_wallClock;
     Gauges m_first;
-    int m_grownTenths = 0; // up to the latest, without a flat one in between
+    int m_grownTenths = 0; // in a row, up to the latest
 };
 
 } // namespace

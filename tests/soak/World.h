@@ -6,18 +6,18 @@
 
 namespace brimshade::soak {
 
-inline constexpr int kHanging = 10; // of the applications never answer
+inline constexpr int kHanging = 10; // applications that never answer
 
-// The screens and the other programs around Brimshade, and how they come, change and go. What it goes through repeats
-// itself, so that one stretch of time is like another.
+// The screens and the other programs around Brimshade, and how they come, change and go. Its changes repeat, so that
+// one stretch of time is like another.
 class World {
 public:
-    desktop::DesktopDescription description(); // as it is at first
+    desktop::DesktopDescription description(); // the initial one
 
     void replaceAnApplication(desktop::Desktop &desktop); // the oldest quits, another one launches
-    void renameAnItem(desktop::Desktop &desktop); // of the newest application
+    void renameAnItem(desktop::Desktop &desktop); // the newest application's
     void setNewestHangs(desktop::Desktop &desktop, bool hangs);
-    void changeScreens(desktop::Desktop &desktop); // back at the first after four
+    void changeScreens(desktop::Desktop &desktop); // after four changes it is back at the first
 
 private:
     desktop::ApplicationDescription next();

@@ -4,7 +4,7 @@
 
 namespace brimshade {
 
-// A movable item with the action AXPress, laid out by the bar; one at a fixed place; a plain button there.
+// A movable item with the action AXPress, laid out by the bar; an item at a fixed place; a plain button at one.
 desktop::ExtraDescription extra(const QString &identifier, double width = 30, const QStringList &menu = {});
 desktop::ExtraDescription extraAt(const QString &identifier, const QRectF &frame);
 desktop::ExtraDescription button(const QRectF &frame);

@@ -20,7 +20,7 @@ inline platform::Image picture(const QImage &image)
     return {std::make_shared<Picture>(image), QSizeF(image.size())};
 }
 
-// A square with a margin, as icons of applications are.
+// A square with a margin, like the icons of applications.
 inline platform::Image icon(const QColor &colour)
 {
     QImage image = filled(128, 128, Qt::transparent);
@@ -87,7 +87,7 @@ class FakeMenus : public platform::Menus {
 public:
     explicit FakeMenus(QStringList &journal) : m_journal(journal) { }
     platform::Menu menu; // the latest
-    std::optional<QPointF> corner; // of that; absent: at the pointer
+    std::optional<QPointF> corner; // that menu's; absent: at the pointer
 
     void popUpContextMenu(const platform::Menu &opened, std::optional<QPointF> at, platform::Work dismissed) override
     {
@@ -132,8 +132,8 @@ private:
 class FakeItemServices : public platform::ItemServices {
 public:
     explicit FakeItemServices(QStringList &journal) : m_journal(journal) { }
-    platform::ItemOffer offered; // by every item
-    QString known; // what every item is
+    platform::ItemOffer offered; // what every item offers
+    QString known; // every item's identity
 
     QString identity(const platform::AXUIElement &) const override { return known; }
 
@@ -205,8 +205,8 @@ private:
     QStringList &m_journal;
 };
 
-// What models and views ask of the system, in memory, with one journal of it so that its order shows:
-// "register", "menu Open,-Hide from Menu Bar" ("-" marks a disabled entry), "open x-apple…".
+// What models and views ask of the system, in memory, with a single journal so that the order shows: "register", "menu
+// Open,-Hide from Menu Bar" ("-" marks a disabled entry), "open x-apple…".
 struct FakeSystem {
     QStringList journal;
     FakeDefaults defaults;

@@ -4,7 +4,7 @@ namespace brimshade {
 
 namespace {
 
-// Everybody may own and send everything, as on a session's bus.
+// Everybody may own any name and send anything, as on a session's bus.
 const char *const kConfiguration = R"(<!DOCTYPE busconfig PUBLIC "-//freedesktop//DTD D-Bus Bus Configuration 1.0//EN"
  "http://www.freedesktop.org/standards/dbus/1.0/busconfig.dtd">
 <busconfig>

@@ -6,16 +6,16 @@
 
 namespace brimshade {
 
-// A message bus that nobody else is on. Connections made here are closed with it.
+// A message bus that nobody else uses. Connections made here are closed with it.
 class PrivateBus {
 public:
-    explicit PrivateBus(const QString &serviceFolder = {}); // of the programs that it starts when they are called
+    explicit PrivateBus(const QString &serviceFolder = {}); // has the programs that the bus starts when they are called
     ~PrivateBus();
     Q_DISABLE_COPY_MOVE(PrivateBus)
 
     QString address() const { return m_address; }
     void end(); // every connection to it is lost
-    void startAgain(); // where it was
+    void startAgain(); // at the same address
     QDBusConnection connection(const QString &name);
     void disconnect(const QString &name);
 

@@ -12,7 +12,7 @@
 
 namespace brimshade {
 
-// A desktop in virtual time and the hands of the person before it. Points have their origin at the top left.
+// A desktop in virtual time and the hands of the person who uses it. Points have their origin at the top left.
 class TestDesktop {
 public:
     explicit TestDesktop(const desktop::DesktopDescription &description)

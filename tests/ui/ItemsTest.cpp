@@ -7,7 +7,7 @@
 Q_IMPORT_QML_PLUGIN(Brimshade_UiPlugin)
 
 namespace brimshade::ui {
-// The pieces that a shadow is drawn in meet wherever it stands and however large it is.
+// The pieces in which a shadow is drawn meet wherever it is and however large it is.
 TEST(Items, AShadowHasNoSeams)
 {
     for (const double scale : {1.0, 2.0}) {
@@ -105,7 +105,7 @@ TEST(Items, WhatIsBlurredSpreadsAndKeepsItsLight)
     }
 }
 
-// A program that draws its icon anew all the time costs what is shown of it.
+// A program that keeps redrawing its icon costs only what is shown of it.
 TEST(Items, AnImageIsKeptWhileItIsShownAndNeverTakenForAnother)
 {
     class Source : public platform::ImageSource {
@@ -117,7 +117,7 @@ TEST(Items, AnImageIsKeptWhileItIsShownAndNeverTakenForAnother)
     Source red, blue;
     red.color = Qt::red;
     blue.color = Qt::blue;
-    // Two that came one after the other at one address.
+    // Two images that were, one after the other, at the same address.
     const auto imageAt = [](Source &source) { return platform::Image({&source, [](const Source *) {}}, {40, 40}); };
     OffscreenScene scene({40, 40}, 1);
     QQuickItem *root = scene.load("import Brimshade.Ui\nImageView { }");
@@ -131,13 +131,13 @@ TEST(Items, AnImageIsKeptWhileItIsShownAndNeverTakenForAnother)
     EXPECT_EQ(shown(image), Qt::red);
     image = imageAt(blue);
     EXPECT_EQ(shown(image), Qt::blue);
-    EXPECT_TRUE(first.expired()) << "its picture is remembered, but it is not held";
+    EXPECT_TRUE(first.expired()) << "its picture is cached, but the source is not kept alive";
     red.color = Qt::green;
     EXPECT_EQ(shown(imageAt(red)), Qt::green);
 }
 
-// Two groups that change places over a picture, as the steps of the setup do: what lies in them over something else, an
-// opaque rectangle for which the renderer leaves out what is under it, hides that at every moment.
+// Two groups that change places over a picture, like the steps of the setup: an opaque rectangle in a group hides what
+// lies under it at every moment, even though the renderer does not draw that.
 TEST(Items, AFadingGroupLetsNothingOfItsOwnShowThrough)
 {
     for (const double scale : {1.0, 1.5, 2.0}) {
@@ -164,11 +164,11 @@ TEST(Items, AFadingGroupLetsNothingOfItsOwnShowThrough)
         ASSERT_TRUE(root);
         const auto expect = [&](double shown, const char *when) {
             const QColor seen = scene.picture().pixelColor(int(40 * scale), int(40 * scale));
-            // The second over the first over what is behind both.
+            // The second over the first, over what is behind both.
             const auto mixed = [shown](double behind, double first, double second) {
                 return second * shown + (1 - shown) * (first * (1 - shown) + behind * shown);
             };
-            const double rounding = 3; // of two groups
+            const double rounding = 3; // from two groups
             EXPECT_NEAR(seen.red(), mixed(0x40, 255, 0), rounding) << when << ", " << shown << ", scale " << scale;
             EXPECT_NEAR(seen.green(), mixed(0x20, 0, 255), rounding) << when << ", " << shown << ", scale " << scale;
             EXPECT_NEAR(seen.blue(), mixed(0x80, 0, 0), rounding) << when << ", " << shown << ", scale " << scale;

@@ -5,13 +5,13 @@
 
 namespace brimshade::ui {
 
-// Animations of this thread go by this clock, to the millisecond, while it exists.
+// While it exists, this thread's animations follow this clock, to the millisecond.
 class ManualAnimationDriver : public QAnimationDriver {
 public:
     ManualAnimationDriver()
     {
         install();
-        // The toolkit adds real time to ours whenever the first animation starts: let one run all along.
+        // The toolkit adds real time to ours whenever a first animation starts, so keep one running all along.
         m_keeper.start();
         step(1);
     }
@@ -27,7 +27,7 @@ public:
 
     void step(int milliseconds)
     {
-        QCoreApplication::processEvents(); // animations that began since get their start time
+        QCoreApplication::processEvents(); // animations that began meanwhile get their start time
         m_now += milliseconds;
         advanceAnimation();
         QCoreApplication::processEvents();

@@ -92,8 +92,8 @@ void OffscreenScene::renderFrame(int milliseconds)
 
 void OffscreenScene::settle()
 {
-    QThreadPool::globalInstance()->waitForDone(); // what is blurred there comes now, however busy the machine is
-    // Polishing may ask for more polishing, and queued signals for more events: two rounds reach the end.
+    QThreadPool::globalInstance()->waitForDone(); // pictures blurred there are ready now, however busy the machine is
+    // Polishing may cause more polishing, and queued signals more events: two rounds are enough.
     for (int round = 0; round < 2; ++round) {
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
         QCoreApplication::processEvents();

@@ -20,18 +20,18 @@ public:
     OffscreenScene(QSize size, double scale);
     ~OffscreenScene();
 
-    // The root item fills the scene; null, with the errors printed, when it cannot be made.
+    // The root item fills the scene; null, with the errors printed, if it cannot be created.
     QQuickItem *load(const QByteArray &qml, const QVariantMap &properties = {});
     QQuickItem *root() const { return m_root.get(); }
-    QQuickItem *find(const QString &objectName) const; // anywhere below the root; null when there is none
+    QQuickItem *find(const QString &objectName) const; // anywhere below the root; null if there is none
     QList<QQuickItem *> findAll(const QString &objectName) const;
     QQuickWindow *window() const { return m_window.get(); }
 
-    // Opaque. Only what changed since the last one is drawn anew, as in a real window.
+    // Opaque. Only what has changed since the last one is redrawn, as in a real window.
     QImage picture();
-    void settle(); // bindings, polish and delegates are done
-    void renderFrame(int milliseconds); // one frame of that length, as a window makes it
-    void advance(int milliseconds); // frames of 16 ms, nothing rendered
+    void settle(); // completes bindings, polishing and delegates
+    void renderFrame(int milliseconds); // one frame of that length, like a window's
+    void advance(int milliseconds); // in frames of 16 ms, without rendering
     int framesAskedFor(int milliseconds); // how often the scene wanted to be drawn while that time passed
     QRectF frameOf(const QQuickItem *item) const; // in the scene, transforms applied
     void movePointer(QPointF to);

@@ -5,7 +5,7 @@
 
 namespace brimshade::ui {
 
-// The equation of motion, integrated in tiny steps: knows nothing of the closed form.
+// The equation of motion, integrated in tiny steps, independently of the closed form.
 SpringState integrated(const SpringParameters &p, SpringState s, double seconds)
 {
     const double stiffness = std::pow(2 * std::numbers::pi / p.response, 2);

@@ -54,7 +54,7 @@ TEST_F(SpringValueTest, TakesTheParametersThatComeWithTheTargetInEitherOrder)
     value.setResponse(0.2); // the binding that ran last
     value.setDelay(0.1);
     EXPECT_NEAR(seconds(140), 1 + springAt({0.2, 0.8}, {-1, 0}, 0.04).position, 1e-9);
-    value.setResponse(3); // not this motion's any more
+    value.setResponse(3); // no longer affects this motion
     EXPECT_NEAR(seconds(20), 1 + springAt({0.2, 0.8}, {-1, 0}, 0.06).position, 1e-9);
 }
 

@@ -20,7 +20,7 @@ TEST(Symbols, EveryOneHasAnOutlineWithinItsSquare)
     }
 }
 
-// Whatever a menu bar item or a view may ask for is there.
+// Every symbol that a menu bar item or a view may ask for exists.
 TEST(Symbols, NoNameInUseIsMissing)
 {
     const QString names = u"moon.fill battery.75percent switch.2 clock.fill wifi wave.3.right speaker.wave.2.fill "

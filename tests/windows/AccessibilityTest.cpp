@@ -43,7 +43,7 @@ protected:
             count += switchesOffered(element->child(i));
         return count;
     }
-    // "CheckBox Launch at login" and what else there is to know.
+    // "CheckBox Launch at login" and whatever else is told.
     QStringList told()
     {
         QStringList lines;
@@ -55,7 +55,7 @@ protected:
                 line += u" ("_s + description + u')';
             if (element->state().checkable)
                 line += element->state().checked ? u" on"_s : u" off"_s;
-            // The toolkit tells nobody that an item is disabled; a switch says that it cannot be changed.
+            // The toolkit does not report items as disabled; a switch says instead that it cannot be changed.
             if (element->state().checkable && element->state().readOnly)
                 line += u" disabled"_s;
             lines << line;
@@ -73,7 +73,7 @@ TEST_F(Accessibility, TellsTheSettingsInReadingOrder)
     model.setShortcut(model::Shortcut::optionCommandN);
     showSettings();
     EXPECT_EQ(switchesOffered(QAccessible::queryAccessibleInterface(scene().window())), 7)
-        << "seen or not, and without the one under the spinner";
+        << "whether seen or not, but without the one under the spinner";
     EXPECT_EQ(
         joined(told()),
         joined({
@@ -143,14 +143,14 @@ TEST_F(Accessibility, TellsEachStepOfTheSetupAndNothingOfTheOthers)
     }
 }
 
-// Nobody would hear of a switch that changes without an event.
+// Without an event, nobody would learn that a switch has changed.
 TEST_F(Accessibility, AnnouncesTheNewValueOfASwitch)
 {
     static QStringList announced;
     announced.clear();
     showSettings();
     told();
-    // Events are made only where the platform says that somebody listens.
+    // Events are sent only if the platform says that somebody is listening.
     auto *platform = QGuiApplicationPrivate::platformIntegration()->accessibility();
     platform->setActive(true);
     QAccessible::installUpdateHandler([](QAccessibleEvent *event) {

@@ -11,7 +11,7 @@
 
 namespace brimshade::windows {
 
-// The program's texts in a language, as long as it lives; those of a session where asked for.
+// While it exists, the program's texts are in that language; on request, those of a session.
 class Language {
 public:
     explicit Language(const QLocale &locale, bool isSession = false);
@@ -36,7 +36,7 @@ public:
 
     void setExtras(const menubar::ExtraList &extras);
     void goTo(int step);
-    bool isLooking(); // for the permission, on the second step
+    bool isLooking(); // whether it polls for the permission, on the second step
     ui::OffscreenScene &showSettings(double scale = 1, MenuBarChoices *menuBar = nullptr);
     ui::OffscreenScene &showSetup(double scale = 1);
     ui::OffscreenScene &scene() { return *m_scene; }
@@ -56,6 +56,6 @@ private:
 
 // Relay and Wi-Fi in the menu bar, Ledger hidden, the clock pinned.
 menubar::ExtraList someExtras();
-menubar::MenuExtra extra(const QString &name, bool isHidden = false, bool canMove = true); // the id in lower case
+menubar::MenuExtra extra(const QString &name, bool isHidden = false, bool canMove = true); // id: name in lower case
 
 } // namespace brimshade::windows

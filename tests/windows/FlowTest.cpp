@@ -71,7 +71,7 @@ TEST_F(Flow, SeedsChoicesAtTheStartAndForEveryNewItem)
     EXPECT_EQ(OnboardingFlow(model, permission, accessibility, dispatch, nullptr).choices(), seeded);
 
     flow.toggle(u"relay"_s);
-    // A rescan: one new, one gone, and Relay found hidden and shown again.
+    // Rescans: one item is new, one is gone, and Relay is found hidden, then shown again.
     model.setExtras({extra(u"atlas"_s, true), extra(u"relay"_s, true)});
     model.setExtras({extra(u"atlas"_s, true), extra(u"relay"_s, false)});
     EXPECT_EQ(flow.choices(), (ItemChoices{{u"relay"_s, true}, {u"ledger"_s, true}, {u"atlas"_s, true}}));

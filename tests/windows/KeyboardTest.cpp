@@ -53,7 +53,7 @@ TEST_F(Keyboard, FlipsSwitches)
     walk(Qt::Key_Tab, 2);
     key(Qt::Key_Space);
     EXPECT_EQ(moves, QStringList{u"ledger show"_s});
-    EXPECT_FALSE(property(u"itemSwitch"_s, "checked").toBool()) << "shows the item's state, not the wish";
+    EXPECT_FALSE(property(u"itemSwitch"_s, "checked").toBool()) << "it shows the item's state, not what was asked for";
     walk(Qt::Key_Tab, 3);
     ASSERT_EQ(focused(), u"hoverSwitch"_s);
     key(Qt::Key_Space);

@@ -66,7 +66,7 @@ TEST_F(SetupView, GridHasFiveColumnsAndScrolls)
     EXPECT_EQ(frame(5).left(), frame(0).left());
     EXPECT_EQ(frame(5).top() - frame(0).bottom(), 14);
     EXPECT_NEAR(frame(0).left() + frame(4).right(), 640, 0.5) << "centred";
-    EXPECT_TRUE(item(u"fade"_s)->isVisible()) << "more below";
+    EXPECT_TRUE(item(u"fade"_s)->isVisible()) << "there is more below";
     key(Qt::Key_Backtab, Qt::ShiftModifier); // primary button
     key(Qt::Key_Backtab, Qt::ShiftModifier);
     key(Qt::Key_Backtab, Qt::ShiftModifier); // the last tile

@@ -19,8 +19,8 @@ public:
     void setOnChange(std::function<void()>) override { }
 };
 
-// Every text that can be read in either window has room, in every language: it is not elided, does not reach out of
-// the window and does not lie over another one. Names of items may be elided.
+// Every readable text in either window has enough room, in every language: it is not elided, does not stick out of the
+// window and does not overlap another one. Names of items may be elided.
 class Texts : public testing::TestWithParam<std::tuple<const char *, bool>> {
 protected:
     const Language language{QLocale(QString::fromLatin1(std::get<0>(GetParam()))), std::get<1>(GetParam())};
@@ -116,7 +116,7 @@ TEST_P(Texts, HaveRoomInTheSettingsOfASessionsMenuBar)
         context.showSettings(1, &choices);
         ASSERT_TRUE(context.item(u"notchPicker"_s));
         expectRoom(u"notch %1"_s.arg(int(style)));
-        context.showSettings(); // lets go of the choices
+        context.showSettings(); // which drops the choices
     }
 }
 

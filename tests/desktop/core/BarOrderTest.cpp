@@ -9,7 +9,7 @@ namespace {
 
 constexpr double kWide = std::numeric_limits<double>::infinity();
 
-// One letter an item, right to left, each 10 points wide: "P" is pinned, "|" the own one, capitals are listed, small
+// One letter per item, right to left, each 10 points wide: "P" is pinned, "|" the own one, capitals are listed, small
 // letters come and go.
 class Bar {
 public:
@@ -35,7 +35,7 @@ public:
     {
         return *std::ranges::find(order.laidOut(), QString(letter), &BarEntry::identifier);
     }
-    // Left of so many of the others that show.
+    // Drops it left of index others that are shown.
     bool drop(QChar letter, std::size_t index, double room = kWide) { return order.drop(entry(letter), index, room); }
     std::string shown(double room = kWide) const { return text(order.shown(room)); }
     std::string kept() const
@@ -93,7 +93,7 @@ TEST(BarOrder, ShowsTheOwnItemWhereverRoomRunsOut)
     };
     for (const Case &each : {
              Case{u"P|abcd"_s, 60, "Pabcd|"}, Case{u"P|abcd"_s, 59, "Pabc|d"}, Case{u"P|abcd"_s, 30, "Pa|bcd"},
-             Case{u"P|abcd"_s, 20, "P|abcd"}, Case{u"P|abcd"_s, 19, "Pabcd|"}, // not even then
+             Case{u"P|abcd"_s, 20, "P|abcd"}, Case{u"P|abcd"_s, 19, "Pabcd|"}, // it would not fit even then
              Case{u"P|ABCD"_s, 30, "P|ABCD"}, Case{u"PABC|"_s, 30, "P|ABC"}, Case{u"Pa|"_s, -5, "Pa|"}, // no bar
              Case{u"Pabc"_s, 20, "Pabc"}, // no own item
          })
@@ -101,7 +101,7 @@ TEST(BarOrder, ShowsTheOwnItemWhereverRoomRunsOut)
 
     Bar mixed(u"P|ABab"_s); // "Pab|AB"
     mixed.order.placeOwn(mixed.entry(u'|'), 8 + 10 + 20);
-    EXPECT_EQ(mixed.shown(), "PABab|") << "left of the listed ones that fill so much, with what stands around it";
+    EXPECT_EQ(mixed.shown(), "PABab|") << "left of the listed ones that fill those points, with what stands around it";
     EXPECT_EQ(mixed.shown(50), "PABa|b");
     EXPECT_EQ(mixed.shown(30), "PABab|") << "listed ones do not make way";
 }
@@ -115,7 +115,7 @@ TEST(BarOrder, DropsAmongWhatIsShown)
         bool changes;
         const char *shown, *roomy, *kept;
     };
-    // At first "Pabc|def": d and e find no room, f is tucked away.
+    // Initially "Pabc|def": there is no room for d and e, and f is tucked away.
     for (const Case &each : {
              Case{"tucked away, what made way comes back", u'b', 4, true, "Pacd|ebf", "Pacde|bf", "acde|bf"},
              Case{"tucked away at the left end", u'b', 7, true, "Pacd|efb", "Pacde|fb", "acde|fb"},

@@ -19,7 +19,7 @@ protected:
     {
         return item.button()->window() ? flipped(item.button()->window()->frame(), 982) : QRectF();
     }
-    // The gesture as a program makes it.
+    // The gesture as a program performs it.
     void drag(QPointF from, QPointF to, std::uint64_t downFlags, std::uint64_t upFlags, int drags = 3)
     {
         platform.eventServices.post({kCGEventLeftMouseDown, from, downFlags, 1});
@@ -62,7 +62,7 @@ TEST_F(BarTest, WithoutANotchShowsItemsUpToTheActiveApplicationsMenus)
 
 TEST_F(BarTest, ShowsNoLayoutThatIsOlderThanItsOwnItem)
 {
-    desktop.launch({.description = application(13, {extra(u"c.four"_s)})}); // will be laid out without the own item
+    desktop.launch({.description = application(13, {extra(u"c.four"_s)})}); // to be laid out without the own item
     const auto own = platform.statusBar.createStatusItem(28);
     const QRectF behind = barFrame(u"a.one"_s);
     EXPECT_EQ(maxX(behind), windowFrame(*own).left());
@@ -110,7 +110,7 @@ TEST_F(BarTest, PutsItsOwnItemWhereTheSettingsSayAndStoresOnlyADragOfIt)
 
 TEST_F(BarTest, RearrangesByCommandDragsAndByNothingElse)
 {
-    // At first, left to right: three 1282, two 1312, one 1342, clock 1372.
+    // Initially, left to right: three 1282, two 1312, one 1342, clock 1372.
     const QString before = barOrder();
     constexpr auto command = kCGEventFlagMaskCommand;
     struct Case {
@@ -136,14 +136,14 @@ TEST_F(BarTest, RearrangesByCommandDragsAndByNothingElse)
         {"right of the clock", {1297, 10}, {1500, 10}, u"a.one b.two b.three com.example.clock"_s},
     };
     for (const Case &c : cases) {
-        desktop.menus().dismiss(); // which a click on an item opened, and which takes all input
+        desktop.menus().dismiss(); // a click on an item opened it, and it takes all input
         desktop.setMovesAccepted(c.accepted);
         drag(c.from, c.to, c.downFlags, c.upFlags, c.drags);
         EXPECT_EQ(barOrder().toStdString(), c.after.toStdString()) << c.name;
     }
 }
 
-// What shows meanwhile is no more than that: frames change once the bar has settled after the drop.
+// Only what is shown changes meanwhile: frames change once the bar has settled after the drop.
 TEST_F(BarTest, MakesWayForAnItemThatAHandHas)
 {
     const auto places = [this] {
@@ -221,7 +221,7 @@ TEST_F(BarTest, ScrollsOverAnItemThatTakesIt)
     settle();
     EXPECT_EQ(desktop.input().scrolled(barFrame(u"c.four"_s).center(), {7, -120}), Target::menuBar);
     EXPECT_EQ(scrolled, QPoint(7, -120));
-    desktop.input().scrolled(barFrame(u"a.one"_s).center(), {0, 120}); // described: nobody takes it
+    desktop.input().scrolled(barFrame(u"a.one"_s).center(), {0, 120}); // a described item: nobody takes it
     desktop.input().scrolled({300, 500}, {0, 120});
     EXPECT_EQ(scrolled, QPoint(7, -120));
     platform.itemServices->scroll(item(13, 0), {0, 120});

@@ -21,7 +21,7 @@ public:
         desktop.launch({.description = brimshade::application(pid, name, {extra(name, 34)}),
                         .items = {{name, {.origin = ItemOrigin{QString::number(pid), name, u"main"_s}}}}});
     }
-    void run() { dispatch.advance(0.2); } // reads what is to be read, and lets the bar settle
+    void run() { dispatch.advance(0.2); } // reads the file if need be, and lets the bar settle
     QString order()
     {
         run();
@@ -61,7 +61,7 @@ TEST_F(KeptOrderFileTest, KeepsTheOrderFromOneStartToTheNext)
     {
         FiledBar bar(path);
         bar.run();
-        EXPECT_TRUE(files().isEmpty()) << "nothing was there to be kept";
+        EXPECT_TRUE(files().isEmpty()) << "there was nothing to keep";
         for (const QString &name : {u"relay"_s, u"vault"_s, u"quill"_s})
             bar.launch(name);
         bar.run();

@@ -16,7 +16,7 @@ KeptOrder::Today today(QDate day = kToday)
     return [day] { return day; };
 }
 
-// "relay/main#1": the item "main" of the program "relay", the second of those.
+// "relay/main#1": the second item "main" of the program "relay".
 KeptItem parse(const QString &text)
 {
     const QString name = text.section(u'#', 0, 0);
@@ -38,7 +38,7 @@ QString shown(const KeptOrder::Slot &slot)
     return slot->ordinal == 0 ? text : text + u'#' + QString::number(slot->ordinal);
 }
 
-// "a (b) | c": right to left, absent ones in brackets, the own item as a bar.
+// "a (b) | c": right to left, absent items in brackets, the own one as a bar.
 KeptOrder orderOf(const QString &text)
 {
     KeptOrder order(today());
@@ -104,9 +104,9 @@ TEST(KeptOrder, AMovedItemPassesNoMoreAbsentOnesThanItMust)
              Case{u"a (x) b | c"_s, u"a"_s, u"b | a c"_s, "(x) b | a c"},
              Case{u"a (x) b | c"_s, u"b"_s, u"b a | c"_s, "b a (x) | c"},
              Case{u"a (x) b |"_s, u"a"_s, u"b a |"_s, "(x) b a |"},
-             Case{u"a (x) b | c"_s, u"|"_s, u"a | b c"_s, "a (x) | b c"}, // what was shown stays so
-             Case{u"a | b (x) c"_s, u"|"_s, u"a b | c"_s, "a b | (x) c"}, // what was tucked away stays so
-             Case{u"a | (x) b"_s, u"|"_s, u"a b |"_s, "a (x) b |"}, // unless it is passed
+             Case{u"a (x) b | c"_s, u"|"_s, u"a | b c"_s, "a (x) | b c"}, // what was shown stays shown
+             Case{u"a | b (x) c"_s, u"|"_s, u"a b | c"_s, "a b | (x) c"}, // what was tucked away stays tucked away
+             Case{u"a | (x) b"_s, u"|"_s, u"a b |"_s, "a (x) b |"}, // unless the moved item passes it
              Case{u"(x) a | b (y)"_s, u"b"_s, u"b a |"_s, "(x) b a | (y)"},
              Case{u"(x) a | b (y)"_s, u"a"_s, u"| b a"_s, "(x) | b a (y)"},
              Case{u"a | b"_s, u"c"_s, u"a c | b"_s, "a | b"},
@@ -151,7 +151,7 @@ TEST(KeptOrder, ForgetsWhoWasNotSeenForNinetyDaysAndTheOldestBeyondTheMost)
     order.append(parse(u"old"_s), kToday.addDays(-91));
     order.append(parse(u"kept"_s), kToday.addDays(-90));
     order.append(parse(u"back"_s), kToday.addDays(-91));
-    order.append(parse(u"ahead"_s), kToday.addDays(5)); // of a clock that was wrong
+    order.append(parse(u"ahead"_s), kToday.addDays(5)); // from a clock that was wrong
     order.arrive(parse(u"back"_s));
     EXPECT_EQ(text(order), "| (kept) back (ahead)");
     order.leave(parse(u"back"_s));
@@ -175,7 +175,7 @@ TEST(KeptOrder, IsReadAsItWasWritten)
     EXPECT_EQ(writeKeptOrder(*read), json);
     EXPECT_EQ(read->records().front().seen, kToday);
 
-    KeptOrder cut(today()); // in the middle of a character of two units
+    KeptOrder cut(today()); // cut in the middle of a character of two units
     const KeptItem item = cut.arrive({QString(KeptOrder::kLongestText - 1, u'x') + u"🙂"_s, {}});
     const auto again = readKeptOrder(writeKeptOrder(cut), today());
     ASSERT_TRUE(again);

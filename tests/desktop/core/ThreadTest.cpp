@@ -10,8 +10,8 @@ using namespace brimshade::platform;
 
 namespace brimshade::desktop {
 
-// Everything that other threads may ask for, as fast as they can, while the main thread turns the display upside down.
-// What is checked here is what the thread sanitizer sees.
+// Other threads ask for everything they may, as fast as they can, while the main thread turns the display upside down.
+// The real check is the thread sanitizer's.
 TEST(DesktopThreads, ReadsAndPostsOnAnyThreadWhileTheDisplayChanges)
 {
     RealDispatch dispatch;

@@ -83,7 +83,7 @@ TEST_F(WindowTest, SizesItselfByItsContentAndStaysBelowTheMenuBar)
     EXPECT_EQ(window->frame(), QRectF(100, 100, 200, 128)) << "a title bar above the content";
     window->center();
     desktopWindow->setContentSize({480, 640});
-    EXPECT_EQ(window->frame(), QRectF(516, 185, 480, 668)) << "centred though its size came later, on whole points";
+    EXPECT_EQ(window->frame(), QRectF(516, 185, 480, 668)) << "centred on whole points although its size came later";
     window->makeKeyAndOrderFront();
     desktopWindow->setContentSize({480, 600});
     EXPECT_DOUBLE_EQ(maxY(window->frame()), 185 + 668) << "the title bar stays";

@@ -11,7 +11,7 @@ inline ApplicationDescription application(int pid, const std::vector<ExtraDescri
 // A clock of 132 points, pinned, and three items of 30: "a.one", "b.two", "b.three" of the applications 11 and 12.
 DesktopDescription someDesktop();
 
-// The shortest way to what tests ask of a desktop.
+// Shortcuts to what tests ask of a desktop.
 class World : public testing::Test, protected TestDesktop {
 protected:
     explicit World(const DesktopDescription &description = someDesktop()) : TestDesktop(description) { }
@@ -20,10 +20,10 @@ protected:
     platform::AXUIElement bar(int pid); // its extras menu bar; null when that cannot be read
     platform::AXUIElement item(int pid, std::size_t index);
     std::vector<platform::AXUIElement> children(const platform::AXUIElement &element);
-    // What a read ended with: kAXErrorSuccess for a value.
+    // How a read ended: kAXErrorSuccess if with a value.
     platform::AXError errorOf(const platform::AXUIElement &element, const QString &attribute);
     QString text(const platform::AXUIElement &element, const QString &attribute);
-    QRectF axFrame(const platform::AXUIElement &element); // empty when it cannot be read
+    QRectF axFrame(const platform::AXUIElement &element); // empty if it cannot be read
 
     QString barOrder(); // identifiers left to right, the own item by its autosave name
     QRectF barFrame(const QString &identifier);

@@ -97,7 +97,7 @@ TEST_F(AutostartTest, AnEntryThatStartsNoSessionIsRewritten)
     expectValid(userFile);
 }
 
-// What the entry's Exec does, where the session's programs include those of folder's bin.
+// Runs the entry's Exec in a session whose programs include those in the folder's bin.
 class AutostartExecTest : public AutostartTest {
 protected:
     QString saidBy(AutostartLoginItem &registered)
@@ -111,7 +111,7 @@ protected:
             environment.insert(u"PATH"_s, folder.filePath(u"bin"_s) + u':' + environment.value(u"PATH"_s));
             return environment;
         }());
-        // A shell undoes the quoting of an argument in the same way, once that of the string and the percent signs is
+        // A shell undoes the quoting of arguments in the same way, once the string's escapes and the percent signs are
         // undone.
         shell.start(u"sh"_s, {u"-c"_s, QString(exec).replace(u"\\\\"_s, u"\\"_s).replace(u"%%"_s, u"%"_s)});
         EXPECT_TRUE(shell.waitForFinished());

@@ -49,12 +49,12 @@ protected:
         ASSERT_TRUE(tool.waitForFinished());
         ASSERT_EQ(tool.exitCode(), 0) << tool.readAllStandardError().constData();
     }
-    // Presses the keys and then a combination that is known to come: everything before it has come too.
+    // Presses the keys and then a combination that is sure to come: once it has, so has everything before it.
     std::vector<HotkeyCombination> press(const QStringList &keys)
     {
         pressed.clear();
         run(u"xdotool"_s, QStringList{u"key"_s} + keys + QStringList{u"ctrl+alt+space"_s});
-        waitFor(u"the combination that is known to come"_s,
+        waitFor(u"the combination that is sure to come"_s,
                 [&] { return !pressed.empty() && pressed.back() == kControlOptionSpace; });
         pressed.pop_back();
         return pressed;
@@ -69,11 +69,11 @@ TEST_F(X11KeyGrabberTest, TellsWhichCombinationWasPressed)
 {
     for (const HotkeyCombination &each : {kOptionCommandN, kControlOptionSpace, kControlOptionCommandM})
         EXPECT_TRUE(grabber->grab(each, {}));
-    EXPECT_FALSE(grabber->grab({1000, platform::kCarbonCommand}, {})); // no key at all
+    EXPECT_FALSE(grabber->grab({1000, platform::kCarbonCommand}, {})); // not a key
 
     EXPECT_THAT(press({u"super+alt+n"_s, u"super+alt+ctrl+m"_s}), ElementsAre(kOptionCommandN, kControlOptionCommandM));
     EXPECT_THAT(press({u"n"_s, u"super+n"_s, u"super+alt+m"_s, u"super+alt+shift+n"_s}), ElementsAre());
-    // Neither lock is a modifier of ours.
+    // We treat neither lock as a modifier.
     EXPECT_THAT(press({u"Num_Lock"_s, u"super+alt+n"_s}), ElementsAre(kOptionCommandN));
     EXPECT_THAT(press({u"Caps_Lock"_s, u"super+alt+n"_s}), ElementsAre(kOptionCommandN));
 
@@ -81,7 +81,7 @@ TEST_F(X11KeyGrabberTest, TellsWhichCombinationWasPressed)
     EXPECT_THAT(press({u"super+alt+n"_s}), ElementsAre());
 }
 
-// One that is added and cannot be grabbed would work nowhere but in the desktop's own window.
+// A shortcut that can be chosen but not grabbed would work only in the desktop's own window.
 TEST_F(X11KeyGrabberTest, GrabsEveryShortcutThatCanBeChosen)
 {
     for (const model::Shortcut shortcut : model::allShortcuts) {

@@ -1,4 +1,4 @@
-// What both implementations promise. Where a delay is needed the order is what counts, not how long it took.
+// What both implementations promise. Where a delay is needed, only the order counts, not how long it took.
 #include "desktop/time/RealDispatch.h"
 #include "desktop/time/VirtualDispatch.h"
 #include "support/Test.h"
@@ -26,7 +26,7 @@ void runUntil(RealDispatch &, const bool &done)
 
 template <class Implementation> class DispatchTest : public testing::Test {
 protected:
-    // Runs the main queue until done is true, or time enough has passed for it under virtual time.
+    // Runs the main queue until done is true or, under virtual time, until enough time has passed.
     void run(const bool &done) { runUntil(*dispatch, done); }
     std::shared_ptr<platform::SerialQueue> makeQueue()
     {
@@ -43,7 +43,7 @@ TYPED_TEST_SUITE(DispatchTest, Implementations);
 
 TYPED_TEST(DispatchTest, WorkRunsByDueTimeThenByQueueing)
 {
-    // Each is due after the ones before it however slowly they are queued, but for the first.
+    // Except for the first, each is due after the ones before it, however slowly they are queued.
     auto &order = this->order;
     this->dispatch->mainAfter(86400, [&] { order.push_back(5); });
     this->dispatch->mainAsync([&] { order.push_back(1); });
@@ -53,7 +53,7 @@ TYPED_TEST(DispatchTest, WorkRunsByDueTimeThenByQueueing)
         order.push_back(4);
         this->done = true;
     });
-    EXPECT_THAT(order, ElementsAre()); // never before a later turn
+    EXPECT_THAT(order, ElementsAre()); // nothing runs before a later turn
     this->run(this->done);
     EXPECT_THAT(order, ElementsAre(1, 2, 3, 4));
 }
@@ -120,7 +120,7 @@ TYPED_TEST(DispatchTest, SerialQueueKeepsItsOrderOffTheMainThreadAndMainSyncRuns
 
 TYPED_TEST(DispatchTest, GlobalWorkOverlaps)
 {
-    // The first piece waits for what the second one does: one after the other they would never end.
+    // The first piece waits for what the second one does: run one after the other, they would never end.
     bool secondRan = false; // main thread only
     this->dispatch->globalAsync(QualityOfService::userInitiated, [&] {
         bool seen = false;
@@ -139,7 +139,7 @@ TYPED_TEST(DispatchTest, ConcurrentIterationsOverlapWhateverHangsElsewhere)
 {
     for (int i = 0; i < 100; ++i)
         this->dispatch->globalAsync(QualityOfService::userInitiated, [&] { this->dispatch->sleep(86400); });
-    // Each waits until all have begun: fewer threads than iterations would never get there.
+    // Each waits until all have begun: with fewer threads than iterations, that would never happen.
     constexpr std::size_t kIterations = 20;
     std::atomic<std::size_t> begun = 0;
     std::vector<int> runs(kIterations);
@@ -155,7 +155,7 @@ TYPED_TEST(DispatchTest, ConcurrentIterationsOverlapWhateverHangsElsewhere)
             for (++begun; begun < kIterations;)
                 this->dispatch->sleep(0.0001);
         });
-        EXPECT_THAT(runs, testing::Each(1)) << "it returns when all have ended";
+        EXPECT_THAT(runs, testing::Each(1)) << "it should return only when all have ended";
         this->dispatch->mainAsync([&] { this->done = true; });
     });
     this->run(this->done);
@@ -170,10 +170,10 @@ TYPED_TEST(DispatchTest, DestructionLetsConcurrentIterationsEnd)
     this->makeQueue()->async([&] {
         std::atomic<int> begun = 0;
         dispatch.concurrentPerform(4, [&](std::size_t) {
-            if (++begun == 3) // the fourth may begin while all ends
+            if (++begun == 3) // the fourth may begin during the shutdown
                 dispatch.mainAsync([&] { this->done = true; });
             dispatch.sleep(86400);
-            dispatch.mainSync([] { ADD_FAILURE() << "nothing runs any more"; });
+            dispatch.mainSync([] { ADD_FAILURE() << "nothing may run any more"; });
             ++ended;
         });
         returned = true;
@@ -186,7 +186,7 @@ TYPED_TEST(DispatchTest, DestructionLetsConcurrentIterationsEnd)
 
 TYPED_TEST(DispatchTest, DestructionEndsSleepsAndDropsMainSync)
 {
-    TypeParam &dispatch = *this->dispatch; // the pointer is gone while the workers end
+    TypeParam &dispatch = *this->dispatch; // a reference, since the pointer is reset while the workers end
     const auto asleep = this->makeQueue();
     const auto waiting = this->makeQueue();
     auto witness = std::make_shared<int>();
@@ -199,9 +199,9 @@ TYPED_TEST(DispatchTest, DestructionEndsSleepsAndDropsMainSync)
         dispatch.mainSync([&] { ranOnMain = true; });
         woke = true;
     });
-    asleep->async([witness] { ADD_FAILURE() << "its turn never comes"; });
+    asleep->async([witness] { ADD_FAILURE() << "its turn should never come"; });
     this->run(this->done);
-    waiting->async([&] { dispatch.mainSync([&] { ranOnMain = true; }); }); // under way or not yet begun
+    waiting->async([&] { dispatch.mainSync([&] { ranOnMain = true; }); }); // may be under way or not yet begun
     dispatch.mainAfter(86400, [witness] {});
     dispatch.stop();
     EXPECT_TRUE(woke);

@@ -45,7 +45,7 @@ TEST_F(VirtualDispatchTest, ADelayEndsExactlyAtItsBound)
 
 TEST_F(VirtualDispatchTest, SleepersTakeTurnsByTheClock)
 {
-    // Two queues and the main one, always in the same course.
+    // Two queues and the main one always take the same course.
     const auto fast = dispatch.makeSerialQueue(u"fast"_s, QualityOfService::userInitiated);
     const auto slow = dispatch.makeSerialQueue(u"slow"_s, QualityOfService::userInitiated);
     const auto steps = [this](const char *name, double pause) {
@@ -79,7 +79,7 @@ TEST_F(VirtualDispatchTest, ConcurrentIterationsTakeAsLongAsTheSlowestAndWakeInT
             note("end" + std::to_string(i));
         });
         note("all");
-        const double shorter[] = {0.05, 0.1}; // the first falls asleep again after the second, for the same instant
+        const double shorter[] = {0.05, 0.1}; // the first one sleeps again after the second, until the same instant
         dispatch.concurrentPerform(2, [&](std::size_t i) {
             for (double slept = 0; slept < 0.1; slept += shorter[i])
                 dispatch.sleep(shorter[i]);
@@ -104,7 +104,7 @@ TEST_F(VirtualDispatchTest, FramesAreMadeOnlyWhileTheyAreWanted)
     EXPECT_TRUE(frames.empty());
 
     dispatch.mainAfter(0.5, [&] { wanted = true; });
-    dispatch.mainAfter(1, [&] { wanted = false; }); // the frame of that instant is still made
+    dispatch.mainAfter(1, [&] { wanted = false; }); // the frame of that instant still comes
     dispatch.advance(100);
     ASSERT_EQ(frames.size(), 30U);
     EXPECT_THAT(frames.front(), testing::DoubleNear(5.5 + 1 / 60., 1e-8));
@@ -114,7 +114,7 @@ TEST_F(VirtualDispatchTest, FramesAreMadeOnlyWhileTheyAreWanted)
     wanted = true;
     for (int i = 0; i < 120; ++i)
         dispatch.advance(1 / 60.);
-    EXPECT_EQ(frames.size(), 120U); // rounding loses none
+    EXPECT_EQ(frames.size(), 120U); // none is lost to rounding
 }
 
 } // namespace brimshade::desktop

@@ -10,7 +10,7 @@ void BusTest::settle(const QDBusConnection &from, const QDBusConnection &to)
     int answers = 0;
     QObject context;
     const BusAddress peer{to.baseService(), u"/"_s, u"org.freedesktop.DBus.Peer"_s};
-    // A Ping is answered past the program: the second one follows what that answers.
+    // Qt answers a Ping without the program: only the answer to the second one comes after the program's own answers.
     for (int round = 1; round <= 2; ++round) {
         callAsync(from, peer, u"Ping"_s, {}, &context, [&](const BusReply &) { ++answers; });
         waitFor(u"the answer to a ping"_s, [&] { return answers == round; });
@@ -19,7 +19,7 @@ void BusTest::settle(const QDBusConnection &from, const QDBusConnection &to)
 
 void BusTest::step(const QDeadlineTimer &deadline, const std::source_location &where)
 {
-    constexpr double unnoticed = 0.1; // seconds: the bar's layout
+    constexpr double unnoticed = 0.1; // seconds: the delay of the bar's layout
     if (deadline.hasExpired())
         throw std::runtime_error("never came: what " + std::string(where.file_name()) + " waits for in line "
                                  + std::to_string(where.line()));

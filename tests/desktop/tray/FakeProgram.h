@@ -16,8 +16,8 @@ namespace brimshade::desktop::tray {
 
 class BusTest : public testing::Test {
 protected:
-    // Lets messages come until the condition holds. Time passes only where something is due so soon that nobody would
-    // notice; what takes longer, like a limit on an answer, a test lets pass itself.
+    // Lets messages come until the condition holds. Time passes only for what is due so soon that nobody would notice;
+    // for anything longer, like the time limit of an answer, a test must advance the time itself.
     template <typename Condition>
     void waitUntil(const Condition &condition, std::source_location where = std::source_location::current())
     {
@@ -26,7 +26,8 @@ protected:
             step(deadline, where);
     }
 
-    // Until the other end has got everything that was sent to it before, and its answers came. No time passes.
+    // Waits until the other end has received everything that was sent to it before, and its answers have come. No time
+    // passes.
     void settle(const QDBusConnection &from, const QDBusConnection &to);
 
     VirtualDispatch m_dispatch;
@@ -36,25 +37,25 @@ private:
     void step(const QDeadlineTimer &deadline, const std::source_location &where);
 };
 
-// A scripted program with one tray item and one menu. It notes what it is asked to do.
+// A scripted program with one tray item and one menu. It records what it is asked to do.
 class FakeProgram : public QDBusVirtualObject {
     Q_OBJECT
 public:
     explicit FakeProgram(const QDBusConnection &connection);
 
     QVariantMap properties; // of the item
-    MenuNode menu; // at /Menu; read anew for every answer
-    QSet<QString> unknownMethods; // answered as a program that lacks them does
+    MenuNode menu; // at /Menu; read again for every answer
+    QSet<QString> unknownMethods; // answered like a program that lacks them
     QSet<QString> heldMethods; // answered by answerHeld()
-    QSet<QString> lateMethods; // answered as if the time for an answer had passed
+    QSet<QString> lateMethods; // answered as if the time limit had passed
     std::function<void(int id)> onAboutToShow;
 
     // "Activate 10 37", "AboutToShow 0", "GetLayout 0", "Event 3 clicked", "GetAll", in order
     QStringList calls() const { return m_calls; }
-    void note(const QString &what) { m_calls.append(what); } // between them
-    QStringList takeEvents(); // only the events, and forgets them
+    void note(const QString &what) { m_calls.append(what); } // adds a line of the test's own
+    QStringList takeEvents(); // only the events, which are then forgotten
 
-    void registerItem(const QString &argument); // with whoever is the watcher
+    void registerItem(const QString &argument); // with the current watcher
     void answerHeld();
     void signalItem(const QString &name);
     void signalLayout(int parent);
@@ -63,7 +64,7 @@ public:
     QString introspect(const QString &) const override { return {}; }
 
 Q_SIGNALS:
-    void called(const QString &what); // as calls() has it
+    void called(const QString &what); // in the form of calls()
 
 private:
     void reply(const QDBusMessage &message);
@@ -74,7 +75,7 @@ private:
     std::vector<QDBusMessage> m_held;
 };
 
-// One such program and a connection of ours, on a bus of their own.
+// One such program and one connection of our own, on a private bus.
 class FakeProgramTest : public BusTest {
 protected:
     QDBusConnection m_own = m_bus.connection(u"own"_s);

@@ -45,7 +45,7 @@ TEST_F(IconTest, AreFoundInABareFolderAndInAThemeBelowIt)
 TEST_F(IconTest, OfSeveralBelowAFolderTheLargestIsShownAndADrawnOneBeforeAll)
 {
     const auto theme = folder.filePath(u"theme"_s);
-    // Whichever of the two folders is visited first.
+    // No matter which of the two folders is visited first.
     put(u"theme/one/first.png"_s, Qt::red, 8);
     put(u"theme/two/first.png"_s, Qt::green, 64);
     put(u"theme/one/second.png"_s, Qt::green, 64);
@@ -98,7 +98,7 @@ TEST_F(IconTest, AreFoundInTheUsersThemeThenInItsParentsThenWhereProgramsInstall
     put(u"user/icons/Fancy/16/apps/mine.png"_s, Qt::blue);
     put(u"system/icons/Plain/any/parents.png"_s, Qt::yellow);
     put(u"user/icons/hicolor/16x16/apps/installed.png"_s, Qt::red);
-    put(u"user/icons/hicolor/48x48/apps/installed.png"_s, Qt::cyan); // no index: told by the folders' names
+    put(u"user/icons/hicolor/48x48/apps/installed.png"_s, Qt::cyan); // no index: the folders' names tell the size
     put(u"system/pixmaps/old.png"_s, Qt::magenta);
 
     EXPECT_EQ(colourOf(u"both"_s), QColor(Qt::green));

@@ -145,7 +145,7 @@ TEST_F(ItemClientTest, PicturesAreLookedForOffTheMainThread)
     m_program.properties = {{u"IconName"_s, u"anything"_s}, {u"IconThemePath"_s, u"/usr"_s}};
     start();
     waitFor(u"a call"_s, [&] { return !m_program.calls().isEmpty(); });
-    settle(m_own, m_connection); // the answer has come; other threads have their turn with runDue()
+    settle(m_own, m_connection); // the answer has come; other threads only run in runDue()
     EXPECT_FALSE(m_client->item());
     m_dispatch.runDue();
     EXPECT_TRUE(m_client->item());
@@ -156,7 +156,7 @@ TEST_F(ItemClientTest, AGestureReachesTheProgramTheWayItUnderstands)
     // At the item's lower left corner.
     const QString activates = u"Activate 10 37"_s, contextMenu = u"ContextMenu 10 37"_s, opens = u"a menu"_s;
     const QString own = u"/NO_DBUSMENU"_s, full = u"/Menu"_s, unreachable = u"/Nowhere"_s;
-    const auto empty = full; // with noEntries
+    const auto empty = full; // a menu, when noEntries is set
     const bool noEntries = true;
     using enum ItemGesture;
     struct Case {
@@ -229,7 +229,7 @@ TEST_F(ItemClientTest, AnIndicatorScrollsByWholeNotchesTheOtherWay)
     waitUntil([&] { return m_program.calls().contains(u"Scroll 1 horizontal"_s); });
     client().scroll({0, 80});
     waitUntil([&] { return m_program.calls().contains(u"Scroll -1 vertical"_s); });
-    client().scroll({0, -40}); // takes back the rest
+    client().scroll({0, -40}); // cancels the rest
     settle(m_own, m_connection);
     settle(m_own, m_connection);
     EXPECT_EQ(m_program.calls().filter(u"Scroll"_s).size(), 2);
@@ -278,14 +278,14 @@ TEST_F(ItemClientTest, AProgramMayBringUpItsWindowsBeforeItIsAskedTo)
     client().menu()->choose(1);
     client().menu()->close();
     waitUntil([&] { return bool(give); });
-    give({}); // there is none
+    give({}); // there is no token
     waitUntil([&] { return asked().size() == 2; });
     EXPECT_EQ(asked(), (QStringList{u"Event 1 clicked"_s, u"Event 0 closed"_s}));
 
     m_program.takeEvents();
     client().press(ItemGesture::click, {});
     settle(m_own, m_connection);
-    m_dispatch.advance(0.5); // nor is there an answer
+    m_dispatch.advance(0.5); // and no answer either
     waitUntil([&] { return asked().size() == 1; });
     EXPECT_EQ(asked(), QStringList{u"Activate 0 0"_s});
 }

@@ -109,7 +109,7 @@ TEST_F(MenuClientTest, AnOpenMenuFollowsItsProgram)
     EXPECT_EQ(menu.entries()[1].title, u"More"_s);
     m_client.reset();
     EXPECT_TRUE(menu.entries().empty());
-    menu.choose(1); // nobody is there: nothing happens
+    menu.choose(1); // nobody is there, so nothing happens
     menu.closed();
 }
 
@@ -140,13 +140,13 @@ TEST_F(MenuClientTest, PicturesAreLookedForOffTheMainThread)
     QSignalSpy calls(&m_program, &FakeProgram::called);
     make();
     ASSERT_TRUE(calls.wait());
-    settle(m_own, m_connection); // the answer has come; other threads have their turn with runDue()
+    settle(m_own, m_connection); // the answer has come; other threads only run in runDue()
     EXPECT_EQ(titles(), QStringList());
     m_dispatch.runDue();
     EXPECT_EQ(titles(), QStringList{u"Open"_s});
 }
 
-// Each submenu that is opened brings another one: what fits is shown, one message is said.
+// Each submenu that is opened brings another one: what fits is shown, with a single message.
 TEST_F(MenuClientTest, AnEndlessMenuTreeEnds)
 {
     const auto lazy = [](int id) { return labelled(id, u"Deeper"_s, {{u"children-display"_s, u"submenu"_s}}); };

@@ -7,7 +7,7 @@
 
 namespace brimshade::desktop::tray {
 
-// What would do something that a person sees.
+// Calls with an effect that a person would see.
 const QRegularExpression kEffects(u"^(Activate|ContextMenu|Event \\d+ clicked)"_s);
 
 class PressTest : public TrayHostContext {
@@ -15,7 +15,7 @@ protected:
     PressTest() : TrayHostContext(notchedDesktop({application(11, u"Rival"_s, {extra(u"rival"_s, 30, {u"Other"_s})})}))
     {
     }
-    // Everything that the program has sent has come, and what came of that as well.
+    // Waits until everything that the program has sent has come, along with what followed from it.
     void settleAll()
     {
         for (int i = 0; i < 3; ++i) {
@@ -24,7 +24,7 @@ protected:
             settle(m_bus.connection(u"own"_s), m_bus.connection(u"program"_s));
         }
     }
-    // A program whose menu has to be read again, and that takes its time for it.
+    // A program whose menu has to be read again, and that takes its time to send it.
     std::unique_ptr<FakeProgram> startSlow()
     {
         auto program = start(u"program"_s, u"Slow"_s);
@@ -120,14 +120,14 @@ protected:
         waitForTitles({u"Sleeper"_s});
         waitForCall(u"GetLayout 0"_s);
         call(u"Sync"_s);
-        m_dispatch.runDue(); // its menu, read ahead, is parsed beside
+        m_dispatch.runDue(); // its menu, read in advance, is parsed on another thread
     }
     ~StoppedProgramTest() override
     {
         m_process.kill();
         m_process.waitForFinished();
     }
-    // It has got everything that was sent to it before, and its answers have come.
+    // Returns once it has received everything that was sent to it before and its answers have come.
     void call(const QString &method)
     {
         bool isAnswered = false;
@@ -165,7 +165,7 @@ protected:
 
 TEST_F(StoppedProgramTest, APressWithoutAnAnswerIsToldAndForgotten)
 {
-    call(u"Change"_s); // what was read of its menu is no longer good
+    call(u"Change"_s); // what was read of its menu is no longer valid
     stop();
     press(0);
     m_dispatch.advance(1.99);
@@ -185,7 +185,7 @@ TEST_F(StoppedProgramTest, AChoiceInAMenuThatItNeverHeardOfIsForgotten)
 {
     stop();
     press(0);
-    ASSERT_TRUE(isMenuOpen()); // it was read ahead
+    ASSERT_TRUE(isMenuOpen()); // it was read in advance
     m_dispatch.advance(1);
     ASSERT_TRUE(m_desktop.menus().choose(u"Quit"_s));
     m_dispatch.advance(1);

@@ -17,7 +17,7 @@ struct Reader {
 
     Refresh refresh;
     const double begin;
-    std::vector<double> read; // seconds since the beginning
+    std::vector<double> read; // seconds since the start
 };
 
 TEST(Refresh, AChangeIsReadAtOnceAndWhatChangesAllTheTimeTogether)

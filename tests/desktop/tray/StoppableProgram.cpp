@@ -3,8 +3,8 @@
 #include <QDBusObjectPath>
 #include <cstdio>
 
-// A tray program in a process of its own: its only argument is the bus's address. It prints what it is asked to do, one
-// line each. It owns the name "test.Sleeper"; its item answers "Change" by a signal that its menu is another one.
+// A tray program in a process of its own; its only argument is the bus's address. It prints what it is asked to do, one
+// line each. It owns the name "test.Sleeper"; its item answers "Change" with a signal that its menu has changed.
 int main(int argc, char **argv)
 {
     using namespace brimshade;

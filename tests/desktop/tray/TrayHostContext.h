@@ -11,14 +11,14 @@ protected:
     explicit TrayHostContext(const DesktopDescription &description = notchedDesktop({}));
 
     void waitForWatcher();
-    // A program on a connection of that name, with an item and a menu of two entries.
+    // Starts a program on a connection of that name, with an item and a menu of two entries.
     std::unique_ptr<FakeProgram> start(const QString &name, const QString &title);
     void end(std::unique_ptr<FakeProgram> program, const QString &name);
 
-    // The tray's items in the order in which they came, as "Title" texts.
+    // The titles of the tray's items, in order of arrival.
     QStringList titles();
     void waitForTitles(const QStringList &wanted, std::source_location where = std::source_location::current());
-    int hostedPid(); // of the first of them; 0 without any
+    int hostedPid(); // the first item's; 0 without any
     void press(int index); // through Accessibility
     void click(const QString &titleOrIdentifier, MouseButton button = MouseButton::left);
     bool isMenuOpen() { return m_desktop.menus().openMenu(); }

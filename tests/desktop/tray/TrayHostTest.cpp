@@ -98,7 +98,7 @@ TEST_F(TrayHostTest, WhatWantsAttentionIsMarkedAndWhatHidesItIsMarkedOnBrimshade
     program->signalItem(u"NewStatus"_s);
     waitUntil([&] { return marked() == QStringList{u"Urgent"_s}; });
     EXPECT_EQ(told, 1);
-    own->setLength(640); // as the divider does
+    own->setLength(640); // like the divider
     waitUntil([&] { return marked() == (QStringList{u"Urgent"_s, u"own"_s}); });
     program->properties[u"Status"_s] = u"Active"_s;
     program->signalItem(u"NewStatus"_s);
@@ -155,7 +155,7 @@ TEST_F(TrayHostTest, WithTheBusTheItemsGoAndComeWithTheNextOne)
     EXPECT_EQ(messages.size(), 1);
 
     m_bus.startAgain();
-    m_dispatch.advance(10); // it tries every so often
+    m_dispatch.advance(10); // it tries again from time to time
     waitForWatcher();
     program = start(u"after"_s, u"After"_s);
     waitForTitles({u"After"_s});

@@ -51,7 +51,7 @@ QDBusArgument &operator<<(QDBusArgument &argument, const MenuNode &node)
 
 const QDBusArgument &operator>>(const QDBusArgument &argument, MenuNode &)
 {
-    return argument; // only ever sent
+    return argument; // it is only ever sent
 }
 
 QDBusArgument &operator<<(QDBusArgument &argument, const WirePicture &picture)

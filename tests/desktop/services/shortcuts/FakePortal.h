@@ -5,7 +5,7 @@
 
 namespace brimshade::desktop {
 
-// A portal with global shortcuts. It notes what it is asked for, and tells the outcome of each request at once.
+// A portal with global shortcuts. It records what it is asked for, and reports the outcome of each request at once.
 class FakePortal : public QDBusVirtualObject {
     Q_OBJECT
 public:
@@ -15,10 +15,10 @@ public:
     uint version = 1;
     uint response = 0; // 0 done, 1 cancelled
     bool isSilent = false; // the user has not answered yet
-    QStringList known; // ids, bound in an earlier run
+    QStringList known; // ids bound in an earlier run
 
     // "Register org.brimshade.Brimshade", "CreateSession brimshade", "ListShortcuts", "BindShortcuts id=trigger
-    // id=trigger", "Close session", "Close request", in order; and forgets them.
+    // id=trigger", "Close session", "Close request", in order. They are then forgotten.
     QStringList takeCalls() { return std::exchange(m_calls, {}); }
     bool has(const QString &call) const { return m_calls.contains(call); }
     QString session() const { return m_session; }

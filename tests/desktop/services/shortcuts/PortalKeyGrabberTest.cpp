@@ -55,14 +55,14 @@ protected:
     {
         waitFor(call, [&] { return portal->has(call); });
     }
-    // Until the other end has got everything that was sent to it before.
+    // Waits until the other end has received everything that was sent to it before.
     static void settle(const QDBusConnection &from, const QDBusConnection &to)
     {
         const QDBusPendingCallWatcher ping(from.asyncCall(
             QDBusMessage::createMethodCall(to.baseService(), u"/"_s, u"org.freedesktop.DBus.Peer"_s, u"Ping"_s)));
         waitFor(u"the answer to a ping"_s, [&] { return ping.isFinished(); });
     }
-    // A question and an answer take a round each, and three questions may follow one another.
+    // A question and its answer take one round each, and up to three questions follow one another.
     void settleAll()
     {
         for (int i = 0; i < 10; ++i) {
@@ -131,7 +131,7 @@ TEST_F(PortalKeyGrabberTest, AChangeWhileTheUserIsAskedTakesTheQuestionBack)
     portal->isSilent = true;
     grabber->release(kSpace);
     EXPECT_TRUE(grabber->grab(kN, kItem));
-    settleAll(); // it waits for its session
+    settleAll(); // the grabber waits for its session
     grabber->release(kN);
     portal->isSilent = false;
     EXPECT_TRUE(grabber->grab(kSpace, kPanel));
@@ -185,7 +185,7 @@ TEST_F(PortalKeyGrabberTest, OnlyThePortalIsBelieved)
     EXPECT_THAT(pressed, IsEmpty());
     portal->closeSession();
     settleAll();
-    portal->press(kSpaceId); // of a session that is closed
+    portal->press(kSpaceId); // in a session that is closed
     settleAll();
     EXPECT_THAT(pressed, IsEmpty());
 }
@@ -199,7 +199,7 @@ TEST_F(PortalKeyGrabberTest, FollowsThePortalsComingAndGoing)
     EXPECT_TRUE(grabber->grab(kSpace, kPanel));
     settleAll();
     EXPECT_FALSE(grabber->isAvailable());
-    for (int i = 0; i < 2; ++i) { // the second time it is another process's
+    for (int i = 0; i < 2; ++i) { // the second one belongs to another process
         portal = std::make_unique<FakePortal>(portalConnection);
         waitForCall(u"BindShortcuts hotkey-1-ctrl-alt-space=CTRL+ALT+space"_s);
         EXPECT_TRUE(grabber->isAvailable());
@@ -221,7 +221,7 @@ TEST_F(PortalKeyGrabberTest, APortalWithoutShortcutsIsAskedForNone)
     EXPECT_FALSE(grabber->isAvailable());
     EXPECT_THAT(portal->takeCalls(), ElementsAre(u"Register org.brimshade.Brimshade"_s));
 
-    start(true); // it does as if, so it is left alone
+    start(true); // this portal only pretends, so it is left alone
     EXPECT_TRUE(grabber->grab(kSpace, kPanel));
     settleAll();
     EXPECT_FALSE(grabber->isAvailable());

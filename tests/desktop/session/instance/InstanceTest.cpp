@@ -53,14 +53,14 @@ protected:
         bool isFinished = false;
         QObject::connect(&watcher, &QDBusPendingCallWatcher::finished, [&] { isFinished = true; });
         waitFor(u"an answer to "_s + method, [&] { return isFinished; });
-        QCoreApplication::processEvents(); // what is done after the answer
+        QCoreApplication::processEvents(); // runs what is done after the answer
         return watcher.reply();
     }
     QDBusMessage activateAction(const QString &name, const QVariantList &parameter = {})
     {
         return call(kInterface, u"ActivateAction"_s, {name, parameter, QVariantMap()});
     }
-    // Exit status and standard error of the command that people type, or its standard output.
+    // The exit status of the command that people type, and its standard error or its standard output.
     std::pair<int, QString> launch(const QString &option) { return launch(QStringList{option}); }
     std::pair<int, QString> launch(const QStringList &options)
     {
@@ -104,7 +104,7 @@ TEST_F(InstanceTest, DoesWhatIsAskedForInTurn)
     EXPECT_THAT(done, ElementsAre(u"open"_s, u"toggle"_s, u"settings"_s, u"quit"_s));
 }
 
-// The bus starts the program for a call, and the name is there before all else.
+// The bus starts the program for a call, and the program takes the name before it can do anything.
 TEST_F(InstanceTest, DoesWhatWasAskedForWhileItStartedOnceItCan)
 {
     EXPECT_EQ(instance.claim(), Instance::Claim::ours);
@@ -188,7 +188,7 @@ TEST_F(InstanceTest, TheCommandsSayHowToStartOneAndStartNone)
         EXPECT_EQ(launch(option),
                   std::pair(1, u"brimshade: none runs in this session; start one with: brimshade --session\n"_s));
     EXPECT_FALSE(QFile::exists(started()));
-    // The bus would have started one for another kind of call.
+    // Another kind of call would have made the bus start one.
     call(kInterface, u"Activate"_s, {QVariantMap()});
     EXPECT_TRUE(QFile::exists(started()));
 }

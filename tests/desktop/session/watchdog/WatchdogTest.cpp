@@ -11,7 +11,7 @@ namespace brimshade::desktop::session {
 TEST(SilenceTest, CountsNoMoreThanATickBetweenTwoTicks)
 {
     struct Case {
-        std::vector<double> times; // of the ticks, from 0 on
+        std::vector<double> times; // the ticks', from 0 on
         double length;
     };
     for (const Case &each : {
@@ -30,14 +30,14 @@ TEST(SilenceTest, CountsNoMoreThanATickBetweenTwoTicks)
     }
 }
 
-// Time passes when the test says so. The watchdog's lock guards all of it.
+// Time passes when the test says so. The watchdog's lock guards all members.
 class SteppedClock : public Watchdog::Clock {
 public:
     double now() const override { return m_now; }
     void wait(std::condition_variable &changed, std::unique_lock<std::mutex> &lock, double) override
     {
         m_changed = &changed;
-        if (!m_mutex) { // written once: step() reads it to lock it
+        if (!m_mutex) { // written only once, because step() reads it in order to lock it
             m_mutex = lock.mutex();
             m_started.set_value();
         }
@@ -46,7 +46,7 @@ public:
         EXPECT_EQ(changed.wait_for(lock, kPatience), std::cv_status::no_timeout) << "never came: a step, or the end";
     }
 
-    // Until the watchdog has done what it does then.
+    // Lets time pass and waits until the watchdog has reacted.
     void step(double seconds)
     {
         std::unique_lock lock(*m_mutex);
@@ -80,7 +80,7 @@ protected:
         for (const auto &question : std::exchange(questions, {}))
             question();
     }
-    // The main thread answers or not before each of them.
+    // Before each of them, the main thread answers or does not.
     void steps(int count, double seconds, bool answers)
     {
         for (int i = 0; i < count && !clock->hasEnded; ++i) {
@@ -134,11 +134,11 @@ TEST_F(WatchdogTest, SleepsWhileThereIsNothingToWatch)
     watchdog.watch(false);
     const int waits = clock->waitsUntilNow();
     for (int i = 0; i < 3; ++i)
-        watchdog.watch(false); // wakes it, and it goes back to sleep
-    EXPECT_LE(clock->waitsUntilNow(), waits + 1) << "it may have been about to wait once more when it was told";
+        watchdog.watch(false); // wakes its thread, which goes back to sleep
+    EXPECT_LE(clock->waitsUntilNow(), waits + 1) << "it may just have been about to wait once more";
 
-    watchdog.watch(true); // the count begins anew
-    steps(11, 0.25, false); // it asks at once, or, where it wakes late, at the first of them
+    watchdog.watch(true); // the count starts again
+    steps(11, 0.25, false); // it asks at once or, if it wakes late, at the first of these
     EXPECT_FALSE(clock->hasEnded);
 }
 
@@ -148,7 +148,7 @@ TEST(RealWatchdogTest, EndsAProcessWhoseMainThreadHangs)
     const auto hang = [] {
         Watchdog watchdog({.askMain = [](const Watchdog::Work &) { /* nobody listens */ }});
         watchdog.watch(true);
-        alarm(20); // and that is the end of our patience
+        alarm(20); // our patience ends here
         for (;;)
             pause();
     };

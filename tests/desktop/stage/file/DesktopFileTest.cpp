@@ -73,7 +73,7 @@ TEST(DesktopFileTest, ReadsEveryKey)
     const ExtraDescription &full = relay.extras->at(0), &unreadable = relay.extras->at(1), &bare = relay.extras->at(2);
     using Frame = ExtraDescription::Frame;
     EXPECT_EQ(std::tie(full.role, full.title, full.description, full.identifier, full.symbol),
-              std::tuple(u"AXButton"_s, u"T"_s, u""_s, u"id"_s, u"eye.fill"_s)); // the description is there, and empty
+              std::tuple(u"AXButton"_s, u"T"_s, u""_s, u"id"_s, u"eye.fill"_s)); // the description exists, but is empty
     EXPECT_EQ(std::tie(full.width, full.frameKind, full.frame, full.actions, full.pressError, full.menu),
               std::tuple(132.5, Frame::fixed, QRectF(860, 0, 20, 37), QStringList(), -25204,
                          QStringList({u"Open"_s, u"-"_s})));
@@ -143,13 +143,13 @@ TEST(DesktopFileTest, FaultsNameTheirPlace)
         {withExtras(R"([{"title": null}])"), "applications[0].extras[0].title: expected a string"},
         {withExtras(R"([{"menu": ["a", 1]}])"), "applications[0].extras[0].menu[1]: expected a string"},
         {withExtras(R"([{"children": [{}, {"wide": 1}]}])"), "applications[0].extras[0].children[1].wide: unknown key"},
-        // Bounds: nothing that a file says makes us allocate or recurse without end.
+        // Bounds: nothing in a file makes us allocate or recurse without limit.
         {withExtras(nested(201)), "applications[0].extras: expected groups at most 200 deep"},
         {withExtras("[" + QByteArray("{},").repeated(2000) + "{}]"),
          "applications[0].extras: expected at most 2000 elements"},
         {withExtras(R"([{"title": ")" + QByteArray(4097, 'a') + "\"}]"),
          "applications[0].extras[0].title: expected at most 4096 characters"},
-        // What is no JSON.
+        // What is not JSON.
         {"", "line 1, column 1: illegal value"},
         {"{\n  \"é\": 1 2}", "line 2, column 10: unterminated object"},
         {withExtras(nested(2000)), nullptr},

@@ -136,7 +136,7 @@ TEST_F(MenuTest, StaysWhereItIsScrolledToWhenEntriesComeAndGoAbove)
     for (const int first : {90, 95, 100, 150}) {
         menu->replace(numbered(first, 300));
         context.settle();
-        context.key(kVK_UpArrow); // to the one before
+        context.key(kVK_UpArrow); // to the previous entry
         context.key(kVK_DownArrow); // and back, which scrolls to it
         EXPECT_EQ(rowFrame(u"Entry 300"_s).top(), last) << first;
         EXPECT_EQ(rowFrame(u"Entry 290"_s).top(), last - 10 * 22) << first;

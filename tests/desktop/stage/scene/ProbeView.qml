@@ -1,7 +1,7 @@
 pragma ComponentBehavior: Bound
 import QtQuick
 
-// A view that writes down what reaches it: two areas side by side, keys, and a mark that moves for 0.3 s.
+// A view that records what reaches it: two areas side by side, keys, and a mark that moves for 0.3 s.
 FocusScope {
     id: root
 

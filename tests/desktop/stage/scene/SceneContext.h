@@ -8,7 +8,7 @@
 
 namespace brimshade::desktop {
 
-// What a probe view says happened, in order.
+// Records what a probe view reports, in order.
 class Recorder : public QObject {
     Q_OBJECT
 public:
@@ -19,7 +19,7 @@ private:
     QStringList m_notes;
 };
 
-// A menu whose choices are written down.
+// A menu whose choices are recorded.
 class ScriptedMenu : public MenuSource {
     Q_OBJECT
 public:
@@ -43,7 +43,7 @@ private:
 MenuEntry entry(int id, const QString &title);
 MenuEntry separator(int id);
 
-// One desktop of 1000 × 700 points with a bar of 30, its scene, and a virtual clock. A scene can be made anew.
+// One desktop of 1000 × 700 points with a bar of 30, its scene, and a virtual clock. The scene can be remade.
 class SceneContext {
 public:
     explicit SceneContext(const DesktopDescription &description = smallDesktop(), double scale = 1);
@@ -56,7 +56,7 @@ public:
     Recorder &recorder() { return m_recorder; }
     void remakeScene();
 
-    // frame: in display space, of the content.
+    // frame: the content's, in display space.
     std::unique_ptr<platform::Window> probe(const QString &name, const QRectF &frame,
                                             platform::WindowAttributes attributes = {});
     DesktopWindow *window(const QString &name) { return m_desktop->windows().named(name); }

@@ -9,7 +9,7 @@
 
 namespace brimshade::desktop {
 
-const QRectF kFrame(300, 200, 200, 200); // of the probe: area a, area b right of it
+const QRectF kFrame(300, 200, 200, 200); // the probe's: area a, and area b right of it
 const QPointF kInA(350, 250);
 const QPointF kInB(450, 250);
 
@@ -65,7 +65,7 @@ TEST(Animations, AskForNoFrameOnceTheyEnded)
     EXPECT_TRUE(context.scene().isAnimating());
     context.advance(0.05);
     EXPECT_FALSE(context.scene().isAnimating());
-    // A later one begins when it begins, not where the first one left the clock.
+    // A later animation begins when it is started, not where the first one left the clock.
     context.advance(100);
     view->setProperty("isMoved", false);
     context.settle();
@@ -88,7 +88,7 @@ TEST(Pictures, AreTheSameWhetherDrawnAtOnceOrChangeByChange)
     const QImage changed = context.scene().picture();
     window->orderOut();
     context.settle();
-    EXPECT_EQ(context.scene().picture(), empty) << "nothing stays behind";
+    EXPECT_EQ(context.scene().picture(), empty) << "nothing is left behind";
     window->orderFrontRegardless();
     context.remakeScene();
     EXPECT_EQ(context.scene().picture(), changed);
@@ -222,7 +222,7 @@ TEST(Bar, FollowsTheHandWithAnItemAndGlidesWithTheOthers)
     EXPECT_NEAR(relay->x(), left, 0.1);
     context.desktop().quit(812);
     context.advance(0.11);
-    EXPECT_NEAR(ledger->x(), left + width, 0.1) << "no hand has anything: it is there";
+    EXPECT_NEAR(ledger->x(), left + width, 0.1) << "nothing is being dragged, so it is there at once";
 }
 
 TEST(BuiltInDesktop, HasReadablePicturesAndMenusThatSayWhatWasChosen)
