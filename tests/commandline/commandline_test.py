@@ -1,4 +1,4 @@
-"""The program from outside: its command line, bad files, bad scripts, exit statuses and messages."""
+"""The program seen from outside: its command line, bad files, bad scripts, exit statuses and messages."""
 import json
 import os
 import pathlib
@@ -18,7 +18,7 @@ def brimshade(*arguments, script="", **options):
 
 
 def play(*commands, arguments=()):
-    """Plays commands (objects, or texts as they stand) and returns the finished process and its answers."""
+    """Plays commands (objects, or texts sent as they are) and returns the finished process and its answers."""
     lines = "".join((c if isinstance(c, str) else json.dumps(c)) + "\n" for c in commands)
     done = brimshade("--script", "-", *arguments, script=lines)
     return done, [json.loads(line) for line in done.stdout.splitlines()]

@@ -1,4 +1,4 @@
-"""Kills the program 40 times while it writes its settings as fast as it can; every start reads a whole file.
+"""Kills the program 40 times while it writes its settings as fast as it can; every start must read a whole file.
 Usage: kill_test.py PROGRAM"""
 import json
 import os
@@ -15,7 +15,7 @@ from lib.waiting import PATIENCE, Lines  # noqa: E402
 
 PROGRAM = sys.argv.pop(1)
 ROUNDS = 40
-TOGGLES = 300  # more than a round lets the program get through
+TOGGLES = 300  # more than the program gets through in one round
 
 OPEN_SETTINGS = [{"do": "advance", "seconds": 1}, {"do": "menu", "at": [1490, 18]}, {"do": "choose", "title": "Settings…"},
                  {"do": "advance", "seconds": 1}]
@@ -35,7 +35,7 @@ class KillTest(unittest.TestCase):
         self.desktop.write_text(json.dumps({"screens": [{"frame": [0, 0, 1512, 982], "menuBarHeight": 37}]}))
 
     def run_and_kill(self, toggles):
-        """The settings that the program found at its start; it is killed after about so many changes."""
+        """The settings that the program found at its start; it is killed after about that many changes."""
         with Session() as session:
             program = session.talk("brimshade", PROGRAM, "--script", "-", "--desktop", self.desktop, "--defaults", self.store)
             program.stdin.write(SCRIPT)
@@ -55,10 +55,10 @@ class KillTest(unittest.TestCase):
             self.assertEqual(found.get("showVisibleItems"), stored)
             content = json.loads(self.store.read_text())
             self.assertEqual(content["foreign"], FOREIGN)
-            stored = content.get("showVisibleItems")  # not there until the first write is done
+            stored = content.get("showVisibleItems")  # missing until the first write is done
             seen.add(stored)
         self.assertLessEqual({False, True}, seen, "it was never killed between two writes")
-        # No damaged file, and no more left over than what the last process was writing.
+        # No damaged file, and nothing left over but what the last process was writing.
         others = [p.name for p in self.folder.iterdir() if p.is_file() and p not in (self.store, self.desktop)]
         self.assertTrue(len(others) <= 1 and all(name.endswith(".new") for name in others), others)
 

@@ -1,4 +1,4 @@
-"""The program's pictures: the same whatever display there is, and text as heavy as another program draws it."""
+"""The program's pictures: the same on any display, and text as heavy as another program draws it."""
 import io
 import json
 import pathlib
@@ -24,7 +24,7 @@ NAME_SIZE = 10  # points
 
 
 def ink(image):
-    """How many pixels the text on black would fill; its most covered pixel is wholly covered."""
+    """How many pixels the text on black would fill, taking its most covered pixel as fully covered."""
     values = [max(pixel) for pixel in image.getdata()]
     return sum(values) / max(values)
 
@@ -53,7 +53,7 @@ class Pictures(unittest.TestCase):
         return self.file.read_bytes()
 
     def open_panel(self, program):
-        """The frame of its tile once everything stands still."""
+        """Opens the panel and returns its tile's frame once nothing moves any more."""
         program.do("click", at=program.icon())
         program.wait(0.1)
         before = None

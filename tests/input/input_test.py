@@ -1,6 +1,6 @@
-"""Real pointer and keys: the window on a private X display with a window manager, driven by xdotool.
+"""Real pointer and keys: the program's window on a private X display with a window manager, driven by xdotool.
 
-A script on standard input only looks (state) and lets time pass (advance) until what a hand did has taken effect."""
+A script on standard input only looks (state) and lets time pass (advance) until what the hands did has taken effect."""
 import pathlib
 import sys
 import unittest
@@ -42,7 +42,7 @@ class RealInput(unittest.TestCase):
         return self.session.xdotool(*arguments)
 
     def until(self, what, holds):
-        """The state in which it holds."""
+        """Waits for a state in which it holds, and returns that."""
         return self.program.until(what, lambda state: holds(state) and state)
 
     def focus_another_program(self):
@@ -53,13 +53,13 @@ class RealInput(unittest.TestCase):
         self.xdotool("windowactivate", "--sync", window)
 
     def tile(self, name):
-        """The tile of that name once it has come in."""
+        """The tile of that name, once it has appeared."""
         def tiles(_):
             return [e for e in self.program.found(name, role="Button", window="panel") if e["opacity"] > 0.9]
         return self.program.until(f"a tile {name}", tiles)[0]
 
     def point(self, x, y):
-        """Moves the hand's pointer to a point of the display, which lies centred and scaled in the window."""
+        """Moves the real pointer to a point of the display, which is centred and scaled in the window."""
         lines = self.xdotool("getwindowgeometry", "--shell", self.window).splitlines()
         window = {key: int(value) for key, value in (line.split("=") for line in lines)}
         width, height = DESKTOP["screens"][0]["frame"][2:]

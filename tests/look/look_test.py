@@ -1,5 +1,5 @@
-"""Pictures measured: positions within half a point, colours within two levels, no text cut and as much ink in it as the
-font has, at every scale and language; at rest and in the moments of opening, closing, fading and dragging.
+"""Measures pictures: positions within half a point, colours within two levels, no text cut off and as much ink in it as
+the font has, at every scale and language; at rest and at moments of opening, closing, fading and dragging.
 Usage: look_test.py PROGRAM"""
 import json
 import math
@@ -23,16 +23,16 @@ DESKTOP = {
                       "extras": [{"identifier": "a", "title": f"Oo{i}", "width": 40 if i < SHOWN else 400}]}
                      for i in range(SHOWN + HIDDEN)],
     "defaults": {"onboardingDone": True}}
-CONTENT = 22  # points of padding beside it
+CONTENT = 22  # its padding on each side, in points
 FLARES, CORNERS = (6, 14), (10, 32)  # closed, open
 OPENING, CLOSING = (0.46, 0.74), (0.32, 0.92)  # response, damping fraction
 MOMENTS = (50, 100, 150, 200)  # milliseconds
 ESCAPE, RETURN = 53, 36
-BLACK = 3  # the lightest of what is black to the eye
+BLACK = 3  # the lightest value that looks black
 
 
 def sprung(start, end, spring, seconds):
-    """A damped oscillator that is let go at rest."""
+    """A damped oscillator released at rest."""
     response, damping = spring
     frequency = 2 * math.pi / response
     damped = frequency * math.sqrt(1 - damping ** 2)
@@ -42,8 +42,8 @@ def sprung(start, end, spring, seconds):
 
 
 def ink_of(text, style, size, tracking=0):
-    """What another program draws of a text: square points that are wholly covered."""
-    finely = 16  # so that neither pixels nor hints count
+    """The ink of a text as drawn by another program: the number of square points that are fully covered."""
+    finely = 16  # so that neither pixels nor hinting matter
     file = subprocess.run(["fc-match", "-f", "%{file}", f"Inter:style={style}"], capture_output=True, check=True).stdout
     font = ImageFont.truetype(file, round(size * finely))
     mask = font.getmask(text)
@@ -52,7 +52,7 @@ def ink_of(text, style, size, tracking=0):
 
 
 class Picture:
-    """Read in points, whatever its scale."""
+    """A picture that is read in points, whatever its scale."""
 
     def __init__(self, file, scale):
         with Image.open(file) as picture:
@@ -63,30 +63,30 @@ class Picture:
         return self.image.getpixel((int(x * self.scale), int(y * self.scale)))
 
     def light(self, left, top, right, bottom):
-        """A black-and-white part of it: the lightest component of each pixel."""
+        """A part of it in black and white: the lightest component of each pixel."""
         box = [round(place * self.scale) for place in (left, top, right, bottom)]
         red, green, blue = self.image.crop(box).split()
         return ImageChops.lighter(ImageChops.lighter(red, green), blue)
 
     def covered(self, left, top, right, bottom, white):
-        """Square points that are as light as that, on black; half of it counts half."""
+        """How many square points are as light as white, on black; half as light counts half."""
         histogram = self.light(left, top, right, bottom).histogram()
         return sum(value * count for value, count in enumerate(histogram)) / white / self.scale ** 2
 
     def steepest(self, left, top, right, bottom):
-        """The largest difference of two pixels beside each other in the part."""
+        """The largest difference between two adjacent pixels in the part."""
         part = self.light(left, top, right, bottom)
         return ImageChops.difference(part.crop((1, 0, part.width, part.height)),
                                      part.crop((0, 0, part.width - 1, part.height))).getextrema()[1]
 
     def ink(self, left, top, right, bottom, above=BLACK):
-        """The box of what is lighter than that in the part, in points; None when there is nothing."""
+        """The box around what is lighter than above in the part, in points; None if there is nothing."""
         box = self.light(left, top, right, bottom).point(lambda value: 255 if value > above else 0).getbbox()
         return box and [place / self.scale + (left, top)[i % 2] for i, place in enumerate(box)]
 
 
 class Look:
-    """desktop: what is other than usual in it, or None for the built-in one."""
+    """desktop: what differs from the usual one, or None for the built-in one."""
 
     def __init__(self, scale, language, desktop):
         self.scale = scale
@@ -160,7 +160,7 @@ class LookCase(unittest.TestCase):
         self.assertAlmostEqual(seen / wanted, 1, delta=0.03, msg=f"the ink of “{text}”")
 
     def tab(self, shown):
-        """Left, right and lower edge of the body when it is open that far."""
+        """The body's left, right and lower edge when the tab is open that far."""
         width, height = self.look.panel_size()
         closed = NOTCH[1] - NOTCH[0] + 2 * FLARES[0]
         flare = FLARES[0] + (FLARES[1] - FLARES[0]) * shown
@@ -168,10 +168,10 @@ class LookCase(unittest.TestCase):
         return SCREEN[2] / 2 - body / 2, SCREEN[2] / 2 + body / 2, BAR + (height - BAR) * shown
 
     def assert_tab(self, picture, shown, what):
-        """Its edges are where they should be, and what it holds ends before them."""
+        """Checks that its edges are where they should be, and that its content ends before them."""
         left, right, bottom = self.tab(shown)
         middle = (BAR + bottom) / 2 if shown > 0.2 else BAR / 2 + 8
-        # From outside: the first place that is as dark as the tab, whose outline is lighter than black.
+        # Searches from outside for the first place as dark as the tab, whose outline is lighter than black.
         start, top = math.floor(left - 30), math.floor(bottom - 20)
         row = picture.light(start, middle, right + 30, middle + 1 / self.scale)
         dark = [x for x in range(row.width) if row.getpixel((x, 0)) <= 40]
@@ -218,11 +218,11 @@ class AtRest(LookCase):
         left = (SCREEN[2] - width) / 2 + FLARES[1] + CONTENT
         right = SCREEN[2] - left
         title = picture.ink(left - 10, BAR + 10, left + 200, BAR + 31)
-        self.assert_at(title[0], left + 0.4, "the first section's title")  # a little beside it, as letters are
+        self.assert_at(title[0], left + 0.4, "the first section's title")  # slightly to the right, as letters are
         hint = picture.ink(left - 10, height - 22, right + 10, height - 8)
         self.assert_at((hint[0] + hint[2]) / 2, SCREEN[2] / 2, "the hint")
         self.assertGreater(hint[0], left, "the hint is cut")
-        if self.scale == 2:  # where strokes are wide enough to be wholly covered
+        if self.scale == 2:  # here strokes are wide enough to cover pixels fully
             for part, opacity in ((title, 0.32), (hint, 0.28)):
                 lightest = picture.light(*part).getextrema()[1]
                 self.assertAlmostEqual(lightest, 255 * opacity, delta=2)
@@ -236,7 +236,7 @@ class AtRest(LookCase):
         self.look.do("choose", title=self.look.do("state")["menu"][0])
         self.look.wait(1)
         picture = self.look.picture("settings")
-        # The first row's line, 0.5 points of black at 12 % on white: as much ink at each scale.
+        # The first row's line is 0.5 points of black at 12 % on white: the same ink at each scale.
         middle = picture.image.width // 2
         column = [255 - picture.image.getpixel((middle, row))[1] for row in range(int(110 * self.scale), int(118 * self.scale))]
         darkness = sum(column) / self.scale
@@ -249,7 +249,7 @@ class TheStage(LookCase):
 
     def setUp(self):
         super().setUp()
-        for _ in range(2):  # out of the setup guide's way
+        for _ in range(2):  # closes the setup guide
             self.look.do("key", code=53, characters="\x1b")
 
     def test_nothing_small_is_seen_through_bar_and_dock(self):
@@ -278,7 +278,7 @@ class TheSetup(LookCase):
     desktop = {"trusted": False, "defaults": {}}
 
     def button(self):
-        """The frame of the button that has the keyboard's Return."""
+        """The frame of the button that Return presses."""
         return next(e["frame"] for e in self.look.do("find", text="")["elements"]
                     if e["window"] == "setup" and e["role"] == "Button" and e["frame"][2] > 40)
 
@@ -307,7 +307,7 @@ class TheSetup(LookCase):
         self.look.wait(2)
         gone = cut()
         backdrop = gone[0]
-        # What comes instead lies over a part of it.
+        # What replaces the button lies over a part of it.
         places = [i for i, after in enumerate(gone) if max(abs(a - b) for a, b in zip(after, backdrop)) <= 4]
         self.assertLess(min(min(shown[i]) for i in places), 20, "its title is there")
         white = [i for i in places if shown[i] == (255, 255, 255)]
@@ -367,14 +367,14 @@ class InMotion(LookCase):
 
 class Dragging(LookCase):
     def icons(self):
-        """The middles of the narrow items' icons, blue squares, from left to right."""
+        """The middles of the narrow items' icons, which are blue squares, from left to right."""
         picture, scale = self.look.picture(), self.scale
         y, start = round(BAR / 2 * scale) - round(7 * scale), NOTCH[1] * scale
         row = [picture.image.getpixel((x, y)) for x in range(start, SCREEN[2] * scale)]
         blue = [start + i for i, (red, _, b) in enumerate(row) if b - red > 80]
         ends = [x for x in blue if x + 1 not in blue]
         starts = [x for x in blue if x - 1 not in blue]
-        return [(a + b + 1) / 2 / scale for a, b in zip(starts, ends)][1:]  # the first is of a wide one
+        return [(a + b + 1) / 2 / scale for a, b in zip(starts, ends)][1:]  # the first belongs to a wide item
 
     def test_a_neighbour_makes_way_and_both_glide(self):
         self.look.wait(1)

@@ -1,5 +1,5 @@
-"""Ten tray programs of five makes in one X11 session whose bar is Brimshade: each found, opened by name, chosen from,
-followed and gone."""
+"""Ten tray programs of five kinds in one X11 session whose bar is Brimshade: each is found, opened by name, chosen
+from, followed, and disappears."""
 import json
 import pathlib
 import subprocess
@@ -10,7 +10,7 @@ sys.path.insert(0, str(pathlib.Path(__file__).resolve().parent.parent / "support
 from program import ESCAPE, Session  # noqa: E402
 
 PROGRAM = sys.argv.pop(1)
-PATIENCE = 60  # seconds: so many programs start slowly on a busy machine
+PATIENCE = 60  # seconds: this many programs start slowly on a busy machine
 QT6_ITEM = """
 import sys
 from PyQt6.QtGui import QIcon, QPixmap
@@ -29,7 +29,7 @@ item.setContextMenu(menu)
 item.show()
 application.exec()
 """
-# Tile, command, an entry and the window that it shows or hides or the entry that it becomes, the last entry.
+# Tile, command, an entry, the window that it shows or hides or the entry that it turns into, the last entry.
 PROGRAMS = {
     "Redshift": (["redshift-gtk", "-l", "50:10", "-m", "dummy"], "Info", "window:Info", "Quit"),
     "KeePassXC": (["keepassxc"], "Toggle window", "no window:KeePassXC", "Quit"),
@@ -40,8 +40,8 @@ PROGRAMS = {
     "Psensor": (["psensor"], "About", "window:About Psensor", "Quit"),
     "Counter of Qt 6": (["/usr/bin/python3", "-c", QT6_ITEM], "Count: 0", "entry:Count: 1", "Quit"),
 }
-# They dock a window and open menus of their own, past Brimshade: tile, command and class, the keys that choose an entry,
-# the window that it shows, the keys that choose the last entry.
+# These dock a window and open their own menus, bypassing Brimshade: tile, command and class, the keys that choose an
+# entry, the window that it shows, the keys that choose the last entry.
 DOCKED = {
     "Parcellite": ("parcellite", ["Down", "Return"], "About Parcellite", ["Up", "Return"]),
     "volumeicon": ("volumeicon", ["Down", "Down", "Return"], "Preferences", ["Up", "Return"]),
@@ -69,7 +69,7 @@ class Crowd(unittest.TestCase):
 
     @staticmethod
     def items(state):
-        """Without Brimshade's and the clock's."""
+        """All but Brimshade's and the clock's."""
         return len(state["menuBar"]) - 2
 
     def open_menu(self, name):

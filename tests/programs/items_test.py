@@ -1,4 +1,4 @@
-"""Tray items that do what hardly a real program does, in the whole program: through its bar, its panel and its menus."""
+"""Tray items that do what hardly any real program does, in the whole program: in its bar, its panel and its menus."""
 import json
 import os
 import pathlib
@@ -24,7 +24,7 @@ class MockItem:
 
     @property
     def calls(self):
-        """All that it has got so far."""
+        """All calls that it has received so far."""
         self._calls += map(json.loads, self._lines.so_far())
         return self._calls
 
@@ -137,7 +137,7 @@ class MockItems(unittest.TestCase):
         items = [MockItem(self.session, path=f"/item/{i}", properties={"Id": f"mock{i}", "Title": f"Mock {i:02}"})
                  for i in range(40)]
         state = self.brimshade.until("all in the bar", lambda s: len(s["menuBar"]) == 41 and s)
-        # Places are not kept here: what appears later stands at the left end.
+        # Places are not kept here: later items stand at the left end.
         self.assertEqual(state["menuBar"][-1]["identifier"], "BrimshadeButton")
         self.brimshade.open_panel()
         self.brimshade.until("all in the panel", lambda s: len(s["model"]["extras"]) == 40)

@@ -1,5 +1,6 @@
-"""What was tucked away is tucked away again, whoever was restarted. Usage: restart_test.py PROGRAM [ARGUMENT…]: how the
-program is started when not by a script on a desktop of its own, say with --session --script - --real-time."""
+"""What was tucked away is tucked away again, whichever program was restarted. Usage: restart_test.py PROGRAM
+[ARGUMENT…]: the arguments with which the program is started instead of by a script on a desktop of its own, say
+--session --script - --real-time."""
 import itertools
 import json
 import pathlib
@@ -14,7 +15,7 @@ from program import PATIENCE, SUPPORT, Program, Session  # noqa: E402
 COMMAND = sys.argv[1:]
 del sys.argv[1:]
 ROUNDS = 10
-AT_REST = 1.6  # seconds: the divider measures anew one after the last item came, which takes 0.3, and settles in 0.1
+AT_REST = 1.6  # seconds: one after the last item came, the divider measures again, which takes 0.3, and settles in 0.1
 DESKTOP = {
     "screens": [{"name": "Built-in Display", "frame": [0, 0, 1512, 982], "menuBarHeight": 37, "notch": [663, 849]}],
     "applications": [{"pid": 401, "bundleIdentifier": "com.apple.MenuBarAgent",
@@ -61,7 +62,7 @@ class Restarts(unittest.TestCase):
 
     @staticmethod
     def items(state):
-        """The programs' items and the own one, left to right."""
+        """The programs' items and Brimshade's own, left to right."""
         return [item for item in state["menuBar"] if item["identifier"] in [*NAMES, "Pigment", OWN]]
 
     def order(self, state):
@@ -71,7 +72,7 @@ class Restarts(unittest.TestCase):
         self.came = self.brimshade.until(f"{when}the order {order}", lambda s: self.order(s) == order and s)["time"]
 
     def open_panel(self, names, hidden, when=""):
-        """Once the bar is at rest: a scan takes what it finds."""
+        """Waits until the bar is at rest, because a scan sees only the present state."""
         drawn = {OWN: True} | {name: name not in hidden for name in names}
         self.brimshade.until(f"{when}{drawn} in the bar", lambda s: s["time"] >= self.came + AT_REST
                              and s["divider"]["isExpanded"]
@@ -100,10 +101,10 @@ class Restarts(unittest.TestCase):
     def restart(self, number, names):
         killed = number % 2 == 1
         kind = number % 5
-        if kind == 0:  # Brimshade alone
+        if kind == 0:  # only Brimshade
             self.end_brimshade(killed)
             self.start_brimshade()
-        elif kind == 1:  # the programs alone
+        elif kind == 1:  # only the programs
             self.end(names)
             self.start(names)
         elif kind == 2:  # both, the programs first

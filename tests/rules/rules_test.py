@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""rules_test.py BUILD: a wrong include fails the build or tools/rules, a right one does not."""
+"""rules_test.py BUILD: a wrong include fails the build or tools/rules, and a right one does not."""
 import json
 import pathlib
 import shlex
@@ -13,7 +13,7 @@ build = pathlib.Path(sys.argv.pop(1)).resolve()
 
 
 def compiles(source, including):
-    """Whether that source's own command line finds the header."""
+    """Whether the header is found with that source's own command line."""
     entries = json.loads((build / "compile_commands.json").read_text())
     command = next(entry["command"] for entry in entries if entry["file"] == str(root / source))
     flags = [word for word in shlex.split(command) if word.startswith(("-I", "-D", "-std", "-f"))]
@@ -26,7 +26,7 @@ def compiles(source, including):
 
 
 def faults(path, text):
-    """What tools/rules says of a tree that holds one file."""
+    """What tools/rules says about a tree with this one file."""
     with tempfile.TemporaryDirectory() as folder:
         tree = pathlib.Path(folder)
         (tree / path).parent.mkdir(parents=True)

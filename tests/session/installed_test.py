@@ -1,6 +1,6 @@
 #!/usr/bin/env python3
-"""installed_test.py PROGRAM: Brimshade as a package installs it, PREFIX/bin/brimshade with all that belongs to it, in a
-session of sway's without a screen."""
+"""installed_test.py PROGRAM: Brimshade as installed by a package, PREFIX/bin/brimshade with everything that belongs to
+it, in a sway session without a screen."""
 import json
 import pathlib
 import subprocess
@@ -27,7 +27,8 @@ class Installed(unittest.TestCase):
         self.session.start_bus()
 
     def install_service(self):
-        """Wherever the package has been unpacked: the bus starts that program, not one of the machine's."""
+        """Makes the bus start this program, wherever the package has been unpacked, and not one installed on the
+        machine."""
         lines = [f"Exec={PROGRAM} --session" if line.startswith("Exec=") else line
                  for line in SERVICE.read_text().splitlines()]
         data = self.session.home / "data"

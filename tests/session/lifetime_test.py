@@ -1,6 +1,6 @@
 #!/usr/bin/env python3
-"""lifetime_test.py PROGRAM: what Brimshade outlives in real sessions and how it ends: told to, with the display, or because
-it hangs while it has the keyboard."""
+"""lifetime_test.py PROGRAM: what Brimshade survives in real sessions, and how it ends: on request, with the display, or
+because it hangs while it has the keyboard."""
 import json
 import os
 import signal
@@ -26,10 +26,10 @@ class Lifetime:
         self.session.start_bus()
         self.brimshade = Brimshade(self.session, PROGRAM, settings={"onboardingDone": True, "foreign": ["kept"] * 1000})
         self.brimshade.until("the bar", lambda state: state["statusItem"])
-        self.hands = self.session.hands()  # before the terminal, which has to learn of a new keyboard
+        self.hands = self.session.hands()  # before the terminal, which would have to learn of a new keyboard
         self.terminal = self.session.terminal()
         x, y, width, height = self.session.rect("terminal")
-        self.hands.click(x + width // 4, y + height - 20)  # X11 gives the keys to what is under the pointer, for a moment
+        self.hands.click(x + width // 4, y + height - 20)  # X11 briefly gives the keys to what is under the pointer
 
     def request(self, word):
         done = subprocess.run([PROGRAM, word], env=self.session.environment, capture_output=True, text=True,
@@ -41,15 +41,15 @@ class Lifetime:
         self.brimshade.until("the open panel", lambda s: s["model"]["isOpen"] and s["keys"] == "panel")
 
     def tell(self, **command):
-        """And no answer is waited for."""
+        """Sends a command without waiting for the answer."""
         self.brimshade.process.stdin.write(json.dumps(command).encode() + b"\n")
         self.brimshade.process.stdin.flush()
 
     def assert_ends(self, status, *words):
-        """With these words on standard error and no others but its own."""
+        """All lines on standard error are Brimshade's own, and the last one has these words."""
         ended = self.session.wait_for_end(self.brimshade.process, "the end of Brimshade")
         self.assertEqual(ended, status, self.session.errors("brimshade"))
-        # sway is another user's where the tests are root's; Qt says so.
+        # If the tests run as root, sway runs as another user, about which Qt complains.
         lines = [line for line in self.session.errors("brimshade").splitlines() if "is not owned by UID 0" not in line]
         self.assertTrue(all(line.startswith("brimshade: ") for line in lines), lines)
         for word in words:
@@ -90,7 +90,7 @@ class Lifetime:
         self.open_panel()
         self.brimshade.process.send_signal(signal.SIGSTOP)
         os.waitpid(self.brimshade.process.pid, os.WUNTRACED)
-        self.session.output_of("sleep", LONGER_THAN_THE_WATCHDOG_WAITS)  # it is that time that is tested
+        self.session.output_of("sleep", LONGER_THAN_THE_WATCHDOG_WAITS)  # this time itself is what is tested
         self.brimshade.process.send_signal(signal.SIGCONT)
         self.brimshade.do("advance", seconds=1)  # the watchdog has looked a few times
         self.assertTrue(self.brimshade.do("state")["shown"])
@@ -99,7 +99,7 @@ class Lifetime:
         self.assert_terminal_has_keys()
 
     def test_it_says_nothing_when_it_makes_its_panel_ahead(self):
-        self.brimshade.do("advance", seconds=1.2)  # of its own time: a second after its launch it does
+        self.brimshade.do("advance", seconds=1.2)  # in its own time: it does so a second after its launch
         self.request("--quit")
         self.assert_ends(0)
 

@@ -21,7 +21,7 @@ BLACK = (0, 0, 0)
 
 
 class Living:
-    """What holds in every session; each brings a session of its own."""
+    """What holds in every session; each subclass provides a session of its own."""
 
     @classmethod
     def setUpClass(cls):
@@ -37,7 +37,7 @@ class Living:
         cls.redshift = cls.session.start("redshift-gtk", "-l", "50:10", "-m", "dummy")
         cls.keepassxc = cls.session.start("keepassxc")
         cls.brimshade.until("both items", lambda state: {"redshift", "KeePassXC"} <= bar_items(state))
-        cls.hands = cls.session.hands()  # before the terminal, which has to learn of a new keyboard
+        cls.hands = cls.session.hands()  # before the terminal, which would have to learn of a new keyboard
         cls.terminal = cls.session.terminal()
 
     def setUp(self):
@@ -45,7 +45,7 @@ class Living:
         self.session.until_focused("terminal")
 
     def click_terminal(self):
-        """Below what opens out of the bar."""
+        """Clicks below everything that opens out of the bar."""
         x, y, width, height = self.session.rect("terminal")
         self.hands.click(x + width // 4, y + height - 20)
 
@@ -214,7 +214,7 @@ class OnSway(Living, unittest.TestCase):
         self.assertEqual(self.session.output()["rect"]["height"] - self.session.rect("terminal")[3], BAR_HEIGHT)
 
     def has_settings_with_icon(self):
-        """A compositor finds it in the desktop entry of that name."""
+        """A compositor finds the icon in the desktop entry of that name."""
         return any(window["app_id"] == "org.brimshade.Brimshade" for window in self.session.windows())
 
     def has_keepass_window(self):

@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""outputs_test.py PROGRAM: Brimshade on outputs that come, go, and change their size and scale, and on a seat that has no
+"""outputs_test.py PROGRAM: Brimshade on outputs that come, go, and change their size and scale, and on a seat without a
 pointer."""
 import json
 import pathlib
@@ -14,16 +14,16 @@ from lib.waiting import PATIENCE
 PROGRAM = sys.argv.pop(1)
 BAR_HEIGHT = 37
 NOTCH_WIDTH = 180  # drawn, in the middle of the bar
-ITEM_WIDTH = 34  # of one without a label
+ITEM_WIDTH = 34  # an item's without a label
 NAME_MARGIN = 18  # at each side of the focused application's name
-CORNER = 20  # more than the notch's corners are wide
+CORNER = 20  # more than the width of the notch's corners
 BLACK = (0, 0, 0)
 MOCK_ITEM = pathlib.Path(__file__).resolve().parent.parent / "support/mock_item.py"
 
 
 class Outputs(unittest.TestCase):
     def live_on(self, session, *arguments, hands=()):
-        """With such hands on the seat, or both."""
+        """Starts Brimshade with those devices on the seat, by default both."""
         self.session = session
         self.addCleanup(session.close)
         self.hands = session.hands(*hands)
@@ -52,14 +52,14 @@ class Outputs(unittest.TestCase):
         self.brimshade.until("the closed panel", lambda s: not s["panel"]["onScreen"])
 
     def until_reserved(self, output, height):
-        """So many points at its top."""
+        """Waits until that many points at the output's top are kept free."""
         def workspace():
             nodes = [node for node in self.session.ask("get_workspaces") if node["output"] == output]
             return nodes and nodes[0]["rect"]["y"] - self.session.output(output)["rect"]["y"] == height
         self.session.until(f"{height} points kept free on {output}", workspace)
 
     def until_notch(self, output, scale):
-        """To the pixel: drawn at the output's own resolution."""
+        """Exact to the pixel: it must be drawn at the output's own resolution."""
         width = self.session.output(output)["rect"]["width"]
         left, right = (round((width + side * NOTCH_WIDTH) / 2 * scale) for side in (-1, 1))
         bottom = int(BAR_HEIGHT * scale)
@@ -76,7 +76,7 @@ class Outputs(unittest.TestCase):
         self.until_notch("HEADLESS-1", 1)
         for mode, scale, size in (("3024x1964", 2, (1512, 982)), ("1920x1200", 1.5, (1280, 800)), ("1366x768", 1, (1366, 768))):
             with self.subTest(mode=mode, scale=scale):
-                self.open_panel()  # and what is open then does no harm
+                self.open_panel()  # and an open panel does no harm
                 self.session.command(f"output HEADLESS-1 resolution {mode} scale {scale}")
                 self.until_size(*size)
                 self.until_reserved("HEADLESS-1", BAR_HEIGHT)
@@ -112,7 +112,7 @@ class Outputs(unittest.TestCase):
         self.addCleanup(outer.close)
         self.live_on(Sway(inside=outer))
         self.session.command("create_output")
-        self.until_widths(756, 756)  # the other one's windows, side by side
+        self.until_widths(756, 756)  # windows of the other sway, side by side
         for gone, left in (("WL-1", [1512]), ("WL-2", [])):
             self.open_panel()
             self.session.unplug(gone)

@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""session_contract_test.py PROGRAM: what every implementation of the platform has to keep, in real sessions."""
+"""session_contract_test.py PROGRAM: what every implementation of the platform must do, in real sessions."""
 import subprocess
 import sys
 import unittest

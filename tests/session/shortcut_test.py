@@ -1,6 +1,6 @@
 #!/usr/bin/env python3
-"""shortcut_test.py PROGRAM: a person gives a tray item a shortcut of its own, by keys alone, and uses it, in real sessions
-without a screen."""
+"""shortcut_test.py PROGRAM: a person gives a tray item a shortcut of its own, using only keys, and uses it, in real
+sessions without a screen."""
 import json
 import pathlib
 import subprocess
@@ -48,7 +48,7 @@ class Living:
         self.assertEqual(answer.returncode, 0, answer.stderr)
 
     def tile_menu(self, text, *entries):
-        """The menu of the one tile that is found, opened by keys."""
+        """Opens, by keys, the menu of the one tile that is found."""
         self.request("--toggle")
         self.brimshade.until("the open panel", lambda s: s["model"]["isOpen"] and s["keys"] == "panel")
         self.hands.type(text)
@@ -76,7 +76,7 @@ class Living:
                              lambda _: any(e["name"] == text for e in self.brimshade.do("find", text=text)["elements"]))
 
     def expect_menu(self, calls, name):
-        """The program's real menu, from which keys choose."""
+        """Expects the program's real menu and chooses from it by keys."""
         self.brimshade.until(f"the menu of {name}", lambda s: s["menu"] == [f"Open {name}"] and s["keys"] == "menu")
         self.hands.key("Down")
         self.hands.key("Return")
@@ -134,7 +134,7 @@ class OnX11(Living, unittest.TestCase):
         self.begin_to_record("clip")
         self.hands.key(*KEYS)
         self.expect_sentence("Ctrl+Alt+K already opens the menu of Paste.")
-        self.hands.key("Super", "d")  # the window manager's
+        self.hands.key("Super", "d")  # the window manager's own shortcut
         self.expect_sentence("Super+D already belongs to another program.")
         self.hands.key("k")
         self.expect_sentence("That can't be a shortcut. Hold Ctrl, Alt or Super and press a key.")
@@ -159,7 +159,7 @@ class OnSway(Living, unittest.TestCase):
                              f"bindsym Mod4+m exec {command}")
         self.hands.key("Escape")
         self.close_panel()
-        # As a key binding runs it; this sway has another user and no bus.
+        # The way a key binding would run it; this sway runs as another user and has no bus.
         self.session.output_of("sh", "-c", command.replace("brimshade", PROGRAM, 1))
         self.brimshade.until("its menu", lambda s: s["menu"] == ["Open It's paste"] and s["keys"] == "menu")
 

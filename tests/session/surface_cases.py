@@ -1,18 +1,19 @@
 """What a bar and a panel do on any desktop."""
 
-PROBE = []  # the program under test, as the test's command line says
+PROBE = []  # the program under test, from the test's command line
 BAR = {"geometry": [0, 0, 0, 37], "zone": 37}
-PANEL = [200, 0, 600, 400]  # in the middle of its left edge lies the left terminal
+PANEL = [200, 0, 600, 400]  # the middle of its left edge lies over the left terminal
 WIDTH, HEIGHT = 1512, 982
 
 
 def until_active(probe, surface):
-    """By the state: of keys that leave it and return at once its window may tell nothing."""
+    """Asks for the state, because a window may not report that keys left it and returned at once."""
     probe.until(f"the {surface} with the keys", lambda s: s["surfaces"][surface]["active"])
 
 
 class SurfaceCases:
-    """Over two terminals side by side, of which the right one has the keys. A class that mixes it in makes the display."""
+    """Over two terminals side by side, of which the right one has the keys. A class that mixes this in makes the
+    display."""
 
     @classmethod
     def setUpClass(cls):
@@ -50,12 +51,12 @@ class SurfaceCases:
         self.display.until_focused(terminal)
 
     def middle_of(self, terminal):
-        """Of its lower half, which nothing of ours covers."""
+        """The middle of its lower half, which nothing of ours covers."""
         x, y, width, height = self.display.rect(terminal)
         return x + width // 2, y + height * 3 // 4
 
     def assert_types(self, text, where):
-        """A whole line: what was typed into it before would stand in front."""
+        """A whole line, so that anything typed into it earlier would show in front."""
         self.hands.type(text + "\n")
         self.assertEqual(where.line(), text)
 
@@ -63,7 +64,7 @@ class SurfaceCases:
         self.probe.until(f"{text} in the {surface}", lambda s: s["surfaces"][surface]["text"] == text)
 
     def names_of_events(self):
-        """Up to now: what the display was asked for before has been done."""
+        """All up to now: everything that was asked of the display has been done."""
         self.probe.do("state")
         return [event["event"] for event in self.probe.events()]
 
@@ -146,7 +147,7 @@ class SurfaceCases:
         for x, y, button in ((PANEL[0] + 300, 350, "left"), (WIDTH - 10, HEIGHT - 10, "right")):
             self.hands.click(x, y, button)
             self.probe.event("outside")
-        # The region follows what changes while it is watched.
+        # The watched region follows changes.
         self.probe.do("hide", surface="panel")
         self.hands.click(PANEL[0] + 300, 100)
         self.probe.event("outside")

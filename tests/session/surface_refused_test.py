@@ -1,4 +1,4 @@
-"""Where nothing can be shown the program says why."""
+"""If nothing can be shown, the program says why."""
 import subprocess
 import sys
 import unittest

@@ -157,7 +157,7 @@ class UnpluggedOutput(unittest.TestCase):
         self.display.unplug("WL-1")
         self.probe.event("closed", surface="bar")
         self.assert_nothing_is_shown(self.until_screens())
-        self.probe.do("show", surface="bar", **BAR)  # where? nothing happens
+        self.probe.do("show", surface="bar", **BAR)  # there is nowhere to show it, so nothing happens
         self.display.command("create_output")
         self.until_screens("WL-2")
         self.show_all()

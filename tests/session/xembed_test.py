@@ -1,6 +1,6 @@
 #!/usr/bin/env python3
-"""xembed_test.py PROGRAM: what programs dock into an X server's tray, as items of Brimshade: real programs, and one of our
-own that does what those do not."""
+"""xembed_test.py PROGRAM: what programs dock into an X server's tray, as items of Brimshade: real programs, and one of
+our own that does what the real ones do not."""
 import json
 import os
 import pathlib
@@ -18,13 +18,13 @@ MOCK_DOCKER = pathlib.Path(__file__).resolve().parent.parent / "support/mock_doc
 BAR_HEIGHT, ITEM_WIDTH = 37, 34
 MOST_WINDOWS = 64
 ELSEWHERE = (300, 700)
-# One listens to core events and opens its menu at the pointer, wherever that is; the other reads devices and opens it at its
-# window.
+# One listens to core events and opens its menu at the pointer, wherever that is; the other reads the devices and opens
+# its menu at its window.
 REAL = {"parcellite": "pointer", "volumeicon": "item"}
 
 
 class Docker:
-    """A program that docks what it is told to, and tells of it."""
+    """A program that docks what it is told to, and reports what happens to it."""
 
     def __init__(self, session, **wanted):
         self._process = session.start("/usr/bin/python3", MOCK_DOCKER, json.dumps(wanted), stdin=subprocess.PIPE,
@@ -81,14 +81,14 @@ class Docked:
                              lambda s: identifier not in [item["identifier"] for item in s["menuBar"]])
 
     def until_pictured(self, identifier, colour=None):
-        """More than the bar's own colour is seen where it stands."""
+        """Waits until more than the bar's own colour is seen at its place."""
         x, y, width, height = map(int, self.frame(identifier))
         self.session.until_picture(identifier, lambda picture: colour in (seen := {
             picture[column, row] for column in range(x, x + width) for row in range(y, y + height)})
             or (colour is None and len(seen) > 4))
 
     def assert_at(self, window, place):
-        """It touches the place or covers a part of it."""
+        """Checks that it touches the place or covers a part of it."""
         for start, length, at, size in zip(window[:2], window[2:], place[:2], place[2:]):
             self.assertLessEqual(start, at + size + 1, (window, place))
             self.assertGreaterEqual(start + length, at - 1, (window, place))
@@ -136,12 +136,12 @@ class MockPrograms(Docked, unittest.TestCase):
         self.assertEqual(docker.press()[0], 4)
 
     def test_a_click_waits_until_the_button_is_up(self):
-        """While it is held no menu of another program gets the pointer."""
+        """While it is held, no menu of another program can get the pointer."""
         docker = Docker(self.session)
         self.hands.move(*middle(self.frame("docker")))
         self.hands.press("right")
         self.brimshade.do("advance", seconds=0.2)
-        self.hands.turn_wheel()  # what came in vain would come before it
+        self.hands.turn_wheel()  # a click made too early would come before this
         self.hands.release("right")
         self.assertEqual([docker.press()[0], docker.press()[0]], [3, 4])
 
@@ -188,7 +188,7 @@ class MockPrograms(Docked, unittest.TestCase):
         ours, other = self.desk.tray_owner(), Desk(self.session)
         other.take_tray()
         self.until_gone("docker")
-        docker.until_docked()  # into the other one
+        docker.until_docked()  # into the other tray
         self.assertNotEqual(self.desk.tray_owner(), ours)
         other.close()
         self.until_owned()

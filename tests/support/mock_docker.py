@@ -1,11 +1,11 @@
 #!/usr/bin/env python3
-"""mock_docker.py JSON: a program that docks windows into the tray of its display, as the JSON object says.
+"""mock_docker.py JSON: a program that docks windows into its display's tray, as the JSON object says.
 
-{"name": of the windows, "count": of them, "colour": 0xRRGGBB, "mapped": false where it never wants to be seen, "side": the
-size that it asks for, again and again, "draws": times a second each another colour, "visual": "argb" for one with alpha}.
-Without an owner of the tray it waits for one. It prints "docked" when it has asked, then each press that comes as a JSON
-array: button, x and y in the root window. It ends with its input; a line there destroys the first window, "show" or "hide"
-maps or unmaps it as XEMBED has it."""
+{"name": the windows', "count": how many, "colour": 0xRRGGBB, "mapped": false if it never wants to be seen, "side": the
+size that it keeps asking for, "draws": how often a second it draws another colour, "visual": "argb" for one with
+alpha}. If nobody owns the tray, it waits. It prints "docked" when it has asked, then each press that it gets as a JSON
+array: button, x and y in the root window. It ends with its input; a line there destroys the first window, but "show"
+and "hide" map and unmap it in XEMBED's way."""
 import json
 import select
 import sys
@@ -55,7 +55,7 @@ class Docker:
         self.display.ungrab_server()
         self.owner = owner
         if owner == X.NONE:
-            self.screen.root.change_attributes(event_mask=X.StructureNotifyMask)  # MANAGER comes there
+            self.screen.root.change_attributes(event_mask=X.StructureNotifyMask)  # MANAGER messages come there
             self.display.flush()
             return
         for window in self.windows:
@@ -82,7 +82,7 @@ class Docker:
             self.paint(window)
 
     def paint(self, window):
-        """A square on what the window's background is."""
+        """Draws a square on the window's background."""
         window.fill_rectangle(window.create_gc(foreground=self.colour | 0xff000000), 4, 4, 12, 12)
 
     def command(self, line):

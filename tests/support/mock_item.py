@@ -1,11 +1,11 @@
 #!/usr/bin/env python3
-"""mock_item.py JSON: a tray item of this process, with a menu, that is what the JSON object says.
+"""mock_item.py JSON: a tray item of this process, with a menu, as the JSON object describes it.
 
-{"path": where the item is, "properties": of the item, over {"Id": "mock", …}, "menu": [[TITLE, ICON NAME], …],
-"icons": pictures a second, each another one, "unknown": [methods that it lacks], "count": of such items, which are numbered
-when there are several}. It registers with whoever is the watcher, now and later, and prints "registered" each time, then
-each call that it gets as a JSON array, one a line. A line on standard input, {"properties": {…}, "signal": NAME}, changes
-the first one. It ends with its input or its bus."""
+{"path": where the item is, "properties": the item's, in addition to {"Id": "mock", …}, "menu": [[TITLE, ICON NAME], …],
+"icons": how many new pictures a second, "unknown": [methods that it lacks], "count": how many such items, numbered if
+there are several}. It registers with the watcher, and again with each new one, and prints "registered" each time, then
+each call that it gets as a JSON array, one per line. A line on standard input, {"properties": {…}, "signal": NAME},
+changes the first item. It ends with its input or its bus."""
 import json
 import sys
 
@@ -15,7 +15,7 @@ import dbus.mainloop.glib
 from gi.repository import GLib
 
 ITEM, WATCHER = "org.kde.StatusNotifierItem", "org.kde.StatusNotifierWatcher"
-QUIET = ("GetAll", "GetLayout")  # asked for again and again
+QUIET = ("GetAll", "GetLayout")  # called again and again
 SIDE = 22
 
 
@@ -25,7 +25,7 @@ def pixmap(shade):
 
 
 def typed(properties):
-    """JSON values as the item's interface has them: a tool tip is [TITLE, TEXT], a menu its path."""
+    """JSON values in the types of the item's interface: a tool tip is [TITLE, TEXT], a menu its path."""
     made = dict(properties)
     if "ToolTip" in made:
         made["ToolTip"] = dbus.Struct(("", dbus.Array([], signature="(iiay)"), *made["ToolTip"]), signature="sa(iiay)ss")
@@ -35,7 +35,7 @@ def typed(properties):
 
 
 class Item:
-    """Answers every message itself: so it can lack methods, and lie."""
+    """Answers every message itself, so that it can lack methods, and lie."""
 
     def __init__(self, bus, wanted, number=""):
         self.bus, self.path = bus, wanted.get("path", "/StatusNotifierItem") + str(number)

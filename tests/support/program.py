@@ -17,14 +17,14 @@ EMPTY_DESKTOP = {
 
 
 class Session(Home):
-    """With an X server that is bare of a window manager, and a message bus."""
+    """Has an X server without a window manager, and a message bus."""
 
     def __init__(self):
         super().__init__()
         self.environment["XDG_CURRENT_DESKTOP"] = "KDE"
         try:
             lines = self.lines_of("Xvfb", "-displayfd", "1", "-screen", "0", "1440x900x24", "-nolisten", "tcp",
-                                  "-noreset")  # else it is away for a moment whenever its last client ends
+                                  "-noreset")  # or it would be gone for a moment whenever its last client ends
             self.environment["DISPLAY"] = ":" + lines.next("the X server's display")
             self.start_bus()
         except BaseException:
@@ -37,23 +37,23 @@ class Session(Home):
         is_ready.next("openbox")
 
     def start_program(self, binary, description, *arguments, without=()):
-        """without: variables that it does not see."""
+        """without: environment variables to be removed."""
         desktop = self.write("desktop.json", json.dumps(description))
         environment = {name: value for name, value in self.environment.items() if name not in without}
         return self.converse("brimshade", binary, "--script", "-", "--desktop", desktop, *arguments, kind=Program,
                              env=environment)
 
     def start_host(self, binary):
-        """With nothing but the session's tray items, in real time, once programs find it."""
+        """Brimshade with nothing but the session's tray items, in real time, once programs can find it."""
         return self._once_found(self.start_program(binary, EMPTY_DESKTOP, "--tray", "--real-time"))
 
     def start_bar(self, binary):
-        """The same as the menu bar of the session."""
+        """The same, as the session's menu bar."""
         self.start_window_manager()
         return self._once_found(Brimshade(self, binary))
 
     def _once_found(self, program):
-        """Programs look for a tray only when they start."""
+        """Waits until it can be found, because programs look for a tray only when they start."""
         program.until("the tray's watcher", lambda s: "boolean true" in self.text_of(
             "dbus-send", "--session", "--print-reply", "--dest=org.freedesktop.DBus", "/",
             "org.freedesktop.DBus.NameHasOwner", "string:org.kde.StatusNotifierWatcher"))
@@ -64,7 +64,7 @@ class Session(Home):
         return self.start("/usr/bin/python3", SUPPORT / "mock_item.py", json.dumps(wanted), stdin=subprocess.PIPE, **options)
 
     def text_of(self, *command):
-        """What it says, whether or not it succeeds."""
+        """A command's output, whether or not it succeeds."""
         return subprocess.run([str(word) for word in command], env=self.environment, capture_output=True, text=True,
                               timeout=PATIENCE).stdout
 

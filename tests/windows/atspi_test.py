@@ -36,7 +36,7 @@ class Client:
         return next((each for each in desktop if each and "brimshade" in each.name.lower()), None)
 
     def elements(self):
-        """(role, name) → element of everything that shows, in reading order."""
+        """(role, name) → element, for everything that shows, in reading order."""
         found = []
 
         def visit(element):
@@ -139,4 +139,4 @@ class AccessibilityBus(unittest.TestCase):
 
 if __name__ == "__main__":
     BINARY = sys.argv.pop(1)
-    unittest.main(verbosity=2, warnings="ignore")  # what the bindings are warned of
+    unittest.main(verbosity=2, warnings="ignore")  # the bindings cause some

@@ -20,7 +20,7 @@ def item(identifier):
     return {"title": identifier.capitalize(), "identifier": identifier, "width": 66}
 
 
-# Of the six items the notch covers the last two.
+# The notch covers the last two of the six items.
 DESKTOP = {
     "screens": [{"name": "Built-in Display", "frame": [0, 0, 1000, 700], "menuBarHeight": 37, "notch": [400, 560]}],
     "applications": [

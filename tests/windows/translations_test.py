@@ -1,6 +1,6 @@
 #!/usr/bin/env python3
-"""No text of the views lacks its translation: texts are collected anew from the sources into copies of the
-translation files, which must then hold nothing unfinished and nothing that no source uses.
+"""No text in the views lacks its translation: texts are collected again from the sources into copies of the translation
+files, in which nothing may then be unfinished or unused.
 Usage: translations_test.py LUPDATE ROOT"""
 import pathlib
 import re
@@ -33,7 +33,7 @@ def faults_of(language, options, folder):
 
 
 def session_faults_of(language):
-    """Where the program is a session's menu bar, no text speaks of the Mac; and none is replaced that is not there."""
+    """As a session's menu bar, no text may mention the Mac; and no text may be replaced that does not exist."""
     def texts(name):
         tree = ElementTree.parse(root / "i18n" / name)
         return {(context.findtext("name"), message.findtext("source"))
@@ -42,10 +42,10 @@ def session_faults_of(language):
     there, replaced = texts("brimshade_de.ts"), texts(f"session_{language}.ts")
     for context, source in replaced - there:
         yield f"session: no such text: {context}: {source}"
-    of_permission = {"PermissionCard", "PermissionStep"}  # never shown there
+    of_permission = {"PermissionCard", "PermissionStep"}  # never shown in a session
     for context, source in there - replaced:
         if re.search(r"\bmacOS\b|\bMac\b|Cmd|[⌘⌥]|pointer (will )?jump", source) and context not in of_permission:
-            yield f"session: speaks of the Mac: {context}: {source}"
+            yield f"session: mentions the Mac: {context}: {source}"
 
 
 failed = False

@@ -3,7 +3,7 @@ import json
 
 from .waiting import PATIENCE, Conversation, Deadline
 
-RETURN, ESCAPE = 36, 53  # as its script names them
+RETURN, ESCAPE = 36, 53  # key codes in its script
 
 
 def matches(state):
@@ -31,7 +31,7 @@ class Program(Conversation):
         self.do("advance", seconds=seconds)
 
     def until(self, what, found, patience=PATIENCE):
-        """Lets its time pass until found(state) is something, which is then returned."""
+        """Lets its time pass until found(state) is true, and returns that value."""
         state = None
         deadline = Deadline(lambda: f"{what}; the last state: {json.dumps(state)[:4000]}", patience)
         while True:
@@ -43,11 +43,11 @@ class Program(Conversation):
             self.wait(0.05)
 
     def found(self, text, **like):
-        """The elements of the windows in which that text stands."""
+        """The windows' elements that contain that text."""
         return [element for element in self.do("find", text=text)["elements"] if like.items() <= element.items()]
 
     def element(self, name, role=None):
-        """The middle of the one visible element of exactly that name, in points of the bar's screen."""
+        """The middle of the one visible element with exactly that name, in points of the bar's screen."""
         found = self.found(name, name=name, **({"role": role} if role else {}))
         assert len(found) == 1, (name, found)
         return middle(found[0]["frame"])
@@ -73,14 +73,14 @@ class Program(Conversation):
         self.until("the closed panel", lambda s: not s["panel"]["onScreen"])
 
     def choose_tile(self, typed, patience=PATIENCE):
-        """Opens the panel, types part of a name, Return."""
+        """Opens the panel, types part of a name and presses Return."""
         self.open_panel()
         self.do("type", text=typed)
         self.until(f"one match of {typed}", lambda s: len(matches(s)) == 1, patience)
         self.do("key", code=RETURN)
 
     def open_menu(self, typed, patience=PATIENCE):
-        """The titles of the menu that opens when the tile is chosen."""
+        """Chooses the tile and returns the titles of the menu that opens."""
         self.choose_tile(typed, patience)
         return self.until(f"the menu of {typed}", lambda s: s["menu"], patience)
 
@@ -91,7 +91,7 @@ class Program(Conversation):
 
 
 class Brimshade(Program):
-    """As a session's menu bar, while hands use it."""
+    """Brimshade as a session's menu bar, while hands use it."""
 
     def __init__(self, session, program, *arguments, settings=None):
         file = session.home / "settings.json"
@@ -103,5 +103,5 @@ class Brimshade(Program):
         self._toggle = lambda: session.output_of(program, "--toggle")
 
     def ask_for_panel(self):
-        """Its item moves when a program comes or goes."""
+        """By --toggle and not by a click, because its item moves when a program comes or goes."""
         self._toggle()

@@ -1,10 +1,10 @@
-"""What a tray's X server knows: who owns the tray, which windows other programs have open over it."""
+"""What the X server of a tray knows: who owns the tray, and which windows other programs have open."""
 from Xlib import X, display
 from Xlib.error import BadDrawable, BadWindow, ConnectionClosedError
 
 
 class Desk:
-    """A client of its own on a session's X server."""
+    """A separate client of a session's X server."""
 
     def __init__(self, session):
         self._display = display.Display(session.environment["DISPLAY"])
@@ -16,27 +16,27 @@ class Desk:
         try:
             self._display.close()
         except ConnectionClosedError:
-            pass  # by the server, which ended before
+            pass  # by the server, which ended first
 
     def tray_owner(self):
-        """Its window's identifier; 0 without one."""
+        """The identifier of the tray's window; 0 without one."""
         owner = self._display.get_selection_owner(self._selection)
         return getattr(owner, "id", owner)
 
     def take_tray(self):
-        """Owns the tray from now on, whoever had it, until it is closed. Docks nothing."""
+        """Takes the tray from its owner, until this is closed. Docks nothing."""
         window = self._screen.root.create_window(-1, -1, 1, 1, 0, X.CopyFromParent)
         window.set_selection_owner(self._selection, X.CurrentTime)
         self._display.sync()
 
     def opened(self, class_name):
-        """[x, y, width, height] of the windows that a program shows past the window manager, as menus are."""
+        """[x, y, width, height] of the windows that a program shows without the window manager, like menus."""
         found = []
         for window in self._screen.root.query_tree().children:
             try:
                 attributes, geometry, names = window.get_attributes(), window.get_geometry(), window.get_wm_class()
             except (BadWindow, BadDrawable):
-                continue  # it has gone since it was listed
+                continue  # gone since it was listed
             is_seen = attributes.map_state == X.IsViewable and attributes.override_redirect and geometry.width > 1
             if is_seen and names and class_name in [name.lower() for name in names]:
                 found.append([geometry.x, geometry.y, geometry.width, geometry.height])

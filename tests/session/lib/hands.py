@@ -1,10 +1,10 @@
-"""Pointer and keys, as a person has them: they go wherever the display sends them."""
+"""A person's pointer and keys: they go wherever the display sends them."""
 import os
 import subprocess
 
 from .waiting import PATIENCE, Lines, NeverCame
 
-BUTTONS = {"left": (0x110, 1), "middle": (0x112, 2), "right": (0x111, 3)}  # on Linux, on X11
+BUTTONS = {"left": (0x110, 1), "middle": (0x112, 2), "right": (0x111, 3)}  # Linux's code, X11's number
 ROWS = {2: "1234567890-=", 16: "qwertyuiop[]", 30: "asdfghjkl;'`", 44: "zxcvbnm,./"}
 CODES = {letter: first + i for first, row in ROWS.items() for i, letter in enumerate(row)} | {
     "`": 41, " ": 57, "\n": 28, "Return": 28, "Escape": 1, "Tab": 15, "BackSpace": 14, "Up": 103, "Left": 105,
@@ -19,7 +19,7 @@ class Hands:
         self.release(button)
 
     def type(self, text):
-        """Letters and digits as they are on a US keyboard without Shift; "\\n" is Return."""
+        """Types letters and digits as on a US keyboard without Shift; "\\n" is Return."""
         for letter in text:
             self.key(letter)
 
@@ -43,7 +43,7 @@ class WaylandHands(Hands):
         self._answer(command)
 
     def move(self, x, y):
-        """To a point of the layout of all outputs."""
+        """Moves to a point in the layout of all outputs."""
         rects = [output["rect"] for output in self._sway.ask("get_outputs") if output["active"]]
         self._do("move", x, y, max(r["x"] + r["width"] for r in rects), max(r["y"] + r["height"] for r in rects))
 
@@ -54,7 +54,7 @@ class WaylandHands(Hands):
         self._do("button", BUTTONS[button][0], 0)
 
     def key(self, *names):
-        """The last one with the others held."""
+        """Presses the last key with the others held."""
         for down in names:
             self._do("key", CODES[down], 1)
         for up in reversed(names):

@@ -23,7 +23,7 @@ def from_ppm(data):
 
 
 def from_xwd(data):
-    """Of a true-colour display of 24 or 32 bits."""
+    """The picture must be of a true-colour display with 24 or 32 bits."""
     header = struct.unpack(">25I", data[:100])
     size, width, height, order, bits, stride = (header[i] for i in (0, 4, 5, 7, 11, 12))
     step = bits // 8

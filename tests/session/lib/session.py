@@ -9,13 +9,13 @@ from .waiting import PATIENCE, Conversation, Deadline, Lines
 
 
 class Session:
-    """Every process that is started in it also ends with it; nothing of the user's own session is seen or touched."""
+    """Every process started in it also ends with it; it neither sees nor touches the user's own session."""
 
     def __init__(self):
         self.home = pathlib.Path(tempfile.mkdtemp(prefix="brimshade-session-"))
         self.runtime = self.home / "runtime"
         self.runtime.mkdir(mode=0o700)
-        temporary = self.home / "tmp"  # where programs find out that they run already
+        temporary = self.home / "tmp"  # where programs find out that they are already running
         temporary.mkdir()
         temporary.chmod(0o1777)
         self.environment = {
@@ -28,7 +28,8 @@ class Session:
     # Programs
 
     def start(self, *command, **options):
-        """Its output is thrown away unless options say otherwise. It ends with this process, however this ends."""
+        """Starts a program. Its output is discarded unless options say otherwise. It ends with this process, however
+        that ends."""
         options = {"stdin": subprocess.DEVNULL, "stdout": subprocess.DEVNULL, "stderr": subprocess.DEVNULL,
                    "env": self.environment, **options}
         process = subprocess.Popen(["setpriv", "--pdeathsig", "TERM", *map(str, command)], **options)
@@ -36,27 +37,28 @@ class Session:
         return process
 
     def talk(self, name, *command, **options):
-        """A program with which one speaks over its standard input and output. Its standard error goes to errors(name)."""
+        """Starts a program to talk to through its standard input and output. Its standard error goes to
+        errors(name)."""
         with open(self.home / f"{name}.err", "wb") as errors:
             return self.start(*command, stdin=subprocess.PIPE, stdout=subprocess.PIPE, stderr=errors, **options)
 
     def converse(self, name, *command, kind=Conversation, **options):
-        """A program with which one speaks JSON."""
+        """Starts a program to talk to in JSON."""
         return self.own(kind(self.talk(name, *command, **options), name))
 
     def write(self, path, text):
-        """A file below the home."""
+        """Writes a file below the home."""
         file = self.home / path
         file.parent.mkdir(parents=True, exist_ok=True)
         file.write_text(text)
         return file
 
     def errors(self, name):
-        """What a program that was started by converse has written to standard error."""
+        """What a program started by talk or converse has written to standard error."""
         return (self.home / f"{name}.err").read_text(errors="replace")
 
     def lines_of(self, *command, **options):
-        """The lines that a program writes, as they come."""
+        """Starts a program and returns its lines, as they come."""
         process = self.start(*command, stdout=subprocess.PIPE, **options)
         return self.own(Lines(os.dup(process.stdout.fileno())))
 
@@ -65,7 +67,7 @@ class Session:
                               check=True, timeout=PATIENCE, **options).stdout
 
     def wait_for_end(self, process, what):
-        """The exit status; less than 0 for the signal that ended it."""
+        """The exit status; negative for a signal that ended it."""
         descriptor = os.pidfd_open(process.pid)
         try:
             Deadline(what).wait(descriptor)
@@ -74,15 +76,16 @@ class Session:
         return process.wait(PATIENCE)
 
     def fifo(self, name):
-        """The path of a new one and the lines that programs write into it."""
+        """The path of a new FIFO, and the lines that programs write into it."""
         path = self.home / name
         os.mkfifo(path, 0o666)
         os.chmod(path, 0o666)
-        # Open for writing here too, or it would be at its end whenever a writer leaves.
+        # Also open for writing here, or we would read its end whenever a writer leaves.
         return path, self.own(Lines(os.open(path, os.O_RDWR)))
 
     def until_picture(self, what, holds, *of):
-        """Takes picture(*of) after picture, since no display tells when it has drawn, until holds(picture); that one."""
+        """Takes picture(*of) repeatedly, since displays do not tell when they have drawn, until holds(picture); returns
+        that one."""
         deadline = Deadline(f"a picture of {what}")
         while True:
             picture = self.picture(*of)
@@ -127,7 +130,7 @@ class Session:
 
 
 class Terminal:
-    """A real terminal that tells each line that is typed into it. Ctrl-C's and arrows are its own."""
+    """A real terminal that reports each line typed into it, but handles Ctrl-C and arrows itself."""
 
     def __init__(self, session, name, *command):
         fifo, self._lines = session.fifo(f"{name}.lines")

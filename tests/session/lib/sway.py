@@ -7,7 +7,7 @@ from .picture import from_ppm
 from .session import Session, Terminal
 from .waiting import PATIENCE, Deadline
 
-ORDINARY_USER = 1000  # sway refuses to be root; the session's folder is that user's, and root's programs may connect
+ORDINARY_USER = 1000  # sway refuses to run as root; the runtime folder is this user's, and root's programs may connect
 CONFIG = """
 xwayland disable
 default_border none
@@ -21,8 +21,9 @@ exec sh -c 'echo "$WAYLAND_DISPLAY $SWAYSOCK" > {ready}'
 
 
 class Sway(Session):
-    """outputs: the modes of HEADLESS-1, HEADLESS-2, …; config: more lines of sway's configuration. Inside another one it has
-    outputs that can be unplugged, WL-1 and so on: each is a window of the other's and has the size that this one gets."""
+    """outputs: the modes of HEADLESS-1, HEADLESS-2, …; config: more lines of sway's configuration. Inside another sway
+    it has outputs that can be unplugged, WL-1 and so on: each is a window in the other one, and as large as that
+    window."""
 
     def __init__(self, outputs=("1512x982",), config="", inside=None):
         super().__init__()
@@ -57,10 +58,10 @@ class Sway(Session):
         self.environment["XDG_SESSION_TYPE"] = "wayland"
         self._events = self.lines_of("swaymsg", "-r", "-m", "-t", "subscribe",
                                      '["window", "workspace", "output", "input", "tick"]')
-        self._events.next("sway's events")  # the first tick says that they come from now on
+        self._events.next("sway's events")  # the first tick means that they come from now on
 
     def command(self, *words):
-        """What sway is told to do, as in its configuration."""
+        """Runs a command of sway, as in its configuration."""
         answers = json.loads(self.output_of("swaymsg", "-r", "--", *words))
         assert all(answer["success"] for answer in answers), (words, answers)
 
@@ -69,7 +70,7 @@ class Sway(Session):
         return json.loads(self.output_of("swaymsg", "-r", "-t", kind))
 
     def until(self, what, found):
-        """Asks found() now and after each event of sway's until it is something, which is then returned."""
+        """Calls found() now and after each of sway's events until it is true, and returns that value."""
         deadline = Deadline(lambda: f"{what}; the tree: {json.dumps(self.ask('get_tree'))[:4000]}")
         while True:
             self._events.drain()
@@ -95,7 +96,7 @@ class Sway(Session):
         return next(output for output in self.ask("get_outputs") if output["name"] == name)
 
     def terminal(self, app_id="terminal"):
-        """Once it has the focus."""
+        """A new terminal, once it has the focus."""
         terminal = Terminal(self, app_id, "foot", "--app-id", app_id)
         self.until_focused(app_id)
         return terminal
@@ -112,7 +113,7 @@ class Sway(Session):
         self.command(f"[app_id={app_id}] fullscreen {'enable' if on else 'disable'}")
 
     def hands(self, *only):
-        """Virtual pointer and keyboard, or "pointer" or "keyboard" alone. The seat has none but those."""
+        """A virtual pointer and keyboard, or only "pointer" or "keyboard". The seat has no other devices."""
         return WaylandHands(self, *only)
 
     def picture(self, output="HEADLESS-1"):
@@ -120,7 +121,8 @@ class Sway(Session):
         return from_ppm(self.output_of("grim", "-t", "ppm", "-o", output, "-"))
 
     def unplug(self, output):
-        """One of a sway inside another; create_output plugs in the next. sway's headless outputs cannot be disabled."""
+        """Unplugs an output of a sway inside another; create_output plugs in the next. sway's headless outputs cannot
+        be disabled."""
         self._outer.command(f'[title="{output}$"] kill')
 
     def kill_display(self):

@@ -5,7 +5,7 @@ import os
 import select
 import time
 
-PATIENCE = 30  # seconds; long for a machine that builds beside, never reached where all is well
+PATIENCE = 30  # seconds; long enough for a machine that is also building; never reached if all is well
 
 
 class NeverCame(AssertionError):
@@ -14,12 +14,12 @@ class NeverCame(AssertionError):
 
 class Deadline:
     def __init__(self, what, patience=PATIENCE):
-        """what: the text, or what makes it in the end."""
+        """what: the text, or a function that makes it when needed."""
         self._what, self._patience = what, patience
         self._end = time.monotonic() + patience
 
     def wait(self, *descriptors):
-        """Until one of them can be read; the ones that can."""
+        """Waits until one of them can be read, and returns those that can."""
         while True:
             self.check()
             ready = select.select(descriptors, [], [], max(0, self._end - time.monotonic()))[0]
@@ -35,7 +35,7 @@ class Deadline:
 
 
 class Lines:
-    """The lines that come out of a descriptor, which it owns."""
+    """The lines that come from a descriptor, which it owns."""
 
     def __init__(self, descriptor):
         os.set_blocking(descriptor, False)
@@ -56,7 +56,7 @@ class Lines:
         return line.decode(errors="replace") if found else None
 
     def so_far(self):
-        """Those that have come and were not asked for."""
+        """The lines that have come and were not returned yet."""
         self._read()
         lines, _, self._bytes = self._bytes.rpartition(b"\n")
         return lines.decode(errors="replace").splitlines()
@@ -79,7 +79,7 @@ class Lines:
 
 
 class Conversation:
-    """A program that answers one JSON object a line with one, and tells events (lines with "event") in between."""
+    """A program that answers each line, a JSON object, with one, and sends events (lines with "event") in between."""
 
     def __init__(self, process, name):
         self.process = process
@@ -99,7 +99,8 @@ class Conversation:
             self._events.append(answer)
 
     def event(self, event, **details):
-        """The first event of that name and these details that has not been asked for; what came before it is forgotten."""
+        """The first event of that name and with these details that was not returned yet; those before it are
+        forgotten."""
         wanted = {"event": event, **details}
         passed = []
         deadline = Deadline(lambda: f"{self._name}: event {wanted}; there were {passed}")
@@ -110,13 +111,13 @@ class Conversation:
             passed.append(came)
 
     def events(self):
-        """All that came and have not been asked for. After an answer, that is all until that answer."""
+        """All events that have come and were not returned yet: after an answer, all that came before it."""
         events = list(self._events)
         self._events.clear()
         return events
 
     def until(self, what, found):
-        """Asks for the state after each event until found(state) is something, which is then returned."""
+        """Asks for the state after each event until found(state) is true, and returns that value."""
         deadline = Deadline(lambda: f"{self._name}: {what}; the last state: {state}")
         while True:
             state = self.do("state")

@@ -37,7 +37,7 @@ class X11(Session):
             self.start_compositing_manager()
 
     def start_compositing_manager(self):
-        """Once it is one: picom goes into the background then."""
+        """Returns once it is running: picom goes into the background only then."""
         file = self.home / "picom.pid"
         self.output_of("picom", "-b", "--config", "/dev/null", "--backend", "xrender", "--write-pid-path", file)
         self.compositing_manager = int(file.read_text())
@@ -47,8 +47,8 @@ class X11(Session):
         self.compositing_manager = None
 
     def until(self, what, found):
-        """Asks found() now and after each change of a property of the root window until it is something, which is then
-        returned."""
+        """Calls found() now and after each change of the root window's properties until it is true, and returns that
+        value."""
         deadline = Deadline(lambda: f"{what}; the root window: {self.output_of('xprop', '-root').decode()[:4000]}")
         while True:
             self._changes.drain()
@@ -58,7 +58,8 @@ class X11(Session):
             deadline.wait(self._changes)
 
     def numbers(self, name, window=None):
-        """A property of a window, or of the root window: decimal and hexadecimal numbers alike; none when it is not there."""
+        """The numbers, decimal or hexadecimal, in a property of a window or of the root window; none if it is
+        missing."""
         of = ["-id", str(window)] if window else ["-root"]
         value = re.split("[=#]", self.output_of("xprop", *of, name).decode(), 1)[1:]
         return [int(number, 0) for number in re.findall(r"0x[0-9a-f]+|-?\d+", *value)] if value else []
@@ -71,12 +72,12 @@ class X11(Session):
         return next(iter(self.numbers("_NET_ACTIVE_WINDOW")), 0)
 
     def window(self, class_name):
-        """The identifier of the client with that class; None when there is none."""
+        """The identifier of the client with that class; None if there is none."""
         for client in self.numbers("_NET_CLIENT_LIST"):
             try:
                 is_it = f'"{class_name}"' in self.output_of("xprop", "-id", str(client), "WM_CLASS").decode()
             except subprocess.CalledProcessError:
-                continue  # it has gone since it was listed
+                continue  # gone since it was listed
             if is_it:
                 return client
         return None
@@ -88,7 +89,7 @@ class X11(Session):
                 for label in ("Absolute upper-left X", "Absolute upper-left Y", "Width", "Height")]
 
     def terminal(self, class_name="terminal"):
-        """Once it has the focus. Each stands right of the one before."""
+        """A new terminal, once it has the focus. Each is placed right of the previous one."""
         at = len([name for name in self._terminals if self.window(name)])
         self._terminals.append(class_name)
         terminal = Terminal(self, class_name, "xterm", "-class", class_name, "-geometry", f"80x40+{20 + 700 * at}+60", "-e")
@@ -103,7 +104,7 @@ class X11(Session):
         return self.geometry(self.window(class_name))
 
     def set_full_screen(self, class_name, on):
-        """A terminal that has the focus."""
+        """The terminal must have the focus."""
         window = self.window(class_name)
         if ("_NET_WM_STATE_FULLSCREEN" in self.output_of("xprop", "-id", str(window), "_NET_WM_STATE").decode()) != on:
             self.hands().key("Alt", "Return")
@@ -117,7 +118,7 @@ class X11(Session):
         return X11Hands(self)
 
     def picture(self):
-        """xwd stumbles over a window that goes while it looks: then it looks again."""
+        """xwd fails if a window disappears while it looks; then it is run again."""
         deadline = Deadline("a picture of the screen")
         while True:
             try:
