@@ -21,8 +21,8 @@ struct BarEntry {
     double width = 0; // points; the next layout uses it
     bool isAway = false; // off-screen in the next layout, whatever room there is
     std::optional<QRectF> frame; // the settled one, display space; absent until the bar has laid the item out
-    ElementPointer element; // null for the own item
-    std::function<void(ItemGesture)> handler; // null for the own item
+    ElementPointer element; // null for our own item
+    std::function<void(ItemGesture)> handler; // null for our own item
     std::function<void(QPoint by)> scroller; // null: nothing scrolls
 
     QString identifier, title, description, symbol, label, toolTip;

@@ -48,7 +48,7 @@ bool isDrawnAt(const QRectF &frame, const BarGeometry &bar);
 // is at x or right of it.
 std::size_t dropIndex(const std::vector<QRectF> &frames, double x);
 
-// How many movable items, from right to left, stand right of the own item if its right edge is to stay that far from
+// How many movable items, from right to left, stand right of our own item if its right edge is to stay that far from
 // the bar's right edge.
 std::size_t preferredIndex(const std::vector<double> &pinned, const std::vector<double> &movable,
                            double pointsFromRight);

@@ -150,7 +150,7 @@ bool BarOrder::drop(const BarEntryPointer &entry, std::size_t index, double room
     return true;
 }
 
-// Items that stand left of the own one only for want of room. Not the dropped one: it goes where it was dropped.
+// Items that stand left of our own one only for want of room. Not the dropped one: it goes where it was dropped.
 BarEntries BarOrder::crowdedOthers(const BarEntryPointer &dropped, double room) const
 {
     BarEntries crowded = crowdedOut(m_laidOut, room);

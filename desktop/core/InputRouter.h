@@ -58,8 +58,8 @@ public:
     // Offers the key to the hotkeys, then to the local monitors if a window of this program is key. Returns the event
     // if the key window's view is to get it. While a menu is open, keys other than hotkeys are left to the scene.
     std::optional<platform::Event> keyDown(const platform::Event &event);
-    bool takeHotkey(const platform::Event
-                        &event); // call first; whether it was a hotkey, which fires once however long it is held
+    // To be asked first. Whether it was a hotkey, which fires once however long it is held.
+    bool takeHotkey(const platform::Event &event);
 
     // Handles an event that the program posted, in its turn; the pointer is there already.
     void synthetic(const platform::CGMouseEvent &event);

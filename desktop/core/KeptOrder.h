@@ -41,7 +41,7 @@ public:
     const std::vector<Record> &records() const { return m_records; }
     QDate lastSeen(const Record &record) const; // today for one that is present
 
-    // An item that was never here is put directly right of the own one. The result has the first ordinal that no
+    // An item that was never here is put directly right of our own one. The result has the first ordinal that no
     // present item has.
     KeptItem arrive(const KeptItem &who);
     void leave(const KeptItem &item);
@@ -51,7 +51,7 @@ public:
     // The moved item now stands among the present ones as listed, and passes no more absent ones than it must.
     void move(const Slot &moved, const std::vector<Slot> &present);
 
-    // Adds it left of all, as not present. An item that is there already keeps its place; the own one is moved to the
+    // Adds it left of all, as not present. An item that is there already keeps its place; our own one is moved to the
     // end.
     void append(const Slot &slot, QDate seen);
     // Takes up an order that was kept earlier, and fits the present items into it.
@@ -64,7 +64,7 @@ private:
     void forget();
 
     Today m_today;
-    std::vector<Record> m_records; // the own item's among them
+    std::vector<Record> m_records; // our own item's among them
 };
 
 } // namespace brimshade::desktop

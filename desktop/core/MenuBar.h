@@ -27,7 +27,7 @@ struct KeptItem;
 // One item as the bar shows it now.
 struct BarItem {
     int pid = 0;
-    QString identifier, title, description; // empty where absent; the own item's identifier is its autosave name
+    QString identifier, title, description; // empty where absent; our own item's identifier is its autosave name
     QString symbol; // drawn when not empty, else the image
     platform::Image image; // null: nothing to draw
     QString label; // beside the image
@@ -68,7 +68,7 @@ public:
     void placeOwn(const EntryPointer &entry, double pointsFromRight); // left of the listed items that fill these points
     const KeptOrder &keptOrder() const;
     void restore(KeptOrder order); // kept earlier; the items that are here take their places in it
-    void setScreens(); // read them anew
+    void setScreens(); // reads them again
     void setApplicationMenusWidth(double points); // until it is set, as wide as they may be
     void setShowing(bool showing);
     void setMovesAccepted(bool accepted) { m_areMovesAccepted = accepted; }
@@ -91,7 +91,7 @@ public:
     bool move(const EntryPointer &entry, double x);
     // In the layout that is shown next; items that come and go do not count.
     double pointsFromRight(const BarEntry &entry) const;
-    bool isCrowded() const; // items that belong right of the own one are shown left of it
+    bool isCrowded() const; // items that belong right of our own one are shown left of it
 
 Q_SIGNALS:
     void changed(); // once a layout has settled, or an item's look changed

@@ -53,7 +53,7 @@ QString WorkspaceService::displayNameAtPath(const QString &path) const
     });
 }
 
-// The icon of the very bundle, else of the innermost bundle around the file, else of one inside it: a helper stands for
+// The icon of that very bundle, else of the innermost one around the file, else of one inside it: a helper stands for
 // the application that it came with.
 Image WorkspaceService::iconForFile(const QString &path) const
 {

@@ -9,7 +9,7 @@ namespace {
 
 constexpr double kWide = std::numeric_limits<double>::infinity();
 
-// One letter per item, right to left, each 10 points wide: "P" is pinned, "|" the own one, capitals are listed, small
+// One letter per item, right to left, each 10 points wide: "P" is pinned, "|" our own one, capitals are listed, small
 // letters come and go.
 class Bar {
 public:
@@ -64,7 +64,7 @@ TEST(BarOrder, PutsNewcomersRightOfTheOwnItemAndListedOnesAtTheLeftEnd)
 {
     const std::pair<QString, const char *> cases[] = {
         {u"P|abc"_s, "Pabc|"}, {u"P|AaBb"_s, "Pab|AB"},
-        {u"PAaB"_s, "PAaB"},   {u"PAab|"_s, "Pab|A"}, // the own item comes last, next to the pinned ones
+        {u"PAaB"_s, "PAaB"},   {u"PAab|"_s, "Pab|A"}, // our own item comes last, next to the pinned ones
         {u"aP|"_s, "Pa|"},
     };
     for (const auto &[letters, shown] : cases)
@@ -74,7 +74,7 @@ TEST(BarOrder, PutsNewcomersRightOfTheOwnItemAndListedOnesAtTheLeftEnd)
 TEST(BarOrder, BringsWhoComesBackToWhereItStood)
 {
     Bar bar(u"P|Aabc"_s);
-    EXPECT_TRUE(bar.drop(u'b', 4)); // left of the own item
+    EXPECT_TRUE(bar.drop(u'b', 4)); // left of our own item
     EXPECT_EQ(bar.shown(), "Pac|bA");
     for (const QChar letter : u"bca"_s)
         bar.remove(letter);
@@ -125,8 +125,8 @@ TEST(BarOrder, DropsAmongWhatIsShown)
              Case{"where it is", u'd', 5, false, "Pabc|def", "Pabcde|f", "abcde|f"},
              Case{"nothing gets right of a pinned one", u'c', 0, true, "Pcab|def", "Pcabde|f", "cabde|f"},
              Case{"nor does that move", u'P', 3, false, "Pabc|def", "Pabcde|f", "abcde|f"},
-             Case{"the own one tucks away what is left of it", u'|', 2, true, "Pa|bcdef", "Pa|bcdef", "a|bcdef"},
-             Case{"the own one where it would not show", u'|', 5, false, "Pabc|def", "Pabcde|f", "abcde|f"},
+             Case{"our own one tucks away what is left of it", u'|', 2, true, "Pa|bcdef", "Pa|bcdef", "a|bcdef"},
+             Case{"our own one where it would not show", u'|', 5, false, "Pabc|def", "Pabcde|f", "abcde|f"},
          }) {
         constexpr double room = 50;
         Bar bar(u"P|abcdef"_s);

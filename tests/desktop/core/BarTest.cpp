@@ -62,7 +62,7 @@ TEST_F(BarTest, WithoutANotchShowsItemsUpToTheActiveApplicationsMenus)
 
 TEST_F(BarTest, ShowsNoLayoutThatIsOlderThanItsOwnItem)
 {
-    desktop.launch({.description = application(13, {extra(u"c.four"_s)})}); // to be laid out without the own item
+    desktop.launch({.description = application(13, {extra(u"c.four"_s)})}); // to be laid out without our own item
     const auto own = platform.statusBar.createStatusItem(28);
     const QRectF behind = barFrame(u"a.one"_s);
     EXPECT_EQ(maxX(behind), windowFrame(*own).left());

@@ -38,7 +38,7 @@ QString shown(const KeptOrder::Slot &slot)
     return slot->ordinal == 0 ? text : text + u'#' + QString::number(slot->ordinal);
 }
 
-// "a (b) | c": right to left, absent items in brackets, the own one as a bar.
+// "a (b) | c": right to left, absent items in brackets, our own one as a bar.
 KeptOrder orderOf(const QString &text)
 {
     KeptOrder order(today());

@@ -25,7 +25,7 @@ protected:
     QString text(const platform::AXUIElement &element, const QString &attribute);
     QRectF axFrame(const platform::AXUIElement &element); // empty if it cannot be read
 
-    QString barOrder(); // identifiers left to right, the own item by its autosave name
+    QString barOrder(); // identifiers left to right, our own item by its autosave name
     QRectF barFrame(const QString &identifier);
     void settle() { dispatch.advance(0.1); } // lets the bar lay itself out
 };

@@ -156,7 +156,7 @@ TEST_F(ItemClientTest, AGestureReachesTheProgramTheWayItUnderstands)
     // At the item's lower left corner.
     const QString activates = u"Activate 10 37"_s, contextMenu = u"ContextMenu 10 37"_s, opens = u"a menu"_s;
     const QString own = u"/NO_DBUSMENU"_s, full = u"/Menu"_s, unreachable = u"/Nowhere"_s;
-    const auto empty = full; // a menu, when noEntries is set
+    const auto empty = full; // goes with noEntries
     const bool noEntries = true;
     using enum ItemGesture;
     struct Case {
