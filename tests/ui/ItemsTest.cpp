@@ -136,8 +136,8 @@ TEST(Items, AnImageIsKeptWhileItIsShownAndNeverTakenForAnother)
     EXPECT_EQ(shown(imageAt(red)), Qt::green);
 }
 
-// Two groups that change places over a picture, like the steps of the setup: an opaque rectangle in a group hides what
-// lies under it at every moment, even though the renderer does not draw that.
+// Two groups that change places over a picture, like the steps of the setup: what lies over something else in a group
+// hides it at every moment. Here it is an opaque rectangle, for which the renderer leaves out what is under it.
 TEST(Items, AFadingGroupLetsNothingOfItsOwnShowThrough)
 {
     for (const double scale : {1.0, 1.5, 2.0}) {
