@@ -103,7 +103,7 @@ class DesktopFile(Files):
                 self.assertIn("desktop.json", done.stderr)
                 self.assertIn(place, done.stderr)
 
-    def test_a_picture_that_is_none_is_refused_with_its_place(self):
+    def test_a_file_that_is_not_a_picture_is_refused_with_its_place(self):
         text = self.file("text.png", "no picture")
         broken = self.file("broken.png", b"\x89PNG\r\n\x1a\n" + b"\xff" * 64)
         huge = self.file("huge.svg", '<svg xmlns="http://www.w3.org/2000/svg" width="1e9" height="1e9"><rect/></svg>')

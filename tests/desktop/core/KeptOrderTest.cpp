@@ -182,7 +182,7 @@ TEST(KeptOrder, IsReadAsItWasWritten)
     EXPECT_EQ(again->records().front().slot, item);
 }
 
-TEST(KeptOrder, TakesNothingThatIsNotWhatItWrites)
+TEST(KeptOrder, RefusesWhatItWouldNotHaveWritten)
 {
     const auto file = [](const QByteArray &right, const QByteArray &version = "1") {
         return "{\"version\": " + version + ", \"rightOfBrimshade\": " + right + ", \"leftOfBrimshade\": []}";

@@ -63,7 +63,7 @@ TEST_F(IconTest, OfSeveralBelowAFolderTheLargestIsShownAndADrawnOneBeforeAll)
         EXPECT_EQ(later.find(name, theme).bitmap().pixelColor(4, 4), QColor(Qt::green)) << name.toStdString();
 }
 
-TEST_F(IconTest, WhatIsNoPictureIsNotOpenedForEver)
+TEST_F(IconTest, AFileThatIsNotAPictureGivesNoneAndHoldsNothingUp)
 {
     QTemporaryDir folder;
     const auto pipe = folder.filePath(u"pipe.png"_s);

@@ -290,7 +290,7 @@ TEST_F(ItemClientTest, AProgramMayBringUpItsWindowsBeforeItIsAskedTo)
     EXPECT_EQ(asked(), QStringList{u"Activate 0 0"_s});
 }
 
-TEST_F(ItemClientTest, NothingThatCanBePressedIsAMessage)
+TEST_F(ItemClientTest, AnItemWithNothingToPressGivesAMessage)
 {
     m_program.unknownMethods = {u"Activate"_s, u"ContextMenu"_s};
     QSignalSpy messages(&client(), &ItemClient::message);

@@ -26,7 +26,7 @@ TEST(WindowPictures, KeepAlphaWhereThereIsSomeAndNoColourAboveIt)
     EXPECT_EQ(pictureOfPixels({0x563412ff, 0}, {2, 1}, {32, true}).pixel(0, 0), 0xff123456U);
 }
 
-TEST(WindowPictures, OfWhatWasNotDrawnOrIsNotWholeThereAreNone)
+TEST(WindowPictures, NeedAWindowThatWasDrawnAndIsWhole)
 {
     EXPECT_TRUE(pictureOfPixels({0, 0, 0, 0}, {2, 2}, {32, false}).isNull());
     EXPECT_TRUE(pictureOfPixels({0x00ff00, 0x00ff00}, {2, 1}, {24, false}).isNull());

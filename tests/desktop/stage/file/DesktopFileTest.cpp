@@ -163,7 +163,7 @@ TEST(DesktopFileTest, FaultsNameTheirPlace)
     EXPECT_TRUE(parseDesktop(withExtras(nested(8))));
 }
 
-TEST(DesktopFileTest, NumbersThatAreNoneAreRefused)
+TEST(DesktopFileTest, ValuesThatAreNotNumbersAreRefused)
 {
     for (const double number : {std::numeric_limits<double>::quiet_NaN(), std::numeric_limits<double>::infinity()}) {
         const auto application = parseApplication(QJsonObject{{u"pid"_s, number}}, u"application"_s);
