@@ -27,8 +27,8 @@ Item {
     readonly property real hitRadius: 32 // of its lower corners
     readonly property real drawnMargin: 64
 
-    // For a host whose window waits for frames. Paced: tiles come a few at a time; unseen: none come yet; rehearsing:
-    // one of everything is drawn out of sight, ahead of the first opening.
+    // For a host whose window waits for frames. Paced: tiles come a few at a time; unseen: the tab is drawn alone, its
+    // content comes with the next frame; rehearsing: one of everything is drawn out of sight, ahead of the first opening.
     property bool paced: false
     property bool unseen: false
     property bool rehearsing: false
@@ -106,7 +106,7 @@ Item {
         geometry: geometry
         tab: tab
         helpTip: helpTip
-        presented: root.presented
+        presented: root.presented && !root.unseen
         shown: openness.clamped
     }
     HelpTip {

@@ -44,6 +44,8 @@ Item {
         anchors.fill: parent
         radius: 16
         color: Qt.rgba(1, 1, 1, root.restFill)
+        strokeColor: Qt.rgba(1, 1, 1, 0.06)
+        strokeWidth: 0.5
     }
     RoundedShape {
         anchors.fill: parent
@@ -63,14 +65,6 @@ Item {
         endColor: Qt.alpha(root.tint, 0)
         startRadius: 2
         endRadius: 40
-    }
-    RoundedShape {
-        objectName: "border"
-        smooth: root.resampled
-        anchors.fill: parent
-        radius: 16
-        strokeColor: Qt.rgba(1, 1, 1, 0.06)
-        strokeWidth: 0.5
     }
     RoundedShape {
         anchors.fill: parent

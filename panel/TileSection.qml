@@ -56,7 +56,7 @@ Item {
             index: root.startIndex + tile.position
             actions: root.actions
             helpTip: root.helpTip
-            open: root.model.isOpen
+            open: root.presented && root.model.isOpen
             takesWheel: root.takesWheel
             highlighted: root.panelState.highlightedID === tile.extraID
             onGone: tiles.drop(tile.extraID)
