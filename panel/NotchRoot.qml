@@ -107,6 +107,7 @@ Item {
         tab: tab
         helpTip: helpTip
         presented: root.presented && !root.unseen
+        resizing: openWidth.running || openHeight.running
         shown: openness.clamped
     }
     HelpTip {

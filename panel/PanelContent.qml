@@ -18,6 +18,7 @@ Item {
     required property NotchTab tab
     required property HelpTip helpTip
     required property bool presented
+    required property bool resizing // to other items
     required property real shown // from 0, closed, to 1, open
     readonly property real bodyTop: root.model.notch.height
     readonly property real contentLeft: (root.width - contentWidth.value) / 2
@@ -37,11 +38,15 @@ Item {
         target: root.geometry.openSize.width - 2 * (PanelMetrics.openFlare + PanelMetrics.sidePadding)
         animated: root.presented && root.panelState.body === PanelState.Tiles
     }
+    // While the tab cuts nothing it keeps one place, so that what is at rest in it is not drawn again.
     Item {
+        id: interior
+
+        readonly property bool cuts: !root.tab.holdsContent || root.resizing
         objectName: "interior"
-        x: root.tab.interior.x
-        width: root.tab.interior.width
-        height: root.tab.interior.height
+        x: cuts ? root.tab.interior.x : root.contentLeft - PanelMetrics.sidePadding
+        width: cuts ? root.tab.interior.width : contentWidth.value + 2 * PanelMetrics.sidePadding
+        height: cuts ? root.tab.interior.height : root.geometry.openSize.height
         clip: true
         visible: root.presented
 
@@ -75,6 +80,7 @@ Item {
         }
         // It reaches a little beyond the clip, which lies between device pixels; the upper edge is the screen's.
         EdgeFade {
+            visible: interior.cuts
             x: -1
             y: -PanelMetrics.sidePadding
             width: parent.width + 2

@@ -135,7 +135,9 @@ void SpringValue::advance(double seconds)
         return;
     const bool isDone = m_motion.curve == Spring ? advanceSpring(moving) : advanceEase(moving);
     if (!isDone) {
-        setValue(m_target + m_now.position);
+        const double value = m_target + m_now.position;
+        if (std::abs(value - m_value) >= tolerance())
+            setValue(value);
         return;
     }
     jumpTo(m_target);
@@ -145,8 +147,12 @@ void SpringValue::advance(double seconds)
 bool SpringValue::advanceSpring(double seconds)
 {
     m_now = springAt(m_motion.spring, m_start, seconds);
-    const double way = std::max(std::abs(m_start.position), 1e-3);
-    return springIsSettled(m_motion.spring, m_now, m_precision * way);
+    return springIsSettled(m_motion.spring, m_now, tolerance());
+}
+
+double SpringValue::tolerance() const
+{
+    return m_precision * std::max(std::abs(m_start.position), 1e-3);
 }
 
 bool SpringValue::advanceEase(double seconds)
@@ -161,8 +167,11 @@ void SpringValue::setValue(double value)
 {
     if (m_value == value)
         return;
+    const double before = clamped();
     m_value = value;
     Q_EMIT valueChanged();
+    if (clamped() != before)
+        Q_EMIT clampedChanged();
 }
 
 } // namespace brimshade::ui

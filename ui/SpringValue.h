@@ -20,8 +20,9 @@ class SpringValue : public QObject, public QQmlParserStatus {
     Q_PROPERTY(double target READ target WRITE setTarget NOTIFY targetChanged)
     Q_PROPERTY(double value READ value NOTIFY valueChanged)
     // The value held between 0 and 1: springs overshoot, light does not.
-    Q_PROPERTY(double clamped READ clamped NOTIFY valueChanged)
-    // How far from its target a spring counts as at rest. The default is a tenth of a point of a panel's width.
+    Q_PROPERTY(double clamped READ clamped NOTIFY clampedChanged)
+    // How far from its target, as a part of its way, a spring counts as at rest, and the least step in which it moves.
+    // The default is a tenth of a point of a panel's width.
     Q_PROPERTY(double precision MEMBER m_precision NOTIFY parametersChanged)
     // False: it jumps to a new target, as nobody sees it. So it does throughout the turn of the event loop in which
     // this becomes true: what comes into view appears in its place.
@@ -71,6 +72,7 @@ public:
 Q_SIGNALS:
     void targetChanged();
     void valueChanged();
+    void clampedChanged();
     void runningChanged();
     void arrived(); // a motion has ended at its target
     void parametersChanged();
@@ -100,6 +102,7 @@ private:
     void moveTo(double target);
     void changeParameter(auto &parameter, auto value);
     void advance(double seconds);
+    double tolerance() const;
     bool advanceSpring(double seconds);
     bool advanceEase(double seconds);
     void setValue(double value);

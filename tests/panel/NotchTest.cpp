@@ -70,7 +70,7 @@ protected:
 // The pieces in which the tab is drawn meet without gaps or overlaps.
 TEST_F(NotchTabTest, LooksLikeTheWholeOutlinePaintedAtOnce)
 {
-    for (const double openness : {0.0, 0.13, 0.5, 0.77, 1.0, 1.04}) {
+    for (const double openness : {0.0, 0.13, 0.5, 0.77, 0.9, 0.97, 0.985, 1.0, 1.04}) {
         setOpenness(openness);
         const QImage picture = scene.picture();
         const NotchShape exact = NotchShape::between(kClosedShape, kOpenShape, openness);
@@ -97,7 +97,10 @@ TEST_F(NotchTabTest, LooksLikeTheWholeOutlinePaintedAtOnce)
 
 TEST_F(NotchTabTest, ShowsItsContentInsideItsOutlineAndLosesLittle)
 {
-    for (double openness = 0; openness < 1.08; openness += 0.02) {
+    setOpenness(1);
+    const QRectF open = tab->interior();
+    int held = 0;
+    for (double openness = 0; openness < 1.061; openness += 0.005) {
         setOpenness(openness);
         const QRectF frame = scene.frameOf(tab);
         const NotchShape shape = NotchShape::between(kClosedShape, kOpenShape, openness);
@@ -108,7 +111,13 @@ TEST_F(NotchTabTest, ShowsItsContentInsideItsOutlineAndLosesLittle)
             EXPECT_TRUE(path.contains(corner)) << "openness " << openness;
         EXPECT_LE(interior.left() - (frame.left() + shape.top), 5.1) << "openness " << openness;
         EXPECT_LE(frame.bottom() - interior.bottom(), 14.5) << "openness " << openness;
+        if (!tab->holdsContent())
+            continue;
+        ++held;
+        EXPECT_LE(interior.left() - open.left(), 3.5) << "openness " << openness;
+        EXPECT_LE(open.bottom() - interior.bottom(), 7) << "openness " << openness;
     }
+    EXPECT_GE(held, 15) << "of the last steps";
 }
 
 } // namespace brimshade::panel

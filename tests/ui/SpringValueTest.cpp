@@ -32,6 +32,23 @@ TEST_F(SpringValueTest, FollowsTheSpringOnTheDriversClockAndThenStops)
     EXPECT_FALSE(value.isRunning()) << "nothing may tick once it rests";
 }
 
+TEST_F(SpringValueTest, MovesInNoFinerStepsThanItsPrecisionAndArrivesExactly)
+{
+    value.setProperty("precision", 0.05);
+    std::vector<double> values{value.value()};
+    int clampedChanges = 0;
+    QObject::connect(&value, &SpringValue::valueChanged, [&] { values.push_back(value.value()); });
+    QObject::connect(&value, &SpringValue::clampedChanged, [&] { ++clampedChanges; });
+    value.setDamping(0.5);
+    value.setTarget(1);
+    for (int milliseconds = 0; milliseconds < 5000; milliseconds += 4)
+        driver.step(4);
+    EXPECT_EQ(values.back(), 1);
+    for (std::size_t i = 1; i + 1 < values.size(); ++i)
+        EXPECT_GE(std::abs(values[i] - values[i - 1]), 0.05) << "step " << i;
+    EXPECT_LT(clampedChanges, int(values.size()) - 3) << "light does not change while the spring overshoots";
+}
+
 TEST_F(SpringValueTest, KeepsPositionAndVelocityWhenTheTargetChanges)
 {
     value.setResponse(0.5);

@@ -10,6 +10,8 @@ struct NotchShape {
     double top = 0; // radius of the flares
     double bottom = 0; // radius of the lower corners, where the frame is large enough for it
 
+    bool operator==(const NotchShape &) const = default;
+
     double effectiveBottom(QSizeF frame) const;
     QPainterPath path(const QRectF &frame) const;
 

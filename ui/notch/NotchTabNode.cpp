@@ -21,32 +21,34 @@ double upperEdge(const NotchOutline &outline)
 }
 
 // The pieces that hold a part of the outline.
-std::array<QRectF, 8> outlinePieces(const NotchShape &shape, QSizeF size, const NotchOutline &outline)
+std::array<QRectF, 8> outlinePieces(const NotchForm &form)
 {
-    const double left = shape.top;
-    const double right = size.width() - shape.top;
-    const double r = shape.bottom;
-    const double low = size.height() - r;
-    const double bottom = size.height();
+    const double left = form.shape.top;
+    const double right = form.size.width() - form.shape.top;
+    const double r = form.shape.bottom;
+    const double low = form.size.height() - r;
+    const double bottom = form.size.height();
     const double flare = left + kEdge;
-    return {QRectF(0, 0, flare, shape.top),
-            QRectF(size.width() - flare, 0, flare, shape.top),
-            QRectF(left - kEdge, shape.top, 2 * kEdge, low - shape.top),
-            QRectF(right - kEdge, shape.top, 2 * kEdge, low - shape.top),
+    return {QRectF(0, 0, flare, left),
+            QRectF(form.size.width() - flare, 0, flare, left),
+            QRectF(left - kEdge, left, 2 * kEdge, low - left),
+            QRectF(right - kEdge, left, 2 * kEdge, low - left),
             QRectF(left - kEdge, low, r + kEdge, r + kEdge),
             QRectF(right - r, low, r + kEdge, r + kEdge),
             QRectF(left + r, bottom - kEdge, right - left - 2 * r, 2 * kEdge),
-            QRectF(flare, 0, size.width() - 2 * flare, upperEdge(outline))};
+            QRectF(flare, 0, form.size.width() - 2 * flare, upperEdge(form.outline))};
 }
 
-// What is inside all of them.
-std::array<QRectF, 2> innerPieces(const NotchShape &shape, QSizeF size, const NotchOutline &outline)
+// What is inside all of them: below the body between the lower corners, and the body around its core.
+std::array<QRectF, 4> innerPieces(const NotchForm &form)
 {
-    const double left = shape.top;
-    const double right = size.width() - shape.top;
-    const double low = size.height() - shape.bottom;
-    return {QRectF(QPointF(left + kEdge, upperEdge(outline)), QPointF(right - kEdge, low)),
-            QRectF(QPointF(left + shape.bottom, low), QPointF(right - shape.bottom, size.height() - kEdge))};
+    const QRectF body = form.body();
+    const QRectF core = form.core.isValid() ? form.core : QRectF(body.topRight(), QSizeF(0, body.height()));
+    const double r = form.shape.bottom;
+    return {QRectF(QPointF(form.shape.top + r, body.bottom()),
+                   QPointF(form.size.width() - form.shape.top - r, form.size.height() - kEdge)),
+            QRectF(body.topLeft(), QPointF(core.left(), body.bottom())), QRectF(core.topRight(), body.bottomRight()),
+            QRectF(core.bottomLeft(), QPointF(core.right(), body.bottom()))};
 }
 
 // A border's outer half is not drawn.
@@ -79,19 +81,27 @@ QImage paintedPiece(const QRectF &piece, const QPainterPath &path, const QPen &p
 
 } // namespace
 
+QRectF NotchForm::body() const
+{
+    return {QPointF(shape.top + kEdge, upperEdge(outline)),
+            QPointF(size.width() - shape.top - kEdge, size.height() - shape.bottom)};
+}
+
 NotchTabNode::NotchTabNode(QQuickWindow &window) : m_window(window) { }
 
-void NotchTabNode::show(const NotchShape &shape, QSizeF size, const NotchOutline &outline, double scale)
+void NotchTabNode::show(const NotchForm &form)
 {
-    const auto inner = innerPieces(shape, size, outline);
+    const auto inner = innerPieces(form);
     for (std::size_t i = 0; i < kRectangles; ++i)
         showRectangle(i, inner[i]);
-    const QPainterPath path = shape.path(QRectF(QPointF(), size));
-    const QPen pen = outlinePen(size, outline);
-    const auto pieces = outlinePieces(shape, size, outline);
-    for (std::size_t i = 0; i < kPictures; ++i)
+    const QPainterPath path = form.shape.path(QRectF(QPointF(), form.size));
+    const QPen pen = outlinePen(form.size, form.outline);
+    const auto pieces = outlinePieces(form);
+    for (std::size_t i = 0; i < kPictures; ++i) {
+        const bool isThere = pieces[i].isValid();
         showPicture(i, pieces[i],
-                    pieces[i].isValid() ? paintedPiece(pieces[i], path, pen, outline.isBorder, scale) : QImage());
+                    isThere ? paintedPiece(pieces[i], path, pen, form.outline.isBorder, form.scale) : QImage());
+    }
 }
 
 // What is hidden leaves the tree: if a node merely became empty, the software renderer would not redraw its place.

@@ -15,6 +15,21 @@ namespace brimshade::ui {
 struct NotchOutline {
     double opacity = 1;
     bool isBorder = false;
+
+    bool operator==(const NotchOutline &) const = default;
+};
+
+// What a tab looks like. Points from its own top left corner; all lengths lie on whole device pixels.
+struct NotchForm {
+    NotchShape shape;
+    QSizeF size;
+    NotchOutline outline;
+    double scale = 1; // device pixels per point
+    QRectF core; // inside the body, and left out
+
+    bool operator==(const NotchForm &) const = default;
+
+    QRectF body() const; // from flare to flare and down to the lower corners: no outline touches it
 };
 
 // The tab in pieces that fit without overlap: plain black rectangles, and small pictures wherever the outline runs. So
@@ -24,12 +39,11 @@ class NotchTabNode : public QSGTransformNode {
 public:
     explicit NotchTabNode(QQuickWindow &window);
 
-    // Shape and size lie on whole device pixels.
-    void show(const NotchShape &shape, QSizeF size, const NotchOutline &outline, double scale);
+    void show(const NotchForm &form);
 
 private:
     static constexpr std::size_t kPictures = 8;
-    static constexpr std::size_t kRectangles = 2;
+    static constexpr std::size_t kRectangles = 4;
 
     void showRectangle(std::size_t index, const QRectF &rect);
     void showPicture(std::size_t index, const QRectF &rect, const QImage &picture);
