@@ -50,9 +50,8 @@ TEST(NotchShape, BothRadiiMoveTogether)
     EXPECT_DOUBLE_EQ(NotchShape::between(kClosedShape, kOpenShape, -2).top, 0) << "an overshoot has no negative radius";
 }
 
-class NotchTabTest : public testing::Test {
-protected:
-    NotchTabTest()
+struct TabScene {
+    explicit TabScene(double scale) : scene({1000, 720}, scale)
     {
         scene.load(R"(
             import QtQuick
@@ -63,46 +62,59 @@ protected:
 
     void setOpenness(double openness) { tab->setProperty("openness", openness); }
 
-    ui::OffscreenScene scene{{1000, 720}, 1};
+    ui::OffscreenScene scene;
     NotchTab *tab = nullptr;
 };
 
-// The pieces in which the tab is drawn meet without gaps or overlaps.
-TEST_F(NotchTabTest, LooksLikeTheWholeOutlinePaintedAtOnce)
+// What the tab should look like, from its outline as a whole.
+QImage paintedAtOnce(const TabScene &from, QSize size, double openness, double scale)
 {
-    for (const double openness : {0.0, 0.13, 0.5, 0.77, 0.9, 0.97, 0.985, 1.0, 1.04}) {
-        setOpenness(openness);
-        const QImage picture = scene.picture();
-        const NotchShape exact = NotchShape::between(kClosedShape, kOpenShape, openness);
-        const NotchShape snapped{std::round(exact.top), std::round(exact.bottom)};
-        QImage expected(picture.size(), QImage::Format_ARGB32_Premultiplied);
-        expected.fill(ui::kBackground);
-        QPainter painter(&expected);
-        painter.setRenderHint(QPainter::Antialiasing);
-        const QRectF frame = scene.frameOf(tab);
-        painter.fillPath(snapped.path(frame), Qt::black);
-        QLinearGradient fade(0, 0, 0, frame.height());
-        fade.setColorAt(0, QColor(255, 255, 255, 0));
-        fade.setColorAt(1, QColor::fromRgbF(1, 1, 1, float(0.12 * std::min(1.0, openness))));
-        painter.strokePath(snapped.path(frame), QPen(QBrush(fade), 1));
-        painter.end();
-        int worst = 0;
-        for (int y = 0; y < 330; ++y) {
-            for (int x = 230; x < 770; ++x)
-                worst = std::max(worst, std::abs(qRed(picture.pixel(x, y)) - qRed(expected.pixel(x, y))));
+    const auto snapped = [scale](double length) { return std::round(length * scale) / scale; };
+    const NotchShape exact = NotchShape::between(kClosedShape, kOpenShape, openness);
+    const NotchShape shape{snapped(exact.top), snapped(exact.bottom)};
+    QImage image(size, QImage::Format_ARGB32_Premultiplied);
+    image.fill(ui::kBackground);
+    QPainter painter(&image);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.scale(scale, scale);
+    const QRectF frame = from.scene.frameOf(from.tab);
+    painter.fillPath(shape.path(frame), Qt::black);
+    QLinearGradient fade(0, 0, 0, frame.height());
+    fade.setColorAt(0, QColor(255, 255, 255, 0));
+    fade.setColorAt(1, QColor::fromRgbF(1, 1, 1, float(0.12 * std::min(1.0, openness))));
+    painter.strokePath(shape.path(frame), QPen(QBrush(fade), 1));
+    return image;
+}
+
+// The pieces in which the tab is drawn meet without gaps or overlaps.
+TEST(NotchTab, LooksLikeTheWholeOutlinePaintedAtOnce)
+{
+    for (const double scale : {1.0, 1.25, 2.0}) {
+        TabScene tab(scale);
+        for (const double openness : {0.0, 0.13, 0.5, 0.77, 0.9, 0.97, 0.985, 1.0, 1.04}) {
+            tab.setOpenness(openness);
+            const QImage picture = tab.scene.picture();
+            const QImage expected = paintedAtOnce(tab, picture.size(), openness, scale);
+            int worst = 0;
+            for (int y = 0; y < int(330 * scale); ++y) {
+                for (int x = int(230 * scale); x < int(770 * scale); ++x)
+                    worst = std::max(worst, std::abs(qRed(picture.pixel(x, y)) - qRed(expected.pixel(x, y))));
+            }
+            EXPECT_LE(worst, 3) << "openness " << openness << " at scale " << scale;
         }
-        EXPECT_LE(worst, 3) << "openness " << openness;
     }
 }
 
-TEST_F(NotchTabTest, ShowsItsContentInsideItsOutlineAndLosesLittle)
+TEST(NotchTab, ShowsItsContentInsideItsOutlineAndLosesLittle)
 {
-    setOpenness(1);
+    TabScene scene(1);
+    const NotchTab *tab = scene.tab;
+    scene.setOpenness(1);
     const QRectF open = tab->interior();
     int held = 0;
     for (double openness = 0; openness < 1.061; openness += 0.005) {
-        setOpenness(openness);
-        const QRectF frame = scene.frameOf(tab);
+        scene.setOpenness(openness);
+        const QRectF frame = scene.scene.frameOf(tab);
         const NotchShape shape = NotchShape::between(kClosedShape, kOpenShape, openness);
         const QPainterPath path = shape.path(frame);
         const QRectF interior = tab->interior();

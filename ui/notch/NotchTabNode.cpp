@@ -4,6 +4,7 @@
 #include <QQuickWindow>
 #include <QSGImageNode>
 #include <QSGRectangleNode>
+#include <cmath>
 
 namespace brimshade::ui {
 
@@ -12,12 +13,12 @@ namespace {
 constexpr double kLineWidth = 1;
 constexpr double kLineOpacity = 0.12; // of the white at the lower end
 constexpr double kMiterLimit = 10;
-constexpr double kEdge = 1; // points on either side of an edge that its line may touch
+constexpr double kReach = 1; // points on either side of an edge that its line may touch, or a fraction of a pixel more
 
 // How high the piece at the upper edge between the flares is: only a border runs there.
-double upperEdge(const NotchOutline &outline)
+double upperEdge(const NotchForm &form)
 {
-    return outline.isBorder ? kEdge : 0;
+    return form.outline.isBorder ? form.reach() : 0;
 }
 
 // The pieces that hold a part of the outline.
@@ -28,15 +29,16 @@ std::array<QRectF, 8> outlinePieces(const NotchForm &form)
     const double r = form.shape.bottom;
     const double low = form.size.height() - r;
     const double bottom = form.size.height();
-    const double flare = left + kEdge;
+    const double reach = form.reach();
+    const double flare = left + reach;
     return {QRectF(0, 0, flare, left),
             QRectF(form.size.width() - flare, 0, flare, left),
-            QRectF(left - kEdge, left, 2 * kEdge, low - left),
-            QRectF(right - kEdge, left, 2 * kEdge, low - left),
-            QRectF(left - kEdge, low, r + kEdge, r + kEdge),
-            QRectF(right - r, low, r + kEdge, r + kEdge),
-            QRectF(left + r, bottom - kEdge, right - left - 2 * r, 2 * kEdge),
-            QRectF(flare, 0, form.size.width() - 2 * flare, upperEdge(form.outline))};
+            QRectF(left - reach, left, 2 * reach, low - left),
+            QRectF(right - reach, left, 2 * reach, low - left),
+            QRectF(left - reach, low, r + reach, r + reach),
+            QRectF(right - r, low, r + reach, r + reach),
+            QRectF(left + r, bottom - reach, right - left - 2 * r, 2 * reach),
+            QRectF(flare, 0, form.size.width() - 2 * flare, upperEdge(form))};
 }
 
 // What is inside all of them: below the body between the lower corners, and the body around its core.
@@ -46,7 +48,7 @@ std::array<QRectF, 4> innerPieces(const NotchForm &form)
     const QRectF core = form.core.isValid() ? form.core : QRectF(body.topRight(), QSizeF(0, body.height()));
     const double r = form.shape.bottom;
     return {QRectF(QPointF(form.shape.top + r, body.bottom()),
-                   QPointF(form.size.width() - form.shape.top - r, form.size.height() - kEdge)),
+                   QPointF(form.size.width() - form.shape.top - r, form.size.height() - form.reach())),
             QRectF(body.topLeft(), QPointF(core.left(), body.bottom())), QRectF(core.topRight(), body.bottomRight()),
             QRectF(core.bottomLeft(), QPointF(core.right(), body.bottom()))};
 }
@@ -81,10 +83,15 @@ QImage paintedPiece(const QRectF &piece, const QPainterPath &path, const QPen &p
 
 } // namespace
 
+double NotchForm::reach() const
+{
+    return std::ceil(kReach * scale) / scale;
+}
+
 QRectF NotchForm::body() const
 {
-    return {QPointF(shape.top + kEdge, upperEdge(outline)),
-            QPointF(size.width() - shape.top - kEdge, size.height() - shape.bottom)};
+    return {QPointF(shape.top + reach(), upperEdge(*this)),
+            QPointF(size.width() - shape.top - reach(), size.height() - shape.bottom)};
 }
 
 NotchTabNode::NotchTabNode(QQuickWindow &window) : m_window(window) { }

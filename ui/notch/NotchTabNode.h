@@ -29,6 +29,7 @@ struct NotchForm {
 
     bool operator==(const NotchForm &) const = default;
 
+    double reach() const; // of the outline, on either side of the edge
     QRectF body() const; // from flare to flare and down to the lower corners: no outline touches it
 };
 
