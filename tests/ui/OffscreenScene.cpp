@@ -73,10 +73,8 @@ QQuickItem *OffscreenScene::find(const QString &objectName) const
 QImage OffscreenScene::picture()
 {
     settle();
-    m_control->beginFrame();
     m_control->sync();
     m_control->render();
-    m_control->endFrame();
     return m_image.copy();
 }
 
@@ -84,10 +82,8 @@ void OffscreenScene::renderFrame(int milliseconds)
 {
     m_clock.step(milliseconds);
     m_control->polishItems();
-    m_control->beginFrame();
     m_control->sync();
     m_control->render();
-    m_control->endFrame();
 }
 
 void OffscreenScene::settle()

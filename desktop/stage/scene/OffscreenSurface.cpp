@@ -49,10 +49,8 @@ QImage OffscreenSurface::render()
     m_control->polishItems();
     if (m_image.isNull())
         return {}; // there was not enough memory for this size
-    m_control->beginFrame();
     m_control->sync();
     m_control->render();
-    m_control->endFrame();
     return m_image.copy();
 }
 
