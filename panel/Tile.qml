@@ -114,7 +114,7 @@ FadingGroup {
     }
     Item {
         anchors.fill: parent
-        visible: root.shown > 0 // the first frame of an opening spends no time on tiles that come later
+        visible: root.shown > 0 // frames spend no time on a tile whose turn has not come
         scale: press.value
 
         TileFace {

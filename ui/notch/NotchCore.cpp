@@ -16,7 +16,6 @@ void NotchCore::show(const QRectF &rect)
     setVisible(rect.isValid());
     setPosition(rect.topLeft());
     setSize(rect.size());
-    update();
 }
 
 QSGNode *NotchCore::updatePaintNode(QSGNode *node, UpdatePaintNodeData *)
